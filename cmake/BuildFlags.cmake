@@ -1,0 +1,31 @@
+# How our own code is compiled. The warnings are errors only where this project is the one being built.
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(PROJECT_IS_TOP_LEVEL)
+    find_program(CCACHE ccache)
+    if(CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    endif()
+endif()
+
+set(VAROROBOTMODEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
+
+add_library(varo_build_flags INTERFACE)
+if(PROJECT_IS_TOP_LEVEL)
+    target_compile_options(varo_build_flags INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
+if(VAROROBOTMODEL_SANITIZE)
+    add_compile_options(-fsanitize=${VAROROBOTMODEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${VAROROBOTMODEL_SANITIZE})
+endif()

@@ -1,0 +1,145 @@
+#ifndef VARO_MODEL_CONFIGS_HPP
+#define VARO_MODEL_CONFIGS_HPP
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "varo/math/position3d.hpp"
+#include "varo/math/transform.hpp"
+
+/// The records of a robot description: what the file says of each element, converted to nothing.
+///
+/// SI units throughout (m, rad, kg, kg*m^2, N*m, rad/s). A joint turns about, or slides along, the z axis of its own
+/// frame. Plain data: copy them freely; reading from several threads is safe.
+namespace Varo::Model {
+
+using Math::Position3D;
+using Math::Transform;
+
+using Attributes = std::map<std::string, std::string>;
+
+/// Values of the mirror kind of joints and actuators.
+enum MirrorKind : std::int32_t { noMirror = 0, plainMirror = 1, reflectedMirror = 2 };
+
+/// Values of JointConfig::jointType.
+enum JointType : std::int32_t { revolute = 0, prismatic = 1, fixed = 2 };
+
+/// Values of SensorConfig::type. The last three, like `unknownSensor`, are kinds that the object model has no class
+/// for.
+enum SensorType : std::int32_t {
+    unknownSensor = 0,
+    led = 1,
+    tactile = 2,
+    camera = 3,
+    depthCamera = 4,
+    bumper = 5,
+    microphone = 6,
+    arrayDepth = 7,
+    sonar = 8,
+    fsr = 9,
+    inertial = 10,
+    battery = 11,
+    temperature = 12,
+    button = 13,
+};
+
+/// A joint together with the body (link) that it moves; the robot's root is one too, of which only name, mesh, mass
+/// and attributes mean something.
+struct JointConfig {
+    std::string name;
+    std::string meshName;  ///< mesh file, as the description states it
+    float minAngle = 0.0F;  ///< rad (m for prismatic joints); minus infinity when unlimited
+    float maxAngle = 0.0F;  ///< rad (m for prismatic joints); infinity when unlimited
+    float maxTorque = 0.0F;  ///< N*m (N for prismatic joints); 0 when not stated
+    float maxAngularSpeed = 0.0F;  ///< rad/s (m/s for prismatic joints)
+    float mass = 0.0F;  ///< kg, of the body
+    std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< kg*m^2, 3x3 row by row, about the body's
+                                                                     ///< centre of mass, in the axes of the link frame
+    Position3D centerOfMass;  ///< m, in the link frame
+    Position3D meshPosition;  ///< m, origin of the mesh in the link frame; carried for displays, the models ignore it
+    Transform placement;  ///< the joint frame at zero position, in the frame of the joint (or root) before it
+    Transform endTransform;  ///< the link frame in the joint frame
+    Position3D meshOrientation;  ///< rad, roll, pitch and yaw of the mesh in the link frame; carried like meshPosition
+    std::int32_t mirrorKind = noMirror;
+    std::string mirrorName;  ///< the symmetric joint, when mirrorKind is not noMirror
+    std::int32_t jointType = revolute;
+    float damping = 0.0F;  ///< N*m*s/rad (N*s/m)
+    float friction = 0.0F;  ///< N*m (N), Coulomb friction of the joint
+    Attributes attributes;  ///< free texts; "material" names the body's surface
+};
+
+/// A motor that drives the sub-joints of its groups together (a hand's fingers, say).
+struct ActuatorConfig {
+    std::string name;
+    float minAngle = 0.0F;  ///< rad
+    float maxAngle = 0.0F;  ///< rad
+    float maxTorque = 0.0F;  ///< N*m; 0 when not stated
+    float maxAngularSpeed = 0.0F;  ///< rad/s
+    std::string parentJoint;  ///< the joint that it hangs on
+    Transform placement;  ///< in the frame of the parent joint
+    std::vector<std::vector<std::string>> jointGroups;  ///< names of sub-joints, each group from the parent outward
+    std::int32_t mirrorKind = noMirror;
+    std::string mirrorName;
+};
+
+/// A device on the robot that measures, or a light.
+struct SensorConfig {
+    std::string name;
+    std::string parent;  ///< the joint or link that carries it
+    std::int32_t type = unknownSensor;
+    Transform placement;  ///< in the frame of the link that the parent joint moves (of the root link otherwise)
+    Attributes attributes;
+    std::vector<std::string> keys;  ///< device keys
+};
+
+/// A driven wheel.
+struct WheelConfig {
+    std::string name;
+    std::string meshName;
+    float maxTorque = 0.0F;  ///< N*m
+    float maxVelocity = 0.0F;  ///< rad/s
+    float mass = 0.0F;  ///< kg
+    std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< as JointConfig::inertiaMatrix
+    Position3D centerOfMass;  ///< m, in the wheel's link frame
+    std::string parentJoint;
+    Transform placement;  ///< in the frame of the parent joint
+    Attributes attributes;
+};
+
+/// A joint that has no motor of its own and follows its actuator.
+struct SubActuatorConfig {
+    std::string name;
+    std::string meshName;
+    float offset = 0.0F;  ///< rad, the sub-joint's angle when the actuator stands at 0; carried
+    float ratio = 0.0F;  ///< sub-joint angle per actuator angle
+    Transform placement;  ///< in the frame of the element before it
+};
+
+/// A serial chain of joints.
+struct ChainConfig {
+    std::string name;
+    std::string parentJoint;  ///< the joint, or the root, that the chain hangs on
+    std::vector<std::string> jointNames;  ///< from the parent outward
+    Transform placement;  ///< the chain's base frame in the frame of the parent joint
+    Transform tipTransform;  ///< the chain's tool frame in the link frame of its last joint; carried
+    std::string tipName;  ///< carried
+};
+
+/// Joint values of one named posture, in the order of the description.
+struct PostureConfig {
+    std::string name;
+    std::vector<std::pair<std::string, float>> angles;  ///< joint or actuator name, value in rad (m)
+};
+
+using JointTable = std::map<std::string, JointConfig>;
+using ActuatorTable = std::map<std::string, ActuatorConfig>;
+using SensorTable = std::map<std::string, SensorConfig>;
+using WheelTable = std::map<std::string, WheelConfig>;
+using SubActuatorTable = std::map<std::string, SubActuatorConfig>;
+using ChainTable = std::map<std::string, ChainConfig>;
+
+}  // namespace Varo::Model
+
+#endif

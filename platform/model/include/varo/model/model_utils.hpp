@@ -1,0 +1,55 @@
+#ifndef VARO_MODEL_MODEL_UTILS_HPP
+#define VARO_MODEL_MODEL_UTILS_HPP
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "varo/export.hpp"
+#include "varo/model/finding.hpp"
+#include "varo/model/robot.hpp"
+
+/// Reading of robot descriptions, and the names under which the device layer knows a robot's devices.
+///
+/// Pure functions: thread-safe, nothing is kept between calls.
+namespace Varo::Model::ModelUtils {
+
+/// What became of a text: the robot, null when a finding is an error, and all findings.
+struct Reading {
+    std::unique_ptr<Robot> robot;
+    Findings findings;
+};
+
+/// Reads the XML text of a description of either dialect. Never throws for what the text says.
+VAROROBOTMODEL_API Reading read(std::string const& xml);
+
+/// As `read`, for those who only want a robot: throws DescriptionError when the text is refused. Never null.
+VAROROBOTMODEL_API std::unique_ptr<Robot> robotFromXml(std::string const& xml);
+
+/// True when `robotFromXml` would accept the text.
+VAROROBOTMODEL_API bool checkXml(std::string const& xml);
+
+/// All findings of the text, in one pass, in the order of their places.
+VAROROBOTMODEL_API Findings diagnose(std::string const& xml);
+
+/// The kinds of device keys: bits, to be combined at will.
+enum KeyKind : int {
+    angleSensor = 1,
+    angularSpeedSensor = 2,
+    torqueSensor = 32,
+    angleActuator = 64,
+    angularSpeedActuator = 128,
+    torqueActuator = 256,
+};
+
+/// The device keys of joints: name by name, for each the keys of the requested kinds, lowest bit first. A bit that
+/// means nothing for the device gives no key.
+VAROROBOTMODEL_API std::vector<std::string> getJointDCMKeys(std::vector<std::string> const& names, int kinds);
+/// As getJointDCMKeys, of wheels, which have no angle.
+VAROROBOTMODEL_API std::vector<std::string> getWheelDCMKeys(std::vector<std::string> const& names, int kinds);
+/// As getJointDCMKeys, of coupled actuators, which have nothing but an angle.
+VAROROBOTMODEL_API std::vector<std::string> getActuatorDCMKeys(std::vector<std::string> const& names, int kinds);
+
+}  // namespace Varo::Model::ModelUtils
+
+#endif

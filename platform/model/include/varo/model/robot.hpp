@@ -1,0 +1,53 @@
+#ifndef VARO_MODEL_ROBOT_HPP
+#define VARO_MODEL_ROBOT_HPP
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "varo/export.hpp"
+#include "varo/model/configs.hpp"
+
+namespace Varo::Model {
+
+/// One robot description in memory, whatever the dialect it was written in.
+///
+/// Immutable: all operations may run in several threads at once. The listings fill their out-arguments, replacing what
+/// they held; name sequences keep the description's order. References stay valid as long as the robot.
+class VAROROBOTMODEL_API Robot {
+public:
+    Robot() = default;
+    Robot(Robot const&) = delete;
+    Robot& operator=(Robot const&) = delete;
+
+    virtual std::string const& name() const = 0;
+    /// A name for people, by index; the robot's name when the description gives none for that index.
+    virtual std::string prettyName(int index) const = 0;
+    /// The description's own version; empty when it states none.
+    virtual std::string const& version() const = 0;
+    virtual void listActuators(std::vector<std::string>& names, ActuatorTable& actuators,
+                               SubActuatorTable& subActuators) const = 0;
+    virtual void listChains(std::vector<std::string>& names, ChainTable& chains) const = 0;
+    /// `reflectionForced` receives the names of the joints whose reflection is forced.
+    virtual void listJoints(std::string& robotName, JointConfig& root, JointTable& joints,
+                            std::vector<std::string>& names, std::vector<std::string>& reflectionForced) const = 0;
+    virtual void listSensors(std::vector<std::string>& names, SensorTable& sensors) const = 0;
+    virtual void listWheels(std::vector<std::string>& names, WheelTable& wheels) const = 0;
+    virtual ~Robot() = default;
+
+    /// The postures that the description carries, in its order.
+    virtual std::vector<PostureConfig> const& postures() const = 0;
+    /// Every pretty name by its index.
+    virtual std::map<int, std::string> const& prettyNames() const = 0;
+    /// The dialect of the text: "native" or "urdf".
+    virtual std::string const& dialect() const = 0;
+};
+
+/// The names that have a joint value, in the order in which postures lay them out: chain by chain, each joint followed
+/// by the actuators that hang on it in ascending order of their names. A name stands as often as chains list it.
+VAROROBOTMODEL_API std::vector<std::string> angleNames(std::vector<std::string> const& chainNames,
+                                                       ChainTable const& chains, ActuatorTable const& actuators);
+
+}  // namespace Varo::Model
+
+#endif
