@@ -31,7 +31,8 @@ public:
     /// Throws Varo::Model::DescriptionError when the text is refused, and std::out_of_range when its posture
     /// "StandInit" gives an angle to a name that no chain leads to.
     explicit MotionModel(std::string const& xml);
-    /// From a description read already. Throws std::invalid_argument for null, and std::out_of_range as above.
+    /// From a description read already. Throws std::invalid_argument for null and when actuators hang on each other in
+    /// a loop, and std::out_of_range as above.
     explicit MotionModel(std::unique_ptr<Varo::Model::Robot> robot);
     MotionModel(MotionModel const&) = delete;
     MotionModel& operator=(MotionModel const&) = delete;

@@ -1,0 +1,165 @@
+#include <charconv>
+#include <limits>
+#include <locale>
+
+#include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/split.hpp>
+#include <boost/algorithm/string/trim.hpp>
+
+#include "description/table_lookup.hpp"
+#include "sim/motion_model.hpp"
+
+namespace Sim {
+
+namespace {
+
+using Varo::Model::SensorConfig;
+using Varo::Model::SensorTable;
+
+/// Null when the device or its attribute is missing.
+std::string const* attributeOf(SensorTable const& devices, std::string const& name, std::string const& attribute)
+{
+    auto const* device = find(devices, name);
+    return device == nullptr ? nullptr : find(device->attributes, attribute);
+}
+
+bool appendAttributes(SensorTable const& devices, std::string const& name, std::vector<std::string> const& attributes,
+                      std::vector<std::string>& values)
+{
+    auto const before = values.size();
+    for (auto const& attribute : attributes) {
+        if (auto const* value = attributeOf(devices, name, attribute)) {
+            values.push_back(*value);
+        }
+    }
+    return values.size() != before;
+}
+
+std::vector<std::string> piecesOf(std::string const& text, char const* separators)
+{
+    std::vector<std::string> pieces;
+    boost::algorithm::split(pieces, text, boost::algorithm::is_any_of(separators));
+    return pieces;
+}
+
+/// The integer that an input stream in the "C" locale would extract: what follows its digits does not count, a piece
+/// without digits is 0, and one out of range the nearest integer.
+int extractedInteger(std::string const& piece)
+{
+    auto const text = boost::algorithm::trim_left_copy(piece, std::locale::classic());
+    char const* const end = text.data() + text.size();
+    bool const plus = text.size() > 1 && text[0] == '+' && text[1] != '-';
+    int value = 0;
+    auto const result = std::from_chars(text.data() + (plus ? 1 : 0), end, value);
+    if (result.ec == std::errc::result_out_of_range) {
+        return text[0] == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    }
+    return value;
+}
+
+}  // namespace
+
+std::vector<std::string> initDcmCommandKeyNames()
+{
+    return {"setOperationMode"};
+}
+
+std::vector<std::string> initStateDcmKeyNames()
+{
+    return {"getOperationMode"};
+}
+
+std::vector<std::string> const MotionModel::k_dcmCommandKeyNames = initDcmCommandKeyNames();
+std::vector<std::string> const MotionModel::k_stateDcmKeyNames = initStateDcmKeyNames();
+
+std::list<std::string> MotionModel::sensorNames() const
+{
+    return namesIn(_sensors);
+}
+
+std::int32_t MotionModel::sensorType(std::string const& name) const
+{
+    std::int32_t type = Varo::Model::unknownSensor;
+    readField(_sensors, name, &SensorConfig::type, type);
+    return type;
+}
+
+bool MotionModel::transformFromSensorName(std::string const& name, Varo::Math::Transform& transform,
+                                          std::string& parent) const
+{
+    auto const* sensor = find(_sensors, name);
+    if (sensor == nullptr) {
+        return false;
+    }
+    transform = sensor->placement;
+    parent = sensor->parent;
+    return true;
+}
+
+bool MotionModel::dcmKeysFromSensorName(std::string const& name, std::vector<std::string>& keys) const
+{
+    return readField(_sensors, name, &SensorConfig::keys, keys);
+}
+
+bool MotionModel::dcmCommandKeys(std::string const& name, std::vector<std::string>& keys) const
+{
+    return appendAttributes(_sensors, name, k_dcmCommandKeyNames, keys);
+}
+
+bool MotionModel::dcmStateKeys(std::string const& name, std::vector<std::string>& keys) const
+{
+    return appendAttributes(_sensors, name, k_stateDcmKeyNames, keys);
+}
+
+bool MotionModel::shortnameFromLED(std::string const& led, std::string& shortname) const
+{
+    auto const* value = attributeOf(_sensors, led, "shortname");
+    if (value == nullptr) {
+        return false;
+    }
+    shortname = *value;
+    return true;
+}
+
+bool MotionModel::groupsFromLED(std::string const& led, std::vector<std::string>& groups) const
+{
+    auto const* value = attributeOf(_sensors, led, "groups");
+    if (value == nullptr) {
+        return false;
+    }
+    groups = piecesOf(*value, "\t ");
+    return true;
+}
+
+bool MotionModel::colorFromLED(std::string const& led, int* color) const
+{
+    auto const* value = attributeOf(_sensors, led, "color");
+    if (value == nullptr) {
+        return false;
+    }
+    int channel = 0;
+    for (auto const& piece : piecesOf(*value, "\t ")) {
+        if (piece == "255") {
+            *color = channel;
+        }
+        ++channel;
+    }
+    return true;
+}
+
+bool MotionModel::resolutionsFromCamera(std::string const& camera, std::vector<std::pair<int, int>>& resolutions) const
+{
+    auto const* value = attributeOf(_sensors, camera, "resolutions");
+    if (value == nullptr) {
+        return false;
+    }
+    for (auto const& line : piecesOf(*value, "\n")) {
+        auto const pieces = piecesOf(boost::algorithm::trim_copy(line, std::locale::classic()), " ");
+        if (pieces.size() >= 2) {
+            resolutions.emplace_back(extractedInteger(pieces[0]), extractedInteger(pieces[1]));
+        }
+    }
+    return true;
+}
+
+}  // namespace Sim
