@@ -1,0 +1,39 @@
+#ifndef VARO_CORE_JOINT_IMPL_HPP
+#define VARO_CORE_JOINT_IMPL_HPP
+
+#include <string>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include "sim/frame.hpp"
+#include "sim/joint.hpp"
+#include "sim/link.hpp"
+
+namespace Sim {
+
+inline constexpr char jointErrorMsg[] = "Could not query Joint as it seems not correctly constructed";
+
+class JointImpl {
+public:
+    JointImpl(boost::shared_ptr<Frame const> frame, std::string const& name, boost::shared_ptr<Link> parentLink)
+        : _frame(frame), _name(name), _parentLink(parentLink)
+    {}
+
+    void setChildLink(boost::shared_ptr<Link> link) { _childLink = link; }
+
+    boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
+    std::string const& name() const { return _name; }
+    boost::shared_ptr<Link> parentLink() const { return _parentLink.lock(); }
+    boost::shared_ptr<Link> childLink() const { return _childLink.lock(); }
+
+private:
+    boost::weak_ptr<Frame const> _frame;
+    std::string _name;
+    boost::weak_ptr<Link> _parentLink;
+    boost::weak_ptr<Link> _childLink;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,52 @@
+#ifndef VARO_CORE_LINK_IMPL_HPP
+#define VARO_CORE_LINK_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include "sim/frame.hpp"
+#include "sim/joint.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+#include "sim/visual_data.hpp"
+
+namespace Sim {
+
+inline constexpr char linkErrorMsg[] = "Could not query Link as it seems not correctly constructed.";
+
+class LinkImpl {
+public:
+    LinkImpl(boost::shared_ptr<Frame const> frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
+             boost::shared_ptr<MassData const> massData, std::string const& frictionMaterial, Link::LinkType type,
+             boost::shared_ptr<VisualData const> visualData);
+    virtual ~LinkImpl() = default;
+
+    void addChildJoint(boost::shared_ptr<Joint> joint) { _childrenJoints.push_back(joint); }
+
+    boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
+    std::string const& name() const { return _name; }
+    boost::shared_ptr<Joint> parentJoint() const { return _parentJoint.lock(); }
+    boost::shared_ptr<MassData const> massData() const { return _massData; }
+    std::string const& frictionMaterial() const { return _frictionMaterial; }
+    Link::LinkType type() const { return _type; }
+    boost::shared_ptr<VisualData const> visualData() const { return _visualData; }
+    /// Those that still exist, in the order in which they were added.
+    std::vector<boost::shared_ptr<Joint>> childrenJoints() const;
+
+private:
+    boost::weak_ptr<Frame const> _frame;
+    std::string _name;
+    boost::weak_ptr<Joint> _parentJoint;
+    std::vector<boost::weak_ptr<Joint>> _childrenJoints;
+    boost::shared_ptr<MassData const> _massData;
+    std::string _frictionMaterial;
+    Link::LinkType _type;
+    boost::shared_ptr<VisualData const> _visualData;
+};
+
+}  // namespace Sim
+
+#endif

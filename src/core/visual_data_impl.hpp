@@ -1,0 +1,28 @@
+#ifndef VARO_CORE_VISUAL_DATA_IMPL_HPP
+#define VARO_CORE_VISUAL_DATA_IMPL_HPP
+
+#include <string>
+
+#include "sim/visual_data.hpp"
+
+namespace Sim {
+
+inline constexpr char visualDataErrorMsg[] = "Could not query VisualData as it seems not properly constructed";
+
+class VisualDataImpl {
+public:
+    VisualDataImpl(std::string const& meshPath, Varo::Math::Transform const& meshTransform)
+        : _meshPath(meshPath), _meshTransform(meshTransform)
+    {}
+
+    std::string const& meshPath() const { return _meshPath; }
+    Varo::Math::Transform const& meshTransform() const { return _meshTransform; }
+
+private:
+    std::string _meshPath;
+    Varo::Math::Transform _meshTransform;
+};
+
+}  // namespace Sim
+
+#endif
