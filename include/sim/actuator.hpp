@@ -1,0 +1,55 @@
+#ifndef SIM_ACTUATOR_HPP
+#define SIM_ACTUATOR_HPP
+
+#include <string>
+
+#include "varo/export.hpp"
+
+namespace Sim {
+
+class ActuatorImpl;
+class Frame;
+
+/// A device of the robot that takes commands; its concrete class says which kind.
+///
+/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
+/// and safe to ask from several threads. A copy has data of its own and outlives the model; its getters that return
+/// elements then answer null. Every getter of this class and of those derived from it throws std::runtime_error on an
+/// actuator without implementation.
+class VAROROBOTMODEL_API Actuator {
+public:
+    enum Type {
+        Angle = 0,
+        Coupled = 1,
+        Torque = 2,
+        AngleSpeed = 3,
+        WheelTorque = 4,
+        WheelVelocity = 5,
+        LED = 6,
+    };
+
+    Actuator& operator=(Actuator const&) = delete;
+
+    /// Actuators that drive the same joint share one name.
+    virtual std::string const& name() const;
+    /// The number of bytes that one command occupies.
+    virtual int bufferSize() const = 0;
+    /// Where the actuator sits; null when its model is gone.
+    Frame const* frame() const;
+    Type type() const;
+
+protected:
+    /// Takes ownership.
+    explicit Actuator(ActuatorImpl* impl);
+    Actuator(Actuator const& other);
+    ~Actuator();
+
+    ActuatorImpl* _impl;
+
+private:
+    friend class ModelImpl;
+};
+
+}  // namespace Sim
+
+#endif

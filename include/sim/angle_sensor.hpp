@@ -1,0 +1,20 @@
+#ifndef SIM_ANGLE_SENSOR_HPP
+#define SIM_ANGLE_SENSOR_HPP
+
+#include "sim/dcm_sensor.hpp"
+
+namespace Sim {
+
+/// Measures the angle of a joint (rad; m for a sliding joint).
+class VAROROBOTMODEL_API AngleSensor : public DCMSensor {
+public:
+    AngleSensor();
+    ~AngleSensor();
+
+    /// 4: one single-precision value.
+    int bufferSize() const override;
+};
+
+}  // namespace Sim
+
+#endif

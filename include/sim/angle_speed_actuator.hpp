@@ -1,0 +1,35 @@
+#ifndef SIM_ANGLE_SPEED_ACTUATOR_HPP
+#define SIM_ANGLE_SPEED_ACTUATOR_HPP
+
+#include "sim/dcm_actuator.hpp"
+
+namespace Sim {
+
+class AngleSpeedActuatorImpl;
+class Joint;
+
+/// Drives a joint at an angular speed (rad/s). Only models whose name contains "SpecialSimulation" or "Helvo" have
+/// any.
+class VAROROBOTMODEL_API AngleSpeedActuator : public DCMActuator {
+public:
+    /// Takes ownership; without implementation, every getter throws.
+    explicit AngleSpeedActuator(AngleSpeedActuatorImpl* impl = nullptr);
+    AngleSpeedActuator(AngleSpeedActuator const& other);
+    ~AngleSpeedActuator();
+
+    /// 4: one single-precision value.
+    int bufferSize() const override;
+    float startValue() const;
+    float minValue() const;
+    float maxValue() const;
+    /// Null when its model is gone.
+    Joint const* controlledJoint() const;
+    /// The actuator of the mirrored joint; null without one.
+    AngleSpeedActuator const* reflectedSymmetric() const;
+    /// Whether the partner mirrors this one at the opposite value.
+    bool reflectedSymmetricReversed() const;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,20 @@
+#ifndef SIM_BASE_CAMERA_HPP
+#define SIM_BASE_CAMERA_HPP
+
+#include "sim/sensor.hpp"
+
+namespace Sim {
+
+/// A sensor that takes pictures.
+class VAROROBOTMODEL_API BaseCamera : public Sensor {
+public:
+    int bufferSize() const override = 0;
+
+protected:
+    BaseCamera();
+    ~BaseCamera();
+};
+
+}  // namespace Sim
+
+#endif

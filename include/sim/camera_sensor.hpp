@@ -1,0 +1,22 @@
+#ifndef SIM_CAMERA_SENSOR_HPP
+#define SIM_CAMERA_SENSOR_HPP
+
+#include "sim/base_camera.hpp"
+
+namespace Sim {
+
+/// Takes colour pictures.
+class VAROROBOTMODEL_API CameraSensor : public BaseCamera {
+public:
+    CameraSensor();
+    ~CameraSensor();
+
+    /// 12 bytes, three single-precision values, a pixel; products past 32 bits wrap.
+    int bufferSize() const override;
+    int width() const;  ///< pixels
+    int height() const;  ///< pixels
+};
+
+}  // namespace Sim
+
+#endif

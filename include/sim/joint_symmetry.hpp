@@ -1,0 +1,44 @@
+#ifndef SIM_JOINT_SYMMETRY_HPP
+#define SIM_JOINT_SYMMETRY_HPP
+
+#include <utility>
+
+#include "varo/export.hpp"
+
+namespace Sim {
+
+class Joint;
+class JointSymmetryImpl;
+
+/// A pair of joints that are each other's mirror image, left and right.
+///
+/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
+/// and safe to ask from several threads. Every getter throws std::runtime_error on a symmetry that no model made.
+class VAROROBOTMODEL_API JointSymmetry {
+public:
+    enum SymmetryType {
+        ReflectedSymmetric = 0,  ///< equal values of the two joints mirror each other
+        ReflectedSymmetricReversed = 1,  ///< opposite values do
+    };
+
+    JointSymmetry();
+    JointSymmetry(JointSymmetry const&) = delete;
+    JointSymmetry& operator=(JointSymmetry const&) = delete;
+    /// Leaves the data of the symmetry alone: the model frees it with itself.
+    ~JointSymmetry();
+
+    /// The second is null when the model has no joint of the mirror's name; a joint may be its own mirror.
+    std::pair<Joint const*, Joint const*> symmetricJoints() const;
+    /// The partner of `joint`, which is recognised by its name; null when it is null or not of this pair.
+    Joint const* symmetricJoint(Joint const* joint) const;
+    SymmetryType symmetryType() const;
+
+private:
+    friend class ModelImpl;
+
+    JointSymmetryImpl* _impl;
+};
+
+}  // namespace Sim
+
+#endif

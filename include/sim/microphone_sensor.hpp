@@ -1,0 +1,20 @@
+#ifndef SIM_MICROPHONE_SENSOR_HPP
+#define SIM_MICROPHONE_SENSOR_HPP
+
+#include "sim/sensor.hpp"
+
+namespace Sim {
+
+/// Listens.
+class VAROROBOTMODEL_API MicrophoneSensor : public Sensor {
+public:
+    MicrophoneSensor();
+    ~MicrophoneSensor();
+
+    /// 4: one single-precision value.
+    int bufferSize() const override;
+};
+
+}  // namespace Sim
+
+#endif

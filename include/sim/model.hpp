@@ -1,0 +1,165 @@
+#ifndef SIM_MODEL_HPP
+#define SIM_MODEL_HPP
+
+#include <string>
+#include <vector>
+
+#include "varo/export.hpp"
+
+namespace Sim {
+
+class Actuator;
+class ActuatorGroup;
+class AngleActuator;
+class AngleSensor;
+class AngleSpeedActuator;
+class AngleSpeedSensor;
+class ArrayDepthSensor;
+class BumperSensor;
+class CameraDepthSensor;
+class CameraSensor;
+class CoupledActuator;
+class CoupledSensor;
+class FSRSensor;
+class InertialSensor;
+class Joint;
+class JointGroup;
+class JointSymmetry;
+class LEDActuator;
+class Link;
+class MicrophoneSensor;
+class ModelImpl;
+class Sensor;
+class SingleDepthSensor;
+class SonarSensor;
+class TactileSensor;
+class TorqueActuator;
+class TorqueSensor;
+class WheelTorqueActuator;
+class WheelVelocityActuator;
+class WheelVelocitySensor;
+
+/// A robot: its tree of links and joints, its sensors and actuators, its groups and symmetries.
+///
+/// All the work is done by the constructor; a model is immutable from then on, and any number of threads may ask it at
+/// once. Every pointer that it returns, directly or through an element, is borrowed and stays valid as long as the
+/// model; moving the model keeps them valid.
+///
+/// Look-ups by name are exact and case-sensitive. Where several elements bear a name the first one made answers, and
+/// where none does the answer is null. Lists are in the order in which the elements were made. Every query on a model
+/// that was moved from throws std::runtime_error.
+class VAROROBOTMODEL_API Model {
+public:
+    /// Loads the description, native or URDF, that stands in the file of this path or, when there is no such file, in
+    /// the string itself.
+    ///
+    /// Throws std::invalid_argument when it is neither a readable file nor a valid description; for a refused text that
+    /// is a Varo::Model::DescriptionError, which says what is wrong where. Throws std::runtime_error when the
+    /// description lacks what its elements need, and std::out_of_range when its posture "StandInit" gives an angle to
+    /// a name that no chain leads to. Takes time and memory proportional to the size of the robot.
+    explicit Model(std::string const& pathOrXml);
+    Model(Model&& other) noexcept;
+    Model& operator=(Model&& other) noexcept;
+    ~Model();
+
+    std::string const& name() const;
+    /// A name for people, by index; the model's name when the description has none for that index.
+    std::string prettyName(int index) const;
+    /// The XML text of the description.
+    std::string const& configFile() const;
+
+    /// @name Links and joints
+    /// @{
+    Joint const* joint(std::string const& name) const;
+    std::vector<Joint const*> joints() const;
+    Link const* link(std::string const& name) const;
+    std::vector<Link const*> links() const;
+    Link const* rootLink() const;
+    /// @}
+
+    /// @name Symmetries and groups
+    /// @{
+
+    /// The symmetry that the joint of that name is part of.
+    JointSymmetry const* jointSymmetry(std::string const& name) const;
+    std::vector<JointSymmetry const*> jointSymmetries() const;
+    JointGroup const* jointGroup(std::string const& name) const;
+    std::vector<JointGroup const*> jointGroups() const;
+    /// The groups that list the joint, once for each time they do.
+    std::vector<JointGroup const*> jointGroupsOfJoint(std::string const& name) const;
+    ActuatorGroup const* actuatorGroup(std::string const& name) const;
+    std::vector<ActuatorGroup const*> actuatorGroups() const;
+    /// The groups with an angle or coupled actuator that drives the joint, once for each time that one does.
+    std::vector<ActuatorGroup const*> actuatorGroupsOfJoint(std::string const& name) const;
+    /// @}
+
+    /// @name Actuators
+    /// A look-up by kind passes over actuators of other kinds that bear the name.
+    /// @{
+    Actuator const* actuator(std::string const& name) const;
+    std::vector<Actuator const*> actuators() const;
+    AngleActuator const* angleActuator(std::string const& name) const;
+    std::vector<AngleActuator const*> angleActuators() const;
+    AngleSpeedActuator const* angleSpeedActuator(std::string const& name) const;
+    std::vector<AngleSpeedActuator const*> angleSpeedActuators() const;
+    CoupledActuator const* coupledActuator(std::string const& name) const;
+    std::vector<CoupledActuator const*> coupledActuators() const;
+    TorqueActuator const* torqueActuator(std::string const& name) const;
+    std::vector<TorqueActuator const*> torqueActuators() const;
+    WheelTorqueActuator const* wheelTorqueActuator(std::string const& name) const;
+    std::vector<WheelTorqueActuator const*> wheelTorqueActuators() const;
+    WheelVelocityActuator const* wheelVelocityActuator(std::string const& name) const;
+    std::vector<WheelVelocityActuator const*> wheelVelocityActuators() const;
+    LEDActuator const* ledActuator(std::string const& name) const;
+    /// The lights of a group; all lights when `group` is empty.
+    std::vector<LEDActuator const*> ledActuators(std::string const& group) const;
+    /// @}
+
+    /// @name Sensors
+    /// A look-up by kind passes over sensors of other kinds that bear the name.
+    /// @{
+    Sensor const* sensor(std::string const& name) const;
+    std::vector<Sensor const*> sensors() const;
+    AngleSensor const* angleSensor(std::string const& name) const;
+    std::vector<AngleSensor const*> angleSensors() const;
+    AngleSpeedSensor const* angleSpeedSensor(std::string const& name) const;
+    std::vector<AngleSpeedSensor const*> angleSpeedSensors() const;
+    ArrayDepthSensor const* arrayDepthSensor(std::string const& name) const;
+    std::vector<ArrayDepthSensor const*> arrayDepthSensors() const;
+    BumperSensor const* bumperSensor(std::string const& name) const;
+    std::vector<BumperSensor const*> bumperSensors() const;
+    CameraSensor const* cameraSensor(std::string const& name) const;
+    std::vector<CameraSensor const*> cameraSensors() const;
+    CameraDepthSensor const* cameraDepthSensor(std::string const& name) const;
+    std::vector<CameraDepthSensor const*> cameraDepthSensors() const;
+    CoupledSensor const* coupledSensor(std::string const& name) const;
+    std::vector<CoupledSensor const*> coupledSensors() const;
+    FSRSensor const* fsrSensor(std::string const& name) const;
+    std::vector<FSRSensor const*> fsrSensors() const;
+    InertialSensor const* inertialSensor(std::string const& name) const;
+    std::vector<InertialSensor const*> inertialSensors() const;
+    MicrophoneSensor const* microphoneSensor(std::string const& name) const;
+    std::vector<MicrophoneSensor const*> microphoneSensors() const;
+    SingleDepthSensor const* singleDepthSensor(std::string const& name) const;
+    std::vector<SingleDepthSensor const*> singleDepthSensors() const;
+    SonarSensor const* sonarSensor(std::string const& name) const;
+    std::vector<SonarSensor const*> sonarSensors() const;
+    TactileSensor const* tactileSensor(std::string const& name) const;
+    std::vector<TactileSensor const*> tactileSensors() const;
+    TorqueSensor const* torqueSensor(std::string const& name) const;
+    std::vector<TorqueSensor const*> torqueSensors() const;
+    WheelVelocitySensor const* wheelVelocitySensor(std::string const& name) const;
+    std::vector<WheelVelocitySensor const*> wheelVelocitySensors() const;
+    /// Deprecated: singleDepthSensor(), after a notice on standard output.
+    SingleDepthSensor const* depthInfraredSensor(std::string const& name) const;
+    /// Deprecated: singleDepthSensors(), after a notice on standard output.
+    std::vector<SingleDepthSensor const*> depthInfraredSensors() const;
+    /// @}
+
+private:
+    ModelImpl* _impl;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,20 @@
+#ifndef SIM_SONAR_SENSOR_HPP
+#define SIM_SONAR_SENSOR_HPP
+
+#include "sim/dcm_sensor.hpp"
+
+namespace Sim {
+
+/// Measures distances by ultrasound (m).
+class VAROROBOTMODEL_API SonarSensor : public DCMSensor {
+public:
+    SonarSensor();
+    ~SonarSensor();
+
+    /// 40 for a sonar that delivers ten single-precision values, 4 for one that delivers a single one.
+    int bufferSize() const override;
+};
+
+}  // namespace Sim
+
+#endif

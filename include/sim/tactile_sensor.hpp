@@ -1,0 +1,20 @@
+#ifndef SIM_TACTILE_SENSOR_HPP
+#define SIM_TACTILE_SENSOR_HPP
+
+#include "sim/dcm_sensor.hpp"
+
+namespace Sim {
+
+/// Feels whether it is touched.
+class VAROROBOTMODEL_API TactileSensor : public DCMSensor {
+public:
+    TactileSensor();
+    ~TactileSensor();
+
+    /// 4: one single-precision value.
+    int bufferSize() const override;
+};
+
+}  // namespace Sim
+
+#endif

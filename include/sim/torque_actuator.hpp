@@ -1,0 +1,34 @@
+#ifndef SIM_TORQUE_ACTUATOR_HPP
+#define SIM_TORQUE_ACTUATOR_HPP
+
+#include "sim/dcm_actuator.hpp"
+
+namespace Sim {
+
+class Joint;
+class TorqueActuatorImpl;
+
+/// Drives a joint by torque (N*m). Only models whose name contains "SpecialSimulation" or "Helvo" have any.
+class VAROROBOTMODEL_API TorqueActuator : public DCMActuator {
+public:
+    /// Takes ownership; without implementation, every getter throws.
+    explicit TorqueActuator(TorqueActuatorImpl* impl = nullptr);
+    TorqueActuator(TorqueActuator const& other);
+    ~TorqueActuator();
+
+    /// 4: one single-precision value.
+    int bufferSize() const override;
+    float startValue() const;
+    float minValue() const;
+    float maxValue() const;
+    /// Null when its model is gone.
+    Joint const* controlledJoint() const;
+    /// The actuator of the mirrored joint; null without one.
+    TorqueActuator const* reflectedSymmetric() const;
+    /// Whether the partner mirrors this one at the opposite value.
+    bool reflectedSymmetricReversed() const;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,29 @@
+#ifndef SIM_WHEEL_TORQUE_ACTUATOR_HPP
+#define SIM_WHEEL_TORQUE_ACTUATOR_HPP
+
+#include "sim/dcm_actuator.hpp"
+
+namespace Sim {
+
+class Joint;
+class WheelTorqueActuatorImpl;
+
+/// Drives a wheel by torque. Loading never makes one.
+class VAROROBOTMODEL_API WheelTorqueActuator : public DCMActuator {
+public:
+    /// Takes ownership; without implementation, every getter throws.
+    explicit WheelTorqueActuator(WheelTorqueActuatorImpl* impl = nullptr);
+    WheelTorqueActuator(WheelTorqueActuator const& other);
+    ~WheelTorqueActuator();
+
+    /// 4: one single-precision value.
+    int bufferSize() const override;
+    /// N*m
+    float maxTorque() const;
+    /// The joint about which the wheel turns; null when its model is gone.
+    Joint const* controlledJoint() const;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef VARO_SENSORS_MICROPHONE_SENSOR_IMPL_HPP
+#define VARO_SENSORS_MICROPHONE_SENSOR_IMPL_HPP
+
+#include <string>
+
+#include "sensors/sensor_impl.hpp"
+
+namespace Sim {
+
+inline constexpr char microphoneSensorErrMsg[] =
+    "Could not query microphoneSensor as it seems not correctly constructed.";
+
+class MicrophoneSensorImpl : public SensorImpl {
+public:
+    MicrophoneSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name)
+        : SensorImpl(frame, name, Sensor::Microphone)
+    {}
+
+    int bufferSize() const { return 4; }
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,33 @@
+#ifndef VARO_SENSORS_SONAR_SENSOR_IMPL_HPP
+#define VARO_SENSORS_SONAR_SENSOR_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include "sensors/dcm_sensor_impl.hpp"
+
+namespace Sim {
+
+inline constexpr char sonarSensorErrMsg[] = "Could not query SonarSensor as it seems not correctly constructed.";
+
+class SonarSensorImpl : public DCMSensorImpl {
+public:
+    enum SonarType {
+        SingleValue = 0,
+        TenValues = 1,
+    };
+
+    SonarSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+                    std::vector<std::string> const& dcmKeys, SonarType sonarType)
+        : DCMSensorImpl(frame, name, Sensor::Sonar, dcmKeys, {}, {}), _sonarType(sonarType)
+    {}
+
+    int bufferSize() const { return _sonarType == TenValues ? 40 : 4; }
+
+private:
+    SonarType _sonarType;
+};
+
+}  // namespace Sim
+
+#endif
