@@ -1,0 +1,37 @@
+#ifndef VARO_ACTUATORS_ACTUATOR_IMPL_HPP
+#define VARO_ACTUATORS_ACTUATOR_IMPL_HPP
+
+#include <string>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include "sim/actuator.hpp"
+#include "sim/frame.hpp"
+
+namespace Sim {
+
+inline constexpr char actuatorErrMsg[] = "Could not query Actuator as it seems not correctly constructed.";
+
+class ActuatorImpl {
+public:
+    ActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name, Actuator::Type type)
+        : _frame(frame), _name(name), _type(type)
+    {}
+    ActuatorImpl(ActuatorImpl const&) = default;
+    ActuatorImpl& operator=(ActuatorImpl const&) = delete;
+    virtual ~ActuatorImpl() = default;
+
+    boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
+    std::string const& name() const { return _name; }
+    Actuator::Type type() const { return _type; }
+
+private:
+    boost::weak_ptr<Frame const> _frame;
+    std::string _name;
+    Actuator::Type _type;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef VARO_ACTUATORS_ANGLE_ACTUATOR_IMPL_HPP
+#define VARO_ACTUATORS_ANGLE_ACTUATOR_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include "actuators/joint_actuator_impl.hpp"
+#include "sim/angle_actuator.hpp"
+
+namespace Sim {
+
+inline constexpr char angleActuatorErrorMsg[] = "Could not query AngleActuator as it seems not correctly constructed.";
+
+class AngleActuatorImpl : public JointActuatorImpl<AngleActuator, Actuator::Angle> {
+public:
+    AngleActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+                      std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
+                      float maxSpeed, boost::shared_ptr<Joint const> joint, bool reflectionForced)
+        : JointActuatorImpl(frame, name, dcmKeys, startValue, minValue, maxValue, joint),
+          _maxSpeed(maxSpeed),
+          _reflectionForced(reflectionForced)
+    {}
+
+    float maxSpeed() const { return _maxSpeed; }
+    bool reflectionForced() const { return _reflectionForced; }
+
+private:
+    float _maxSpeed;
+    bool _reflectionForced;
+};
+
+}  // namespace Sim
+
+#endif

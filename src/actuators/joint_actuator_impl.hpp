@@ -1,0 +1,31 @@
+#ifndef VARO_ACTUATORS_JOINT_ACTUATOR_IMPL_HPP
+#define VARO_ACTUATORS_JOINT_ACTUATOR_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include "actuators/mirrored_actuator_impl.hpp"
+#include "sim/joint.hpp"
+
+namespace Sim {
+
+/// A mirrored actuator that drives one joint.
+template <class Handle, Actuator::Type kind>
+class JointActuatorImpl : public MirroredActuatorImpl<Handle, kind> {
+public:
+    JointActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+                      std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
+                      boost::shared_ptr<Joint const> joint)
+        : MirroredActuatorImpl<Handle, kind>(frame, name, dcmKeys, startValue, minValue, maxValue),
+          _controlledJoint(joint)
+    {}
+
+    boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }
+
+private:
+    boost::weak_ptr<Joint const> _controlledJoint;
+};
+
+}  // namespace Sim
+
+#endif

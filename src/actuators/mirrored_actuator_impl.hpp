@@ -1,0 +1,42 @@
+#ifndef VARO_ACTUATORS_MIRRORED_ACTUATOR_IMPL_HPP
+#define VARO_ACTUATORS_MIRRORED_ACTUATOR_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include "actuators/dcm_actuator_impl.hpp"
+
+namespace Sim {
+
+/// An actuator with a range of values that may have a mirror partner of its own kind (Handle is its public class).
+template <class Handle, Actuator::Type kind>
+class MirroredActuatorImpl : public DCMActuatorImpl {
+public:
+    MirroredActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+                         std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue)
+        : DCMActuatorImpl(frame, name, kind, dcmKeys), _startValue(startValue), _minValue(minValue), _maxValue(maxValue)
+    {}
+
+    float startValue() const { return _startValue; }
+    float minValue() const { return _minValue; }
+    float maxValue() const { return _maxValue; }
+
+    boost::shared_ptr<Handle const> reflectedSymmetric() const { return _reflectedSymmetric.lock(); }
+    void setReflectedSymmetric(boost::shared_ptr<Handle const> partner) { _reflectedSymmetric = partner; }
+    bool reflectedSymmetricReversed() const { return _reflectedSymmetricReversed; }
+    void setReflectedSymmetricReversed(bool reversed) { _reflectedSymmetricReversed = reversed; }
+
+private:
+    float _startValue;
+    float _minValue;
+    float _maxValue;
+    boost::weak_ptr<Handle const> _reflectedSymmetric;
+    bool _reflectedSymmetricReversed = false;
+};
+
+}  // namespace Sim
+
+#endif

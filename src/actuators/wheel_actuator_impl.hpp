@@ -1,0 +1,35 @@
+#ifndef VARO_ACTUATORS_WHEEL_ACTUATOR_IMPL_HPP
+#define VARO_ACTUATORS_WHEEL_ACTUATOR_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include "actuators/dcm_actuator_impl.hpp"
+#include "sim/joint.hpp"
+
+namespace Sim {
+
+/// An actuator that turns a wheel, up to a limit.
+template <Actuator::Type kind>
+class WheelActuatorImpl : public DCMActuatorImpl {
+public:
+    WheelActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+                      std::vector<std::string> const& dcmKeys, float limit, boost::shared_ptr<Joint const> joint)
+        : DCMActuatorImpl(frame, name, kind, dcmKeys), _limit(limit), _controlledJoint(joint)
+    {}
+
+    boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }
+
+protected:
+    float _limit;
+
+private:
+    boost::weak_ptr<Joint const> _controlledJoint;
+};
+
+}  // namespace Sim
+
+#endif
