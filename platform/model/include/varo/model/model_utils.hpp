@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_MODEL_UTILS_HPP
 #define VARO_MODEL_MODEL_UTILS_HPP
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,6 +14,9 @@
 ///
 /// Pure functions: thread-safe, nothing is kept between calls.
 namespace Varo::Model::ModelUtils {
+
+/// The longest text that is read, in bytes; longer ones are refused.
+inline constexpr std::size_t maxTextSize = std::size_t{256} * 1024 * 1024;
 
 /// What became of a text: the robot, null when a finding is an error, and all findings.
 struct Reading {

@@ -1,0 +1,89 @@
+#include <string>
+#include <vector>
+
+#include "actuators/angle_actuator_impl.hpp"
+#include "actuators/angle_speed_actuator_impl.hpp"
+#include "actuators/torque_actuator_impl.hpp"
+#include "core/frame_impl.hpp"
+#include "core/joint_impl.hpp"
+#include "core/link_impl.hpp"
+#include "core/model_impl.hpp"
+#include "core/require.hpp"
+#include "varo/model/model_utils.hpp"
+
+namespace Sim {
+
+using Varo::Math::Transform;
+using Varo::Model::ModelUtils::getJointDCMKeys;
+
+bool ModelImpl::fetchBasicActuatorInfo(std::string const& name, float& startValue, float& minValue, float& maxValue,
+                                       float& maxSpeed)
+{
+    require(_motionModel->startAngle(name, startValue), "Could not get start value.");
+    require(_motionModel->minAngle(name, minValue), "Could not get min value.");
+    require(_motionModel->maxAngle(name, maxValue), "Could not get max value.");
+    require(_motionModel->maxAngleSpeed(name, maxSpeed), "Could not get max speed.");
+    return true;
+}
+
+void ModelImpl::fetchAngleActuators()
+{
+    bool const withTorqueAndSpeed =
+        name().find("SpecialSimulation") != std::string::npos || name().find("Helvo") != std::string::npos;
+    for (std::string const& actuator : _motionModel->angleActuatorNames()) {
+        fetchAngleActuator(actuator, withTorqueAndSpeed);
+    }
+}
+
+void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSpeed)
+{
+    Transform end;
+    _motionModel->endTransformFromJointName(name, end);
+    auto const link = _index->links.find(name + "Link");
+    require(link != nullptr, "Could not find the link of joint ", name);
+    FramePtr const frame = addFrame(name, end.inverse(), link->_impl->frame());
+
+    float startValue = 0.0F;
+    float minValue = 0.0F;
+    float maxValue = 0.0F;
+    float maxSpeed = 0.0F;
+    fetchBasicActuatorInfo(name, startValue, minValue, maxValue, maxSpeed);
+    bool reflectionForced = false;
+    _motionModel->reflectionForcedFromJointName(name, reflectionForced);
+
+    auto const joint = _index->joints.find(name);
+    addAngleActuator(frame, name, getJointDCMKeys({name}, 64), startValue, minValue, maxValue, maxSpeed, joint,
+                     reflectionForced);
+    if (withTorqueAndSpeed) {
+        addTorqueActuator(frame, name, getJointDCMKeys({name}, 256), 0.0F, -100.0F, 100.0F, joint);
+        addAngleSpeedActuator(frame, name, getJointDCMKeys({name}, 128), 0.0F, -10.0F, 10.0F, joint);
+    }
+}
+
+boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr frame, std::string const& name,
+                                                             Keys const& dcmKeys, float startValue, float minValue,
+                                                             float maxValue, float maxSpeed,
+                                                             boost::shared_ptr<Joint const> joint,
+                                                             bool reflectionForced)
+{
+    return addActuator<AngleActuator, AngleActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed,
+                                                         joint, reflectionForced);
+}
+
+boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr frame, std::string const& name,
+                                                               Keys const& dcmKeys, float startValue, float minValue,
+                                                               float maxValue, boost::shared_ptr<Joint const> joint)
+{
+    return addActuator<TorqueActuator, TorqueActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
+}
+
+boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr frame, std::string const& name,
+                                                                       Keys const& dcmKeys, float startValue,
+                                                                       float minValue, float maxValue,
+                                                                       boost::shared_ptr<Joint const> joint)
+{
+    return addActuator<AngleSpeedActuator, AngleSpeedActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue,
+                                                                   joint);
+}
+
+}  // namespace Sim

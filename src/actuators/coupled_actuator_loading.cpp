@@ -1,0 +1,67 @@
+#include <list>
+
+#include "core/joint_impl.hpp"
+#include "core/model_impl.hpp"
+#include "core/require.hpp"
+#include "varo/model/model_utils.hpp"
+
+namespace Sim {
+
+using Varo::Math::Transform;
+
+void ModelImpl::fetchCoupledActuators()
+{
+    for (std::string const& name : _motionModel->coupledActuatorNames()) {
+        fetchCoupledActuator(name);
+    }
+}
+
+void ModelImpl::fetchCoupledActuator(std::string const& name)
+{
+    float startValue = 0.0F;
+    float minValue = 0.0F;
+    float maxValue = 0.0F;
+    float maxSpeed = 0.0F;
+    fetchBasicActuatorInfo(name, startValue, minValue, maxValue, maxSpeed);
+    auto const jointsAndRatios = jointsAndRatiosOf(name);
+
+    Transform transform;
+    _motionModel->transformFromActuator(name, transform);
+    std::string parentName;
+    _motionModel->parentJointFromActuator(name, parentName);
+    bool reflectionForced = false;
+    _motionModel->reflectionForcedFromJointName(name, reflectionForced);
+    auto const parentJoint = _index->joints.find(parentName);
+    require(parentJoint != nullptr, "Could not find the parent joint of actuator ", name);
+    FramePtr const frame = addFrame(name, transform.inverse(), parentJoint->_impl->frame());
+
+    addCoupledActuator(frame, name, Varo::Model::ModelUtils::getActuatorDCMKeys({name}, 64), startValue, minValue,
+                       maxValue, maxSpeed, jointsAndRatios, reflectionForced);
+}
+
+CoupledActuatorImpl::JointsAndRatios ModelImpl::jointsAndRatiosOf(std::string const& actuator) const
+{
+    std::list<std::string> jointNames;
+    require(_motionModel->jointsFromActuator(actuator, jointNames),
+            "MotionModel: Problem getting joints of coupled actuator.");
+    CoupledActuatorImpl::JointsAndRatios result;
+    for (std::string const& joint : jointNames) {
+        float ratio = 0.0F;
+        require(_motionModel->ratioFromJoint(joint, ratio),
+                "MotionModel: Problem getting ratios of joints attached to coupled actuators.");
+        result.emplace_back(_index->joints.find(joint), ratio);
+    }
+    return result;
+}
+
+boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr frame, std::string const& name,
+                                                                 Keys const& dcmKeys, float startValue, float minValue,
+                                                                 float maxValue, float maxSpeed,
+                                                                 CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
+                                                                 bool reflectionForced)
+{
+    return addActuator<CoupledActuator, CoupledActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue,
+                                                             maxSpeed, std::move(jointsAndRatios), reflectionForced);
+}
+
+}  // namespace Sim

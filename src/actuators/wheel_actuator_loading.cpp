@@ -1,0 +1,46 @@
+#include "actuators/wheel_torque_actuator_impl.hpp"
+#include "actuators/wheel_velocity_actuator_impl.hpp"
+#include "core/link_impl.hpp"
+#include "core/model_impl.hpp"
+#include "core/require.hpp"
+#include "varo/model/model_utils.hpp"
+
+namespace Sim {
+
+void ModelImpl::fetchWheelActuators()
+{
+    for (std::string const& wheel : _motionModel->wheelNames()) {
+        fetchWheelActuator(wheel);
+    }
+}
+
+void ModelImpl::fetchWheelActuator(std::string const& name)
+{
+    float maxTorque = 0.0F;  // has to be there, and that is all
+    require(_motionModel->maxTorqueFromWheel(name, maxTorque), "Could not get max wheel torque for wheel ", name);
+    float maxVelocity = 0.0F;
+    require(_motionModel->maxVelocityFromWheel(name, maxVelocity), "Could not get max wheel velocity for wheel ", name);
+
+    auto const link = _index->links.find(name + "Link");
+    require(link != nullptr, "Could not find the link of wheel ", name);
+    Joint const* const parentJoint = link->parentJoint();
+    require(parentJoint != nullptr, "Could not find the joint of wheel ", name);
+    auto const keys = Varo::Model::ModelUtils::getWheelDCMKeys({name}, 128);
+    addWheelVelocityActuator(link->_impl->frame(), name, keys, maxVelocity, _index->joints.find(parentJoint->name()));
+}
+
+boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePtr frame, std::string const& name,
+                                                                         Keys const& dcmKeys, float maxTorque,
+                                                                         boost::shared_ptr<Joint const> joint)
+{
+    return addActuator<WheelTorqueActuator, WheelTorqueActuatorImpl>(frame, name, dcmKeys, maxTorque, joint);
+}
+
+boost::shared_ptr<WheelVelocityActuator> ModelImpl::addWheelVelocityActuator(FramePtr frame, std::string const& name,
+                                                                             Keys const& dcmKeys, float maxVelocity,
+                                                                             boost::shared_ptr<Joint const> joint)
+{
+    return addActuator<WheelVelocityActuator, WheelVelocityActuatorImpl>(frame, name, dcmKeys, maxVelocity, joint);
+}
+
+}  // namespace Sim

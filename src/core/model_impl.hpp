@@ -1,0 +1,275 @@
+#ifndef VARO_CORE_MODEL_IMPL_HPP
+#define VARO_CORE_MODEL_IMPL_HPP
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <boost/make_shared.hpp>
+#include <boost/shared_ptr.hpp>
+
+#include "actuators/coupled_actuator_impl.hpp"
+#include "core/build_index.hpp"
+#include "groups/actuator_group_impl.hpp"
+#include "groups/joint_group_impl.hpp"
+#include "groups/joint_symmetry_impl.hpp"
+#include "sensors/sonar_sensor_impl.hpp"
+#include "sim/angle_actuator.hpp"
+#include "sim/angle_speed_actuator.hpp"
+#include "sim/array_depth_sensor.hpp"
+#include "sim/camera_depth_sensor.hpp"
+#include "sim/camera_sensor.hpp"
+#include "sim/led_actuator.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+#include "sim/microphone_sensor.hpp"
+#include "sim/motion_model.hpp"
+#include "sim/sonar_sensor.hpp"
+#include "sim/torque_actuator.hpp"
+#include "sim/visual_data.hpp"
+#include "sim/wheel_torque_actuator.hpp"
+#include "sim/wheel_velocity_actuator.hpp"
+
+namespace Sim {
+
+/// Builds the element graph of a robot, owns it, and finds elements in it.
+///
+/// The members are defined with the subsystem that they belong to: loading, skeleton and look-ups in core, the rest in
+/// sensors, actuators and groups. Immutable once constructed.
+class ModelImpl {
+public:
+    using FramePtr = boost::shared_ptr<Frame const>;
+    using Keys = std::vector<std::string>;
+
+    explicit ModelImpl(std::string const& pathOrXml);
+    ModelImpl(ModelImpl const&) = delete;
+    ModelImpl& operator=(ModelImpl const&) = delete;
+    ~ModelImpl();
+
+    std::string const& name() const { return _motionModel->name(); }
+    std::string prettyName(int index) const { return _motionModel->prettyName(index); }
+    std::string const& configFile() const { return _configFile; }
+
+    // Registries, in creation order.
+    std::vector<boost::shared_ptr<Frame>> frames() const { return _frames; }
+    std::vector<boost::shared_ptr<Joint>> joints() const { return _joints; }
+    std::vector<boost::shared_ptr<Link>> links() const { return _links; }
+    std::vector<boost::shared_ptr<JointSymmetry>> jointSymmetries() const { return _jointSymmetries; }
+    std::vector<boost::shared_ptr<JointGroup>> jointGroups() const { return _jointGroups; }
+    std::vector<boost::shared_ptr<Actuator>> actuators() const { return _actuators; }
+    std::vector<boost::shared_ptr<ActuatorGroup>> actuatorGroups() const { return _actuatorGroups; }
+    std::vector<boost::shared_ptr<Sensor>> sensors() const { return _sensors; }
+
+    // Look-ups: the first element of that name, empty when there is none.
+    boost::shared_ptr<Frame> frame(std::string const& name) const;
+    boost::shared_ptr<Joint> joint(std::string const& name) const;
+    boost::shared_ptr<Link> link(std::string const& name) const;
+    boost::shared_ptr<JointSymmetry> jointSymmetry(std::string const& jointName) const;
+    boost::shared_ptr<JointGroup> jointGroup(std::string const& name) const;
+    boost::shared_ptr<Actuator> actuator(std::string const& name) const;
+    boost::shared_ptr<ActuatorGroup> actuatorGroup(std::string const& name) const;
+    boost::shared_ptr<Sensor> sensor(std::string const& name) const;
+    boost::shared_ptr<Link> rootLink() const;
+
+    // The same among the elements of dynamic type T.
+    template <class T>
+    boost::shared_ptr<T> actuator(std::string const& name) const
+    {
+        return firstOfKind<T>(_actuators, name);
+    }
+    template <class T>
+    std::vector<boost::shared_ptr<T>> actuators() const
+    {
+        return allOfKind<T>(_actuators);
+    }
+    template <class T>
+    boost::shared_ptr<T> sensor(std::string const& name) const
+    {
+        return firstOfKind<T>(_sensors, name);
+    }
+    template <class T>
+    std::vector<boost::shared_ptr<T>> sensors() const
+    {
+        return allOfKind<T>(_sensors);
+    }
+
+    std::vector<boost::shared_ptr<LEDActuator>> ledActuators(std::string const& group) const;
+    std::vector<boost::shared_ptr<JointGroup>> jointGroupsOfJoint(std::string const& jointName) const;
+    std::vector<boost::shared_ptr<ActuatorGroup>> actuatorGroupsOfJoint(std::string const& jointName) const;
+
+    // Factories: make one element and register it, unchecked.
+    FramePtr addFrame(std::string const& name, Varo::Math::Transform const& position, FramePtr parent);
+    boost::shared_ptr<MassData const> createMass(float mass, Varo::Math::Position3D const& CoM,
+                                                 std::vector<float> const& inertiaMatrix);
+    boost::shared_ptr<VisualData const> createVisual(std::string const& meshPath,
+                                                     Varo::Math::Transform const& meshTransform);
+    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+                                                      float startValue, float minValue, float maxValue, float maxSpeed,
+                                                      boost::shared_ptr<Joint const> joint, bool reflectionForced);
+    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+                                                        float startValue, float minValue, float maxValue,
+                                                        boost::shared_ptr<Joint const> joint);
+    boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr frame, std::string const& name,
+                                                                Keys const& dcmKeys, float startValue, float minValue,
+                                                                float maxValue, boost::shared_ptr<Joint const> joint);
+    boost::shared_ptr<WheelTorqueActuator> addWheelTorqueActuator(FramePtr frame, std::string const& name,
+                                                                  Keys const& dcmKeys, float maxTorque,
+                                                                  boost::shared_ptr<Joint const> joint);
+    boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr frame, std::string const& name,
+                                                                      Keys const& dcmKeys, float maxVelocity,
+                                                                      boost::shared_ptr<Joint const> joint);
+    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+                                                          float startValue, float minValue, float maxValue,
+                                                          float maxSpeed,
+                                                          CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
+                                                          bool reflectionForced);
+    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+                                                  std::string const& shortname, std::vector<std::string> const& groups,
+                                                  LEDActuator::Color color);
+    boost::shared_ptr<CameraSensor> addCameraSensor(FramePtr frame, std::string const& name, int width, int height);
+    boost::shared_ptr<CameraDepthSensor> addCameraDepthSensor(FramePtr frame, std::string const& name, int width,
+                                                              int height);
+    boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr frame, std::string const& name);
+    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+                                                  SonarSensorImpl::SonarType sonarType);
+    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr frame, std::string const& name,
+                                                            Keys const& dcmKeys, int width, int height,
+                                                            Keys const& dcmStateKeys, Keys const& dcmCommandKeys);
+
+private:
+    struct Branch;
+
+    // The steps of construction, in their order.
+    void loadModel(std::string const& pathOrXml);
+    void fetchSkeleton();
+    void pairJoints();
+    void defineJointGroups();
+    void fetchWheels();
+    void fetchAngleActuators();
+    void fetchCoupledActuators();
+    void fetchWheelActuators();
+    void pairActuators();
+    void defineActuatorGroups();
+    void fetchAngleSensors();
+    void fetchCoupledSensors();
+    void fetchSensors();
+
+    // Skeleton
+    boost::shared_ptr<Joint> addJoint(FramePtr frame, std::string const& name, boost::shared_ptr<Link> parentLink);
+    boost::shared_ptr<Link> addLink(FramePtr frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
+                                    boost::shared_ptr<MassData const> mass, std::string const& frictionMaterial,
+                                    boost::shared_ptr<VisualData const> visual);
+    boost::shared_ptr<Link> addWheel(FramePtr frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
+                                     boost::shared_ptr<MassData const> mass, std::string const& frictionMaterial,
+                                     boost::shared_ptr<VisualData const> visual);
+    boost::shared_ptr<Link> addLinkOfType(Link::LinkType type, FramePtr frame, std::string const& name,
+                                          boost::shared_ptr<Joint> parentJoint, boost::shared_ptr<MassData const> mass,
+                                          std::string const& frictionMaterial,
+                                          boost::shared_ptr<VisualData const> visual);
+    boost::shared_ptr<Joint> attachJoint(std::string const& name, Varo::Math::Transform const& inParentLink,
+                                         boost::shared_ptr<Link> parentLink);
+    void fillInBranch(boost::shared_ptr<Joint> joint);
+    Branch openBranch(boost::shared_ptr<Joint> joint);
+    void fetchWheel(std::string const& name);
+    boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
+    boost::shared_ptr<MassData const> massOf(std::string const& name);
+    boost::shared_ptr<MassData const> requiredMassOf(std::string const& name);
+    boost::shared_ptr<VisualData const> visualOf(std::string const& name);
+    boost::shared_ptr<VisualData const> requiredVisualOf(std::string const& name);
+
+    // Actuators
+    bool fetchBasicActuatorInfo(std::string const& name, float& startValue, float& minValue, float& maxValue,
+                                float& maxSpeed);
+    void fetchAngleActuator(std::string const& name, bool withTorqueAndSpeed);
+    void fetchCoupledActuator(std::string const& name);
+    void fetchWheelActuator(std::string const& name);
+    CoupledActuatorImpl::JointsAndRatios jointsAndRatiosOf(std::string const& actuator) const;
+    template <class T, class Impl>
+    void pairActuatorsOfKind();
+
+    // Groups
+    void addJointGroup(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints);
+    boost::shared_ptr<ActuatorGroup> addActuatorGroup(std::string const& name, boost::shared_ptr<ActuatorGroup> parent,
+                                                      std::vector<boost::shared_ptr<Actuator>> const& actuators);
+
+    // Sensors
+    bool fetchSensor(std::string const& name);
+    void addDevice(std::string const& name, FramePtr frame, Keys const& keys);
+    void fetchLED(std::string const& name, FramePtr frame, Keys const& keys);
+    std::pair<int, int> requiredResolutionOf(std::string const& camera) const;
+    void fetchArrayDepthSensor(std::string const& name, FramePtr frame, Keys const& keys);
+    void fetchSonarSensor(std::string const& name, FramePtr frame, Keys const& keys);
+
+    template <class Handle, class Impl, class... Arguments>
+    static boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)
+    {
+        auto const handle = boost::make_shared<Handle>();
+        handle->_impl = new Impl(std::forward<Arguments>(arguments)...);
+        return handle;
+    }
+
+    template <class Handle, class Impl, class... Arguments>
+    boost::shared_ptr<Handle> addSensor(Arguments&&... arguments)
+    {
+        auto const sensor = makeElement<Handle, Impl>(std::forward<Arguments>(arguments)...);
+        _sensors.push_back(sensor);
+        return sensor;
+    }
+
+    template <class Handle, class Impl, class... Arguments>
+    boost::shared_ptr<Handle> addActuator(Arguments&&... arguments)
+    {
+        auto impl = std::make_unique<Impl>(std::forward<Arguments>(arguments)...);
+        auto const actuator = boost::make_shared<Handle>(impl.get());
+        impl.release();
+        _actuators.push_back(actuator);
+        return actuator;
+    }
+
+    template <class T, class Base>
+    static boost::shared_ptr<T> firstOfKind(std::vector<boost::shared_ptr<Base>> const& elements,
+                                            std::string const& name)
+    {
+        for (auto const& element : elements) {
+            if (auto const typed = boost::dynamic_pointer_cast<T>(element); typed && typed->name() == name) {
+                return typed;
+            }
+        }
+        return {};
+    }
+
+    template <class T, class Base>
+    static std::vector<boost::shared_ptr<T>> allOfKind(std::vector<boost::shared_ptr<Base>> const& elements)
+    {
+        std::vector<boost::shared_ptr<T>> result;
+        for (auto const& element : elements) {
+            if (auto const typed = boost::dynamic_pointer_cast<T>(element)) {
+                result.push_back(typed);
+            }
+        }
+        return result;
+    }
+
+    std::string _configFile;
+    boost::shared_ptr<MotionModel> _motionModel;
+    // The only owners of the elements, which refer to each other weakly.
+    std::vector<boost::shared_ptr<Joint>> _joints;
+    std::vector<boost::shared_ptr<Link>> _links;
+    std::vector<boost::shared_ptr<Frame>> _frames;
+    std::vector<boost::shared_ptr<JointSymmetry>> _jointSymmetries;
+    std::vector<boost::shared_ptr<JointGroup>> _jointGroups;
+    std::vector<boost::shared_ptr<Actuator>> _actuators;
+    std::vector<boost::shared_ptr<ActuatorGroup>> _actuatorGroups;
+    std::vector<boost::shared_ptr<Sensor>> _sensors;
+    // The handles of these kinds leave their data to the model.
+    std::vector<std::unique_ptr<JointSymmetryImpl>> _jointSymmetryImpls;
+    std::vector<std::unique_ptr<JointGroupImpl>> _jointGroupImpls;
+    std::vector<std::unique_ptr<ActuatorGroupImpl>> _actuatorGroupImpls;
+    std::unique_ptr<BuildIndex> _index;  // null once the model is built
+};
+
+}  // namespace Sim
+
+#endif

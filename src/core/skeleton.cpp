@@ -1,0 +1,179 @@
+#include <iostream>
+
+#include "core/frame_impl.hpp"
+#include "core/joint_impl.hpp"
+#include "core/link_impl.hpp"
+#include "core/mass_data_impl.hpp"
+#include "core/model_impl.hpp"
+#include "core/require.hpp"
+#include "core/visual_data_impl.hpp"
+
+namespace Sim {
+
+using Varo::Math::Position3D;
+using Varo::Math::Transform;
+
+/// A link whose children are still being made.
+struct ModelImpl::Branch {
+    boost::shared_ptr<Link> link;
+    std::string jointName;
+    Transform end;
+    std::vector<std::string> children;
+    std::size_t nextChild = 0;
+};
+
+void ModelImpl::fetchSkeleton()
+{
+    std::string const& root = _motionModel->rootName();
+    FramePtr const rootFrame = addFrame(root + "Link", Transform(), {});
+    auto const mass = requiredMassOf(root);
+    auto const visual = requiredVisualOf(root);
+    std::string material;
+    _motionModel->frictionMaterial(root, material);
+    auto const rootLink = addLink(rootFrame, root + "Link", {}, mass, material, visual);
+
+    for (std::string const& name : _motionModel->followingJoints(root)) {
+        Transform inRoot;
+        std::string parent;
+        _motionModel->transformFromJointName(name, inRoot, parent);
+        fillInBranch(attachJoint(name, inRoot, rootLink));
+    }
+}
+
+/// Depth first, with a stack of its own: a robot may be deeper than the call stack is.
+void ModelImpl::fillInBranch(boost::shared_ptr<Joint> joint)
+{
+    std::vector<Branch> open;
+    open.push_back(openBranch(joint));
+    while (!open.empty()) {
+        Branch& branch = open.back();
+        if (branch.nextChild == branch.children.size()) {
+            open.pop_back();
+            continue;
+        }
+        std::string const& name = branch.children[branch.nextChild++];
+        if (_index->joints.contains(name)) {
+            continue;
+        }
+        Transform inLink = branch.end;
+        std::string parent = branch.jointName;  // sub-joints are placed relative to the end of what they hang on
+        _motionModel->transformFromJointName(name, inLink, parent);
+        open.push_back(openBranch(attachJoint(name, inLink, branch.link)));
+    }
+}
+
+/// Makes the link that the joint moves. Without children when there is one already.
+ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> joint)
+{
+    Branch branch;
+    branch.jointName = joint->name();
+    std::string const linkName = branch.jointName + "Link";
+    if (_index->links.contains(linkName)) {
+        return branch;
+    }
+    branch.children = _motionModel->followingJoints(branch.jointName);
+
+    // A second frame of the joint's name, unconnected: look-ups find the joint's own, which precedes it.
+    addFrame(branch.jointName, Transform(), {});
+    _motionModel->endTransformFromJointName(branch.jointName, branch.end);
+    FramePtr const linkFrame = addFrame(linkName, branch.end, joint->_impl->frame());
+    auto const mass = massOf(branch.jointName);
+    auto const visual = visualOf(branch.jointName);
+    std::string material;
+    _motionModel->frictionMaterial(branch.jointName, material);
+    branch.link = addLink(linkFrame, linkName, joint, mass, material, visual);
+    joint->_impl->setChildLink(branch.link);
+    return branch;
+}
+
+boost::shared_ptr<Joint> ModelImpl::attachJoint(std::string const& name, Transform const& inParentLink,
+                                                boost::shared_ptr<Link> parentLink)
+{
+    FramePtr const frame = addFrame(name, inParentLink, parentLink->_impl->frame());
+    auto const joint = addJoint(frame, name, parentLink);
+    parentLink->_impl->addChildJoint(joint);
+    return joint;
+}
+
+boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr frame, std::string const& name,
+                                             boost::shared_ptr<Link> parentLink)
+{
+    auto const joint = makeElement<Joint, JointImpl>(frame, name, parentLink);
+    _joints.push_back(joint);
+    _index->joints.add(joint);
+    return joint;
+}
+
+boost::shared_ptr<Link> ModelImpl::addLink(FramePtr frame, std::string const& name,
+                                           boost::shared_ptr<Joint> parentJoint, boost::shared_ptr<MassData const> mass,
+                                           std::string const& frictionMaterial,
+                                           boost::shared_ptr<VisualData const> visual)
+{
+    return addLinkOfType(Link::Regular, frame, name, parentJoint, mass, frictionMaterial, visual);
+}
+
+boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr frame, std::string const& name,
+                                            boost::shared_ptr<Joint> parentJoint,
+                                            boost::shared_ptr<MassData const> mass, std::string const& frictionMaterial,
+                                            boost::shared_ptr<VisualData const> visual)
+{
+    return addLinkOfType(Link::Wheel, frame, name, parentJoint, mass, frictionMaterial, visual);
+}
+
+boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr frame, std::string const& name,
+                                                 boost::shared_ptr<Joint> parentJoint,
+                                                 boost::shared_ptr<MassData const> mass,
+                                                 std::string const& frictionMaterial,
+                                                 boost::shared_ptr<VisualData const> visual)
+{
+    auto const link = makeElement<Link, LinkImpl>(frame, name, parentJoint, mass, frictionMaterial, type, visual);
+    _links.push_back(link);
+    _index->links.add(link);
+    return link;
+}
+
+boost::shared_ptr<MassData const> ModelImpl::massOf(std::string const& name)
+{
+    float mass = 0.0F;
+    Position3D com;
+    std::vector<float> inertia(9, 0.0F);
+    _motionModel->mass(name, mass);
+    _motionModel->CoM(name, com);
+    _motionModel->inertiaMatrix(name, inertia);
+    return createMass(mass, com, inertia);
+}
+
+boost::shared_ptr<MassData const> ModelImpl::requiredMassOf(std::string const& name)
+{
+    float mass = 0.0F;
+    Position3D com;
+    std::vector<float> inertia;
+    require(_motionModel->mass(name, mass), "Could not fetch mass for ", name);
+    require(_motionModel->CoM(name, com), "Could not fetch CoM for ", name);
+    require(_motionModel->inertiaMatrix(name, inertia), "Could not fetch inertia matrix for ", name);
+    return createMass(mass, com, inertia);
+}
+
+boost::shared_ptr<VisualData const> ModelImpl::visualOf(std::string const& name)
+{
+    std::string path;
+    Transform transform;
+    if (!_motionModel->meshNameFromJointName(name, path)) {
+        std::cerr << "Could not fetch meshPath for " << name << std::endl;
+    }
+    if (!_motionModel->meshTransformFromJointName(name, transform)) {
+        std::cerr << "Could not fetch meshTransform for " << name << std::endl;
+    }
+    return createVisual(path, transform);
+}
+
+boost::shared_ptr<VisualData const> ModelImpl::requiredVisualOf(std::string const& name)
+{
+    std::string path;
+    Transform transform;
+    require(_motionModel->meshNameFromJointName(name, path), "Could not fetch meshPath for ", name);
+    require(_motionModel->meshTransformFromJointName(name, transform), "Could not fetch meshTransform for ", name);
+    return createVisual(path, transform);
+}
+
+}  // namespace Sim

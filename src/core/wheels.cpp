@@ -1,0 +1,52 @@
+#include "core/joint_impl.hpp"
+#include "core/link_impl.hpp"
+#include "core/model_impl.hpp"
+#include "core/require.hpp"
+
+namespace Sim {
+
+using Varo::Math::Transform;
+
+void ModelImpl::fetchWheels()
+{
+    for (std::string const& name : _motionModel->wheelNames()) {
+        fetchWheel(name);
+    }
+}
+
+void ModelImpl::fetchWheel(std::string const& name)
+{
+    auto const parentLink = parentLinkOfWheel(name);
+    Transform inParentLink;
+    require(_motionModel->transformFromWheel(name, inParentLink), "Could not fetch wheel transform for wheel ", name);
+    auto const joint = attachJoint(name, inParentLink, parentLink);
+
+    auto const mass = requiredMassOf(name);
+    std::string material;
+    require(_motionModel->frictionMaterial(name, material), "Could not fetch wheel friction material for wheel ", name);
+    auto const visual = visualOf(name);
+    Transform end;
+    _motionModel->endTransformFromJointName(name, end);
+    FramePtr const linkFrame = addFrame(name + "Link", end, joint->_impl->frame());
+    joint->_impl->setChildLink(addWheel(linkFrame, name + "Link", joint, mass, material, visual));
+}
+
+boost::shared_ptr<Link> ModelImpl::parentLinkOfWheel(std::string const& wheel) const
+{
+    static constexpr char inconsistent[] = "Model consistency error for wheel ";
+    std::string parentName;
+    require(_motionModel->parentJointFromWheel(wheel, parentName), "Could not fetch wheel parent joint for wheel ",
+            wheel);
+    auto const parentJoint = _index->joints.find(parentName);
+    require(parentJoint != nullptr, inconsistent, wheel);
+    if (auto const parentLink = _index->links.find(parentName + "Link")) {
+        return parentLink;
+    }
+    Link const* const childLink = parentJoint->childLink();
+    require(childLink != nullptr, inconsistent, wheel);
+    auto const parentLink = _index->links.find(childLink->name());
+    require(parentLink != nullptr, inconsistent, wheel);
+    return parentLink;
+}
+
+}  // namespace Sim

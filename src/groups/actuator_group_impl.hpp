@@ -1,0 +1,34 @@
+#ifndef VARO_GROUPS_ACTUATOR_GROUP_IMPL_HPP
+#define VARO_GROUPS_ACTUATOR_GROUP_IMPL_HPP
+
+#include <string>
+#include <vector>
+
+#include "groups/weak_members.hpp"
+#include "sim/actuator.hpp"
+#include "sim/actuator_group.hpp"
+
+namespace Sim {
+
+inline constexpr char actuatorGroupErrorMsg[] = "Could not query ActuatorGroup as it seems not correctly initialized.";
+
+class ActuatorGroupImpl {
+public:
+    ActuatorGroupImpl(std::string const& name, boost::shared_ptr<ActuatorGroup> parent,
+                      std::vector<boost::shared_ptr<Actuator>> const& actuators)
+        : _name(name), _parent(parent), _actuators(actuators)
+    {}
+
+    std::string const& name() const { return _name; }
+    boost::shared_ptr<ActuatorGroup> parent() const { return _parent.lock(); }
+    std::vector<boost::shared_ptr<Actuator>> actuators() const { return _actuators.locked(); }
+
+private:
+    std::string _name;
+    boost::weak_ptr<ActuatorGroup> _parent;
+    WeakMembers<Actuator> _actuators;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,68 @@
+#include <algorithm>
+#include <list>
+#include <string>
+
+#include "core/model_impl.hpp"
+
+namespace Sim {
+
+namespace {
+
+template <class T, class Names>
+std::vector<boost::shared_ptr<T>> named(Names const& names, FirstByName<T> const& elements)
+{
+    std::vector<boost::shared_ptr<T>> result;
+    result.reserve(names.size());
+    for (std::string const& name : names) {
+        result.push_back(elements.find(name));
+    }
+    return result;
+}
+
+}  // namespace
+
+void ModelImpl::addJointGroup(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints)
+{
+    _jointGroupImpls.push_back(std::make_unique<JointGroupImpl>(name, joints));
+    _jointGroups.push_back(boost::make_shared<JointGroup>());
+    _jointGroups.back()->_impl = _jointGroupImpls.back().get();
+}
+
+boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& name,
+                                                             boost::shared_ptr<ActuatorGroup> parent,
+                                                             std::vector<boost::shared_ptr<Actuator>> const& actuators)
+{
+    _actuatorGroupImpls.push_back(std::make_unique<ActuatorGroupImpl>(name, parent, actuators));
+    _actuatorGroups.push_back(boost::make_shared<ActuatorGroup>());
+    _actuatorGroups.back()->_impl = _actuatorGroupImpls.back().get();
+    return _actuatorGroups.back();
+}
+
+void ModelImpl::defineJointGroups()
+{
+    for (std::string const& chain : _motionModel->chainNames()) {
+        std::list<std::string> const jointNames = _motionModel->jointNames(chain);
+        for (std::string const& joint : jointNames) {
+            std::string groupName;
+            std::vector<std::string> memberNames;
+            if (_motionModel->coupledJointGroupFromParentJoint(joint, groupName, memberNames)) {
+                addJointGroup(groupName, named(memberNames, _index->joints));
+            }
+        }
+        addJointGroup(chain, named(jointNames, _index->joints));
+    }
+}
+
+void ModelImpl::defineActuatorGroups()
+{
+    FirstByName<Actuator> const byName(_actuators);
+    FirstByName<ActuatorGroup> groups;  // those made so far: a chain listed before its parent stays without one
+    for (std::string const& chain : _motionModel->chainNames()) {
+        std::string const parentJoint = _motionModel->parentJointFromChain(chain);
+        std::string const parentChain = _motionModel->chainNameFromJoint(parentJoint);
+        groups.add(
+            addActuatorGroup(chain, groups.find(parentChain), named(_motionModel->actuatorNames(chain), byName)));
+    }
+}
+
+}  // namespace Sim

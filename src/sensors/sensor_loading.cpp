@@ -1,0 +1,169 @@
+#include "core/frame_impl.hpp"
+#include "core/link_impl.hpp"
+#include "core/model_impl.hpp"
+#include "core/require.hpp"
+#include "sensors/array_depth_sensor_impl.hpp"
+#include "sensors/bumper_sensor_impl.hpp"
+#include "sensors/camera_depth_sensor_impl.hpp"
+#include "sensors/camera_sensor_impl.hpp"
+#include "sensors/fsr_sensor_impl.hpp"
+#include "sensors/inertial_sensor_impl.hpp"
+#include "sensors/microphone_sensor_impl.hpp"
+#include "sensors/tactile_sensor_impl.hpp"
+#include "sim/bumper_sensor.hpp"
+#include "sim/fsr_sensor.hpp"
+#include "sim/inertial_sensor.hpp"
+#include "sim/tactile_sensor.hpp"
+#include "zu/log.hpp"
+
+namespace Sim {
+
+namespace {
+
+constexpr char logCategory[] = "varorobotmodel";
+
+void logFromFetchSensors(int level, std::string const& message)
+{
+    zu::log::log(logCategory, level, "fetchSensors", message);
+}
+
+}  // namespace
+
+void ModelImpl::fetchSensors()
+{
+    zu::log::addCategory(logCategory);
+    for (std::string const& name : _motionModel->sensorNames()) {
+        if (!fetchSensor(name)) {
+            return;  // the sensors behind one without its parent link are left out too
+        }
+    }
+}
+
+bool ModelImpl::fetchSensor(std::string const& name)
+{
+    Varo::Math::Transform inParent;
+    std::string parent;
+    require(_motionModel->transformFromSensorName(name, inParent, parent), "Could not get ", name + " position\n");
+    Keys keys;
+    require(_motionModel->dcmKeysFromSensorName(name, keys), "Could not get ", name + " DCM keys\n");
+
+    boost::shared_ptr<Link> parentLink;
+    if (_index->joints.contains(parent)) {
+        parentLink = _index->links.find(parent + "Link");
+        if (parentLink == nullptr) {
+            logFromFetchSensors(zu::log::error,
+                                "Could not add sensor " + name + ". Parent link " + parent + "Link" + "not found.");
+            return false;
+        }
+    } else {
+        parentLink = _index->links.find(_motionModel->rootName() + "Link");
+    }
+    addDevice(name, addFrame(name, inParent, parentLink->_impl->frame()), keys);
+    return true;
+}
+
+void ModelImpl::addDevice(std::string const& name, FramePtr frame, Keys const& keys)
+{
+    switch (_motionModel->sensorType(name)) {
+    case Varo::Model::led: fetchLED(name, frame, keys); break;
+    case Varo::Model::tactile: addSensor<TactileSensor, TactileSensorImpl>(frame, name, keys); break;
+    case Varo::Model::camera: {
+        auto const [width, height] = requiredResolutionOf(name);
+        addCameraSensor(frame, name, width, height);
+        break;
+    }
+    case Varo::Model::depthCamera: {
+        auto const [width, height] = requiredResolutionOf(name);
+        addCameraDepthSensor(frame, name, width, height);
+        break;
+    }
+    case Varo::Model::bumper: addSensor<BumperSensor, BumperSensorImpl>(frame, name, keys); break;
+    case Varo::Model::microphone: addMicrophoneSensor(frame, name); break;
+    case Varo::Model::arrayDepth: fetchArrayDepthSensor(name, frame, keys); break;
+    case Varo::Model::sonar: fetchSonarSensor(name, frame, keys); break;
+    case Varo::Model::fsr: addSensor<FSRSensor, FSRSensorImpl>(frame, name, keys); break;
+    case Varo::Model::inertial: addSensor<InertialSensor, InertialSensorImpl>(frame, name + "/Gyrometer", keys); break;
+    case Varo::Model::unknownSensor:
+    case Varo::Model::battery:
+    case Varo::Model::temperature:
+    case Varo::Model::button:
+        logFromFetchSensors(zu::log::verbose, "Could not find good type for sensor: " + name);
+        break;
+    default: break;
+    }
+}
+
+void ModelImpl::fetchLED(std::string const& name, FramePtr frame, Keys const& keys)
+{
+    std::string shortname;
+    std::vector<std::string> groups;
+    int color = LEDActuator::Blue;
+    _motionModel->shortnameFromLED(name, shortname);
+    _motionModel->groupsFromLED(name, groups);
+    _motionModel->colorFromLED(name, &color);
+    bool const known = color == LEDActuator::Red || color == LEDActuator::Green;
+    addLEDActuator(frame, name, keys, shortname, groups,
+                   known ? static_cast<LEDActuator::Color>(color) : LEDActuator::Blue);
+}
+
+std::pair<int, int> ModelImpl::requiredResolutionOf(std::string const& camera) const
+{
+    std::vector<std::pair<int, int>> resolutions;
+    bool const known = _motionModel->resolutionsFromCamera(camera, resolutions) && !resolutions.empty();
+    require(known, "Could not get ", camera + " resolutions\n");
+    return resolutions.front();
+}
+
+void ModelImpl::fetchArrayDepthSensor(std::string const& name, FramePtr frame, Keys const& keys)
+{
+    std::vector<std::pair<int, int>> resolutions;
+    bool const known = _motionModel->resolutionsFromCamera(name, resolutions) && !resolutions.empty();
+    auto const [width, height] = known ? resolutions.front() : std::pair(static_cast<int>(keys.size()), 1);
+    Keys stateKeys;
+    Keys commandKeys;
+    _motionModel->dcmStateKeys(name, stateKeys);
+    _motionModel->dcmCommandKeys(name, commandKeys);
+    addArrayDepthSensor(frame, name, keys, width, height, stateKeys, commandKeys);
+}
+
+void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr frame, Keys const& keys)
+{
+    if (keys.size() == 1) {
+        addSonarSensor(frame, name, keys, SonarSensorImpl::SingleValue);
+    } else if (keys.size() == 10) {
+        addSonarSensor(frame, name, keys, SonarSensorImpl::TenValues);
+    }
+}
+
+boost::shared_ptr<CameraSensor> ModelImpl::addCameraSensor(FramePtr frame, std::string const& name, int width,
+                                                           int height)
+{
+    return addSensor<CameraSensor, CameraSensorImpl>(frame, name, width, height);
+}
+
+boost::shared_ptr<CameraDepthSensor> ModelImpl::addCameraDepthSensor(FramePtr frame, std::string const& name, int width,
+                                                                     int height)
+{
+    return addSensor<CameraDepthSensor, CameraDepthSensorImpl>(frame, name, width, height);
+}
+
+boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr frame, std::string const& name)
+{
+    return addSensor<MicrophoneSensor, MicrophoneSensorImpl>(frame, name);
+}
+
+boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+                                                         SonarSensorImpl::SonarType sonarType)
+{
+    return addSensor<SonarSensor, SonarSensorImpl>(frame, name, dcmKeys, sonarType);
+}
+
+boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr frame, std::string const& name,
+                                                                   Keys const& dcmKeys, int width, int height,
+                                                                   Keys const& dcmStateKeys, Keys const& dcmCommandKeys)
+{
+    return addSensor<ArrayDepthSensor, ArrayDepthSensorImpl>(frame, name, dcmKeys, width, height, dcmStateKeys,
+                                                             dcmCommandKeys);
+}
+
+}  // namespace Sim
