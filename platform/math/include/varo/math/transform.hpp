@@ -2,6 +2,7 @@
 #define VARO_MATH_TRANSFORM_HPP
 
 #include <array>
+#include <cstddef>
 
 #include "varo/export.hpp"
 #include "varo/math/position3d.hpp"
@@ -31,18 +32,23 @@ public:
     static Transform fromPosition(float x, float y, float z);
 
     /// The entry in row 0 to 2 and column 0 to 3 (column 3 is the translation). No bounds check.
-    float operator()(int row, int column) const { return _rows[static_cast<std::size_t>(row * 4 + column)]; }
+    constexpr float operator()(int row, int column) const { return _rows[static_cast<std::size_t>(row * 4 + column)]; }
     /// The twelve entries of the upper three rows, row by row.
-    std::array<float, 12> const& rows() const { return _rows; }
+    constexpr std::array<float, 12> const& rows() const { return _rows; }
     /// All sixteen entries of the homogeneous matrix, row by row; the last row is 0 0 0 1.
     std::array<float, 16> toMatrix() const;
     Position3D position() const { return {_rows[3], _rows[7], _rows[11]}; }
 
     /// The inverse of a rigid transform: transposed rotation, translation turned back. Exact up to rounding when the
     /// linear part is a rotation, and meaningless otherwise (see pinv).
-    Transform inverse() const;
+    constexpr Transform inverse() const
+    {
+        auto const& m = _rows;
+        return Transform({m[0], m[4], m[8], -(m[0] * m[3] + m[4] * m[7] + m[8] * m[11]), m[1], m[5], m[9],
+                          -(m[1] * m[3] + m[5] * m[7] + m[9] * m[11]), m[2], m[6], m[10],
+                          -(m[2] * m[3] + m[6] * m[7] + m[10] * m[11])});
+    }
     Transform& operator*=(Transform const& right);
-    friend VAROROBOTMODEL_API Transform operator*(Transform const& left, Transform const& right);
 
     /// True when no entry differs by more than `tolerance`.
     bool isNear(Transform const& other, float tolerance = 1e-4F) const;
@@ -52,6 +58,21 @@ private:
 
     std::array<float, 12> _rows = {1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F};
 };
+
+constexpr Transform operator*(Transform const& left, Transform const& right)
+{
+    auto const& a = left.rows();
+    auto const& b = right.rows();
+    std::array<float, 12> product = {};
+    for (std::size_t row = 0; row < 12; row += 4) {
+        for (std::size_t column = 0; column < 4; ++column) {
+            float const translation = column == 3 ? a[row + 3] : 0.0F;
+            product[row + column] =
+                a[row] * b[column] + a[row + 1] * b[column + 4] + a[row + 2] * b[column + 8] + translation;
+        }
+    }
+    return Transform::fromRows(product);
+}
 
 /// The coordinates of `point` after the transform.
 VAROROBOTMODEL_API Position3D operator*(Transform const& transform, Position3D const& point);
