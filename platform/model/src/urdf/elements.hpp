@@ -1,0 +1,51 @@
+#ifndef VARO_MODEL_URDF_ELEMENTS_HPP
+#define VARO_MODEL_URDF_ELEMENTS_HPP
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include <pugixml.hpp>
+
+#include "diagnostics.hpp"
+#include "urdf/uncarried.hpp"
+#include "urdf/urdf_codes.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// What all readers of elements report to.
+struct Report {
+    Diagnostics& diagnostics;
+    Uncarried& uncarried;
+};
+
+/// The children of an element that have the given names, which may stand once each; null where there is none. All
+/// others are passed over.
+template <std::size_t count>
+std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std::string_view, count> const& names,
+                                             Report const& report)
+{
+    std::array<pugi::xml_node, count> children;
+    for (pugi::xml_node child : node.children()) {
+        if (child.type() != pugi::node_element) {
+            continue;
+        }
+        std::size_t place = 0;
+        while (place < count && names[place] != child.name()) {
+            ++place;
+        }
+        if (place == count) {
+            report.uncarried.add(child);
+        } else if (!children[place]) {
+            children[place] = child;
+        } else {
+            report.diagnostics.report(child, codes::repeatedElement,
+                                      "This is a further " + quoted(child.name()) + "; the first one counts.");
+        }
+    }
+    return children;
+}
+
+}  // namespace Varo::Model::Urdf
+
+#endif

@@ -1,0 +1,94 @@
+#include "urdf/pose.hpp"
+
+#include <cmath>
+#include <cstddef>
+
+namespace Varo::Model::Urdf {
+
+Matrix rotationFromRpy(Vector const& rpy)
+{
+    double const sr = std::sin(rpy[0]);
+    double const cr = std::cos(rpy[0]);
+    double const sp = std::sin(rpy[1]);
+    double const cp = std::cos(rpy[1]);
+    double const sy = std::sin(rpy[2]);
+    double const cy = std::cos(rpy[2]);
+    return {{{cy * cp, cy * sp * sr - sy * cr, cy * sp * cr + sy * sr},
+             {sy * cp, sy * sp * sr + cy * cr, sy * sp * cr - cy * sr},
+             {0.0 - sp, cp * sr, cp * cr}}};
+}
+
+Matrix rotationFromZ(Vector const& axis)
+{
+    double const length = std::hypot(axis[0], axis[1], axis[2]);
+    double const x = axis[0] / length;
+    double const y = axis[1] / length;
+    double const cosine = axis[2] / length;
+    double const sine = std::hypot(x, y);
+    if (sine == 0.0) {
+        double const sign = cosine < 0.0 ? -1.0 : 1.0;
+        return {{{1.0, 0.0, 0.0}, {0.0, sign, 0.0}, {0.0, 0.0, sign}}};
+    }
+    // Rodrigues' formula about the direction of z x axis, which is (-v, u, 0).
+    double const u = x / sine;
+    double const v = y / sine;
+    double const bend = 1.0 - cosine;
+    double const skew = 0.0 - bend * u * v;
+    return {{{1.0 - bend * u * u, skew, x}, {skew, 1.0 - bend * v * v, y}, {0.0 - x, 0.0 - y, cosine}}};
+}
+
+Matrix transposed(Matrix const& m)
+{
+    return {{{m[0][0], m[1][0], m[2][0]}, {m[0][1], m[1][1], m[2][1]}, {m[0][2], m[1][2], m[2][2]}}};
+}
+
+Matrix operator*(Matrix const& left, Matrix const& right)
+{
+    Matrix const columns = transposed(right);
+    return transposed({left * columns[0], left * columns[1], left * columns[2]});
+}
+
+Vector operator*(Matrix const& left, Vector const& right)
+{
+    Vector result;
+    for (std::size_t row = 0; row < 3; ++row) {
+        result[row] = left[row][0] * right[0] + left[row][1] * right[1] + left[row][2] * right[2];
+    }
+    return result;
+}
+
+Pose operator*(Pose const& left, Pose const& right)
+{
+    Vector translation = left.rotation * right.translation;
+    for (std::size_t i = 0; i < 3; ++i) {
+        translation[i] += left.translation[i];
+    }
+    return {left.rotation * right.rotation, translation};
+}
+
+Pose inverse(Pose const& pose)
+{
+    Matrix const back = transposed(pose.rotation);
+    Vector const translation = back * pose.translation;
+    // Subtracting keeps zeros positive, so that no -0 gets into the records.
+    return {back, {0.0 - translation[0], 0.0 - translation[1], 0.0 - translation[2]}};
+}
+
+Math::Transform toTransform(Pose const& pose)
+{
+    std::array<float, 12> rows;
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            rows[row * 4 + column] = static_cast<float>(pose.rotation[row][column]);
+        }
+        rows[row * 4 + 3] = static_cast<float>(pose.translation[row]);
+    }
+    return Math::Transform::fromRows(rows);
+}
+
+Math::Position3D toPosition(Vector const& vector)
+{
+    return {static_cast<float>(vector[0]), static_cast<float>(vector[1]), static_cast<float>(vector[2])};
+}
+
+}  // namespace Varo::Model::Urdf

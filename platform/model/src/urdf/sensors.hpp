@@ -1,0 +1,44 @@
+#ifndef VARO_MODEL_URDF_SENSORS_HPP
+#define VARO_MODEL_URDF_SENSORS_HPP
+
+#include <cstddef>
+#include <string_view>
+
+#include <pugixml.hpp>
+
+#include "robot_record.hpp"
+#include "urdf/description.hpp"
+#include "urdf/elements.hpp"
+#include "urdf/names.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// Adds the sensors of a description to the robot, whose root must have its name by then.
+class SensorReader {
+public:
+    SensorReader(Description const& description, RobotData& robot, Report const& report)
+        : _description(description), _robot(robot), _report(report)
+    {}
+
+    /// A `sensor` element that stands directly in the robot.
+    void readSensor(pugi::xml_node node);
+    /// The sensors in a `gazebo` element, on the link or joint that it refers to.
+    void readExtension(pugi::xml_node gazebo);
+
+private:
+    /// `carrier` is the attribute of `owner` that names what carries the sensor.
+    void read(pugi::xml_node node, std::string_view kindName, pugi::xml_node owner, char const* carrier);
+    bool findParent(std::string_view carrier, std::string& parent) const;
+    Pose readPose(pugi::xml_node node, std::string_view carrier);
+    void addPoints(std::size_t count, pugi::xml_node node, SensorConfig& sensor);
+
+    Description const& _description;
+    RobotData& _robot;
+    Report const& _report;
+    UniqueNames _names;
+    std::size_t _pointsLeft = 100'000;  // a few large numbers must not make a robot of many gigabytes
+};
+
+}  // namespace Varo::Model::Urdf
+
+#endif

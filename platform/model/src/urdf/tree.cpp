@@ -1,0 +1,174 @@
+#include "urdf/tree.hpp"
+
+#include <string>
+
+#include "urdf/urdf_codes.hpp"
+
+namespace Varo::Model::Urdf {
+
+namespace {
+
+class Connector {
+public:
+    Connector(Description& description, Diagnostics& diagnostics) : _description(description), _diagnostics(diagnostics)
+    {}
+
+    /// Whether every name could be followed.
+    bool connectAll();
+    void findRoot(pugi::xml_node robot);
+
+private:
+    void index();
+    void add(std::unordered_map<std::string_view, std::size_t>& table, std::string_view name, std::size_t place,
+             pugi::xml_node node);
+    std::size_t linkOf(Joint const& joint, pugi::xml_node element, char const* role);
+    void attach(std::size_t joint);
+    void reportCycles();
+
+    Description& _description;
+    Diagnostics& _diagnostics;
+    bool _whole = true;
+};
+
+void Connector::add(std::unordered_map<std::string_view, std::size_t>& table, std::string_view name, std::size_t place,
+                    pugi::xml_node node)
+{
+    if (name.empty()) {  // reported where it was read
+        _whole = false;
+    } else if (!table.try_emplace(name, place).second) {
+        _diagnostics.report({node, "name"}, codes::duplicateUrdfName,
+                            "There is another " + std::string(node.name()) + " " + quoted(name) + " before this one.");
+        _whole = false;
+    }
+}
+
+void Connector::index()
+{
+    auto& [links, joints, linkByName, jointByName, root] = _description;
+    linkByName.reserve(links.size());
+    jointByName.reserve(joints.size());
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        add(linkByName, links[i].name, i, links[i].node);
+    }
+    for (std::size_t i = 0; i < joints.size(); ++i) {
+        add(jointByName, joints[i].config.name, i, joints[i].node);
+    }
+}
+
+std::size_t Connector::linkOf(Joint const& joint, pugi::xml_node element, char const* role)
+{
+    pugi::xml_attribute const name = element.attribute("link");
+    if (!name) {
+        _diagnostics.report(element ? element : joint.node, codes::unattachedJoint,
+                            "This joint does not say which link is its " + std::string(role) + ".",
+                            "Write <" + std::string(role) + " link=\"...\"/>.");
+        return none;
+    }
+    std::size_t const link = find(_description.linkByName, name.value());
+    if (link == none) {
+        _diagnostics.report({element, name}, codes::unknownLink, "There is no link " + quoted(name.value()) + ".");
+    }
+    return link;
+}
+
+void Connector::attach(std::size_t index)
+{
+    Joint& joint = _description.joints[index];
+    joint.parentLink = linkOf(joint, joint.parent, "parent");
+    joint.childLink = linkOf(joint, joint.child, "child");
+    if (joint.parentLink == none || joint.childLink == none) {
+        _whole = false;
+    }
+    if (joint.childLink == none) {
+        return;
+    }
+    Link& child = _description.links[joint.childLink];
+    if (child.parentJoint == none) {
+        child.parentJoint = index;
+        return;
+    }
+    _diagnostics.report({joint.child, "link"}, codes::twoParents,
+                        "The link " + quoted(child.name) + " is already the child of the joint " +
+                            quoted(_description.joints[child.parentJoint].config.name) + ".");
+    _whole = false;
+}
+
+bool Connector::connectAll()
+{
+    index();
+    for (std::size_t i = 0; i < _description.joints.size(); ++i) {
+        attach(i);
+    }
+    return _whole;
+}
+
+void Connector::findRoot(pugi::xml_node robot)
+{
+    if (_description.links.empty()) {
+        _diagnostics.report(robot, codes::noLink, "This robot has no link.");
+        return;
+    }
+    for (std::size_t i = 0; i < _description.links.size(); ++i) {
+        Link const& link = _description.links[i];
+        if (link.parentJoint != none) {
+            continue;
+        }
+        if (_description.root == none) {
+            _description.root = i;
+        } else {
+            _diagnostics.report(link.node, codes::severalRoots,
+                                "Neither this link nor the link " + quoted(_description.links[_description.root].name) +
+                                    " is the child of a joint.",
+                                "Let a joint attach it to the robot.");
+        }
+    }
+    reportCycles();
+}
+
+/// Every link has one parent at most, so that going up from it ends at a root, or goes round in a circle.
+void Connector::reportCycles()
+{
+    auto const& [links, joints, linkByName, jointByName, root] = _description;
+    std::vector<std::size_t> walkOf(links.size(), none);
+    for (std::size_t start = 0; start < links.size(); ++start) {
+        std::size_t link = start;
+        std::size_t joint = none;
+        while (link != none && walkOf[link] == none) {
+            walkOf[link] = start;
+            joint = links[link].parentJoint;
+            link = joint == none ? none : joints[joint].parentLink;
+        }
+        if (link != none && walkOf[link] == start && joint != none) {
+            _diagnostics.report(joints[joint].node, codes::jointCycle,
+                                "This joint closes a cycle: it hangs on the link " + quoted(links[link].name) +
+                                    ", which itself hangs on this joint.");
+        }
+    }
+}
+
+}  // namespace
+
+void connect(Description& description, pugi::xml_node robot, Diagnostics& diagnostics)
+{
+    Connector connector(description, diagnostics);
+    if (connector.connectAll()) {
+        connector.findRoot(robot);
+    }
+}
+
+ChildJoints::ChildJoints(Description const& description)
+    : _begins(description.links.size() + 1, 0), _joints(description.joints.size())
+{
+    for (Joint const& joint : description.joints) {
+        ++_begins[joint.parentLink + 1];
+    }
+    for (std::size_t link = 1; link < _begins.size(); ++link) {
+        _begins[link] += _begins[link - 1];
+    }
+    std::vector<std::size_t> next = _begins;
+    for (std::size_t i = 0; i < description.joints.size(); ++i) {
+        _joints[next[description.joints[i].parentLink]++] = i;
+    }
+}
+
+}  // namespace Varo::Model::Urdf

@@ -1,0 +1,68 @@
+#include <string>
+
+#include "urdf/bodies.hpp"
+#include "urdf/numbers.hpp"
+
+namespace Varo::Model::Urdf {
+
+namespace {
+
+struct Visual {
+    pugi::xml_node node;
+    pugi::xml_node origin;
+    pugi::xml_node mesh;  ///< null for a box, a sphere or another shape without a file
+};
+
+Visual readVisual(pugi::xml_node node, Report const& report)
+{
+    auto const [origin, geometry] = childrenOf<2>(node, {"origin", "geometry"}, report);
+    return {node, origin, childrenOf<1>(geometry, {"mesh"}, report)[0]};
+}
+
+void reportScale(pugi::xml_node mesh, Diagnostics& diagnostics)
+{
+    Vector const one = {1.0, 1.0, 1.0};
+    if (readVector(mesh, "scale", one, diagnostics) != one) {
+        diagnostics.report({mesh, "scale"}, codes::meshScaleLost,
+                           "The scale " + quoted(mesh.attribute("scale").value()) + " of the mesh is not kept.");
+    }
+}
+
+/// The record keeps the offset, but the links of a model have their mesh at their frame.
+void readOffset(Visual const& visual, JointConfig& body, Diagnostics& diagnostics)
+{
+    Vector const nothing = {0.0, 0.0, 0.0};
+    Vector const xyz = readVector(visual.origin, "xyz", nothing, diagnostics);
+    Vector const rpy = readVector(visual.origin, "rpy", nothing, diagnostics);
+    body.meshPosition = toPosition(xyz);
+    body.meshOrientation = toPosition(rpy);
+    if (xyz != nothing || rpy != nothing) {
+        diagnostics.report(visual.origin, codes::meshOffsetLost,
+                           "The model shows the mesh at the link frame; this offset is in the record only.");
+    }
+}
+
+}  // namespace
+
+void readVisuals(std::vector<pugi::xml_node> const& visuals, JointConfig& body, Report const& report)
+{
+    Visual shown;
+    for (pugi::xml_node node : visuals) {
+        Visual const visual = readVisual(node, report);
+        if (visual.mesh && !shown.mesh) {
+            shown = visual;
+        }
+    }
+    if (visuals.size() > 1) {
+        report.diagnostics.report(visuals[1], codes::visualsLost,
+                                  "The link has " + std::to_string(visuals.size()) + " visuals; " +
+                                      (shown.mesh ? "only its first mesh is kept." : "none of them is kept."));
+    }
+    if (shown.mesh) {
+        body.meshName = shown.mesh.attribute("filename").value();
+        reportScale(shown.mesh, report.diagnostics);
+        readOffset(shown, body, report.diagnostics);
+    }
+}
+
+}  // namespace Varo::Model::Urdf
