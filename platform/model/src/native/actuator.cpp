@@ -1,0 +1,95 @@
+#include <utility>
+
+#include "native/body.hpp"
+#include "native/element_reader.hpp"
+#include "native/elements.hpp"
+#include "native/pose.hpp"
+
+namespace Varo::Model::Native {
+
+namespace {
+
+using Group = std::vector<std::string>;
+
+constexpr Attribute ratioAttribute =
+    required<&SubActuatorConfig::ratio>("ratio", "", "joint value per value of the actuator");
+constexpr Attribute offsetAttribute =
+    optional<&SubActuatorConfig::offset>("offset", "0", "rad", "joint value where the actuator stands at 0; carried");
+
+constexpr Attribute subJointAttributes[] = {
+    required<&SubActuatorConfig::name, Name>("name", "", "what the sub-joint is called"),
+    optional<&SubActuatorConfig::meshName>("mesh", "", "", "mesh file of the sub-joint's body"),
+    ratioAttribute,
+    offsetAttribute,
+};
+constexpr Child subJointChildren[] = {poseChild<&SubActuatorConfig::placement>(subJointPlacementElement)};
+constexpr Element subJointElement{"subJoint", "a joint of its own without a motor, the next of the group outward",
+                                  subJointAttributes, subJointChildren};
+
+constexpr Attribute followerAttributes[] = {
+    required<&SubActuatorConfig::name, Name>("name", "", "a joint of the description that follows the actuator"),
+    ratioAttribute,
+    offsetAttribute,
+};
+constexpr Element followerElement{"jointRef", "a joint that is defined elsewhere as the next of the group",
+                                  followerAttributes};
+
+void readSubJoint(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+{
+    SubActuatorConfig subJoint;
+    reader.read(element, node, &subJoint);
+    if (subJoint.name.empty()) {
+        reader.loseDefinition();
+        return;
+    }
+    std::string name = subJoint.name;
+    if (!reader.robot().subActuators.try_emplace(name, std::move(subJoint)).second) {
+        reader.reportDuplicate(node, "name");
+        return;
+    }
+    static_cast<Group*>(parent)->push_back(std::move(name));
+}
+
+constexpr Child groupChildren[] = {
+    {&subJointElement, Occurrence::any, readSubJoint},
+    {&followerElement, Occurrence::any, readSubJoint},
+};
+constexpr Element groupElement{
+    "group", "joints that move together, from the actuator's parent outward", {}, groupChildren};
+
+void readGroup(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+{
+    Group group;
+    reader.read(element, node, &group);
+    static_cast<ActuatorConfig*>(parent)->jointGroups.push_back(std::move(group));
+}
+
+constexpr Attribute actuatorAttributes[] = {
+    required<&ActuatorConfig::name, Name>("name", "", "what the actuator is called"),
+    required<&ActuatorConfig::parentJoint, Name>("parent", "", "the joint, or the actuator, that it hangs on"),
+    required<&ActuatorConfig::minAngle, LowerLimit>("min", "rad", "smallest value, or `unlimited`"),
+    required<&ActuatorConfig::maxAngle, UpperLimit>("max", "rad", "greatest value, or `unlimited`"),
+    optional<&ActuatorConfig::maxAngularSpeed>("maxSpeed", "0", "rad/s", "greatest speed; 0 when not stated"),
+    optional<&ActuatorConfig::maxTorque>("maxTorque", "0", "N*m", "greatest torque; 0 when not stated; carried"),
+};
+constexpr Child actuatorChildren[] = {
+    poseChild<&ActuatorConfig::placement>(devicePlacementElement),
+    mirrorChild<ActuatorConfig>,
+    {&groupElement, Occurrence::any, readGroup},
+};
+}  // namespace
+
+Element const actuatorElement{"actuator", "a motor that drives several joints together, such as those of a hand",
+                              actuatorAttributes, actuatorChildren};
+
+void readActuator(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+{
+    ActuatorConfig actuator;
+    reader.read(element, node, &actuator);
+    if (actuator.minAngle > actuator.maxAngle) {
+        reader.diagnostics().report({node, "min"}, codes::reversedLimits, "The limit min is greater than max.");
+    }
+    reader.define(static_cast<RobotData*>(parent)->actuators, std::move(actuator), node);
+}
+
+}  // namespace Varo::Model::Native

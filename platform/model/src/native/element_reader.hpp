@@ -1,0 +1,78 @@
+#ifndef VARO_MODEL_NATIVE_ELEMENT_READER_HPP
+#define VARO_MODEL_NATIVE_ELEMENT_READER_HPP
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include <pugixml.hpp>
+
+#include "diagnostics.hpp"
+#include "native/native_codes.hpp"
+#include "native/schema.hpp"
+#include "robot_record.hpp"
+
+namespace Varo::Model::Native {
+
+/// Reads elements as their tables say, and reports whatever the tables do not allow.
+///
+/// A set of attributes is a word of bits: no table has more than 32 rows.
+class ElementReader {
+public:
+    ElementReader(Diagnostics& diagnostics, RobotData& robot) : _diagnostics(diagnostics), _robot(robot) {}
+
+    /// Fills `record`, whose type is the one that the tables of `element` name.
+    void read(Element const& element, pugi::xml_node node, void* record);
+
+    Diagnostics& diagnostics() { return _diagnostics; }
+    RobotData& robot() { return _robot; }
+
+    /// Adds a record to the table of its kind, unless it lacks a name or the name is taken.
+    template <class Config>
+    void define(NamedTable<Config>& table, Config&& config, pugi::xml_node node);
+
+    /// Reports the second of two things whose names must differ.
+    void reportDuplicate(pugi::xml_node node, char const* attribute);
+
+    /// Something that may define a name could not be read: whether a name is known can no longer be told.
+    void loseDefinition() { _definitionsLost = true; }
+    bool definitionsLost() const { return _definitionsLost; }
+
+private:
+    using Bits = std::uint32_t;
+
+    void readAttributes(Element const& element, pugi::xml_node node, void* record);
+    void readContent(Element const& element, pugi::xml_node node, void* record);
+    void readText(Element const& element, pugi::xml_node node, void* record);
+    Bits readChild(Element const& element, pugi::xml_node child, Bits seen, void* record);
+
+    Bits reportUnknownAttribute(Element const& element, pugi::xml_node node, pugi::xml_attribute attribute);
+    Bits reportUnknownChild(Element const& element, pugi::xml_node child);
+    void reportMissingAttributes(Element const& element, pugi::xml_node node, Bits seen);
+    void reportMissingChildren(Element const& element, pugi::xml_node node, Bits seen);
+    void reportWrongValue(Place const& place, Attribute const& attribute, std::string_view value);
+
+    Diagnostics& _diagnostics;
+    RobotData& _robot;
+    bool _definitionsLost = false;
+};
+
+template <class Config>
+void ElementReader::define(NamedTable<Config>& table, Config&& config, pugi::xml_node node)
+{
+    if (config.name.empty()) {
+        loseDefinition();
+    } else if (!table.add(std::forward<Config>(config))) {
+        reportDuplicate(node, "name");
+    }
+}
+
+/// For children that fill the record of their parent.
+inline void readInPlace(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+{
+    reader.read(element, node, parent);
+}
+
+}  // namespace Varo::Model::Native
+
+#endif

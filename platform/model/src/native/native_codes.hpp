@@ -1,0 +1,55 @@
+#ifndef VARO_MODEL_NATIVE_CODES_HPP
+#define VARO_MODEL_NATIVE_CODES_HPP
+
+#include "finding_codes.hpp"
+
+/// The kinds of findings that only texts of the native dialect give.
+namespace Varo::Model::Native::codes {
+
+// The tables of the native dialect.
+inline constexpr FindingCode unknownElement{"unknown-element", Severity::error,
+                                            "An element stands where the format has none of that name."};
+inline constexpr FindingCode unknownAttribute{"unknown-attribute", Severity::error,
+                                              "An element has an attribute that the format does not know."};
+inline constexpr FindingCode missingElement{"missing-element", Severity::error, "A required element is missing."};
+inline constexpr FindingCode missingAttribute{"missing-attribute", Severity::error, "A required attribute is missing."};
+inline constexpr FindingCode repeatedElement{"repeated-element", Severity::error,
+                                             "An element stands twice where it may stand once."};
+inline constexpr FindingCode unexpectedText{"unexpected-text", Severity::error,
+                                            "Text stands in an element that holds none."};
+inline constexpr FindingCode wrongValue{"wrong-value", Severity::error,
+                                        "A value is not of the type that its attribute or element has."};
+inline constexpr FindingCode conflictingAttributes{"conflicting-attributes", Severity::error,
+                                                   "Attributes that exclude each other stand in one element."};
+inline constexpr FindingCode duplicateName{"duplicate-name", Severity::error,
+                                           "Two elements of one kind have the same name."};
+inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning,
+                                            "The smallest value is greater than the greatest."};
+inline constexpr FindingCode missingMaterial{"missing-material", Severity::warning,
+                                             "A wheel has no material; no model can be built of the robot."};
+
+// Names that refer to other elements.
+inline constexpr FindingCode actuatorLoop{"actuator-loop", Severity::error,
+                                          "The chain of an actuator's parents leads back to it."};
+inline constexpr FindingCode danglingReference{"dangling-reference", Severity::warning,
+                                               "A name refers to an element that is not there."};
+inline constexpr FindingCode jointInNoChain{"joint-in-no-chain", Severity::warning,
+                                            "A joint stands in no chain, so that no model will contain it."};
+inline constexpr FindingCode jointInTwoChains{"joint-in-two-chains", Severity::warning,
+                                              "A joint stands in chains more than once."};
+inline constexpr FindingCode chainLoop{"chain-loop", Severity::warning,
+                                       "Chains hang on each other in a circle, so that none hangs on the root."};
+inline constexpr FindingCode angleOfUnknown{
+    "angle-of-unknown", Severity::warning,
+    "A posture gives an angle to what has none; as start posture it keeps a model from being built."};
+
+/// In the order of the documentation.
+inline constexpr FindingCode const* ofDialect[] = {
+    &unknownElement,    &unknownAttribute,      &missingElement,   &missingAttribute, &repeatedElement, &unexpectedText,
+    &wrongValue,        &conflictingAttributes, &duplicateName,    &reversedLimits,   &missingMaterial, &actuatorLoop,
+    &danglingReference, &jointInNoChain,        &jointInTwoChains, &chainLoop,        &angleOfUnknown,
+};
+
+}  // namespace Varo::Model::Native::codes
+
+#endif

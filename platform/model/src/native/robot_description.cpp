@@ -1,0 +1,57 @@
+#include <utility>
+
+#include "native/element_reader.hpp"
+#include "native/elements.hpp"
+
+namespace Varo::Model::Native {
+
+namespace {
+
+struct PrettyName {
+    std::int32_t index = 0;
+    std::string text;
+};
+
+constexpr Attribute prettyNameAttributes[] = {
+    optional<&PrettyName::index>("index", "0", "", "which of the robot's pretty names it is")};
+constexpr Attribute prettyNameText = content<&PrettyName::text, Line>("the name");
+constexpr Element prettyNameElement{
+    "prettyName", "a name of the robot for people", prettyNameAttributes, {}, &prettyNameText};
+
+void readPrettyName(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+{
+    PrettyName name;
+    reader.read(element, node, &name);
+    auto& names = static_cast<RobotData*>(parent)->prettyNames;
+    if (!names.try_emplace(name.index, std::move(name.text)).second) {
+        reader.reportDuplicate(node, "index");
+    }
+}
+
+constexpr Attribute attributes[] = {
+    required<&RobotData::name, Name>("name", "", "what the robot is called"),
+    optional<&RobotData::version>("version", "", "", "the description's own version"),
+};
+constexpr Child children[] = {
+    {&prettyNameElement, Occurrence::any, readPrettyName}, {&rootElement, Occurrence::once, readRoot},
+    {&jointElement, Occurrence::any, readJoint},           {&chainElement, Occurrence::any, readChain},
+    {&actuatorElement, Occurrence::any, readActuator},     {&wheelElement, Occurrence::any, readWheel},
+    {&sensorElement, Occurrence::any, readSensor},         {&postureElement, Occurrence::any, readPosture},
+};
+constexpr Unique uniques[] = {
+    {"prettyNameIndices", "prettyName", "@index"},
+    {"jointNames", "joint", "@name"},
+    {"chainNames", "chain", "@name"},
+    {"actuatorNames", "actuator", "@name"},
+    {"subJointNames", "actuator/group/*", "@name"},
+    {"wheelNames", "wheel", "@name"},
+    {"sensorNames", "sensor", "@name"},
+    {"postureNames", "posture", "@name"},
+};
+
+}  // namespace
+
+Element const robotDescriptionElement{
+    "robotDescription", "the whole of a description", attributes, children, nullptr, uniques};
+
+}  // namespace Varo::Model::Native

@@ -1,0 +1,218 @@
+#include "values.hpp"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "utf8.hpp"
+
+namespace Varo::Model::Native {
+
+namespace {
+
+bool isWhite(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+/// The digits, point and exponent that a finite number has behind its sign; false for the words that `from_chars`
+/// knows beside numbers.
+bool startsLikeNumber(std::string_view text)
+{
+    if (!text.empty() && text.front() == '-') {
+        text.remove_prefix(1);
+    }
+    return !text.empty() && (isDigit(text.front()) || text.front() == '.');
+}
+
+/// The plus that `from_chars` does not take.
+std::string_view withoutPlus(std::string_view text)
+{
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
+        text.remove_prefix(1);
+    }
+    return text;
+}
+
+/// A number in the form of one that is out of the range of single precision: zero or its nearest neighbour when it is
+/// too small, false when it is too large.
+bool parseTinyNumber(std::string_view text, float& value)
+{
+    double wide = 0.0;
+    auto const result = std::from_chars(text.data(), text.data() + text.size(), wide);
+    if (result.ec == std::errc() && std::abs(wide) < 1.0) {
+        value = static_cast<float>(wide);
+        return true;
+    }
+    auto const exponent = text.find_first_of("eE");
+    if (result.ec == std::errc::result_out_of_range && exponent + 1 < text.size() && text[exponent + 1] == '-') {
+        value = text.front() == '-' ? -0.0F : 0.0F;
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && isWhite(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isWhite(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool parseNumber(std::string_view text, float& value)
+{
+    std::string_view const digits = withoutPlus(trimmed(text));
+    if (!startsLikeNumber(digits)) {
+        return false;
+    }
+    char const* const end = digits.data() + digits.size();
+    float number = 0.0F;
+    auto const result = std::from_chars(digits.data(), end, number);
+    if (result.ptr != end) {
+        return false;
+    }
+    if (result.ec == std::errc::result_out_of_range) {
+        return parseTinyNumber(digits, value);
+    }
+    if (result.ec != std::errc()) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+bool parseNumbers(std::string_view text, float* values, std::size_t count)
+{
+    std::size_t found = 0;
+    std::size_t position = 0;
+    while (true) {
+        while (position < text.size() && isWhite(text[position])) {
+            ++position;
+        }
+        std::size_t const start = position;
+        while (position < text.size() && !isWhite(text[position])) {
+            ++position;
+        }
+        if (start == position) {
+            return found == count;
+        }
+        if (found == count || !parseNumber(text.substr(start, position - start), values[found])) {
+            return false;
+        }
+        ++found;
+    }
+}
+
+bool parseInteger(std::string_view text, std::int32_t& value)
+{
+    std::string_view const digits = withoutPlus(trimmed(text));
+    char const* const end = digits.data() + digits.size();
+    std::int32_t number = 0;
+    auto const result = std::from_chars(digits.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+bool parseWord(std::string_view text, Range<Word> words, std::int32_t& value)
+{
+    std::string_view const word = trimmed(text);
+    for (Word const& known : words) {
+        if (known.word == word) {
+            value = known.value;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Text::parse(std::string_view text, std::string& value)
+{
+    value = text;
+    return true;
+}
+
+bool Line::parse(std::string_view text, std::string& value)
+{
+    value = trimmed(text);
+    return !value.empty();
+}
+
+bool Name::parse(std::string_view text, std::string& value)
+{
+    if (text.empty() || (text.size() > longestName && countCharacters(text) > longestName)) {
+        return false;
+    }
+    value = text;
+    return true;
+}
+
+template <int side>
+bool Limit<side>::parse(std::string_view text, float& value)
+{
+    if (parseNumber(text, value)) {
+        return true;
+    }
+    if (trimmed(text) != "unlimited") {
+        return false;
+    }
+    value = side * std::numeric_limits<float>::infinity();
+    return true;
+}
+
+template struct Limit<-1>;
+template struct Limit<1>;
+
+bool Boolean::parse(std::string_view text, bool& value)
+{
+    static constexpr Word words[] = {{"true", 1}, {"false", 0}, {"1", 1}, {"0", 0}};
+    std::int32_t number = 0;
+    bool const known = parseWord(text, words, number);
+    value = known ? number != 0 : value;
+    return known;
+}
+
+bool Vector3::parse(std::string_view text, Position3D& value)
+{
+    std::array<float, 3> numbers{};
+    if (!parseNumbers(text, numbers.data(), numbers.size())) {
+        return false;
+    }
+    value = {numbers[0], numbers[1], numbers[2]};
+    return true;
+}
+
+bool Matrix9::parse(std::string_view text, std::vector<float>& value)
+{
+    std::array<float, 9> numbers{};
+    if (!parseNumbers(text, numbers.data(), numbers.size())) {
+        return false;
+    }
+    value.assign(numbers.begin(), numbers.end());
+    return true;
+}
+
+bool Matrix12::parse(std::string_view text, std::array<float, 12>& value)
+{
+    std::array<float, 12> numbers{};
+    if (!parseNumbers(text, numbers.data(), numbers.size())) {
+        return false;
+    }
+    value = numbers;
+    return true;
+}
+
+}  // namespace Varo::Model::Native

@@ -1,0 +1,32 @@
+#ifndef VARO_MODEL_SPELLING_HPP
+#define VARO_MODEL_SPELLING_HPP
+
+#include <cstddef>
+#include <string_view>
+
+namespace Varo::Model {
+
+/// The number of letters to insert, drop, exchange or swap with their neighbour to make one word of the other, letter
+/// case left aside (optimal string alignment). Words of more than 64 bytes are as far apart as they are long.
+std::size_t spellingDistance(std::string_view a, std::string_view b);
+
+/// Picks from words offered one by one the one that was probably meant.
+class ClosestWord {
+public:
+    explicit ClosestWord(std::string_view written) : _written(written), _distance(written.size() / 3 + 2) {}
+
+    /// True when `word` is closer than all before it.
+    bool offer(std::string_view word);
+
+    /// Empty when nothing was close.
+    std::string_view word() const { return _word; }
+
+private:
+    std::string_view _written;
+    std::string_view _word;
+    std::size_t _distance;  ///< words must be closer than this
+};
+
+}  // namespace Varo::Model
+
+#endif
