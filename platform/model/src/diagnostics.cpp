@@ -43,8 +43,10 @@ std::string pathOf(pugi::xml_node node)
     }
     std::string path;
     for (auto element = elements.rbegin(); element != elements.rend(); ++element) {
+        // There is but one root element, and its name is the robot's.
+        bool const isRoot = element->parent().type() == pugi::node_document;
         path += '/';
-        path += *element ? pathStep(element->name(), element->attribute("name").value()) : "...";
+        path += *element ? pathStep(element->name(), isRoot ? "" : element->attribute("name").value()) : "...";
     }
     return path;
 }

@@ -209,7 +209,7 @@ void ElementReader::reportWrongValue(Place const& place, Attribute const& attrib
 void ElementReader::reportDuplicate(pugi::xml_node node, char const* attribute)
 {
     _diagnostics.report({node, attribute}, codes::duplicateName,
-                        "There is already a " + std::string(node.name()) + " with the " + attribute + " " +
+                        "Another " + std::string(node.name()) + " already has the " + attribute + " " +
                             quoted(node.attribute(attribute).value()) + ".",
                         "Give each its own; the first one counts.");
 }

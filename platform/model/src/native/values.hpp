@@ -51,7 +51,7 @@ struct Text {
 
 /// A text that says something; white space around it does not count.
 struct Line {
-    static constexpr ValueType type{"line", "a text that is not empty"};
+    static constexpr ValueType type{"line", "a text of at least one character"};
     static bool parse(std::string_view text, std::string& value);
 };
 
