@@ -1,0 +1,102 @@
+#include <cstdio>
+#include <fstream>
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include "descriptions.hpp"
+#include "sim/link.hpp"
+#include "sim/model.hpp"
+#include "throws.hpp"
+#include "varo/model/finding.hpp"
+
+namespace {
+
+using Tests::messageOf;
+using Tests::robot;
+
+/// A file of that content for as long as a test runs.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(std::string const& content) : path(testing::TempDir() + "description.xml")
+    {
+        std::ofstream(path) << content;
+    }
+    ~TemporaryFile() { std::remove(path.c_str()); }
+
+    std::string const path;
+};
+
+std::string refusalOf(std::string const& argument)
+{
+    return messageOf<Varo::Model::DescriptionError>([&] { Sim::Model const model(argument); });
+}
+
+}  // namespace
+
+TEST(Loading, TakesATextOrTheFileOfAPathAndKeepsTheText)
+{
+    std::string const text = robot("");
+    EXPECT_EQ(Sim::Model(text).configFile(), text);
+
+    TemporaryFile const file(text);
+    Sim::Model const model(file.path);
+    EXPECT_EQ(model.configFile(), text);
+    EXPECT_EQ(model.name(), "Testbot");
+    EXPECT_EQ(model.rootLink()->name(), "BaseLink");
+}
+
+TEST(Loading, RefusesWithItsFixedMessages)
+{
+    EXPECT_EQ(refusalOf("no such file"),
+              "Could not load model. 'no such file' does not exist.Trying to load the given string as XML.\n"
+              "'no such file' is not a valid DCM XML.\n");
+    EXPECT_EQ(refusalOf(""),
+              "Could not load model. '' does not exist.Trying to load the given string as XML.\n"
+              "'' is not a valid DCM XML.\n");
+    TemporaryFile const file("<robotDescription");
+    EXPECT_EQ(refusalOf(file.path), "Could not load model. '" + file.path + "' is not a valid DCM XML.\n");
+    std::string const directory = testing::TempDir();
+    EXPECT_EQ(refusalOf(directory), "Could not load model. '" + directory + "' is not a valid DCM XML.\n");
+}
+
+TEST(Loading, NeverTakesATextForTheFileThatItsFirstBytesName)
+{
+    TemporaryFile const file(robot(""));
+    std::string const argument = file.path + '\0' + "rest";
+    EXPECT_THAT(refusalOf(argument), testing::HasSubstr("does not exist."));
+}
+
+TEST(Loading, SaysThatAFileCannotBeOpened)
+{
+    TemporaryFile const file(robot(""));
+    chmod(file.path.c_str(), 0);
+    if (std::ifstream(file.path)) {
+        GTEST_SKIP() << "this user may read every file";
+    }
+    EXPECT_EQ(messageOf<std::invalid_argument>([&] { Sim::Model const model(file.path); }),
+              "Could not load model. '" + file.path + "' could not be opened.\n");
+}
+
+TEST(Loading, RefusalsCarryTheFindings)
+{
+    try {
+        Sim::Model const model("<robotDescription name='x'>\n  <nonsense/></robotDescription>");
+        FAIL();
+    } catch (Varo::Model::DescriptionError const& error) {
+        ASSERT_FALSE(error.findings().empty());
+        EXPECT_THAT(error.findings(),
+                    testing::Contains(testing::AllOf(testing::Field(&Varo::Model::Finding::line, 2),
+                                                     testing::Field(&Varo::Model::Finding::column, 3))));
+    }
+}
+
+TEST(Loading, AMovedFromModelSaysSo)
+{
+    Sim::Model model(robot(""));
+    Sim::Link const* const root = model.rootLink();
+    Sim::Model const target(std::move(model));
+    EXPECT_EQ(target.rootLink(), root);
+    EXPECT_EQ(messageOf<std::runtime_error>([&] { static_cast<void>(model.links()); }),
+              "Could not query Model as it seems not correctly constructed.");
+}
