@@ -2,7 +2,9 @@
 #include <fstream>
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include "descriptions.hpp"
 #include "sim/link.hpp"
@@ -15,13 +17,16 @@ namespace {
 using Tests::messageOf;
 using Tests::robot;
 
+/// A path that no other test has.
+std::string ownPath()
+{
+    return testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name();
+}
+
 /// A file of that content for as long as a test runs.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(std::string const& content) : path(testing::TempDir() + "description.xml")
-    {
-        std::ofstream(path) << content;
-    }
+    explicit TemporaryFile(std::string const& content) : path(ownPath() + ".xml") { std::ofstream(path) << content; }
     ~TemporaryFile() { std::remove(path.c_str()); }
 
     std::string const path;
@@ -69,13 +74,18 @@ TEST(Loading, NeverTakesATextForTheFileThatItsFirstBytesName)
 
 TEST(Loading, SaysThatAFileCannotBeOpened)
 {
-    TemporaryFile const file(robot(""));
-    chmod(file.path.c_str(), 0);
-    if (std::ifstream(file.path)) {
-        GTEST_SKIP() << "this user may read every file";
-    }
-    EXPECT_EQ(messageOf<std::invalid_argument>([&] { Sim::Model const model(file.path); }),
-              "Could not load model. '" + file.path + "' could not be opened.\n");
+    // A socket is there, and nobody can open it as a file.
+    std::string const path = ownPath();
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    ASSERT_LT(path.size(), sizeof address.sun_path);
+    path.copy(address.sun_path, path.size());
+    int const socketFile = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(socketFile, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    EXPECT_EQ(messageOf<std::invalid_argument>([&] { Sim::Model const model(path); }),
+              "Could not load model. '" + path + "' could not be opened.\n");
+    close(socketFile);
+    std::remove(path.c_str());
 }
 
 TEST(Loading, RefusalsCarryTheFindings)
