@@ -1,0 +1,92 @@
+#include <chrono>
+
+#include <gtest/gtest.h>
+
+#include "model_of.hpp"
+
+namespace {
+
+std::string numbered(char const* stem, int number)
+{
+    return stem + std::to_string(number);
+}
+
+/// `count` joints in one chain, each with a hand and a mirror.
+void fillLongChain(FakeRobot& robot, int count)
+{
+    std::vector<std::string> joints;
+    for (int i = 0; i < count; ++i) {
+        joints.push_back(numbered("Joint", i));
+        robot.addActuator(numbered("Hand", i), joints.back(), {{numbered("Thumb", i), numbered("Tip", i)}});
+    }
+    robot.addChain("Spine", "Torso", joints);
+    robot.reflectionForced = joints;
+}
+
+/// `count` chains of one joint on the root.
+void fillManyChains(FakeRobot& robot, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        // Not in order of name, so that lists have to be merged at the front.
+        robot.addChain(numbered("Chain", i), "Torso", {numbered("Joint", count - i)});
+    }
+}
+
+/// `count` actuators, each on the one before.
+void fillStack(FakeRobot& robot, int count)
+{
+    robot.addChain("Stack", "Torso", {"Actuator0"});
+    for (int i = 1; i <= count; ++i) {
+        robot.addActuator(numbered("Actuator", i), numbered("Actuator", i - 1));
+    }
+}
+
+/// Asks everything that a loader asks of every name; returns how many names came back.
+std::size_t askAll(Sim::MotionModel& model)
+{
+    std::size_t found = model.followingJoints(model.rootName()).size() + model.actuatorNames().size();
+    for (auto const& joint : model.jointNames()) {
+        float number = 0.0F;
+        bool flag = false;
+        std::string name = joint;
+        Varo::Math::Transform transform;
+        std::vector<std::string> subJoints;
+        model.startAngle(joint, number);
+        model.transformFromJointName(joint, transform, name);
+        model.mirrorNameFromJointName(joint, name, flag);
+        model.reflectionForcedFromJointName(joint, flag);
+        model.coupledJointGroupFromParentJoint(joint, name, subJoints);
+        for (auto const& next : model.followingJoints(joint)) {
+            model.transformFromJointName(next, transform, name);
+            found += model.followingJoints(next).size();
+        }
+        found += model.chainNameFromJoint(joint).empty() ? 0 : subJoints.size() + 1;
+    }
+    return found;
+}
+
+using Fill = void (*)(FakeRobot&, int);
+
+double secondsFor(Fill fill, int count)
+{
+    auto robot = std::make_unique<FakeRobot>();
+    fill(*robot, count);
+    auto const start = std::chrono::steady_clock::now();
+    Sim::MotionModel model(std::move(robot));
+    EXPECT_GE(askAll(model), static_cast<std::size_t>(count));
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// Sixteen times the robot takes sixteen times as long, and some more for caches; quadratic work would take 256 times.
+TEST(Growth, IsLinearInTheSizeOfTheRobot)
+{
+    for (Fill const fill : {&fillLongChain, &fillManyChains, &fillStack}) {
+        double smallest = secondsFor(fill, 1250);
+        for (int repeat = 0; repeat < 2; ++repeat) {
+            smallest = std::max(smallest, secondsFor(fill, 1250));  // the slow side, lest a busy machine fail the test
+        }
+        EXPECT_LT(secondsFor(fill, 20000), 96 * smallest);
+    }
+}
+
+}  // namespace

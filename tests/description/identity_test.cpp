@@ -1,0 +1,117 @@
+#include <optional>
+#include <stdexcept>
+
+#include <gmock/gmock.h>
+
+#include "model_of.hpp"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::optional<float> startAngle(Sim::MotionModel const& model, std::string const& name)
+{
+    float angle = -99.0F;
+    bool const known = model.startAngle(name, angle);
+    EXPECT_EQ(known, angle != -99.0F) << name;
+    return known ? std::optional<float>(angle) : std::nullopt;
+}
+
+TEST(Identity, IsTheDescriptionsWhenThereAreChains)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        robot.addChain("Legs", "Torso", {});
+        robot.addChain("Arms", "Shoulder", {});
+        robot.addWheel("WheelB", "Torso");
+        robot.addWheel("WheelA", "Torso");
+        robot.prettyNameTable[2] = "Deux";
+    });
+    EXPECT_EQ(model.name(), "Description");
+    EXPECT_EQ(model.prettyName(2), "Deux");
+    EXPECT_EQ(model.prettyName(0), "Description");
+    EXPECT_EQ(model.rootName(), "Torso");
+    EXPECT_EQ(model.version(), "1.0");
+    EXPECT_THAT(model.chainNames(), ElementsAre("Legs", "Arms"));
+    EXPECT_THAT(model.wheelNames(), ElementsAre("WheelA", "WheelB"));
+    EXPECT_EQ(model.parentJointFromChain("Arms"), "Shoulder");
+    EXPECT_EQ(model.parentJointFromChain("Tail"), "");
+}
+
+TEST(Identity, IsTheRobotsWithoutChains)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        robot.addJoint("Neck");
+        robot.postureList = {{"StandInit", {}}};
+    });
+    EXPECT_EQ(model.name(), "Robot");
+    EXPECT_THAT(model.chainNames(), IsEmpty());
+    EXPECT_EQ(startAngle(model, "Neck"), std::nullopt);
+}
+
+TEST(Identity, RefusesARobotThatIsNone)
+{
+    EXPECT_THROW(Sim::MotionModel(std::unique_ptr<Varo::Model::Robot>()), std::invalid_argument);
+}
+
+TEST(Identity, PassesOnWhatAListingThrows)
+{
+    struct Broken : FakeRobot {
+        void listWheels(std::vector<std::string>&, Varo::Model::WheelTable&) const override
+        {
+            throw std::domain_error("no wheels");
+        }
+    };
+    EXPECT_THROW(Sim::MotionModel(std::make_unique<Broken>()), std::domain_error);
+}
+
+void fillArm(FakeRobot& robot)
+{
+    robot.addChain("Arm", "Torso", {"Shoulder", "Wrist"});
+    robot.addChain("Unrecorded", "", {});
+    robot.chains.erase("Unrecorded");
+    robot.addActuator("Hand", "Wrist");
+    robot.addActuator("Ear", "Head");
+}
+
+TEST(StartAngle, IsZeroWithoutPostures)
+{
+    auto const model = modelOf(fillArm);
+    EXPECT_EQ(startAngle(model, "Wrist"), 0.0F);
+    EXPECT_EQ(startAngle(model, "Hand"), 0.0F);
+    EXPECT_EQ(startAngle(model, "Ear"), std::nullopt);
+    EXPECT_EQ(startAngle(model, ""), std::nullopt);
+}
+
+TEST(StartAngle, IsThatOfTheStandingPosture)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        fillArm(robot);
+        robot.postureList = {{"Rest", {{"Shoulder", 9.0F}}}, {"StandInit", {{"Hand", 3.0F}, {"Shoulder", 1.0F}}}};
+    });
+    EXPECT_EQ(startAngle(model, "Shoulder"), 1.0F);
+    EXPECT_EQ(startAngle(model, "Wrist"), 0.0F);
+    EXPECT_EQ(startAngle(model, "Hand"), 3.0F);
+}
+
+TEST(StartAngle, IsZeroWhenThePosturesDoNotTellHowToStand)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        fillArm(robot);
+        robot.postureList = {{"Rest", {{"Shoulder", 9.0F}}}};
+    });
+    EXPECT_EQ(startAngle(model, "Shoulder"), 0.0F);
+}
+
+TEST(StartAngle, RefusesAPostureForAnUnlistedName)
+{
+    auto const build = [] {
+        modelOf([](FakeRobot& robot) {
+            fillArm(robot);
+            robot.postureList = {{"StandInit", {{"Ear", 1.0F}}}};
+        });
+    };
+    EXPECT_THROW(build(), std::out_of_range);
+}
+
+}  // namespace

@@ -1,0 +1,165 @@
+#include <random>
+#include <stdexcept>
+
+#include <gmock/gmock.h>
+
+#include "model_of.hpp"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+/// The torso carries Arm and Tail; on the arm's Wrist hang two hands and the chain Tool; on HandA hangs Nail.
+void fill(FakeRobot& robot)
+{
+    robot.addChain("Tail", "Torso", {"Tail2", "Tail1"});
+    robot.addChain("Arm", "Torso", {"Elbow", "Wrist"});
+    robot.addChain("Tool", "Wrist", {"Blade"});
+    robot.addActuator("HandB", "Wrist", {{"B1"}});
+    robot.addActuator("HandA", "Wrist", {{"A1", "A2"}, {}, {"A3", "A2", "A4"}});
+    robot.addActuator("Nail", "HandA", {{"N1"}});
+    robot.addActuator("Adrift", "Nowhere");
+}
+
+TEST(Structure, OfAChainIsItsJointsAndWhatHangsOnThem)
+{
+    auto const model = modelOf(fill);
+    EXPECT_THAT(model.jointNames("Arm"), ElementsAre("Elbow", "Wrist"));
+    EXPECT_THAT(model.angleActuatorNames("Arm"), ElementsAre("Elbow", "Wrist"));
+    EXPECT_THAT(model.actuatorNames("Arm"), ElementsAre("Elbow", "Wrist", "HandA", "HandB", "Nail"));
+    EXPECT_THAT(model.coupledActuatorNames("Arm"), ElementsAre("HandA", "HandB"));
+    EXPECT_THAT(model.jointNames("Nobody"), IsEmpty());
+    EXPECT_THAT(model.angleActuatorNames("Nobody"), IsEmpty());
+    EXPECT_THAT(model.actuatorNames("Nobody"), IsEmpty());
+    EXPECT_THAT(model.coupledActuatorNames("Nobody"), IsEmpty());
+}
+
+TEST(Structure, OfAllChainsIsMergedOrConcatenated)
+{
+    auto const model = modelOf(fill);
+    EXPECT_THAT(model.jointNames(), ElementsAre("Blade", "Elbow", "Tail2", "Tail1", "Wrist"));
+    EXPECT_THAT(model.actuatorNames(),
+                ElementsAre("Blade", "Elbow", "Tail2", "Tail1", "Wrist", "HandA", "HandB", "Nail"));
+    EXPECT_THAT(model.angleActuatorNames(), ElementsAre("Tail2", "Tail1", "Elbow", "Wrist", "Blade"));
+    EXPECT_THAT(model.coupledActuatorNames(), ElementsAre("HandA", "HandB"));
+}
+
+/// The merge of two lists as one writes it down.
+std::vector<std::string> mergeOf(std::vector<std::string> const& merged, std::vector<std::string> const& incoming)
+{
+    std::vector<std::string> result;
+    auto left = merged.begin();
+    auto right = incoming.begin();
+    while (left != merged.end() && right != incoming.end()) {
+        result.push_back(*right < *left ? *right++ : *left++);
+    }
+    result.insert(result.end(), left, merged.end());
+    result.insert(result.end(), right, incoming.end());
+    return result;
+}
+
+TEST(Structure, MergesUnsortedListsByWalkingThem)
+{
+    std::mt19937 random(1);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<std::string> expected;
+        auto const model = modelOf([&](FakeRobot& robot) {
+            for (int chain = 0; chain < 6; ++chain) {
+                std::vector<std::string> joints(random() % 6);
+                for (auto& joint : joints) {
+                    joint = std::string(random() % 4, static_cast<char>('a' + random() % 5));
+                }
+                expected = mergeOf(expected, joints);
+                robot.addChain("Chain" + std::to_string(chain), "Torso", joints);
+            }
+        });
+        ASSERT_THAT(model.jointNames(), ElementsAreArray(expected));
+    }
+}
+
+TEST(Structure, GivesAJointToTheFirstChainOfTheDescription)
+{
+    auto model = modelOf([](FakeRobot& robot) {
+        robot.addChain("Z", "Torso", {"Shared"});
+        robot.addChain("A", "Torso", {"Shared", "Own"});
+        robot.chainNames.insert(robot.chainNames.begin(), "Unrecorded");
+    });
+    EXPECT_EQ(model.chainNameFromJoint("Shared"), "Z");
+    EXPECT_EQ(model.chainNameFromJoint("Own"), "A");
+    EXPECT_EQ(model.chainNameFromJoint("Torso"), "");
+}
+
+TEST(Following, IsWhatHangsOnAJointInBuildingOrder)
+{
+    auto const model = modelOf(fill);
+    EXPECT_THAT(model.followingJoints("Torso"), ElementsAre("Tail2", "Elbow"));
+    EXPECT_THAT(model.followingJoints("Elbow"), ElementsAre("Wrist"));
+    EXPECT_THAT(model.followingJoints("Wrist"), ElementsAre("A1", "A3", "B1", "Blade"));
+    EXPECT_THAT(model.chainAnchorJoints("Wrist"), ElementsAre("A1", "A3", "B1"));
+    EXPECT_THAT(model.followingJoints("A2"), ElementsAre("A4"));
+    EXPECT_THAT(model.followingJoints("Blade"), IsEmpty());
+    EXPECT_THAT(model.followingJoints("Nobody"), IsEmpty());
+    // On a joint that no chain lists, an actuator has anchors that do not follow.
+    EXPECT_THAT(model.followingJoints("HandA"), IsEmpty());
+    EXPECT_THAT(model.chainAnchorJoints("HandA"), ElementsAre("N1"));
+
+    std::vector<std::string> out = {"kept"};
+    model.followingJointsFromSubactuators("A1", out);
+    model.followingJointsFromSubactuators("A4", out);
+    EXPECT_THAT(out, ElementsAre("kept", "A2"));
+}
+
+TEST(Following, RepeatsWhatSeveralChainsSay)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        robot.addChain("Z", "Torso", {"Shared", "Next", "Shared", "Last"});
+        robot.addChain("Child", "Shared", {"First"});
+        robot.addChain("Empty", "Shared", {});
+        robot.addChain("Self", "Shared", {"Shared"});
+        robot.addActuator("Hand", "Shared", {{"Thumb", "Tip", "Thumb"}, {"Shared", "Palm"}});
+    });
+    EXPECT_THAT(model.followingJoints("Shared"), ElementsAre("Next", "Thumb", "Shared",  // Z
+                                                             "First",  // Child
+                                                             "Thumb", "Shared", "Shared",  // Self
+                                                             "Palm"));  // as a sub-joint
+    EXPECT_THAT(model.followingJoints("Thumb"), ElementsAre("Tip"));
+}
+
+TEST(Actuators, AppendTheSubJointsTheyMove)
+{
+    auto const model = modelOf(fill);
+    std::list<std::string> joints = {"kept"};
+    EXPECT_FALSE(model.jointsFromActuator("Wrist", joints));
+    EXPECT_TRUE(model.jointsFromActuator("Adrift", joints));
+    EXPECT_THAT(joints, ElementsAre("kept"));
+    EXPECT_TRUE(model.jointsFromActuator("HandA", joints));
+    EXPECT_THAT(joints, ElementsAre("kept", "A1", "A2", "A3", "A2", "A4"));
+
+    std::string actuator = "untouched";
+    std::vector<std::string> group = {"kept"};
+    EXPECT_FALSE(model.coupledJointGroupFromParentJoint("Elbow", actuator, group));
+    EXPECT_EQ(actuator, "untouched");
+    EXPECT_TRUE(model.coupledJointGroupFromParentJoint("Wrist", actuator, group));
+    EXPECT_EQ(actuator, "HandA");
+    EXPECT_THAT(group, ElementsAre("kept", "A1", "A2", "A3", "A2", "A4"));
+}
+
+TEST(Actuators, AreRefusedWhenTheyHangOnThemselves)
+{
+    auto const self = [] { modelOf([](FakeRobot& robot) { robot.addActuator("A", "A"); }); };
+    auto const loop = [] {
+        modelOf([](FakeRobot& robot) {
+            robot.addChain("Chain", "Torso", {"B"});
+            robot.addActuator("A", "C");
+            robot.addActuator("B", "A");
+            robot.addActuator("C", "B");
+            robot.addActuator("D", "C");
+        });
+    };
+    EXPECT_THROW(self(), std::invalid_argument);
+    EXPECT_THROW(loop(), std::invalid_argument);
+}
+
+}  // namespace
