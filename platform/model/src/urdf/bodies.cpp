@@ -52,7 +52,7 @@ void readBody(pugi::xml_node link, JointConfig& body, Report const& report)
         } else if (name == "inertial" && !inertial) {
             inertial = child;
         } else if (name == "inertial") {
-            report.diagnostics.report(child, codes::repeatedElement,
+            report.diagnostics.report(child, codes::surplusElement,
                                       "This is a further \"inertial\"; the first one counts.");
         } else if (child.type() == pugi::node_element) {
             report.uncarried.add(child);

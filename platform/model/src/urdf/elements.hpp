@@ -39,7 +39,7 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
         } else if (!children[place]) {
             children[place] = child;
         } else {
-            report.diagnostics.report(child, codes::repeatedElement,
+            report.diagnostics.report(child, codes::surplusElement,
                                       "This is a further " + quoted(child.name()) + "; the first one counts.");
         }
     }

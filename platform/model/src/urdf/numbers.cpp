@@ -1,6 +1,5 @@
 #include "urdf/numbers.hpp"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -13,14 +12,24 @@ namespace Varo::Model::Urdf {
 
 namespace {
 
-constexpr std::string_view whiteSpace = " \t\r\n";
+bool isSpace(char character)
+{
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
 
 /// Cuts the first word off the text.
 std::string_view takeWord(std::string_view& text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(whiteSpace), text.size()));
-    std::string_view const word = text.substr(0, text.find_first_of(whiteSpace));
-    text.remove_prefix(word.size());
+    std::size_t begin = 0;
+    while (begin < text.size() && isSpace(text[begin])) {
+        ++begin;
+    }
+    std::size_t end = begin;
+    while (end < text.size() && !isSpace(text[end])) {
+        ++end;
+    }
+    std::string_view const word = text.substr(begin, end - begin);
+    text.remove_prefix(end);
     return word;
 }
 

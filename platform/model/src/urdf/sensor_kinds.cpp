@@ -57,11 +57,21 @@ SensorKind const* findSensorKind(std::string_view name)
     static std::vector<std::string_view> const motion = {"AngularSpeedX", "AngularSpeedY", "AngularSpeedZ",
                                                          "AccelerationX", "AccelerationY", "AccelerationZ"};
     static SensorKind const kinds[] = {
-        {"camera", camera, {}},           {"wideanglecamera", camera, {}},   {"multicamera", camera, {}},
-        {"depth", depthCamera, {}},       {"depth_camera", depthCamera, {}}, {"rgbd", depthCamera, {}},
-        {"rgbd_camera", depthCamera, {}}, {"imu", inertial, motion},         {"contact", bumper, {"Contact"}},
-        {"ray", arrayDepth, {}},          {"gpu_ray", arrayDepth, {}},       {"lidar", arrayDepth, {}},
-        {"gpu_lidar", arrayDepth, {}},    {"sonar", sonar, {"Distance"}},    {"force_torque", fsr, {"Force"}},
+        {"camera", camera, {}},
+        {"wideanglecamera", camera, {}},
+        {"multicamera", camera, {}},
+        {"depth", depthCamera, {}},
+        {"depth_camera", depthCamera, {}},
+        {"rgbd", depthCamera, {}},
+        {"rgbd_camera", depthCamera, {}},
+        {"imu", inertial, motion},
+        {"contact", bumper, {"Contact"}},
+        {"ray", arrayDepth, {"Distance"}},
+        {"gpu_ray", arrayDepth, {"Distance"}},
+        {"lidar", arrayDepth, {"Distance"}},
+        {"gpu_lidar", arrayDepth, {"Distance"}},
+        {"sonar", sonar, {"Distance"}},
+        {"force_torque", fsr, {"Force"}},
     };
     for (SensorKind const& kind : kinds) {
         if (kind.name == name) {

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "urdf/numbers.hpp"
-#include "urdf/sensor_kinds.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -37,7 +36,9 @@ std::string_view kindNameOf(pugi::xml_node sensor)
 
 std::string sensorKey(std::string const& sensor, std::string_view quantity)
 {
-    return sensor + "/" + std::string(quantity) + "/Sensor";
+    std::string key;
+    key.reserve(sensor.size() + quantity.size() + 8);
+    return key.append(sensor).append("/").append(quantity).append("/Sensor");
 }
 
 bool hasSize(SensorType type)
@@ -99,21 +100,6 @@ Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
     return {rotationFromRpy({values[3], values[4], values[5]}), {values[0], values[1], values[2]}};
 }
 
-/// One device key for each point of a scan.
-void SensorReader::addPoints(std::size_t count, pugi::xml_node node, SensorConfig& sensor)
-{
-    if (count > _pointsLeft) {
-        _report.diagnostics.report(node, codes::sensorSize,
-                                   "The robot's scans have too many points; this one gets a single device key.");
-        sensor.keys.push_back(sensorKey(sensor.name, "Distance"));
-        return;
-    }
-    _pointsLeft -= count;
-    for (std::size_t point = 0; point < count; ++point) {
-        sensor.keys.push_back(sensorKey(sensor.name, "Distance" + std::to_string(point)));
-    }
-}
-
 void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xml_node owner, char const* carrier)
 {
     Diagnostics& diagnostics = _report.diagnostics;
@@ -126,35 +112,37 @@ void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xm
                                : "This sensor is left out: there is no link " + quoted(carrierName) + ".");
         return;
     }
-    std::string_view const name = node.attribute("name").value();
-    sensor.name = _names.claim(std::string(name.empty() ? carrierName : name), "this sensor", node, diagnostics);
+    std::string_view const name = *node.attribute("name").value() != 0 ? readName(node, diagnostics) : carrierName;
+    sensor.name = _names.claim(std::string(name), "this sensor", node, diagnostics);
     sensor.placement = toTransform(readPose(node, carrierName));
-    SensorKind const* const kind = findSensorKind(kindName);
-    if (kind == nullptr) {
+    if (SensorKind const* const kind = findSensorKind(kindName)) {
+        fill(node, *kind, sensor);
+    } else {
         diagnostics.report(node, codes::sensorKindLost,
                            "The model has no class for sensors of the kind " + quoted(kindName) + ".");
         sensor.attributes["urdfType"] = kindName;
-        _robot.sensors.add(std::move(sensor));
-        return;
-    }
-    sensor.type = kind->type;
-    for (std::string_view const quantity : kind->quantities) {
-        sensor.keys.push_back(sensorKey(sensor.name, quantity));
-    }
-    if (hasSize(kind->type)) {
-        SensorSize size = readSensorSize(node, kind->type);
-        if (!size.isUsable()) {
-            size = defaultSensorSize(kind->type);
-            diagnostics.report(node, codes::sensorSize,
-                               "This sensor states no usable size; " + std::to_string(size.width) + " by " +
-                                   std::to_string(size.height) + " is assumed.");
-        }
-        sensor.attributes["resolutions"] = std::to_string(size.width) + " " + std::to_string(size.height);
-        if (kind->type == arrayDepth) {
-            addPoints(size.width * size.height, node, sensor);
-        }
     }
     _robot.sensors.add(std::move(sensor));
+}
+
+/// Type, keys and size, as the loaders of a model want them for sensors of this kind.
+void SensorReader::fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor)
+{
+    sensor.type = kind.type;
+    for (std::string_view const quantity : kind.quantities) {
+        sensor.keys.push_back(sensorKey(sensor.name, quantity));
+    }
+    if (!hasSize(kind.type)) {
+        return;
+    }
+    SensorSize size = readSensorSize(node, kind.type);
+    if (!size.isUsable()) {
+        size = defaultSensorSize(kind.type);
+        _report.diagnostics.report(node, codes::sensorSize,
+                                   "This sensor states no usable size; " + std::to_string(size.width) + " by " +
+                                       std::to_string(size.height) + " is assumed.");
+    }
+    sensor.attributes["resolutions"] = std::to_string(size.width) + " " + std::to_string(size.height);
 }
 
 }  // namespace Varo::Model::Urdf

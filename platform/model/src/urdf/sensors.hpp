@@ -1,7 +1,7 @@
 #ifndef VARO_MODEL_URDF_SENSORS_HPP
 #define VARO_MODEL_URDF_SENSORS_HPP
 
-#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include <pugixml.hpp>
@@ -10,6 +10,7 @@
 #include "urdf/description.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/names.hpp"
+#include "urdf/sensor_kinds.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -29,14 +30,13 @@ private:
     /// `carrier` is the attribute of `owner` that names what carries the sensor.
     void read(pugi::xml_node node, std::string_view kindName, pugi::xml_node owner, char const* carrier);
     bool findParent(std::string_view carrier, std::string& parent) const;
+    void fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor);
     Pose readPose(pugi::xml_node node, std::string_view carrier);
-    void addPoints(std::size_t count, pugi::xml_node node, SensorConfig& sensor);
 
     Description const& _description;
     RobotData& _robot;
     Report const& _report;
     UniqueNames _names;
-    std::size_t _pointsLeft = 100'000;  // a few large numbers must not make a robot of many gigabytes
 };
 
 }  // namespace Varo::Model::Urdf

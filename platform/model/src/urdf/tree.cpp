@@ -1,5 +1,6 @@
 #include "urdf/tree.hpp"
 
+#include <algorithm>
 #include <string>
 
 #include "urdf/urdf_codes.hpp"
@@ -24,6 +25,8 @@ private:
     std::size_t linkOf(Joint const& joint, pugi::xml_node element, char const* role);
     void attach(std::size_t joint);
     void reportCycles();
+    std::size_t linkAbove(std::size_t link) const;
+    void reportCycle(std::size_t link);
 
     Description& _description;
     Diagnostics& _diagnostics;
@@ -36,7 +39,7 @@ void Connector::add(std::unordered_map<std::string_view, std::size_t>& table, st
     if (name.empty()) {  // reported where it was read
         _whole = false;
     } else if (!table.try_emplace(name, place).second) {
-        _diagnostics.report({node, "name"}, codes::duplicateUrdfName,
+        _diagnostics.report({node, "name"}, codes::duplicateName,
                             "There is another " + std::string(node.name()) + " " + quoted(name) + " before this one.");
         _whole = false;
     }
@@ -128,22 +131,38 @@ void Connector::findRoot(pugi::xml_node robot)
 /// Every link has one parent at most, so that going up from it ends at a root, or goes round in a circle.
 void Connector::reportCycles()
 {
-    auto const& [links, joints, linkByName, jointByName, root] = _description;
-    std::vector<std::size_t> walkOf(links.size(), none);
-    for (std::size_t start = 0; start < links.size(); ++start) {
+    std::vector<std::size_t> walkOf(_description.links.size(), none);
+    for (std::size_t start = 0; start < walkOf.size(); ++start) {
         std::size_t link = start;
-        std::size_t joint = none;
         while (link != none && walkOf[link] == none) {
             walkOf[link] = start;
-            joint = links[link].parentJoint;
-            link = joint == none ? none : joints[joint].parentLink;
+            link = linkAbove(link);
         }
-        if (link != none && walkOf[link] == start && joint != none) {
-            _diagnostics.report(joints[joint].node, codes::jointCycle,
-                                "This joint closes a cycle: it hangs on the link " + quoted(links[link].name) +
-                                    ", which itself hangs on this joint.");
+        if (link != none && walkOf[link] == start) {
+            reportCycle(link);
         }
     }
+}
+
+std::size_t Connector::linkAbove(std::size_t link) const
+{
+    std::size_t const joint = _description.links[link].parentJoint;
+    return joint == none ? none : _description.joints[joint].parentLink;
+}
+
+/// At the joint of the cycle that stands last in the text: the one that closes it.
+void Connector::reportCycle(std::size_t link)
+{
+    std::size_t last = 0;
+    std::size_t step = link;
+    do {
+        last = std::max(last, _description.links[step].parentJoint);
+        step = linkAbove(step);
+    } while (step != link);
+    Joint const& joint = _description.joints[last];
+    _diagnostics.report(joint.node, codes::jointCycle,
+                        "This joint closes a cycle: it hangs on the link " +
+                            quoted(_description.links[joint.parentLink].name) + ", which itself hangs on this joint.");
 }
 
 }  // namespace

@@ -4,14 +4,14 @@
 #include "finding_codes.hpp"
 
 /// The kinds of findings that only URDF texts give.
-namespace Varo::Model::codes {
+namespace Varo::Model::Urdf::codes {
 
 inline constexpr FindingCode notANumber{"not-a-number", Severity::error,
                                         "A text that must be a number is none, or is beyond all bounds."};
 inline constexpr FindingCode missingName{"missing-name", Severity::error, "A link or joint has no name."};
 inline constexpr FindingCode nameTooLong{"name-too-long", Severity::error, "A name has more than 1000 bytes."};
-inline constexpr FindingCode duplicateUrdfName{"duplicate-urdf-name", Severity::error,
-                                               "Two links, or two joints, have the same name."};
+inline constexpr FindingCode duplicateName{"duplicate-name", Severity::error,
+                                           "Two links, or two joints, have the same name."};
 inline constexpr FindingCode noLink{"no-link", Severity::error, "The robot has no link that could be its root."};
 inline constexpr FindingCode severalRoots{"several-roots", Severity::error,
                                           "More than one link is the child of no joint, so that there is no one root."};
@@ -31,8 +31,8 @@ inline constexpr FindingCode mimicCircle{"mimic-circle", Severity::error,
 inline constexpr FindingCode unnamedRobot{"unnamed-robot", Severity::warning, "The robot has no name."};
 inline constexpr FindingCode wrongCount{"wrong-count", Severity::warning,
                                         "A list of numbers is longer or shorter than it should be."};
-inline constexpr FindingCode repeatedElement{"repeated-element", Severity::warning,
-                                             "An element that may stand once stands again; the first one counts."};
+inline constexpr FindingCode surplusElement{"surplus-element", Severity::warning,
+                                            "An element that may stand once stands again; the first one counts."};
 inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::warning,
                                          "A planar or floating joint is held in its zero position."};
 inline constexpr FindingCode missingLimit{"missing-limit", Severity::warning,
@@ -67,6 +67,17 @@ inline constexpr FindingCode frozenMimic{"frozen-mimic", Severity::note,
 inline constexpr FindingCode notCarried{"not-carried", Severity::note,
                                         "Elements of a kind that the model has no place for are passed over."};
 
-}  // namespace Varo::Model::codes
+/// In the order of the documentation.
+inline constexpr FindingCode const* ofDialect[] = {
+    &notANumber,       &missingName,        &nameTooLong,   &duplicateName,  &noLink,
+    &severalRoots,     &unattachedJoint,    &unknownLink,   &twoParents,     &jointCycle,
+    &unknownJointType, &zeroAxis,           &unknownLeader, &mimicCircle,    &unnamedRobot,
+    &wrongCount,       &surplusElement,     &jointFrozen,   &missingLimit,   &reversedLimits,
+    &unlimited,        &incompleteInertial, &visualsLost,   &meshOffsetLost, &meshScaleLost,
+    &mimicOffset,      &frozenLeader,       &renamed,       &sensorLost,     &sensorKindLost,
+    &sensorFrameLost,  &sensorSize,         &frozenMimic,   &notCarried,
+};
+
+}  // namespace Varo::Model::Urdf::codes
 
 #endif

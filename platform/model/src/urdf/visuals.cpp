@@ -19,10 +19,20 @@ Visual readVisual(pugi::xml_node node, Report const& report)
     return {node, origin, childrenOf<1>(geometry, {"mesh"}, report)[0]};
 }
 
+/// A single number scales all three directions.
+bool isScaled(pugi::xml_node mesh, Diagnostics& diagnostics)
+{
+    double factor = 1.0;
+    if (parseNumber(mesh.attribute("scale").value(), factor)) {
+        return factor != 1.0;
+    }
+    Vector const one = {1.0, 1.0, 1.0};
+    return readVector(mesh, "scale", one, diagnostics) != one;
+}
+
 void reportScale(pugi::xml_node mesh, Diagnostics& diagnostics)
 {
-    Vector const one = {1.0, 1.0, 1.0};
-    if (readVector(mesh, "scale", one, diagnostics) != one) {
+    if (isScaled(mesh, diagnostics)) {
         diagnostics.report({mesh, "scale"}, codes::meshScaleLost,
                            "The scale " + quoted(mesh.attribute("scale").value()) + " of the mesh is not kept.");
     }

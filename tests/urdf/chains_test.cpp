@@ -1,0 +1,80 @@
+#include <cmath>
+
+#include <gmock/gmock.h>
+
+#include "sim/actuator_group.hpp"
+#include "sim/joint.hpp"
+#include "sim/link.hpp"
+#include "sim/model.hpp"
+#include "urdf_text.hpp"
+
+namespace {
+
+using namespace UrdfTest;
+using testing::ElementsAre;
+
+/// root -A- a -+-short- s
+///             +-long-- l -+-tip1- t1
+///             |           +-tip2- t2
+///             +-equal- e -+-e1
+///                         +-e2
+/// root -B- b
+std::string tree()
+{
+    std::string text;
+    for (char const* name : {"root", "a", "b", "s", "l", "e", "t1", "t2", "x1", "x2"}) {
+        text += link(name);
+    }
+    return robot(text + joint("A", "root", "a") + joint("B", "root", "b") + joint("short", "a", "s") +
+                 joint("long", "a", "l") + joint("equal", "a", "e") + joint("tip1", "l", "t1") +
+                 joint("tip2", "l", "t2") + joint("e1", "e", "x1") + joint("e2", "e", "x2"));
+}
+
+TEST(UrdfChains, RunOnAlongTheChildWithMostJointsBelow)
+{
+    Tables const tables = tablesOf(tree());
+    auto const jointsOf = [&](char const* chain) { return tables.chains.at(chain).jointNames; };
+    EXPECT_THAT(tables.chainNames, ElementsAre("A", "short", "equal", "e2", "tip2", "B"));
+    EXPECT_THAT(jointsOf("A"), ElementsAre("A", "long", "tip1"));
+    EXPECT_THAT(jointsOf("equal"), ElementsAre("equal", "e1"));
+    EXPECT_EQ(tables.chains.at("A").parentJoint, "root");
+    EXPECT_EQ(tables.chains.at("equal").parentJoint, "A");
+    EXPECT_EQ(tables.chains.at("tip2").parentJoint, "long");
+}
+
+TEST(UrdfChains, KeepTheOrderOfSiblingsBehindTheContinuation)
+{
+    Sim::Model const model(tree());
+    std::vector<std::string> children;
+    for (Sim::Joint const* child : model.link("ALink")->childrenJoints()) {
+        children.push_back(child->name());
+    }
+    EXPECT_THAT(children, ElementsAre("long", "short", "equal"));
+    for (char const* chain : {"short", "equal", "tip2"}) {
+        ASSERT_NE(model.actuatorGroup(chain)->parent(), nullptr) << chain;
+        EXPECT_EQ(model.actuatorGroup(chain)->parent()->name(), "A");
+    }
+}
+
+TEST(UrdfJoints, KeepTheirKindAndLimits)
+{
+    Tables const tables = tablesOf(contentOf(dataFile("awkward_axes.urdf")));
+    JointConfig const& down = tables.joints.at("down");
+    EXPECT_EQ(down.jointType, revolute);
+    EXPECT_EQ(down.minAngle, -1.0F);
+    EXPECT_EQ(down.maxAngle, 1.0F);
+    EXPECT_EQ(down.maxTorque, 10.0F);
+    EXPECT_EQ(down.maxAngularSpeed, 2.0F);
+    EXPECT_EQ(tables.joints.at("skew").minAngle, -INFINITY);
+    EXPECT_EQ(tables.joints.at("skew").maxAngle, INFINITY);
+    EXPECT_EQ(tables.joints.at("slide").jointType, prismatic);
+    for (char const* still : {"tool", "afloat", "on_a_plane"}) {
+        JointConfig const& config = tables.joints.at(still);
+        EXPECT_EQ(config.jointType, fixed) << still;
+        EXPECT_EQ(config.minAngle, 0.0F);
+        EXPECT_EQ(config.maxAngle, 0.0F);
+    }
+    EXPECT_THAT(complaintsAbout(contentOf(dataFile("awkward_axes.urdf"))), ElementsAre("joint-frozen", "joint-frozen"));
+}
+
+}  // namespace

@@ -1,0 +1,180 @@
+#include <chrono>
+#include <random>
+#include <sstream>
+
+#include <gtest/gtest.h>
+#include <pugixml.hpp>
+
+#include "sim/frame.hpp"
+#include "sim/link.hpp"
+#include "sim/model.hpp"
+#include "urdf_text.hpp"
+
+namespace {
+
+using namespace UrdfTest;
+
+/// A robot or an error, and never neither. What is accepted must also load.
+void readSafely(std::string const& text)
+{
+    ModelUtils::Reading const reading = ModelUtils::read(text);
+    bool refused = false;
+    for (Finding const& finding : reading.findings) {
+        refused = refused || finding.severity == Severity::error;
+        ASSERT_GE(finding.line, 1);
+        ASSERT_GE(finding.column, 1);
+    }
+    ASSERT_EQ(reading.robot == nullptr, refused);
+    if (reading.robot != nullptr) {
+        EXPECT_NO_THROW(Sim::Model{text});
+    }
+}
+
+std::vector<std::string> sampleTexts()
+{
+    std::vector<std::string> texts;
+    for (std::string const& folder : {ownFolder(), realRobotsFolder()}) {
+        for (std::string const& file : urdfFilesIn(folder)) {
+            texts.push_back(contentOf(file));
+        }
+    }
+    return texts;
+}
+
+TEST(UrdfRobustness, SurvivesFilesThatAreCutOff)
+{
+    for (std::string const& text : sampleTexts()) {
+        std::size_t const step = text.size() < 10'000 ? 1 : text.size() / 97;
+        for (std::size_t size = 0; size < text.size(); size += step) {
+            readSafely(text.substr(0, size));
+        }
+    }
+}
+
+TEST(UrdfRobustness, SurvivesRandomChanges)
+{
+    std::minstd_rand random(20'240'229);
+    for (std::string const& text : sampleTexts()) {
+        for (int round = 0; round < 20; ++round) {
+            std::string changed = text;
+            for (unsigned change = 0; change <= random() % 4; ++change) {
+                std::size_t const place = random() % changed.size();
+                // Half of the changes stay within characters that mean something, so that most texts stay XML.
+                static char const characters[] = "0123456789.-+e <>\"/=abj&;";
+                changed[place] = random() % 2 == 0 ? static_cast<char>(random() % 256)
+                                                   : characters[random() % (sizeof(characters) - 1)];
+            }
+            readSafely(changed);
+        }
+    }
+}
+
+/// Takes out, repeats or empties an element, or lets an attribute say what another one does: faults in what the text
+/// says, where changed bytes mostly break how it says it.
+void changeElement(pugi::xml_document& document, std::minstd_rand& random)
+{
+    std::vector<pugi::xpath_node> places;
+    for (pugi::xpath_node const& place : document.select_nodes("/robot//*|/robot//@*")) {
+        places.push_back(place);
+    }
+    pugi::xpath_node const place = places[random() % places.size()];
+    if (pugi::xml_attribute attribute = place.attribute()) {
+        pugi::xpath_node const other = places[random() % places.size()];
+        attribute.set_value(other.attribute() ? other.attribute().value() : "");
+        return;
+    }
+    pugi::xml_node node = place.node();
+    switch (random() % 3) {
+    case 0: node.parent().remove_child(node); break;
+    case 1: node.parent().append_copy(node); break;
+    default: node.remove_attributes(); break;
+    }
+}
+
+TEST(UrdfRobustness, SurvivesMisplacedElements)
+{
+    std::minstd_rand random(18'151'210);
+    for (std::string const& text : sampleTexts()) {
+        for (int round = 0; round < 20; ++round) {
+            pugi::xml_document document;
+            document.load_string(text.c_str());
+            changeElement(document, random);
+            std::ostringstream changed;
+            document.save(changed);
+            readSafely(changed.str());
+        }
+    }
+}
+
+class Stopwatch {
+public:
+    double seconds() const { return std::chrono::duration<double>(std::chrono::steady_clock::now() - _start).count(); }
+
+private:
+    std::chrono::steady_clock::time_point _start = std::chrono::steady_clock::now();
+};
+
+constexpr double secondsPerMegabyte = 1.0;
+
+void expectQuickModel(std::string const& text, std::size_t links)
+{
+    Stopwatch const stopwatch;
+    Sim::Model const model(text);
+    EXPECT_EQ(model.links().size(), links);
+#ifdef VARO_TIMED_TESTS
+    EXPECT_LT(stopwatch.seconds(), secondsPerMegabyte * static_cast<double>(text.size()) / 1e6);
+#endif
+}
+
+TEST(UrdfRobustness, LoadsALongChain)
+{
+    std::string text = link("l0");
+    for (int i = 1; i <= 100'000; ++i) {
+        text += link("l" + std::to_string(i)) + joint("j" + std::to_string(i), "l" + std::to_string(i - 1),
+                                                      "l" + std::to_string(i), "<origin xyz=\"0 0 1e-3\"/><limit/>");
+    }
+    expectQuickModel(robot(text), 100'001);
+}
+
+TEST(UrdfRobustness, LoadsAWideLink)
+{
+    std::string text = link("root");
+    for (int i = 0; i < 50'000; ++i) {
+        text += link("l" + std::to_string(i)) + joint("j" + std::to_string(i), "root", "l" + std::to_string(i));
+    }
+    expectQuickModel(robot(text), 50'001);
+}
+
+TEST(UrdfRobustness, LoadsALongChainOfMimics)
+{
+    std::string text = link("root");
+    for (int i = 0; i < 20'000; ++i) {
+        std::string const mimic = i < 19'999 ? "<mimic joint=\"j" + std::to_string(i + 1) + "\"/>" : "";
+        text += link("l" + std::to_string(i)) +
+                joint("j" + std::to_string(i), "root", "l" + std::to_string(i), "<limit/>" + mimic);
+    }
+    expectQuickModel(robot(text), 20'001);
+}
+
+TEST(UrdfRobustness, EndsInTimeOnHostileTexts)
+{
+    std::string opened;
+    std::string closed;
+    for (int i = 0; i < 200'000; ++i) {
+        opened += "<gazebo>";
+        closed += "</gazebo>";
+    }
+    struct Case {
+        std::string text;
+        bool isAccepted;
+    };
+    for (Case const& c :
+         {Case{robot(link("root") + opened), false}, Case{robot(link("root") + opened + closed), true}}) {
+        SCOPED_TRACE(c.text.substr(0, 40));
+        Stopwatch const stopwatch;
+        EXPECT_EQ(ModelUtils::checkXml(c.text), c.isAccepted);
+        EXPECT_LT(stopwatch.seconds(), 1.0 + secondsPerMegabyte * static_cast<double>(c.text.size()) / 1e6);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,66 @@
+#include <cmath>
+
+#include <gmock/gmock.h>
+
+#include "urdf_text.hpp"
+
+namespace {
+
+using namespace UrdfTest;
+using testing::ElementsAre;
+
+TEST(UrdfTolerance, TakesOrNotesWhatRealFilesAreLooseAbout)
+{
+    std::string const text = contentOf(dataFile("loose.urdf"));
+    EXPECT_THAT(complaintsAbout(text), ElementsAre("wrong-count", "wrong-count"));
+    Tables const tables = tablesOf(text);
+    JointConfig const& early = tables.joints.at("early");
+    EXPECT_TRUE(early.placement.isNear(Transform::fromPosition(0.15F, 0.25F, 0.0F), 1e-7F));
+    EXPECT_EQ(early.minAngle, -1.0F);
+    EXPECT_EQ(early.maxAngle, 5.0F);
+    EXPECT_EQ(early.maxTorque, 100.0F);
+    EXPECT_EQ(early.maxAngularSpeed, 0.5F);
+    EXPECT_EQ(early.mass, 2.0F);
+    EXPECT_EQ(early.meshName, "package://x/arm.dae");
+    EXPECT_EQ(ModelUtils::robotFromXml(text)->version(), "1.2");
+}
+
+TEST(UrdfTolerance, NotesEachKindOfStrangeElementOnce)
+{
+    std::string text = link("root");
+    for (int i = 0; i < 5000; ++i) {
+        text += "<strange/>";
+    }
+    Findings const findings = ModelUtils::diagnose(robot(text));
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].severity, Severity::note);
+    EXPECT_THAT(findings[0].message, testing::HasSubstr("4999 more"));
+}
+
+TEST(UrdfTolerance, ReadsNumbersOfEveryForm)
+{
+    struct Case {
+        char const* text;
+        float value;
+    };
+    for (Case const& c : {Case{"1", 1.0F}, Case{"+1", 1.0F}, Case{"-.5", -0.5F}, Case{"5.", 5.0F},
+                          Case{"\t2e-1\n", 0.2F}, Case{"1E+2", 100.0F}, Case{"1e-999", 0.0F}, Case{"007", 7.0F},
+                          Case{"0.0000000000000000000000000000001e1", 1e-30F}}) {
+        SCOPED_TRACE(c.text);
+        std::string const text = robot(arm("<dynamics damping=\"" + std::string(c.text) + "\"/>"));
+        EXPECT_EQ(tablesOf(text).joints.at("C").damping, c.value);
+    }
+}
+
+TEST(UrdfTolerance, TakesLimitsWithoutBoundsAsNone)
+{
+    std::string const text = robot(link("root") + link("a") +
+                                   joint("A", "root", "a", "<limit lower=\"-inf\" upper=\"1e308\" effort=\"inf\"/>"));
+    EXPECT_THAT(complaintsAbout(text), ElementsAre("unlimited"));
+    JointConfig const joint = tablesOf(text).joints.at("A");
+    EXPECT_EQ(joint.minAngle, -INFINITY);
+    EXPECT_EQ(joint.maxAngle, INFINITY);
+    EXPECT_EQ(joint.maxTorque, 0.0F);
+}
+
+}  // namespace

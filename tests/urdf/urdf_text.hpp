@@ -1,0 +1,125 @@
+#ifndef TESTS_URDF_URDF_TEXT_HPP
+#define TESTS_URDF_URDF_TEXT_HPP
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "varo/model/model_utils.hpp"
+
+/// What the tests make URDF texts and look into robots with.
+namespace UrdfTest {
+
+using namespace Varo::Model;
+
+inline std::string dataFile(std::string const& name)
+{
+    return VARO_SOURCE_DIR "/tests/urdf/data/" + name;
+}
+
+inline std::string contentOf(std::string const& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline std::vector<std::string> urdfFilesIn(std::string const& folder)
+{
+    std::vector<std::string> files;
+    if (std::filesystem::is_directory(folder)) {
+        for (auto const& entry : std::filesystem::directory_iterator(folder)) {
+            if (entry.path().extension() == ".urdf") {
+                files.push_back(entry.path().string());
+            }
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+inline std::string ownFolder()
+{
+    return VARO_SOURCE_DIR "/tests/urdf/data";
+}
+
+/// Real robots, which may stand beside the sources; the environment can name another folder.
+inline std::string realRobotsFolder()
+{
+    char const* const named = std::getenv("VARO_URDF_FOLDER");
+    return named != nullptr ? named : VARO_SOURCE_DIR "/../shared/robots";
+}
+
+inline std::string robot(std::string const& content)
+{
+    return "<robot name=\"r\">" + content + "</robot>";
+}
+
+inline std::string link(std::string const& name)
+{
+    return "<link name=\"" + name + "\"/>";
+}
+
+inline std::string joint(std::string const& name, std::string const& parent, std::string const& child,
+                         std::string const& content = "<limit lower=\"-1\" upper=\"1\"/>",
+                         std::string const& type = "revolute")
+{
+    return "<joint name=\"" + name + "\" type=\"" + type + "\"><parent link=\"" + parent + "\"/><child link=\"" +
+           child + "\"/>" + content + "</joint>";
+}
+
+/// Links root, a, b and c, one on the other by the joints A, B and C.
+inline std::string arm(std::string const& moreOfC = {})
+{
+    return link("root") + link("a") + link("b") + link("c") + joint("A", "root", "a") + joint("B", "a", "b") +
+           joint("C", "b", "c", "<limit lower=\"-1\" upper=\"1\"/>" + moreOfC);
+}
+
+/// All tables of a robot.
+struct Tables {
+    explicit Tables(Robot const& robot)
+    {
+        std::vector<std::string> unused;
+        robot.listJoints(name, root, joints, jointNames, unused);
+        robot.listChains(chainNames, chains);
+        robot.listActuators(actuatorNames, actuators, subActuators);
+        robot.listSensors(sensorNames, sensors);
+    }
+
+    std::string name;
+    JointConfig root;
+    JointTable joints;
+    std::vector<std::string> jointNames;
+    std::vector<std::string> chainNames;
+    ChainTable chains;
+    std::vector<std::string> actuatorNames;
+    ActuatorTable actuators;
+    SubActuatorTable subActuators;
+    std::vector<std::string> sensorNames;
+    SensorTable sensors;
+};
+
+inline Tables tablesOf(std::string const& xml)
+{
+    return Tables(*ModelUtils::robotFromXml(xml));
+}
+
+/// The codes of the findings that are no notes.
+inline std::vector<std::string> complaintsAbout(std::string const& xml)
+{
+    std::vector<std::string> codes;
+    for (Finding const& finding : ModelUtils::diagnose(xml)) {
+        if (finding.severity != Severity::note) {
+            codes.push_back(finding.code);
+        }
+    }
+    return codes;
+}
+
+}  // namespace UrdfTest
+
+#endif
