@@ -1,0 +1,14 @@
+#include "commands/commands.hpp"
+
+#include <CLI/CLI.hpp>
+
+namespace Tool {
+
+void declareFile(CLI::App& app, std::string& file)
+{
+    app.add_option("FILE", file, "Description to read, native or URDF; - reads standard input")
+        ->type_name("")
+        ->required();
+}
+
+}  // namespace Tool

@@ -1,0 +1,42 @@
+#ifndef TOOL_COMMANDS_COMMANDS_HPP
+#define TOOL_COMMANDS_COMMANDS_HPP
+
+#include <functional>
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+/// The subcommands of varo-robot, one source each.
+namespace Tool {
+
+namespace exitStatus {
+inline constexpr int fine = 0;
+inline constexpr int bad = 1;  ///< the description, or what was asked for is not in it
+inline constexpr int wrongUsage = 2;
+}  // namespace exitStatus
+
+struct Command {
+    char const* name;
+    char const* summary;
+    char const* details;  ///< what --help adds to the usage: description, notes, examples
+    /// Declares arguments and options; the answer runs the command once they are parsed, and gives the exit status.
+    std::function<int()> (*declare)(CLI::App& app);
+};
+
+extern Command const checkCommand;
+extern Command const infoCommand;
+extern Command const treeCommand;
+extern Command const listCommand;
+extern Command const showCommand;
+extern Command const graphCommand;
+extern Command const dumpCommand;
+extern Command const convertCommand;
+
+/// Declares the argument that names the description file.
+void declareFile(CLI::App& app, std::string& file);
+
+}  // namespace Tool
+
+#endif

@@ -1,0 +1,73 @@
+#include <iostream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+
+#include "commands/commands.hpp"
+#include "sim/link.hpp"
+#include "support/description.hpp"
+#include "support/element_json.hpp"
+
+namespace Tool {
+
+namespace {
+
+template <class Element>
+void addElements(JsonStream& dump, char const* key, std::vector<Element const*> const& elements)
+{
+    dump.next(key);
+    JsonStream array(std::cout, '[', 2);
+    for (Element const* element : elements) {
+        array.add(toJson(*element));
+    }
+}
+
+int dump(std::string const& file)
+{
+    auto const [description, model] = loadRobot(file);
+    {
+        JsonStream dump(std::cout, '{');
+        dump.add("name", model.name());
+        dump.add("prettyName", model.prettyName(0));
+        dump.add("version", description.reading.robot->version());
+        dump.add("rootLink", model.rootLink()->name());
+        addElements(dump, "links", model.links());
+        addElements(dump, "joints", model.joints());
+        addElements(dump, "jointSymmetries", model.jointSymmetries());
+        addElements(dump, "jointGroups", model.jointGroups());
+        addElements(dump, "actuators", model.actuators());
+        addElements(dump, "actuatorGroups", model.actuatorGroups());
+        addElements(dump, "sensors", model.sensors());
+    }
+    std::cout << '\n';
+    return exitStatus::fine;
+}
+
+std::function<int()> declare(CLI::App& app)
+{
+    auto const file = std::make_shared<std::string>();
+    declareFile(app, *file);
+    return [file] { return dump(*file); };
+}
+
+}  // namespace
+
+Command const dumpCommand = {"dump", "Print the whole model as JSON",
+                             R"(Prints one JSON object with everything that the model holds: name, prettyName,
+version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
+actuators, actuatorGroups and sensors, each in the order in which loading made
+its elements.
+
+Poses (localPosition, in the parent frame; globalPosition, in the root frame;
+meshTransform, in the link frame) are the 16 numbers of the homogeneous matrix,
+row by row, lengths in metres. Numbers are in SI units and the shortest that
+read back as the same single-precision value; an infinite one, such as the
+limit of a joint that turns without end, is null. Elements refer to each other
+by name, with null for none.
+
+Examples:
+  varo-robot dump robots/humanoid.xml
+  varo-robot dump robot.urdf | jq -r '.joints[].name')",
+                             declare};
+
+}  // namespace Tool

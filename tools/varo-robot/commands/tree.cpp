@@ -1,0 +1,214 @@
+#include <algorithm>
+#include <iostream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <unistd.h>
+
+#include "commands/commands.hpp"
+#include "sim/frame.hpp"
+#include "sim/joint.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+#include "support/description.hpp"
+#include "support/link_names.hpp"
+#include "support/numbers.hpp"
+#include "support/terminal.hpp"
+
+namespace Tool {
+
+namespace {
+
+using Varo::Math::Transform;
+
+struct Options {
+    std::string file;
+    bool pose = false;
+    bool mass = false;
+};
+
+/// The strokes that branches are drawn with.
+struct Strokes {
+    char const* fork;
+    char const* end;
+    char const* pass;
+    char const* blank;
+    char const* moves;
+    char const* deeper;
+};
+
+constexpr Strokes drawn = {"├─ ", "└─ ", "│  ", "   ", " → ", "⋯ "};
+constexpr Strokes typed = {"|- ", "`- ", "|  ", "   ", " -> ", "... "};
+
+/// Levels further in are no longer indented: lines would grow as long as the tree is deep.
+constexpr std::size_t deepestIndent = 40;
+/// Columns of facts begin here at the latest, whatever the length of names.
+constexpr std::size_t widestTree = 100;
+
+struct Line {
+    std::string text;
+    std::size_t columns;  ///< that the text takes up
+    std::string facts;
+};
+
+/// Draws a model's tree line by line, depth first.
+class TreePainter {
+public:
+    TreePainter(Options const& options, LinkNames const& names)
+        : _options(options), _names(names), _strokes(isUtf8Locale() ? drawn : typed), _palette(STDOUT_FILENO)
+    {}
+
+    std::vector<Line> paint(Sim::Link const& root);
+
+private:
+    struct Step {
+        Sim::Joint const* joint;
+        std::size_t depth;
+        bool isLast;
+        Transform parentPose;
+    };
+
+    void pushChildren(Sim::Link const& link, std::size_t depth, Transform const& pose);
+    void paintJoint(Step const& step);
+    std::string branchOf(Step const& step);
+    std::string labelOf(Sim::Link const& link, Palette const& palette) const;
+    std::string labelOf(Sim::Joint const& joint, Palette const& palette) const;
+    std::string factsOf(Sim::Link const& link, Transform const& pose) const;
+
+    Options const& _options;
+    LinkNames const& _names;
+    Strokes _strokes;
+    Palette _palette;
+    Palette _colourless = Palette(-1);
+    std::vector<bool> _isLast;  // of the joints above the current one, by depth
+    std::vector<Step> _steps;  // a stack of our own: trees may be deeper than that of calls
+    std::vector<Line> _lines;
+};
+
+std::vector<Line> TreePainter::paint(Sim::Link const& root)
+{
+    Transform const pose = root.frame()->localPosition();
+    _lines.push_back({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root, pose)});
+    pushChildren(root, 0, pose);
+    while (!_steps.empty()) {
+        Step const step = _steps.back();
+        _steps.pop_back();
+        paintJoint(step);
+    }
+    return std::move(_lines);
+}
+
+void TreePainter::pushChildren(Sim::Link const& link, std::size_t depth, Transform const& pose)
+{
+    std::vector<Sim::Joint const*> const children = link.childrenJoints();
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+        _steps.push_back({*child, depth, child == children.rbegin(), pose});
+    }
+}
+
+void TreePainter::paintJoint(Step const& step)
+{
+    std::string const branch = branchOf(step);
+    Line line = {
+        branch + labelOf(*step.joint, _palette), columnsOf(branch) + columnsOf(labelOf(*step.joint, _colourless)), {}};
+    if (Sim::Link const* const link = step.joint->childLink()) {
+        Transform const pose = step.parentPose * step.joint->frame()->localPosition() * link->frame()->localPosition();
+        line.facts = factsOf(*link, pose);
+        pushChildren(*link, step.depth + 1, pose);
+    }
+    _lines.push_back(std::move(line));
+}
+
+std::string TreePainter::branchOf(Step const& step)
+{
+    _isLast.resize(step.depth);
+    std::string branch;
+    for (std::size_t level = 0; level < std::min(step.depth, deepestIndent); ++level) {
+        branch += _isLast[level] ? _strokes.blank : _strokes.pass;
+    }
+    _isLast.push_back(step.isLast);
+    if (step.depth > deepestIndent) {
+        branch += _strokes.deeper + std::to_string(step.depth) + " ";
+    }
+    return branch + (step.isLast ? _strokes.end : _strokes.fork);
+}
+
+std::string TreePainter::labelOf(Sim::Link const& link, Palette const& palette) const
+{
+    std::string label = palette.paint(Ink::link, "[" + link.name() + "]");
+    if (link.type() == Sim::Link::Wheel) {
+        label += palette.paint(Ink::faint, " wheel");
+    }
+    std::string const urdfName = _names.urdfNameOf(link.name());
+    if (!urdfName.empty()) {
+        label += palette.paint(Ink::faint, " urdf:" + urdfName);
+    }
+    return label;
+}
+
+std::string TreePainter::labelOf(Sim::Joint const& joint, Palette const& palette) const
+{
+    std::string const name = palette.paint(Ink::joint, joint.name());
+    Sim::Link const* const link = joint.childLink();
+    return link == nullptr ? name : name + _strokes.moves + labelOf(*link, palette);
+}
+
+std::string TreePainter::factsOf(Sim::Link const& link, Transform const& pose) const
+{
+    std::string facts;
+    if (_options.mass && link.mass() != nullptr) {
+        facts += shortest(link.mass()->mass()) + " kg";
+    }
+    if (_options.pose) {
+        facts += facts.empty() && !_options.mass ? "" : std::string(facts.size() < 12 ? 12 - facts.size() : 1, ' ');
+        facts += poseText(pose);
+    }
+    return facts;
+}
+
+int tree(Options const& options)
+{
+    auto const [description, model] = loadRobot(options.file);
+    LinkNames const names(*description.reading.robot);
+    std::vector<Line> const lines = TreePainter(options, names).paint(*model.rootLink());
+
+    std::size_t widest = 0;
+    for (Line const& line : lines) {
+        widest = std::max(widest, std::min(line.columns, widestTree));
+    }
+    for (Line const& line : lines) {
+        std::cout << line.text;
+        if (!line.facts.empty()) {
+            std::cout << std::string(line.columns < widest ? widest - line.columns : 0, ' ') << "  " << line.facts;
+        }
+        std::cout << '\n';
+    }
+    return exitStatus::fine;
+}
+
+std::function<int()> declare(CLI::App& app)
+{
+    auto const options = std::make_shared<Options>();
+    declareFile(app, options->file);
+    app.add_flag("--pose", options->pose, "Add each link's pose in the root frame: origin (m), roll, pitch, yaw (rad)");
+    app.add_flag("--mass", options->mass, "Add each link's mass");
+    return [options] { return tree(*options); };
+}
+
+}  // namespace
+
+Command const treeCommand = {"tree", "Draw the links and joints as a tree",
+                             R"(Draws the kinematic tree, one line for each joint: its name, an arrow, and in
+brackets the link that it moves. The root link stands on top. A link of a URDF
+description also shows the name that it has there.
+
+Branches are drawn with box-drawing characters in a UTF-8 locale, with plain
+ones otherwise. Colour appears on terminals only; set NO_COLOR to be without.
+Lines deeper than 40 levels are not indented further and bear their depth.
+
+Examples:
+  varo-robot tree robots/humanoid.xml
+  varo-robot tree --mass --pose robots/rover.xml)",
+                             declare};
+
+}  // namespace Tool

@@ -1,0 +1,89 @@
+#include <array>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "commands/commands.hpp"
+#include "support/description.hpp"
+#include "support/finding_text.hpp"
+
+namespace Tool {
+
+namespace {
+
+constexpr char description[] = "varo-robot shows, checks and converts robot descriptions.";
+
+constexpr char footer[] =
+    R"(A description is an XML file in the native dialect (root element
+robotDescription) or in URDF (robot); the root element decides. FILE may be -
+for standard input. Data goes to standard output, problems to standard error.
+
+Exit status:
+  0  fine
+  1  the description is bad, or what was asked for is not in it
+  2  wrong usage
+
+`varo-robot COMMAND --help` says more about a command.)";
+
+constexpr std::array<Command const*, 4> commands = {&checkCommand, &infoCommand, &treeCommand, &dumpCommand};
+
+void declareCommands(CLI::App& app, std::function<int()>& chosen)
+{
+    for (Command const* const command : commands) {
+        CLI::App* const subcommand = app.add_subcommand(command->name, command->summary);
+        subcommand->footer(command->details);
+        subcommand->callback([&chosen, action = command->declare(*subcommand)] { chosen = action; });
+    }
+    app.require_subcommand(1);
+}
+
+/// The answer is the exit status.
+int runChosen(std::function<int()> const& chosen)
+{
+    try {
+        int const status = chosen();
+        if (!std::cout.flush()) {
+            std::cerr << "varo-robot: error: standard output cannot be written.\n";
+            return exitStatus::bad;
+        }
+        return status;
+    } catch (Refused const& refused) {
+        std::cout.flush();
+        printFindings(std::cerr, refused.file(), refused.findings());
+    } catch (std::exception const& error) {  // want of memory, say
+        std::cerr << "varo-robot: error: " << error.what() << '\n';
+    }
+    return exitStatus::bad;
+}
+
+int run(int argumentCount, char** arguments)
+{
+    std::ios::sync_with_stdio(false);
+    CLI::App app(description, "varo-robot");
+    app.set_version_flag("--version", "varo-robot " VARO_ROBOT_VERSION);
+    app.footer(footer);
+    std::function<int()> chosen;
+    declareCommands(app, chosen);
+    try {
+        app.parse(argumentCount, arguments);
+    } catch (CLI::RequiredError const& error) {
+        std::vector<std::string> const unknown = app.remaining();
+        if (!unknown.empty()) {
+            std::cerr << "There is no command \"" << unknown.front() << "\".\n";
+        }
+        app.exit(error);
+        return exitStatus::wrongUsage;
+    } catch (CLI::ParseError const& error) {
+        return app.exit(error) == 0 ? exitStatus::fine : exitStatus::wrongUsage;
+    }
+    return runChosen(chosen);
+}
+
+}  // namespace
+
+}  // namespace Tool
+
+int main(int argumentCount, char** arguments)
+{
+    return Tool::run(argumentCount, arguments);
+}

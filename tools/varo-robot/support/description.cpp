@@ -1,0 +1,143 @@
+#include "support/description.hpp"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <memory>
+#include <utility>
+
+#include "support/finding_text.hpp"
+#include "zu/log.hpp"
+
+namespace Tool {
+
+namespace {
+
+using Varo::Model::Finding;
+using Varo::Model::Findings;
+using Varo::Model::Severity;
+
+using FilePtr = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+FilePtr open(std::string const& file)
+{
+    if (file == "-") {
+        return {stdin, [](std::FILE*) { return 0; }};
+    }
+    return {std::fopen(file.c_str(), "rb"), std::fclose};
+}
+
+/// The reason why nothing came of the file, or 0. Reads a little more than the reader accepts at most: a device file
+/// may never end.
+int readText(std::string const& file, std::string& text)
+{
+    FilePtr const stream = open(file);
+    if (stream == nullptr) {
+        return errno;
+    }
+    std::array<char, 65536> block;
+    while (text.size() <= Varo::Model::ModelUtils::maxTextSize) {
+        std::size_t const count = std::fread(block.data(), 1, block.size(), stream.get());
+        text.append(block.data(), count);
+        if (count < block.size()) {
+            break;
+        }
+    }
+    return std::ferror(stream.get()) != 0 ? errno : 0;
+}
+
+bool hasErrors(Findings const& findings)
+{
+    for (Finding const& finding : findings) {
+        if (finding.severity == Severity::error) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string withoutLineEnd(std::string text)
+{
+    while (!text.empty() && text.back() == '\n') {
+        text.pop_back();
+    }
+    return text;
+}
+
+/// Hears what the library logs, as long as it lives.
+class LogListener {
+public:
+    explicit LogListener(Findings& findings)
+    {
+        zu::log::setSink([&findings](zu::log::Record const& record) {
+            findings.push_back(fileFinding(Severity::warning, codes::modelIncomplete, std::string(record.message)));
+        });
+    }
+    LogListener(LogListener const&) = delete;
+    LogListener& operator=(LogListener const&) = delete;
+    ~LogListener() { zu::log::setSink({}); }
+};
+
+}  // namespace
+
+Finding fileFinding(Severity severity, std::string code, std::string message, std::string hint)
+{
+    Finding finding;
+    finding.severity = severity;
+    finding.code = std::move(code);
+    finding.message = std::move(message);
+    finding.hint = std::move(hint);
+    return finding;
+}
+
+Description readDescription(std::string const& file)
+{
+    Description description;
+    description.file = file == "-" ? "<stdin>" : file;
+    int const error = readText(file, description.text);
+    Findings& findings = description.reading.findings;
+    if (error != 0) {
+        std::string const reason = std::strerror(error);
+        findings.push_back(fileFinding(Severity::error, codes::unreadableFile, "It cannot be read: " + reason + "."));
+    } else if (description.text.empty()) {
+        findings.push_back(fileFinding(Severity::error, codes::emptyFile, "There is nothing in it.",
+                                       "A description begins with <robotDescription> or, in URDF, with <robot>."));
+    } else {
+        description.reading = Varo::Model::ModelUtils::read(description.text);
+    }
+    return description;
+}
+
+Description readAccepted(std::string const& file)
+{
+    Description description = readDescription(file);
+    if (description.reading.robot == nullptr || hasErrors(description.reading.findings)) {
+        throw Refused(description.file, std::move(description.reading.findings));
+    }
+    return description;
+}
+
+Sim::Model buildModel(Description const& description, Findings& findings)
+{
+    LogListener const listener(findings);
+    try {
+        return Sim::Model(description.text);
+    } catch (std::exception const& reason) {
+        throw Refused(description.file,
+                      {fileFinding(Severity::error, codes::modelNotBuilt,
+                                   "No model can be built from it: " + withoutLineEnd(reason.what()))});
+    }
+}
+
+Robot loadRobot(std::string const& file)
+{
+    Description description = readAccepted(file);
+    Findings heard;
+    Sim::Model model = buildModel(description, heard);
+    printFindings(std::cerr, description.file, heard);
+    return {std::move(description), std::move(model)};
+}
+
+}  // namespace Tool

@@ -1,0 +1,68 @@
+#ifndef TOOL_SUPPORT_DESCRIPTION_HPP
+#define TOOL_SUPPORT_DESCRIPTION_HPP
+
+#include <exception>
+#include <string>
+
+#include "sim/model.hpp"
+#include "varo/model/finding.hpp"
+#include "varo/model/model_utils.hpp"
+
+namespace Tool {
+
+/// The codes of what the tool itself has to say of a file.
+namespace codes {
+inline constexpr char unreadableFile[] = "unreadable-file";
+inline constexpr char emptyFile[] = "empty-file";
+inline constexpr char modelNotBuilt[] = "model-not-built";
+inline constexpr char modelIncomplete[] = "model-incomplete";
+}  // namespace codes
+
+/// A description as it was read.
+struct Description {
+    std::string file;  ///< as messages name it
+    std::string text;
+    Varo::Model::ModelUtils::Reading reading;
+};
+
+/// Reads the file, or standard input when it is "-". Never throws for what is in the way: that becomes a finding.
+Description readDescription(std::string const& file);
+
+/// Thrown when a command cannot do its work: the findings say why.
+class Refused : public std::exception {
+public:
+    Refused(std::string file, Varo::Model::Findings findings) : _file(std::move(file)), _findings(std::move(findings))
+    {}
+
+    char const* what() const noexcept override { return "The description was refused."; }
+    std::string const& file() const { return _file; }
+    Varo::Model::Findings const& findings() const { return _findings; }
+
+private:
+    std::string _file;
+    Varo::Model::Findings _findings;
+};
+
+/// A finding about a whole file, or about what was asked of it.
+Varo::Model::Finding fileFinding(Varo::Model::Severity severity, std::string code, std::string message,
+                                 std::string hint = {});
+
+/// As readDescription, for commands that need a description without errors. Throws Refused.
+Description readAccepted(std::string const& file);
+
+/// Builds the model of an accepted description. What the library logs meanwhile is appended to `findings`. Throws
+/// Refused when the model cannot be built.
+Sim::Model buildModel(Description const& description, Varo::Model::Findings& findings);
+
+/// A description and its model.
+struct Robot {
+    Description description;
+    Sim::Model model;
+};
+
+/// What most commands start from: says on standard error what the library logs. Throws Refused.
+Robot loadRobot(std::string const& file);
+
+}  // namespace Tool
+
+#endif

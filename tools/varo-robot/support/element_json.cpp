@@ -1,0 +1,89 @@
+#include "support/element_json.hpp"
+
+#include "sim/actuator.hpp"
+#include "sim/actuator_group.hpp"
+#include "sim/frame.hpp"
+#include "sim/joint.hpp"
+#include "sim/joint_group.hpp"
+#include "sim/joint_symmetry.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+#include "sim/visual_data.hpp"
+#include "support/json_parts.hpp"
+
+namespace Tool {
+
+namespace {
+
+Json massJson(Sim::MassData const* mass)
+{
+    if (mass == nullptr) {
+        return nullptr;
+    }
+    Varo::Math::Position3D const& com = mass->CoM();
+    return {{"mass", mass->mass()}, {"com", {com.x, com.y, com.z}}, {"inertia", mass->inertiaMatrix()}};
+}
+
+Json visualJson(Sim::VisualData const* visual)
+{
+    if (visual == nullptr) {
+        return nullptr;
+    }
+    return {{"meshPath", visual->meshPath()}, {"meshTransform", matrixOf(visual->meshTransform())}};
+}
+
+}  // namespace
+
+Json toJson(Sim::Link const& link)
+{
+    return {
+        {"name", link.name()},
+        {"frame", nameOrNull(link.frame())},
+        {"type", link.type() == Sim::Link::Wheel ? "wheel" : "regular"},
+        {"parentJoint", nameOrNull(link.parentJoint())},
+        {"childrenJoints", namesOf(link.childrenJoints())},
+        {"mass", massJson(link.mass())},
+        {"frictionMaterial", link.frictionMaterial()},
+        {"visual", visualJson(link.visual())},
+        {"localPosition", localPosition(link.frame())},
+        {"globalPosition", globalPosition(link.frame())},
+    };
+}
+
+Json toJson(Sim::Joint const& joint)
+{
+    return {
+        {"name", joint.name()},
+        {"frame", nameOrNull(joint.frame())},
+        {"parentLink", nameOrNull(joint.parentLink())},
+        {"childLink", nameOrNull(joint.childLink())},
+        {"localPosition", localPosition(joint.frame())},
+        {"globalPosition", globalPosition(joint.frame())},
+    };
+}
+
+Json toJson(Sim::JointSymmetry const& symmetry)
+{
+    auto const [first, second] = symmetry.symmetricJoints();
+    bool const reversed = symmetry.symmetryType() == Sim::JointSymmetry::ReflectedSymmetricReversed;
+    return {
+        {"joints", Json::array({nameOrNull(first), nameOrNull(second)})},
+        {"type", reversed ? "ReflectedSymmetricReversed" : "ReflectedSymmetric"},
+    };
+}
+
+Json toJson(Sim::JointGroup const& group)
+{
+    return {{"name", group.name()}, {"joints", namesOf(group.joints())}};
+}
+
+Json toJson(Sim::ActuatorGroup const& group)
+{
+    return {
+        {"name", group.name()},
+        {"parent", nameOrNull(group.parent())},
+        {"actuators", namesOf(group.actuators())},
+    };
+}
+
+}  // namespace Tool

@@ -1,0 +1,20 @@
+#ifndef TOOL_SUPPORT_FINDING_TEXT_HPP
+#define TOOL_SUPPORT_FINDING_TEXT_HPP
+
+#include <ostream>
+#include <string>
+
+#include "varo/model/finding.hpp"
+
+namespace Tool {
+
+/// "error", "warning" or "note".
+char const* nameOf(Varo::Model::Severity severity);
+
+/// A line for each, `FILE:LINE:COLUMN: error: sentence [code]`, with its hint indented below. What concerns the whole
+/// file bears no line and column. Coloured when standard error is a terminal.
+void printFindings(std::ostream& out, std::string const& file, Varo::Model::Findings const& findings);
+
+}  // namespace Tool
+
+#endif

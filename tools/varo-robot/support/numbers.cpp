@@ -1,0 +1,64 @@
+#include "support/numbers.hpp"
+
+#include <charconv>
+#include <cmath>
+
+namespace Tool {
+
+namespace {
+
+/// Long enough for the largest number in fixed notation.
+using Digits = std::array<char, 512>;
+
+template <class Number, class... Format>
+std::string digitsOf(Number value, Format... format)
+{
+    Digits digits;
+    auto const end = std::to_chars(digits.data(), digits.data() + digits.size(), value, format...).ptr;
+    return {digits.data(), end};
+}
+
+std::array<double, 3> rpyOf(Varo::Math::Transform const& pose)
+{
+    double const sinePitch = static_cast<double>(-pose(2, 0));
+    double const cosinePitch = std::hypot(static_cast<double>(pose(0, 0)), static_cast<double>(pose(1, 0)));
+    if (cosinePitch < 1e-6) {  // only the sum or difference of roll and yaw is left: call it yaw
+        double const yaw = std::atan2(static_cast<double>(-pose(0, 1)), static_cast<double>(pose(1, 1)));
+        return {0.0, std::atan2(sinePitch, cosinePitch), yaw};
+    }
+    return {std::atan2(static_cast<double>(pose(2, 1)), static_cast<double>(pose(2, 2))),
+            std::atan2(sinePitch, cosinePitch),
+            std::atan2(static_cast<double>(pose(1, 0)), static_cast<double>(pose(0, 0)))};
+}
+
+}  // namespace
+
+std::string shortest(float value)
+{
+    return digitsOf(value);
+}
+
+std::string fixedPoint(double value, int decimals)
+{
+    std::string text = digitsOf(value, std::chars_format::fixed, decimals);
+    bool const isNegativeZero = text[0] == '-' && text.find_first_not_of("-0.") == std::string::npos;
+    return isNegativeZero ? text.substr(1) : text;
+}
+
+std::string rounded(double value)
+{
+    return digitsOf(value, std::chars_format::general, 6);
+}
+
+std::string triple(std::array<double, 3> const& values)
+{
+    return fixedPoint(values[0], 3) + " " + fixedPoint(values[1], 3) + " " + fixedPoint(values[2], 3);
+}
+
+std::string poseText(Varo::Math::Transform const& pose)
+{
+    Varo::Math::Position3D const origin = pose.position();
+    return "xyz " + triple({origin.x, origin.y, origin.z}) + "  rpy " + triple(rpyOf(pose));
+}
+
+}  // namespace Tool

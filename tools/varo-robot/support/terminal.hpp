@@ -1,0 +1,32 @@
+#ifndef TOOL_SUPPORT_TERMINAL_HPP
+#define TOOL_SUPPORT_TERMINAL_HPP
+
+#include <string>
+#include <string_view>
+
+namespace Tool {
+
+/// Whether the locale's character set, as the environment names it, is UTF-8.
+bool isUtf8Locale();
+
+/// What a piece of text is, for readers with a colour terminal.
+enum class Ink { plain, heading, link, joint, faint, error, warning, note };
+
+/// Puts colour into text where it goes to a terminal and the user did not refuse it (NO_COLOR, TERM=dumb).
+class Palette {
+public:
+    /// For what goes to this file descriptor.
+    explicit Palette(int fileDescriptor);
+
+    std::string paint(Ink ink, std::string_view text) const;
+
+private:
+    bool _colourful;
+};
+
+/// The columns that a UTF-8 text takes up on a terminal, one for each code point.
+std::size_t columnsOf(std::string_view text);
+
+}  // namespace Tool
+
+#endif
