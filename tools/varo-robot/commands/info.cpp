@@ -83,7 +83,7 @@ std::string prettyNames(Varo::Model::Robot const& robot)
 {
     std::string text;
     for (auto const& [index, name] : robot.prettyNames()) {
-        text += (text.empty() ? "" : ", ") + name;
+        text += (text.empty() ? "" : " | ") + name;
     }
     return text;
 }
