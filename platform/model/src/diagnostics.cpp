@@ -1,6 +1,7 @@
 #include "diagnostics.hpp"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 #include "utf8.hpp"
@@ -28,6 +29,21 @@ std::size_t startOf(pugi::xml_node node, pugi::xml_attribute attribute)
     return static_cast<std::size_t>(node.offset_debug() + (attribute.name() - node.name()));
 }
 
+/// The element's name as far as paths show it, at a cost that no element can drive up.
+std::string_view nameOf(pugi::xml_node element)
+{
+    int looked = 0;
+    for (pugi::xml_attribute const attribute : element.attributes()) {
+        if (std::strcmp(attribute.name(), "name") == 0) {
+            return {attribute.value(), strnlen(attribute.value(), 2 * longestQuote)};
+        }
+        if (++looked == 16) {
+            break;
+        }
+    }
+    return {};
+}
+
 std::string pathOf(pugi::xml_node node)
 {
     std::vector<pugi::xml_node> elements;
@@ -46,7 +62,8 @@ std::string pathOf(pugi::xml_node node)
         // There is but one root element, and its name is the robot's.
         bool const isRoot = element->parent().type() == pugi::node_document;
         path += '/';
-        path += *element ? pathStep(element->name(), isRoot ? "" : element->attribute("name").value()) : "...";
+        std::string_view const name(element->name(), strnlen(element->name(), 2 * longestQuote));
+        path += *element ? pathStep(name, isRoot ? "" : nameOf(*element)) : "...";
     }
     return path;
 }

@@ -19,8 +19,7 @@ struct FindingCode {
 namespace codes {
 
 inline constexpr FindingCode textTooLarge{"text-too-large", Severity::error, "The text is longer than 256 MiB."};
-inline constexpr FindingCode malformedXml{"malformed-xml", Severity::error,
-                                          "The text breaks a rule of XML; what follows the place is not read."};
+inline constexpr FindingCode malformedXml{"malformed-xml", Severity::error, "The text breaks a rule of XML."};
 inline constexpr FindingCode documentType{
     "document-type", Severity::error,
     "There is a document type declaration (DOCTYPE), which descriptions do without; entities cannot be defined."};

@@ -1,0 +1,97 @@
+#include "raw_tag.hpp"
+
+#include <array>
+
+namespace Varo::Model {
+
+namespace {
+
+/// The bytes that end a name. A table, since this is asked of most bytes of a text.
+constexpr std::array<bool, 256> makeNameEnds()
+{
+    std::array<bool, 256> ends{};
+    for (char const c : {' ', '\t', '\n', '\r', '=', '/', '>', '<', '"', '\'', '&', '\0'}) {
+        ends[static_cast<unsigned char>(c)] = true;
+    }
+    return ends;
+}
+constexpr std::array<bool, 256> nameEnds = makeNameEnds();
+
+}  // namespace
+
+bool isXmlSpace(char c)
+{
+    return c == ' ' || c == '\n' || c == '\t' || c == '\r';
+}
+
+RawTag::RawTag(std::string_view text, std::size_t offset) : _text(text), _position(offset + 1)
+{
+    _name = takeName();
+    _broken = _name.empty();
+}
+
+bool RawTag::next(RawAttribute& attribute)
+{
+    if (_broken) {
+        return false;
+    }
+    attribute.spaced = skipSpace();
+    if (_position == _text.size()) {
+        return breakOff();
+    }
+    if (_text[_position] == '>' || _text[_position] == '/') {
+        return finish();
+    }
+    attribute.name = takeName();
+    skipSpace();
+    if (attribute.name.empty() || _position == _text.size() || _text[_position] != '=') {
+        return breakOff();
+    }
+    ++_position;
+    skipSpace();
+    char const quote = _position < _text.size() ? _text[_position] : '\0';
+    std::size_t const close = quote == '"' || quote == '\'' ? _text.find(quote, _position + 1) : _text.npos;
+    if (close == _text.npos) {
+        return breakOff();
+    }
+    attribute.value = _text.substr(_position + 1, close - _position - 1);
+    _position = close + 1;
+    return true;
+}
+
+bool RawTag::skipSpace()
+{
+    std::size_t const start = _position;
+    while (_position < _text.size() && isXmlSpace(_text[_position])) {
+        ++_position;
+    }
+    return _position > start;
+}
+
+std::string_view RawTag::takeName()
+{
+    std::size_t const start = _position;
+    while (_position < _text.size() && !nameEnds[static_cast<unsigned char>(_text[_position])]) {
+        ++_position;
+    }
+    return _text.substr(start, _position - start);
+}
+
+bool RawTag::finish()
+{
+    _emptyElement = _text[_position] == '/';
+    _position += _emptyElement ? 1 : 0;
+    if (_position == _text.size() || _text[_position] != '>') {
+        return breakOff();
+    }
+    ++_position;
+    return false;
+}
+
+bool RawTag::breakOff()
+{
+    _broken = true;
+    return false;
+}
+
+}  // namespace Varo::Model

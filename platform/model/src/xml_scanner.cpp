@@ -1,0 +1,357 @@
+#include "xml_scanner.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+#include "raw_tag.hpp"
+#include "utf8.hpp"
+
+namespace Varo::Model {
+
+namespace {
+
+constexpr std::size_t deepestPath = 16;  // steps
+constexpr std::size_t longestReference = 32;  // bytes
+constexpr std::size_t longestTagForPath = 4096;  // bytes, beyond which no name is looked for
+
+bool isUnusual(char c)
+{
+    auto const byte = static_cast<unsigned char>(c);
+    return byte >= 0x80 || (byte < 0x20 && !isXmlSpace(c));
+}
+
+/// The first control character or byte beyond ASCII from `start` on. Eight bytes at a time: nearly all are usual.
+std::size_t findUnusual(std::string_view text, std::size_t start)
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    constexpr std::uint64_t spaces = 0x2020202020202020U;
+    for (; start + 8 <= text.size(); start += 8) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data() + start, 8);
+        if ((((word - spaces) | word) & highBits) == 0) {
+            continue;
+        }
+        auto const eight = text.substr(start, 8);
+        auto const found = std::find_if(eight.begin(), eight.end(), isUnusual);
+        if (found != eight.end()) {
+            return start + static_cast<std::size_t>(found - eight.begin());
+        }
+    }
+    for (; start < text.size(); ++start) {
+        if (isUnusual(text[start])) {
+            return start;
+        }
+    }
+    return text.npos;
+}
+
+/// Whether `&` and `;` may stand around `body`.
+bool isKnownReference(std::string_view body)
+{
+    for (std::string_view const name : {"amp", "lt", "gt", "quot", "apos"}) {
+        if (body == name) {
+            return true;
+        }
+    }
+    if (body.size() < 2 || body[0] != '#') {
+        return false;
+    }
+    int const base = body[1] == 'x' ? 16 : 10;
+    std::string_view const digits = body.substr(base == 16 ? 2 : 1);
+    std::uint32_t codePoint = 0;
+    auto const result = std::from_chars(digits.data(), digits.data() + digits.size(), codePoint, base);
+    return result.ec == std::errc() && result.ptr == digits.data() + digits.size() && isXmlCharacter(codePoint);
+}
+
+bool isBlank(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), isXmlSpace);
+}
+
+/// The offset behind a document type declaration that begins at `position`: its quoted texts, comments and brackets
+/// may hold anything.
+std::size_t endOfDocumentType(std::string_view text, std::size_t position)
+{
+    int brackets = 0;
+    while (position < text.size()) {
+        char const c = text[position];
+        if (c == '>' && brackets == 0) {
+            return position + 1;
+        }
+        if (text.substr(position, 4) == "<!--") {
+            position = text.find("-->", position + 4);
+        } else if (c == '"' || c == '\'') {
+            position = text.find(c, position + 1);
+        }
+        brackets += c == '[' ? 1 : c == ']' ? -1 : 0;
+        position = position == text.npos ? position : position + 1;
+    }
+    return text.npos;
+}
+
+}  // namespace
+
+XmlScanner::XmlScanner(std::string_view text, Diagnostics& diagnostics) : _text(text), _diagnostics(diagnostics)
+{
+    std::string_view const byteOrderMark = "\xEF\xBB\xBF";
+    _start = startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
+    _position = _start;
+}
+
+void XmlScanner::scan(std::size_t end)
+{
+    _text = _text.substr(0, end);
+    _nextAmpersand = _text.find('&');
+    _nextUnusual = findUnusual(_text, _start);
+    while (_position < _text.size()) {
+        scanContent(std::min(_text.find('<', _position), _text.size()));
+        if (_position < _text.size()) {
+            scanMarkup();
+        }
+    }
+}
+
+void XmlScanner::scanMarkup()
+{
+    char const next = _position + 1 < _text.size() ? _text[_position + 1] : '\0';
+    if (next == '/') {
+        scanEndTag();
+    } else if (next == '?') {
+        scanInstruction();
+    } else if (next != '!') {
+        scanStartTag();
+    } else if (startsWith("<!--")) {
+        scanComment();
+    } else if (startsWith("<![CDATA[")) {
+        scanCharacterData();
+    } else {
+        scanDocumentType();
+    }
+}
+
+void XmlScanner::scanContent(std::size_t end)
+{
+    if (end == _position) {
+        return;
+    }
+    std::string_view const content = _text.substr(_position, end - _position);
+    if (!isBlank(content)) {
+        std::size_t const wrongEnd = content.find("]]>");
+        if (_openTags.empty()) {
+            report(_position + content.find_first_not_of(" \t\r\n"), codes::contentOutsideRoot,
+                   "Text stands beside the root element.", "Only comments may stand there.");
+        } else if (wrongEnd != content.npos) {
+            report(_position + wrongEnd, codes::malformedXml, "The three characters ]]> cannot stand in a text.",
+                   "Write ]]&gt; instead.");
+        } else {
+            checkReferences(_position, end);
+        }
+    }
+    finishToken(end);
+}
+
+void XmlScanner::scanStartTag()
+{
+    std::size_t const start = _position;
+    enterRoot(start);
+    _openTags.push_back(start);
+    _attributeNames.clear();
+    RawTag tag(_text, start);
+    for (RawAttribute attribute; tag.next(attribute);) {
+        if (!attribute.spaced) {
+            report(offsetOf(attribute.name), codes::malformedXml,
+                   "There is no white space before the attribute " + quoted(attribute.name) + ".");
+        }
+        _attributeNames.push_back(attribute.name);
+        checkValue(attribute.value);
+    }
+    checkNamesDiffer(start);
+    _broken = tag.isBroken();
+    finishToken(tag.isBroken() ? _text.size() : tag.end());
+    if (tag.isEmptyElement()) {
+        _openTags.pop_back();
+    }
+}
+
+void XmlScanner::enterRoot(std::size_t tag)
+{
+    if (_openTags.empty() && _rootSeen) {
+        report(tag, codes::contentOutsideRoot, "A second element stands beside the root element.",
+               "A description has one root element, which holds all others.");
+    }
+    _rootSeen = true;
+}
+
+void XmlScanner::scanEndTag()
+{
+    std::size_t const close = _text.find('>', _position);
+    finishToken(close == _text.npos ? close : close + 1);
+    if (!_openTags.empty() && close != _text.npos) {
+        _openTags.pop_back();
+    }
+}
+
+void XmlScanner::scanComment()
+{
+    std::size_t const hyphens = _text.find("--", _position + 4);
+    if (hyphens != _text.npos && hyphens + 2 < _text.size() && _text[hyphens + 2] != '>') {
+        report(hyphens, codes::malformedXml, "Two hyphens in a row cannot stand in a comment.");
+    }
+    std::size_t const close = _text.find("-->", hyphens);
+    finishToken(close == _text.npos ? close : close + 3);
+}
+
+void XmlScanner::scanCharacterData()
+{
+    if (_openTags.empty()) {
+        report(_position, codes::contentOutsideRoot, "Text stands beside the root element.");
+    }
+    std::size_t const close = _text.find("]]>", _position);
+    finishToken(close == _text.npos ? close : close + 3);
+}
+
+void XmlScanner::scanInstruction()
+{
+    std::size_t const close = _text.find("?>", _position + 2);
+    if (close != _text.npos) {
+        checkDeclaration(_text.substr(_position, close - _position));
+    }
+    finishToken(close == _text.npos ? close : close + 2);
+}
+
+void XmlScanner::checkDeclaration(std::string_view instruction)
+{
+    // A declaration reads like a start tag of the name "?xml"; other instructions hold what they like.
+    RawTag declaration(instruction, 0);
+    std::string target(declaration.name());
+    std::transform(target.begin(), target.end(), target.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
+    if (target != "?xml") {
+        return;
+    }
+    if (_position != _start || declaration.name() != "?xml") {
+        report(_position, codes::malformedXml, "An XML declaration stands elsewhere than at the start of the text.",
+               "Leave it out, or what is before it.");
+    }
+    for (RawAttribute attribute; declaration.next(attribute);) {
+        std::string_view const value = attribute.value;
+        bool const isEncoding = attribute.name == "encoding";
+        if (isEncoding && value != "UTF-8" && value != "utf-8" && value != "US-ASCII" && value != "us-ascii") {
+            report(_position, codes::badEncoding, "The text is declared to be in " + quoted(value) + ".",
+                   "Save it as UTF-8, and declare that or nothing.");
+        }
+    }
+}
+
+void XmlScanner::scanDocumentType()
+{
+    report(_position, codes::documentType, "The text has a document type declaration.",
+           "Leave it out: descriptions need none, and entities of one's own are not read.");
+    finishToken(endOfDocumentType(_text, _position + 2));
+}
+
+/// Reports the second of two like-named attributes; by sorting only where there are many.
+void XmlScanner::checkNamesDiffer(std::size_t tag)
+{
+    constexpr std::size_t few = 16;
+    auto const reportSecond = [&](std::string_view name) {
+        report(std::max(tag, offsetOf(name)), codes::repeatedAttribute,
+               "The attribute " + quoted(name) + " stands twice in one element.", "The first one counts.");
+    };
+    auto& names = _attributeNames;
+    if (names.size() <= few) {
+        for (auto name = names.begin(); name != names.end(); ++name) {
+            if (std::find(names.begin(), name, *name) != name) {
+                reportSecond(*name);
+            }
+        }
+        return;
+    }
+    std::stable_sort(names.begin(), names.end());
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        if (names[i] == names[i - 1]) {
+            reportSecond(names[i]);
+        }
+    }
+}
+
+void XmlScanner::checkValue(std::string_view value)
+{
+    std::size_t const bracket = value.find('<');
+    if (bracket != value.npos) {
+        report(offsetOf(value) + bracket, codes::malformedXml, "The character < cannot stand in an attribute's value.",
+               "Write &lt; instead; or is the closing quote missing?");
+    }
+    checkReferences(offsetOf(value), offsetOf(value) + value.size());
+}
+
+void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
+{
+    while (_nextAmpersand < begin) {
+        _nextAmpersand = _text.find('&', begin);
+    }
+    for (; _nextAmpersand < end; _nextAmpersand = _text.find('&', _nextAmpersand + 1)) {
+        std::size_t const length = std::min(end - _nextAmpersand - 1, longestReference);
+        std::string_view const rest = _text.substr(_nextAmpersand + 1, length);
+        std::string_view const body = rest.substr(0, std::min(rest.find(';'), rest.find('&')));
+        bool const closed = body.size() < rest.size() && rest[body.size()] == ';';
+        if (!closed || !isKnownReference(body)) {
+            report(_nextAmpersand, codes::badReference,
+                   quoted("&" + std::string(body) + (closed ? ";" : "")) + " is no reference.",
+                   "Write &amp; for the character itself.");
+        }
+    }
+}
+
+/// Checks all characters up to `end` that were not checked yet. One finding for a token is enough.
+void XmlScanner::checkCharacters(std::size_t end)
+{
+    bool reported = false;
+    while (_nextUnusual < end) {
+        Utf8Character const character = decodeUtf8(_text.substr(_nextUnusual));
+        if (character.length == 0 && !_encodingReported) {
+            _encodingReported = true;
+            report(_nextUnusual, codes::badEncoding, "The bytes here are not UTF-8.", "Save the text as UTF-8.");
+        } else if (character.length > 0 && !isXmlCharacter(character.codePoint) && !reported) {
+            reported = true;
+            report(_nextUnusual, codes::badCharacter, "A character that XML forbids stands here.");
+        }
+        _nextUnusual = findUnusual(_text, _nextUnusual + std::max<std::size_t>(character.length, 1));
+    }
+}
+
+void XmlScanner::finishToken(std::size_t end)
+{
+    _position = std::min(end, _text.size());
+    checkCharacters(_position);
+}
+
+void XmlScanner::report(std::size_t offset, FindingCode const& code, std::string message, std::string hint)
+{
+    _diagnostics.report({offset, path()}, code, std::move(message), std::move(hint));
+}
+
+std::string XmlScanner::path() const
+{
+    std::size_t const first = _openTags.size() > deepestPath ? _openTags.size() - deepestPath : 0;
+    std::string path = first > 0 ? "/..." : "";
+    for (std::size_t i = first; i < _openTags.size(); ++i) {
+        RawTag tag(_text.substr(0, _openTags[i] + longestTagForPath), _openTags[i]);
+        std::string_view name;
+        for (RawAttribute attribute; i > 0 && name.empty() && tag.next(attribute);) {
+            name = attribute.name == "name" ? attribute.value : "";
+        }
+        path += tag.name().empty() ? "" : "/" + pathStep(tag.name(), name);
+    }
+    return path;
+}
+
+std::string_view XmlScanner::openElement() const
+{
+    return _openTags.empty() ? std::string_view() : RawTag(_text, _openTags.back()).name();
+}
+
+}  // namespace Varo::Model

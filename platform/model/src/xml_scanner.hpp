@@ -1,0 +1,67 @@
+#ifndef VARO_MODEL_XML_SCANNER_HPP
+#define VARO_MODEL_XML_SCANNER_HPP
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "diagnostics.hpp"
+
+namespace Varo::Model {
+
+/// Looks through a text for what XML forbids and the parser lets through: document type declarations, a second root,
+/// text beside the root, attributes that repeat, undefined references, characters that are none, and the like.
+///
+/// One pass whose time is linear in the text; it runs beside every load, hence the care for bytes.
+class XmlScanner {
+public:
+    XmlScanner(std::string_view text, Diagnostics& diagnostics);
+
+    /// Scans what the parser has taken: the whole text, or all before the offset where it gave up.
+    void scan(std::size_t end);
+
+    /// Whether the scan ended early, in something that is no tag.
+    bool isBroken() const { return _broken; }
+
+    /// The path of the element that `scan` ended in, and that element's name; empty outside the root.
+    std::string path() const;
+    std::string_view openElement() const;
+
+private:
+    void scanMarkup();
+    void scanContent(std::size_t end);
+    void scanStartTag();
+    void scanEndTag();
+    void scanComment();
+    void scanCharacterData();
+    void scanInstruction();
+    void scanDocumentType();
+    void checkDeclaration(std::string_view instruction);
+    void checkNamesDiffer(std::size_t tag);
+    void checkValue(std::string_view value);
+    void checkReferences(std::size_t begin, std::size_t end);
+    void checkCharacters(std::size_t end);
+    void enterRoot(std::size_t tag);
+
+    bool startsWith(std::string_view prefix) const { return _text.substr(_position, prefix.size()) == prefix; }
+    std::size_t offsetOf(std::string_view part) const { return static_cast<std::size_t>(part.data() - _text.data()); }
+    void finishToken(std::size_t end);
+    void report(std::size_t offset, FindingCode const& code, std::string message, std::string hint = {});
+
+    std::string_view _text;
+    Diagnostics& _diagnostics;
+    std::size_t _start = 0;  ///< behind the byte order mark
+    std::size_t _position = 0;
+    std::vector<std::size_t> _openTags;  ///< offsets of the `<` of the elements around
+    std::vector<std::string_view> _attributeNames;  ///< of the tag at hand
+    std::size_t _nextAmpersand = 0;
+    std::size_t _nextUnusual = 0;  ///< the next byte that is a control character or beyond ASCII
+    bool _rootSeen = false;
+    bool _encodingReported = false;
+    bool _broken = false;
+};
+
+}  // namespace Varo::Model
+
+#endif
