@@ -164,12 +164,17 @@ TEST(UrdfRobustness, EndsInTimeOnHostileTexts)
         opened += "<gazebo>";
         closed += "</gazebo>";
     }
+    std::string bomb = "<!DOCTYPE robot [<!ENTITY a0 \"aaaaaaaaaa\">";
+    for (int i = 1; i < 30; ++i) {
+        std::string const entity = "&a" + std::to_string(i - 1) + ";";
+        bomb += "<!ENTITY a" + std::to_string(i) + " \"" + entity + entity + entity + "\">";
+    }
     struct Case {
         std::string text;
         bool isAccepted;
     };
-    for (Case const& c :
-         {Case{robot(link("root") + opened), false}, Case{robot(link("root") + opened + closed), true}}) {
+    for (Case const& c : {Case{robot(link("root") + opened), false}, Case{robot(link("root") + opened + closed), true},
+                          Case{bomb + "]><robot name=\"&a29;\"><link name=\"root\"/></robot>", false}}) {
         SCOPED_TRACE(c.text.substr(0, 40));
         Stopwatch const stopwatch;
         EXPECT_EQ(ModelUtils::checkXml(c.text), c.isAccepted);
