@@ -48,7 +48,9 @@ void readOffset(Visual const& visual, JointConfig& body, Diagnostics& diagnostic
     body.meshOrientation = toPosition(rpy);
     if (xyz != nothing || rpy != nothing) {
         diagnostics.report(visual.origin, codes::meshOffsetLost,
-                           "The model shows the mesh at the link frame; this offset is in the record only.");
+                           "The model shows the mesh at the link frame: the offset " +
+                               quoted(visual.origin.attribute("xyz").value()) + " and the turn " +
+                               quoted(visual.origin.attribute("rpy").value()) + " are in the record only.");
     }
 }
 
