@@ -25,7 +25,8 @@ Exit status:
 
 `varo-robot COMMAND --help` says more about a command.)";
 
-constexpr std::array<Command const*, 4> commands = {&checkCommand, &infoCommand, &treeCommand, &dumpCommand};
+constexpr std::array<Command const*, 7> commands = {&checkCommand, &infoCommand,  &treeCommand, &listCommand,
+                                                    &showCommand,  &graphCommand, &dumpCommand};
 
 void declareCommands(CLI::App& app, std::function<int()>& chosen)
 {

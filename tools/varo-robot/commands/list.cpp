@@ -1,0 +1,135 @@
+#include <algorithm>
+#include <iostream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <unistd.h>
+
+#include "commands/commands.hpp"
+#include "support/description.hpp"
+#include "support/json_text.hpp"
+#include "support/kinds.hpp"
+#include "support/terminal.hpp"
+
+namespace Tool {
+
+namespace {
+
+struct Options {
+    std::string kind;
+    std::string file;
+    bool json = false;
+};
+
+using Row = std::vector<std::string>;
+
+std::string cellOf(Json const& element, Column const& column)
+{
+    Json::json_pointer const pointer(column.pointer);
+    if (!element.contains(pointer)) {
+        return "-";
+    }
+    Json const& value = element.at(pointer);
+    return isPose(value) ? originOf(value) : readable(value);
+}
+
+/// Rows under each other, all columns but the last padded to one width.
+void printTable(std::vector<Row> const& rows)
+{
+    std::vector<std::size_t> widths(rows.front().size());
+    for (Row const& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            widths[i] = std::max(widths[i], columnsOf(row[i]));
+        }
+    }
+    Palette const palette(STDOUT_FILENO);
+    for (Row const& row : rows) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            bool const isLast = i + 1 == row.size();
+            line += row[i] + std::string(isLast ? 0 : widths[i] - columnsOf(row[i]) + 2, ' ');
+        }
+        std::cout << palette.paint(&row == &rows.front() ? Ink::heading : Ink::plain, line) << '\n';
+    }
+}
+
+void printForEyes(Kind const& kind, std::vector<Json> const& elements)
+{
+    std::vector<Row> rows(1);
+    for (Column const& column : kind.columns) {
+        rows.front().emplace_back(column.title);
+    }
+    for (Json const& element : elements) {
+        Row row;
+        for (Column const& column : kind.columns) {
+            row.push_back(cellOf(element, column));
+        }
+        rows.push_back(std::move(row));
+    }
+    printTable(rows);
+}
+
+void printForPrograms(std::vector<Json> const& elements)
+{
+    {
+        JsonStream array(std::cout, '[');
+        for (Json const& element : elements) {
+            array.add(element);
+        }
+    }
+    std::cout << '\n';
+}
+
+/// Separated by commas, in lines of at most 78 characters.
+std::string knownKinds()
+{
+    std::string text;
+    std::size_t lineLength = 0;
+    for (Kind const& kind : kinds()) {
+        std::string const word = kind.plural;
+        bool const fits = lineLength + word.size() + 3 <= 78;
+        text += text.empty() ? "" : fits ? ", " : ",\n";
+        text += word;
+        lineLength = (fits ? lineLength + 2 : 0) + word.size();
+    }
+    return text;
+}
+
+int list(Options const& options)
+{
+    Kind const* const kind = findKind(options.kind);
+    if (kind == nullptr) {
+        std::cerr << "There are no elements of the kind \"" << options.kind << "\". Known kinds:\n"
+                  << knownKinds() << '\n';
+        return exitStatus::wrongUsage;
+    }
+    auto const [description, model] = loadRobot(options.file);
+    std::vector<Json> const elements = kind->elements(model);
+    options.json ? printForPrograms(elements) : printForEyes(*kind, elements);
+    return exitStatus::fine;
+}
+
+std::function<int()> declare(CLI::App& app)
+{
+    auto const options = std::make_shared<Options>();
+    app.add_option("KIND", options->kind, "What to list, in the plural or the singular")->type_name("")->required();
+    declareFile(app, options->file);
+    app.add_flag("--json", options->json, "Print a JSON array of the elements, each as `dump` prints it");
+    app.footer([] { return listCommand.details + ("\n\nKinds:\n" + knownKinds()); });
+    return [options] { return list(*options); };
+}
+
+}  // namespace
+
+Command const listCommand = {"list", "List the elements of one kind as a table",
+                             R"(Prints a table with a line for each element of the kind, in the order in which
+the model made them: "-" stands for none, positions are those in the root frame
+(m), numbers are in SI units.
+
+Examples:
+  varo-robot list joints robots/humanoid.xml
+  varo-robot list leds robots/humanoid.xml
+  varo-robot list cameras --json robots/rover.xml)",
+                             declare};
+
+}  // namespace Tool

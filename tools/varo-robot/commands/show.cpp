@@ -1,0 +1,208 @@
+#include <algorithm>
+#include <iostream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <unistd.h>
+
+#include "commands/commands.hpp"
+#include "sim/actuator.hpp"
+#include "sim/actuator_group.hpp"
+#include "sim/joint.hpp"
+#include "sim/joint_group.hpp"
+#include "sim/joint_symmetry.hpp"
+#include "sim/link.hpp"
+#include "sim/sensor.hpp"
+#include "support/description.hpp"
+#include "support/element_json.hpp"
+#include "support/json_parts.hpp"
+#include "support/json_text.hpp"
+#include "support/link_names.hpp"
+#include "support/terminal.hpp"
+
+namespace Tool {
+
+namespace {
+
+struct Options {
+    std::string name;
+    std::string file;
+};
+
+/// An element with a heading for it.
+struct Sighting {
+    std::string heading;
+    Json facts;
+};
+
+/// Collects what bears a name.
+class Search {
+public:
+    Search(Sim::Model const& model, LinkNames const& linkNames, std::string name)
+        : _model(model), _linkNames(linkNames), _name(std::move(name))
+    {}
+
+    std::vector<Sighting> run();
+
+private:
+    template <class Element>
+    void addNamed(char const* kind, std::vector<Element const*> const& elements)
+    {
+        for (Element const* element : elements) {
+            if (element->name() == _name) {
+                _found.push_back({kind + (" " + _name), toJson(*element)});
+            }
+        }
+    }
+    void addLinks();
+    void addJoints();
+    void addSymmetries();
+
+    Sim::Model const& _model;
+    LinkNames const& _linkNames;
+    std::string _name;
+    std::vector<Sighting> _found;
+};
+
+std::vector<Sighting> Search::run()
+{
+    addLinks();
+    addJoints();
+    addSymmetries();
+    addNamed("joint group", _model.jointGroups());
+    addNamed("actuator", _model.actuators());
+    addNamed("actuator group", _model.actuatorGroups());
+    addNamed("sensor", _model.sensors());
+    return std::move(_found);
+}
+
+/// By the model's name or the one in the URDF.
+void Search::addLinks()
+{
+    std::vector<std::string> const urdfLinks = _linkNames.linksOf(_name);
+    for (Sim::Link const* link : _model.links()) {
+        bool const isMeant = std::find(urdfLinks.begin(), urdfLinks.end(), link->name()) != urdfLinks.end();
+        if (link->name() == _name || isMeant) {
+            std::string const urdfName = _linkNames.urdfNameOf(link->name());
+            _found.push_back({"link " + link->name(), toJson(*link)});
+            if (!urdfName.empty()) {
+                _found.back().facts["urdfName"] = urdfName;
+            }
+        }
+    }
+}
+
+void Search::addJoints()
+{
+    for (Sim::Joint const* joint : _model.joints()) {
+        if (joint->name() == _name) {
+            Json facts = toJson(*joint);
+            facts["jointGroups"] = namesOf(_model.jointGroupsOfJoint(_name));
+            facts["actuatorGroups"] = namesOf(_model.actuatorGroupsOfJoint(_name));
+            _found.push_back({"joint " + _name, std::move(facts)});
+        }
+    }
+}
+
+void Search::addSymmetries()
+{
+    auto const isNamed = [this](Sim::Joint const* joint) { return joint != nullptr && joint->name() == _name; };
+    for (Sim::JointSymmetry const* symmetry : _model.jointSymmetries()) {
+        auto const [first, second] = symmetry->symmetricJoints();
+        if (isNamed(first) || isNamed(second)) {
+            _found.push_back({"symmetry of " + _name, toJson(*symmetry)});
+        }
+    }
+}
+
+/// One line for each fact; those of an object within stand among them.
+void printFacts(Json const& facts)
+{
+    constexpr std::size_t width = 28;
+    for (auto const& [key, value] : facts.items()) {
+        if (value.is_object() && !value.empty()) {
+            printFacts(value);
+        } else if (key != "name") {
+            std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << readable(value)
+                      << '\n';
+        }
+    }
+}
+
+/// Names that hold the one that was not found, whatever the case, as a hint.
+std::string similarNames(Sim::Model const& model, LinkNames const& linkNames, std::string const& name)
+{
+    constexpr std::size_t maximum = 5;
+    std::vector<std::string> similar;
+    auto const offer = [&](std::string const& candidate) {
+        auto const sameLetter = [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); };
+        bool const holds =
+            std::search(candidate.begin(), candidate.end(), name.begin(), name.end(), sameLetter) != candidate.end();
+        bool const isNew = std::find(similar.begin(), similar.end(), candidate) == similar.end();
+        if (holds && isNew && similar.size() < maximum) {
+            similar.push_back(candidate);
+        }
+    };
+    auto const offerAll = [&](auto const& elements) {
+        for (auto const* const element : elements) {
+            offer(element->name());
+        }
+    };
+    offerAll(model.joints());
+    offerAll(model.links());
+    offerAll(model.jointGroups());
+    offerAll(model.actuators());
+    offerAll(model.sensors());
+    for (Sim::Link const* link : model.links()) {
+        offer(linkNames.urdfNameOf(link->name()));
+    }
+    std::string text;
+    for (std::string const& candidate : similar) {
+        text += (text.empty() ? "Similar names: " : ", ") + candidate;
+    }
+    return text.empty() ? "" : text + ".";
+}
+
+int show(Options const& options)
+{
+    auto const [description, model] = loadRobot(options.file);
+    LinkNames const linkNames(*description.reading.robot);
+    std::vector<Sighting> const found = Search(model, linkNames, options.name).run();
+    if (found.empty()) {
+        throw Refused(description.file, {fileFinding(Varo::Model::Severity::error, codes::nameNotFound,
+                                                     "Nothing in it is called \"" + options.name + "\".",
+                                                     similarNames(model, linkNames, options.name))});
+    }
+    Palette const palette(STDOUT_FILENO);
+    for (Sighting const& sighting : found) {
+        std::cout << (&sighting == &found.front() ? "" : "\n") << palette.paint(Ink::heading, sighting.heading) << '\n';
+        printFacts(sighting.facts);
+    }
+    return exitStatus::fine;
+}
+
+std::function<int()> declare(CLI::App& app)
+{
+    auto const options = std::make_shared<Options>();
+    app.add_option("NAME", options->name, "The exact name of what to show")->type_name("")->required();
+    declareFile(app, options->file);
+    return [options] { return show(*options); };
+}
+
+}  // namespace
+
+Command const showCommand = {"show", "Show everything that bears a name",
+                             R"(Prints all that the model knows under the name, whatever its kind: links, joints
+with their groups and symmetries, groups, actuators and sensors, one after the
+other when several bear the name. A link of a URDF description is found by the
+name that it has there, too.
+
+Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
+The exit status is 1 when nothing bears the name.
+
+Examples:
+  varo-robot show HeadYaw robots/humanoid.xml
+  varo-robot show panda_link4 panda.urdf)",
+                             declare};
+
+}  // namespace Tool

@@ -1,0 +1,33 @@
+#ifndef TOOL_SUPPORT_KINDS_HPP
+#define TOOL_SUPPORT_KINDS_HPP
+
+#include <string>
+#include <vector>
+
+#include "sim/model.hpp"
+#include "support/json.hpp"
+
+namespace Tool {
+
+/// A column of a table of elements.
+struct Column {
+    char const* title;
+    char const* pointer;  ///< to the value in the element's JSON, such as "/mass/mass"
+};
+
+/// A kind of elements that users can ask for.
+struct Kind {
+    char const* singular;
+    char const* plural;
+    std::vector<Column> columns;
+    std::vector<Json> (*elements)(Sim::Model const& model);
+};
+
+std::vector<Kind> const& kinds();
+
+/// The kind of that name, singular or plural, whatever its case and its hyphens; null when there is none.
+Kind const* findKind(std::string const& name);
+
+}  // namespace Tool
+
+#endif
