@@ -25,8 +25,8 @@ Exit status:
 
 `varo-robot COMMAND --help` says more about a command.)";
 
-constexpr std::array<Command const*, 7> commands = {&checkCommand, &infoCommand,  &treeCommand, &listCommand,
-                                                    &showCommand,  &graphCommand, &dumpCommand};
+constexpr std::array<Command const*, 8> commands = {&checkCommand, &infoCommand,  &treeCommand, &listCommand,
+                                                    &showCommand,  &graphCommand, &dumpCommand, &convertCommand};
 
 void declareCommands(CLI::App& app, std::function<int()>& chosen)
 {

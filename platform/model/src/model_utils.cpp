@@ -5,6 +5,7 @@
 
 #include "diagnostics.hpp"
 #include "native/native_reader.hpp"
+#include "native/native_writer.hpp"
 #include "spelling.hpp"
 #include "urdf/urdf_reader.hpp"
 #include "xml_text.hpp"
@@ -80,6 +81,11 @@ std::unique_ptr<Robot> robotFromXml(std::string const& xml)
         throw DescriptionError(what, std::move(reading.findings));
     }
     return std::move(reading.robot);
+}
+
+std::string toXml(Robot const& robot)
+{
+    return writeNative(robot);
 }
 
 bool checkXml(std::string const& xml)

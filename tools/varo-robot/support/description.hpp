@@ -16,6 +16,7 @@ inline constexpr char unreadableFile[] = "unreadable-file";
 inline constexpr char emptyFile[] = "empty-file";
 inline constexpr char modelNotBuilt[] = "model-not-built";
 inline constexpr char modelIncomplete[] = "model-incomplete";
+inline constexpr char unwritableFile[] = "unwritable-file";
 inline constexpr char nameNotFound[] = "name-not-found";
 }  // namespace codes
 

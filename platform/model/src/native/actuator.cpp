@@ -2,6 +2,7 @@
 
 #include "native/body.hpp"
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 
@@ -50,9 +51,24 @@ void readSubJoint(ElementReader& reader, Element const& element, pugi::xml_node 
     static_cast<Group*>(parent)->push_back(std::move(name));
 }
 
+/// Whether a reference to the joint of that name says it all.
+bool isFollower(SubActuatorConfig const& subJoint, RobotData const& robot)
+{
+    return robot.joints.contains(subJoint.name) && subJoint.meshName.empty() && subJoint.placement == Transform();
+}
+
+/// Both kinds of a group's members, because they stand in one order.
+void writeMembers(ElementWriter& writer, Element const&, void const* parent)
+{
+    for (std::string const& name : *static_cast<Group const*>(parent)) {
+        SubActuatorConfig const& subJoint = writer.robot().subActuators.at(name);
+        writer.write(isFollower(subJoint, writer.robot()) ? followerElement : subJointElement, &subJoint);
+    }
+}
+
 constexpr Child groupChildren[] = {
-    {&subJointElement, Occurrence::any, readSubJoint},
-    {&followerElement, Occurrence::any, readSubJoint},
+    {&subJointElement, Occurrence::any, readSubJoint, writeMembers},
+    {&followerElement, Occurrence::any, readSubJoint, writeNothing},
 };
 constexpr Element groupElement{
     "group", "joints that move together, from the actuator's parent outward", {}, groupChildren};
@@ -62,6 +78,13 @@ void readGroup(ElementReader& reader, Element const& element, pugi::xml_node nod
     Group group;
     reader.read(element, node, &group);
     static_cast<ActuatorConfig*>(parent)->jointGroups.push_back(std::move(group));
+}
+
+void writeGroups(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (Group const& group : static_cast<ActuatorConfig const*>(parent)->jointGroups) {
+        writer.write(element, &group);
+    }
 }
 
 constexpr Attribute actuatorAttributes[] = {
@@ -75,7 +98,7 @@ constexpr Attribute actuatorAttributes[] = {
 constexpr Child actuatorChildren[] = {
     poseChild<&ActuatorConfig::placement>(devicePlacementElement),
     mirrorChild<ActuatorConfig>,
-    {&groupElement, Occurrence::any, readGroup},
+    {&groupElement, Occurrence::any, readGroup, writeGroups},
 };
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/schema.hpp"
 
 /// What several kinds of elements say in the same way: mass, free attributes and mirror. The record only has to name
@@ -21,7 +22,7 @@ inline constexpr Attribute massAttributes[] = {
 template <class Record>
 inline constexpr Element massElement{"mass", "mass, centre of mass and inertia of the body", massAttributes<Record>};
 template <class Record>
-inline constexpr Child massChild{&massElement<Record>, Occurrence::optional, readInPlace};
+inline constexpr Child massChild{&massElement<Record>, Occurrence::optional, readInPlace, writeInPlace};
 
 struct FreeAttribute {
     std::string name;
@@ -45,7 +46,17 @@ void readFreeAttribute(ElementReader& reader, Element const& element, pugi::xml_
     }
 }
 template <class Record>
-inline constexpr Child freeAttributeChild{&freeAttributeElement, Occurrence::any, readFreeAttribute<Record>};
+void writeFreeAttributes(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (auto const& [name, value] : static_cast<Record const*>(parent)->attributes) {
+        FreeAttribute const attribute = {name, value};
+        writer.write(element, &attribute);
+    }
+}
+
+template <class Record>
+inline constexpr Child freeAttributeChild{&freeAttributeElement, Occurrence::any, readFreeAttribute<Record>,
+                                          writeFreeAttributes<Record>};
 
 struct Mirror {
     std::string name;
@@ -68,7 +79,17 @@ void readMirror(ElementReader& reader, Element const& element, pugi::xml_node no
     record.mirrorKind = mirror.reflected ? reflectedMirror : plainMirror;
 }
 template <class Record>
-inline constexpr Child mirrorChild{&mirrorElement, Occurrence::optional, readMirror<Record>};
+void writeMirror(ElementWriter& writer, Element const& element, void const* parent)
+{
+    auto const& record = *static_cast<Record const*>(parent);
+    if (record.mirrorKind != noMirror) {
+        Mirror const mirror = {record.mirrorName, record.mirrorKind == reflectedMirror};
+        writer.write(element, &mirror);
+    }
+}
+
+template <class Record>
+inline constexpr Child mirrorChild{&mirrorElement, Occurrence::optional, readMirror<Record>, writeMirror<Record>};
 
 }  // namespace Varo::Model::Native
 

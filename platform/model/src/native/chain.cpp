@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 
@@ -23,6 +24,14 @@ void readJointRef(ElementReader& reader, Element const& element, pugi::xml_node 
     static_cast<ChainConfig*>(parent)->jointNames.push_back(std::move(reference.name));
 }
 
+void writeJointRefs(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (std::string const& name : static_cast<ChainConfig const*>(parent)->jointNames) {
+        JointRef const reference = {name};
+        writer.write(element, &reference);
+    }
+}
+
 constexpr Attribute chainAttributes[] = {
     required<&ChainConfig::name, Name>("name", "", "what the chain is called"),
     required<&ChainConfig::parentJoint, Name>("parent", "", "the joint that the chain hangs on, or the root"),
@@ -31,7 +40,7 @@ constexpr Attribute chainAttributes[] = {
 constexpr Child chainChildren[] = {
     poseChild<&ChainConfig::placement>(chainPlacementElement),
     poseChild<&ChainConfig::tipTransform>(tipPlacementElement),
-    {&jointRefElement, Occurrence::any, readJointRef},
+    {&jointRefElement, Occurrence::any, readJointRef, writeJointRefs},
 };
 }  // namespace
 

@@ -26,6 +26,11 @@ void readWheel(ElementReader& reader, Element const& element, pugi::xml_node nod
 void readSensor(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
 void readPosture(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
 
+// And those that write them from there.
+void writeRoot(ElementWriter& writer, Element const& element, void const* parent);
+void writeJoints(ElementWriter& writer, Element const& element, void const* parent);
+void writePostures(ElementWriter& writer, Element const& element, void const* parent);
+
 }  // namespace Varo::Model::Native
 
 #endif

@@ -1,7 +1,10 @@
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "native/body.hpp"
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 
@@ -83,6 +86,21 @@ void readRoot(ElementReader& reader, Element const& element, pugi::xml_node node
     if (root.name.empty()) {
         reader.loseDefinition();
     }
+}
+
+void writeJoints(ElementWriter& writer, Element const& element, void const* parent)
+{
+    auto const& robot = *static_cast<RobotData const*>(parent);
+    std::set<std::string_view> const forced(robot.reflectionForced.begin(), robot.reflectionForced.end());
+    for (std::string const& name : robot.joints.names) {
+        JointReading const joint = {robot.joints.byName.at(name), forced.find(name) != forced.end()};
+        writer.write(element, static_cast<JointConfig const*>(&joint));
+    }
+}
+
+void writeRoot(ElementWriter& writer, Element const& element, void const* parent)
+{
+    writer.write(element, &static_cast<RobotData const*>(parent)->root);
 }
 
 }  // namespace Varo::Model::Native

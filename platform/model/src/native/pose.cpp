@@ -1,6 +1,8 @@
 #include "native/pose.hpp"
 
 #include <array>
+#include <cmath>
+#include <cstring>
 
 namespace Varo::Model::Native {
 
@@ -41,13 +43,63 @@ Element const subJointPlacementElement{
     "placement", "the sub-joint's frame at zero position, in the frame of the joint or sub-joint before it",
     attributes};
 
+namespace {
+
+Transform compose(Position3D const& xyz, Position3D const& rpy)
+{
+    return Transform::fromPosition(xyz.x, xyz.y, xyz.z) * Transform::fromRpy(rpy.x, rpy.y, rpy.z);
+}
+
+bool sameBits(Transform const& a, Transform const& b)
+{
+    return std::memcmp(a.rows().data(), b.rows().data(), sizeof a.rows()) == 0;
+}
+
+using Angles = std::array<double, 3>;
+
+/// Roll, pitch and yaw of a rotation in the ways that people state them: the pitch within a quarter turn, beyond it,
+/// and with no roll, for when roll and yaw turn about the same axis.
+std::array<Angles, 3> anglesOf(Transform const& transform)
+{
+    auto const entry = [&](int row, int column) { return static_cast<double>(transform(row, column)); };
+    constexpr double halfTurn = 3.14159265358979323846;
+    double const roll = std::atan2(entry(2, 1), entry(2, 2));
+    double const pitch = std::atan2(-entry(2, 0), std::hypot(entry(0, 0), entry(1, 0)));
+    double const yaw = std::atan2(entry(1, 0), entry(0, 0));
+    return {{{roll, pitch, yaw},
+             {roll - std::copysign(halfTurn, roll), std::copysign(halfTurn, pitch) - pitch,
+              yaw - std::copysign(halfTurn, yaw)},
+             {0.0, pitch, std::atan2(-entry(0, 1), entry(1, 1))}}};
+}
+
+float roundedTo(double scale, double value)
+{
+    return static_cast<float>(std::round(value * scale) / scale);
+}
+
+/// Finds angles of at most seven decimals, the fewer the better, with which `compose` gives exactly the transform.
+bool findAngles(Transform const& transform, Position3D& rpy)
+{
+    for (double scale = 1.0; scale <= 1e7; scale *= 10.0) {
+        for (auto const& [roll, pitch, yaw] : anglesOf(transform)) {
+            // Adding 0 keeps a rounded angle from being -0.
+            rpy = {roundedTo(scale, roll) + 0.0F, roundedTo(scale, pitch) + 0.0F, roundedTo(scale, yaw) + 0.0F};
+            if (sameBits(transform, compose(transform.position(), rpy))) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
 Transform readPose(ElementReader& reader, Element const& element, pugi::xml_node node)
 {
     Pose pose;
     reader.read(element, node, &pose);
     if (!node.attribute("matrix")) {
-        return Transform::fromPosition(pose.xyz.x, pose.xyz.y, pose.xyz.z) *
-               Transform::fromRpy(pose.rpy.x, pose.rpy.y, pose.rpy.z);
+        return compose(pose.xyz, pose.rpy);
     }
     if (node.attribute("xyz") || node.attribute("rpy")) {
         reader.diagnostics().report({node, "matrix"}, codes::conflictingAttributes,
@@ -55,6 +107,18 @@ Transform readPose(ElementReader& reader, Element const& element, pugi::xml_node
                                     "Write either the matrix or the other two.");
     }
     return Transform::fromRows(pose.matrix);
+}
+
+void writePose(ElementWriter& writer, Element const& element, Transform const& transform)
+{
+    Pose pose;
+    if (findAngles(transform, pose.rpy)) {
+        pose.xyz = transform.position();
+    } else {
+        pose.rpy = {};
+        pose.matrix = transform.rows();
+    }
+    writer.writeUnlessDefault(element, &pose);
 }
 
 }  // namespace Varo::Model::Native

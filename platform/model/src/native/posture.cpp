@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 
 namespace Varo::Model::Native {
@@ -25,12 +26,20 @@ void readAngle(ElementReader& reader, Element const& element, pugi::xml_node nod
     static_cast<PostureConfig*>(parent)->angles.emplace_back(std::move(angle.of), angle.value);
 }
 
+void writeAngles(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (auto const& [of, value] : static_cast<PostureConfig const*>(parent)->angles) {
+        Angle const angle = {of, value};
+        writer.write(element, &angle);
+    }
+}
+
 constexpr Attribute postureAttributes[] = {
     required<&PostureConfig::name, Name>("name", "",
                                          "what the posture is called; `StandInit` is where the joints start"),
 };
 constexpr Unique uniqueAngles[] = {{"angleNames", "angle", "@of"}};
-constexpr Child postureChildren[] = {{&angleElement, Occurrence::any, readAngle}};
+constexpr Child postureChildren[] = {{&angleElement, Occurrence::any, readAngle, writeAngles}};
 }  // namespace
 
 Element const postureElement{
@@ -41,6 +50,13 @@ void readPosture(ElementReader& reader, Element const& element, pugi::xml_node n
     PostureConfig posture;
     reader.read(element, node, &posture);
     static_cast<RobotData*>(parent)->postures.push_back(std::move(posture));
+}
+
+void writePostures(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (PostureConfig const& posture : static_cast<RobotData const*>(parent)->postures) {
+        writer.write(element, &posture);
+    }
 }
 
 }  // namespace Varo::Model::Native

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 
 namespace Varo::Model::Native {
@@ -28,15 +29,36 @@ void readPrettyName(ElementReader& reader, Element const& element, pugi::xml_nod
     }
 }
 
+void writePrettyNames(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (auto const& [index, text] : static_cast<RobotData const*>(parent)->prettyNames) {
+        PrettyName const name = {index, text};
+        writer.write(element, &name);
+    }
+}
+
+template <auto table>
+void writeTable(ElementWriter& writer, Element const& element, void const* parent)
+{
+    auto const& records = static_cast<RobotData const*>(parent)->*table;
+    for (std::string const& name : records.names) {
+        writer.write(element, &records.byName.at(name));
+    }
+}
+
 constexpr Attribute attributes[] = {
     required<&RobotData::name, Name>("name", "", "what the robot is called"),
     optional<&RobotData::version>("version", "", "", "the description's own version"),
 };
 constexpr Child children[] = {
-    {&prettyNameElement, Occurrence::any, readPrettyName}, {&rootElement, Occurrence::once, readRoot},
-    {&jointElement, Occurrence::any, readJoint},           {&chainElement, Occurrence::any, readChain},
-    {&actuatorElement, Occurrence::any, readActuator},     {&wheelElement, Occurrence::any, readWheel},
-    {&sensorElement, Occurrence::any, readSensor},         {&postureElement, Occurrence::any, readPosture},
+    {&prettyNameElement, Occurrence::any, readPrettyName, writePrettyNames},
+    {&rootElement, Occurrence::once, readRoot, writeRoot},
+    {&jointElement, Occurrence::any, readJoint, writeJoints},
+    {&chainElement, Occurrence::any, readChain, writeTable<&RobotData::chains>},
+    {&actuatorElement, Occurrence::any, readActuator, writeTable<&RobotData::actuators>},
+    {&wheelElement, Occurrence::any, readWheel, writeTable<&RobotData::wheels>},
+    {&sensorElement, Occurrence::any, readSensor, writeTable<&RobotData::sensors>},
+    {&postureElement, Occurrence::any, readPosture, writePostures},
 };
 constexpr Unique uniques[] = {
     {"prettyNameIndices", "prettyName", "@index"},

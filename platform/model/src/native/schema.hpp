@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_NATIVE_SCHEMA_HPP
 #define VARO_MODEL_NATIVE_SCHEMA_HPP
 
+#include <string>
 #include <string_view>
 
 #include <pugixml.hpp>
@@ -10,11 +11,13 @@
 
 /// What the native dialect consists of, as tables: which elements there are, what each may hold, and where it goes.
 ///
-/// The reader obeys these tables, and the XML schema and the reference in the documentation are written from them. An
-/// attribute names its place in the records by pointer to member, from which the type of its value follows.
+/// The reader and the writer obey these tables, and the XML schema and the reference in the documentation are written
+/// from them. An attribute names its place in the records by pointer to member, from which the type of its value
+/// follows.
 namespace Varo::Model::Native {
 
 class ElementReader;
+class ElementWriter;
 
 struct Attribute {
     std::string_view name;
@@ -27,6 +30,8 @@ struct Attribute {
     bool (*store)(std::string_view text, void* record);
     /// Whether a new record holds the value of `text`.
     bool (*isDefault)(std::string_view text);
+    /// The text of the record's value; of a new record's when it is null.
+    std::string (*print)(void const* record);
 };
 
 enum class Occurrence { optional, once, any };
@@ -38,6 +43,8 @@ struct Child {
     Occurrence occurrence;
     /// Reads the child `node` into the record of its parent.
     void (*read)(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
+    /// Writes what the record of the parent has to say in such children.
+    void (*write)(ElementWriter& writer, Element const& element, void const* parent);
 };
 
 /// An attribute, or all attributes that `selector` (as of an xs:unique) finds, that no two elements share.
@@ -82,10 +89,28 @@ bool isDefaultOfMember(std::string_view text)
     return Type::parse(text, record.*member) && record.*member == RecordOf<member>().*member;
 }
 
+template <auto member, class Type, class Base>
+std::string printMember(void const* record)
+{
+    if (record == nullptr) {
+        return Type::print(RecordOf<member>().*member);
+    }
+    return Type::print(static_cast<RecordOf<member> const*>(static_cast<Base const*>(record))->*member);
+}
+
 template <auto member, class Type = DefaultType<member>>
 constexpr Attribute required(std::string_view name, std::string_view unit, std::string_view meaning)
 {
-    return {name, &Type::type, unit, meaning, true, {}, storeMember<member, Type, RecordOf<member>>, nullptr};
+    using Record = RecordOf<member>;
+    return {name,
+            &Type::type,
+            unit,
+            meaning,
+            true,
+            {},
+            storeMember<member, Type, Record>,
+            nullptr,
+            printMember<member, Type, Record>};
 }
 
 template <auto member, class Type = DefaultType<member>, class Base = RecordOf<member>>
@@ -99,7 +124,8 @@ constexpr Attribute optional(std::string_view name, std::string_view defaultText
             false,
             defaultText,
             storeMember<member, Type, Base>,
-            isDefaultOfMember<member, Type>};
+            isDefaultOfMember<member, Type>,
+            printMember<member, Type, Base>};
 }
 
 /// The text between an element's tags.

@@ -2,6 +2,7 @@
 
 #include "native/body.hpp"
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 
@@ -32,6 +33,14 @@ void readKey(ElementReader& reader, Element const& element, pugi::xml_node node,
     static_cast<SensorConfig*>(parent)->keys.push_back(std::move(key.text));
 }
 
+void writeKeys(ElementWriter& writer, Element const& element, void const* parent)
+{
+    for (std::string const& text : static_cast<SensorConfig const*>(parent)->keys) {
+        Key const key = {text};
+        writer.write(element, &key);
+    }
+}
+
 constexpr Attribute sensorAttributes[] = {
     required<&SensorConfig::name, Name>("name", "", "what the sensor is called"),
     required<&SensorConfig::parent, Name>("parent", "", "the joint whose link carries the sensor, or the root"),
@@ -39,7 +48,7 @@ constexpr Attribute sensorAttributes[] = {
 };
 constexpr Child sensorChildren[] = {
     poseChild<&SensorConfig::placement>(sensorPlacementElement),
-    {&keyElement, Occurrence::any, readKey},
+    {&keyElement, Occurrence::any, readKey, writeKeys},
     freeAttributeChild<SensorConfig>,
 };
 }  // namespace

@@ -139,6 +139,32 @@ bool parseWord(std::string_view text, Range<Word> words, std::int32_t& value)
     return false;
 }
 
+std::string printNumber(float value)
+{
+    std::array<char, 32> digits;
+    auto const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    return {digits.data(), end};
+}
+
+std::string printNumbers(float const* values, std::size_t count)
+{
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i) {
+        text += (i == 0 ? "" : " ") + printNumber(values[i]);
+    }
+    return text;
+}
+
+std::string printWord(Range<Word> words, std::int32_t value)
+{
+    for (Word const& known : words) {
+        if (known.value == value) {
+            return std::string(known.word);
+        }
+    }
+    return {};
+}
+
 bool Text::parse(std::string_view text, std::string& value)
 {
     value = text;
@@ -173,6 +199,12 @@ bool Limit<side>::parse(std::string_view text, float& value)
     return true;
 }
 
+template <int side>
+std::string Limit<side>::print(float value)
+{
+    return value == side * std::numeric_limits<float>::infinity() ? "unlimited" : printNumber(value);
+}
+
 template struct Limit<-1>;
 template struct Limit<1>;
 
@@ -193,6 +225,12 @@ bool Vector3::parse(std::string_view text, Position3D& value)
     }
     value = {numbers[0], numbers[1], numbers[2]};
     return true;
+}
+
+std::string Vector3::print(Position3D const& value)
+{
+    std::array<float, 3> const numbers = {value.x, value.y, value.z};
+    return printNumbers(numbers.data(), numbers.size());
 }
 
 bool Matrix9::parse(std::string_view text, std::vector<float>& value)

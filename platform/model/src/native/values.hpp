@@ -10,8 +10,8 @@
 #include "range.hpp"
 #include "varo/model/configs.hpp"
 
-/// The types of values that attributes and texts of the native dialect may have: for each its name, what it means, and
-/// how it is read. Reading knows nothing of locales.
+/// The types of values that attributes and texts of the native dialect may have: for each its name, what it means, how
+/// it is read, and how it is written such that reading gives the same value, bit by bit. Neither knows of locales.
 namespace Varo::Model::Native {
 
 /// Names are shorter than this, in characters.
@@ -43,19 +43,28 @@ bool parseInteger(std::string_view text, std::int32_t& value);
 
 bool parseWord(std::string_view text, Range<Word> words, std::int32_t& value);
 
+/// The shortest number that reads as `value`.
+std::string printNumber(float value);
+
+std::string printNumbers(float const* values, std::size_t count);
+
+/// Empty when no word stands for the value.
+std::string printWord(Range<Word> words, std::int32_t value);
+
 /// Any text, kept as it is.
 struct Text {
     static constexpr ValueType type{"text", "a text"};
     static bool parse(std::string_view text, std::string& value);
+    static std::string print(std::string const& value) { return value; }
 };
 
 /// A text that says something; white space around it does not count.
-struct Line {
+struct Line : Text {
     static constexpr ValueType type{"line", "a text of at least one character"};
     static bool parse(std::string_view text, std::string& value);
 };
 
-struct Name {
+struct Name : Text {
     static constexpr ValueType type{"name", "a name: a text of 1 to 1024 characters"};
     static bool parse(std::string_view text, std::string& value);
 };
@@ -63,6 +72,7 @@ struct Name {
 struct Number {
     static constexpr ValueType type{"number", "a finite decimal number, such as 0.5 or -2e-3"};
     static bool parse(std::string_view text, float& value) { return parseNumber(text, value); }
+    static std::string print(float value) { return printNumber(value); }
 };
 
 /// A number, or the word `unlimited` for the infinity on its side.
@@ -70,6 +80,7 @@ template <int side>
 struct Limit {
     static constexpr ValueType type{"limit", "a finite decimal number or the word unlimited"};
     static bool parse(std::string_view text, float& value);
+    static std::string print(float value);
 };
 using LowerLimit = Limit<-1>;
 using UpperLimit = Limit<1>;
@@ -77,32 +88,38 @@ using UpperLimit = Limit<1>;
 struct Integer {
     static constexpr ValueType type{"integer", "a whole number of at most 32 bits"};
     static bool parse(std::string_view text, std::int32_t& value) { return parseInteger(text, value); }
+    static std::string print(std::int32_t value) { return std::to_string(value); }
 };
 
 struct Boolean {
     static constexpr ValueType type{"boolean", "one of true, false, 1 and 0"};
     static bool parse(std::string_view text, bool& value);
+    static std::string print(bool value) { return value ? "true" : "false"; }
 };
 
 struct Vector3 {
     static constexpr ValueType type{"vector3", "three finite decimal numbers separated by white space"};
     static bool parse(std::string_view text, Position3D& value);
+    static std::string print(Position3D const& value);
 };
 
 struct Matrix9 {
     static constexpr ValueType type{"matrix9", "nine finite decimal numbers separated by white space"};
     static bool parse(std::string_view text, std::vector<float>& value);
+    static std::string print(std::vector<float> const& value) { return printNumbers(value.data(), value.size()); }
 };
 
 struct Matrix12 {
     static constexpr ValueType type{"matrix12", "twelve finite decimal numbers separated by white space"};
     static bool parse(std::string_view text, std::array<float, 12>& value);
+    static std::string print(std::array<float, 12> const& value) { return printNumbers(value.data(), value.size()); }
 };
 
 /// One of the words of `Words::words`.
 template <class Words>
 struct OneOf {
     static bool parse(std::string_view text, std::int32_t& value) { return parseWord(text, Words::words, value); }
+    static std::string print(std::int32_t value) { return printWord(Words::words, value); }
 };
 
 /// The type that a value of the records has unless an attribute says otherwise.

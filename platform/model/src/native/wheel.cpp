@@ -2,6 +2,7 @@
 
 #include "native/body.hpp"
 #include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 
