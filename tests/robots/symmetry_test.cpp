@@ -1,0 +1,119 @@
+#include <set>
+
+#include <gmock/gmock.h>
+
+#include "example_robots.hpp"
+#include "sim/angle_actuator.hpp"
+#include "sim/coupled_actuator.hpp"
+#include "sim/joint.hpp"
+#include "sim/joint_symmetry.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+
+using testing::ElementsAreArray;
+using Tests::poseOf;
+using Varo::Math::Position3D;
+
+namespace {
+
+constexpr float tolerance = 1e-5F;
+
+void expectReflected(Position3D const& left, Position3D const& right)
+{
+    EXPECT_NEAR(left.x, right.x, tolerance);
+    EXPECT_NEAR(left.y, -right.y, tolerance);
+    EXPECT_NEAR(left.z, right.z, tolerance);
+}
+
+/// Across the x-z plane the products of inertia with y change their sign.
+std::vector<float> reflected(std::vector<float> inertia)
+{
+    for (std::size_t const i : {1U, 3U, 5U, 7U}) {
+        inertia[i] = -inertia[i];
+    }
+    return inertia;
+}
+
+/// The sense in which equal joint values mirror each other: an axis is a pseudovector.
+float senseOf(Sim::Joint const* left, Sim::Joint const* right)
+{
+    auto const a = poseOf(left);
+    auto const b = poseOf(right);
+    return -a(0, 2) * b(0, 2) + a(1, 2) * b(1, 2) - a(2, 2) * b(2, 2);
+}
+
+class SymmetricRobot : public testing::TestWithParam<char const*> {
+protected:
+    Sim::Model const model{Tests::examplePath(GetParam())};
+};
+
+TEST_P(SymmetricRobot, HasBodiesThatReflectEachOther)
+{
+    for (Sim::JointSymmetry const* symmetry : model.jointSymmetries()) {
+        auto const [left, right] = symmetry->symmetricJoints();
+        ASSERT_NE(right, nullptr) << left->name();
+        SCOPED_TRACE(left->name());
+        expectReflected(poseOf(left->childLink()).position(), poseOf(right->childLink()).position());
+        Sim::MassData const* const a = left->childLink()->mass();
+        Sim::MassData const* const b = right->childLink()->mass();
+        EXPECT_EQ(a->mass(), b->mass());
+        expectReflected(a->CoM(), b->CoM());
+        EXPECT_THAT(reflected(a->inertiaMatrix()), ElementsAreArray(b->inertiaMatrix()));
+    }
+}
+
+TEST_P(SymmetricRobot, TurnsInTheSenseThatTheMirrorsSay)
+{
+    std::set<bool> kinds;
+    for (Sim::JointSymmetry const* symmetry : model.jointSymmetries()) {
+        auto const [left, right] = symmetry->symmetricJoints();
+        bool const reversed = symmetry->symmetryType() == Sim::JointSymmetry::ReflectedSymmetricReversed;
+        kinds.insert(reversed);
+        EXPECT_NEAR(senseOf(left, right), reversed ? -1 : 1, tolerance) << left->name();
+        Sim::AngleActuator const* const a = model.angleActuator(left->name());
+        Sim::AngleActuator const* const b = model.angleActuator(right->name());
+        EXPECT_EQ(a->minValue(), reversed ? -b->maxValue() : b->minValue()) << left->name();
+        EXPECT_EQ(a->maxValue(), reversed ? -b->minValue() : b->maxValue()) << left->name();
+        EXPECT_EQ(a->startValue(), reversed ? -b->startValue() : b->startValue()) << left->name();
+        EXPECT_EQ(b->reflectedSymmetric(), a) << left->name();
+        EXPECT_EQ(b->reflectedSymmetricReversed(), reversed) << left->name();
+    }
+    EXPECT_EQ(kinds.size(), 2U);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, SymmetricRobot, testing::Values("rover", "humanoid"),
+                         [](auto const& robot) { return std::string(robot.param); });
+
+TEST(SymmetricHumanoid, LeavesNoSidedJointWithoutItsPartner)
+{
+    Sim::Model const model(Tests::examplePath("humanoid"));
+    EXPECT_EQ(model.jointSymmetries().size(), 11U);
+    for (Sim::Joint const* left : model.joints()) {
+        if (left->name()[0] != 'L') {
+            continue;
+        }
+        Sim::Joint const* const right = model.joint("R" + left->name().substr(1));
+        ASSERT_NE(right, nullptr) << left->name();
+        SCOPED_TRACE(left->name());
+        expectReflected(poseOf(left).position(), poseOf(right).position());
+    }
+}
+
+TEST(SymmetricHumanoid, HasHandsThatDoTheSame)
+{
+    Sim::Model const model(Tests::examplePath("humanoid"));
+    Sim::CoupledActuator const* const left = model.coupledActuator("LHand");
+    Sim::CoupledActuator const* const right = model.coupledActuator("RHand");
+    EXPECT_EQ(left->reflectedSymmetric(), right);
+    EXPECT_EQ(right->reflectedSymmetric(), left);
+    auto const leftJoints = left->controlledJointAndRatios();
+    auto const rightJoints = right->controlledJointAndRatios();
+    ASSERT_EQ(leftJoints.size(), rightJoints.size());
+    for (std::size_t i = 0; i < leftJoints.size(); ++i) {
+        EXPECT_EQ(leftJoints[i].first->name().substr(1), rightJoints[i].first->name().substr(1));
+        EXPECT_EQ(leftJoints[i].second, rightJoints[i].second);
+        EXPECT_NEAR(senseOf(leftJoints[i].first, rightJoints[i].first), 1, tolerance);
+    }
+}
+
+}  // namespace
