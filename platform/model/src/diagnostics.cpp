@@ -13,11 +13,15 @@ namespace {
 constexpr std::size_t longestQuote = 64;  // bytes
 constexpr int deepestPath = 16;  // steps; beyond it the innermost are shown
 
-/// Where the tag of an element begins; nodes know where their name is, one character further.
+/// Where the tag of an element begins; nodes know where their name is, one character further. Texts begin
+/// behind their white space.
 std::size_t startOf(pugi::xml_node node)
 {
     auto const offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(node.offset_debug(), 0));
-    return node.type() == pugi::node_element && offset > 0 ? offset - 1 : offset;
+    if (node.type() == pugi::node_element) {
+        return offset > 0 ? offset - 1 : 0;
+    }
+    return offset + std::strspn(node.value(), " \t\r\n");
 }
 
 /// Names stay where they were when the text is parsed, so their distance in memory is that in the text.
@@ -82,12 +86,10 @@ Place::Place(std::size_t offset, std::string path) : _offset(offset), _path(std:
 
 void Diagnostics::report(Place const& place, FindingCode const& code, std::string message, std::string hint)
 {
-    _hasErrors = _hasErrors || code.severity == Severity::error;
-    if (_records.size() == maximumFindings) {
-        ++_dropped;
-        _gravestDropped = std::max(_gravestDropped, code.severity);
+    if (countIfFull(code)) {
         return;
     }
+    _hasErrors = _hasErrors || code.severity == Severity::error;
     Finding finding;
     finding.severity = code.severity;
     finding.code = code.name;
@@ -95,6 +97,17 @@ void Diagnostics::report(Place const& place, FindingCode const& code, std::strin
     finding.message = std::move(message);
     finding.hint = std::move(hint);
     _records.push_back({std::min(place.offset(), _text.size()), std::move(finding)});
+}
+
+bool Diagnostics::countIfFull(FindingCode const& code)
+{
+    if (_records.size() < maximumFindings) {
+        return false;
+    }
+    ++_dropped;
+    _gravestDropped = std::max(_gravestDropped, code.severity);
+    _hasErrors = _hasErrors || code.severity == Severity::error;
+    return true;
 }
 
 Findings Diagnostics::take()

@@ -53,6 +53,10 @@ public:
     /// Texts of the input enter both through `quoted`.
     void report(Place const& place, FindingCode const& code, std::string message, std::string hint = {});
 
+    /// Counts a finding for which there is no room any more; false, with nothing done, while there is. To be asked
+    /// before a finding that is dear to make.
+    bool countIfFull(FindingCode const& code);
+
     bool hasErrors() const { return _hasErrors; }
 
     /// All findings in the order of their places, with line and column. Leaves the sink empty.

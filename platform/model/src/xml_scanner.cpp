@@ -248,6 +248,10 @@ void XmlScanner::checkDeclaration(std::string_view instruction)
 
 void XmlScanner::scanDocumentType()
 {
+    if (!startsWith("<!DOCTYPE")) {
+        finishToken(_text.size());
+        return;
+    }
     report(_position, codes::documentType, "The text has a document type declaration.",
            "Leave it out: descriptions need none, and entities of one's own are not read.");
     finishToken(endOfDocumentType(_text, _position + 2));
@@ -299,6 +303,9 @@ void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
         std::string_view const body = rest.substr(0, std::min(rest.find(';'), rest.find('&')));
         bool const closed = body.size() < rest.size() && rest[body.size()] == ';';
         if (!closed || !isKnownReference(body)) {
+            if (_diagnostics.countIfFull(codes::badReference)) {
+                continue;
+            }
             report(_nextAmpersand, codes::badReference,
                    quoted("&" + std::string(body) + (closed ? ";" : "")) + " is no reference.",
                    "Write &amp; for the character itself.");
@@ -331,6 +338,9 @@ void XmlScanner::finishToken(std::size_t end)
 
 void XmlScanner::report(std::size_t offset, FindingCode const& code, std::string message, std::string hint)
 {
+    if (_diagnostics.countIfFull(code)) {
+        return;
+    }
     _diagnostics.report({offset, path()}, code, std::move(message), std::move(hint));
 }
 

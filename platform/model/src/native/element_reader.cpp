@@ -145,7 +145,7 @@ ElementReader::Bits ElementReader::readChild(Element const& element, pugi::xml_n
 ElementReader::Bits ElementReader::reportUnknownAttribute(Element const& element, pugi::xml_node node,
                                                           pugi::xml_attribute attribute)
 {
-    if (isForEditors(attribute.name())) {
+    if (isForEditors(attribute.name()) || _diagnostics.countIfFull(codes::unknownAttribute)) {
         return 0;
     }
     auto [hint, bit] = suggest(element.attributes, attribute.name());
@@ -158,6 +158,9 @@ ElementReader::Bits ElementReader::reportUnknownAttribute(Element const& element
 ElementReader::Bits ElementReader::reportUnknownChild(Element const& element, pugi::xml_node child)
 {
     loseDefinition();
+    if (_diagnostics.countIfFull(codes::unknownElement)) {
+        return 0;
+    }
     auto [hint, bit] = suggest(element.children, child.name());
     _diagnostics.report(child, codes::unknownElement,
                         std::string(element.name) + " holds no element " + quoted(child.name()) + ".", std::move(hint));
@@ -190,6 +193,9 @@ void ElementReader::reportMissingChildren(Element const& element, pugi::xml_node
 
 void ElementReader::reportWrongValue(Place const& place, Attribute const& attribute, std::string_view value)
 {
+    if (_diagnostics.countIfFull(codes::wrongValue)) {
+        return;
+    }
     std::string const subject = attribute.name.empty() ? "The text" : "The value of " + quoted(attribute.name);
     std::string hint;
     ClosestWord closest(value);

@@ -1,0 +1,20 @@
+#ifndef VARO_MODEL_GENERATE_FORMAT_WRITER_HPP
+#define VARO_MODEL_GENERATE_FORMAT_WRITER_HPP
+
+#include <string>
+
+/// What is written from the tables that the reader of the native dialect obeys.
+namespace Varo::Model::Native {
+
+/// The XML schema (XSD 1.0).
+std::string writeSchema();
+
+/// The part of the documentation that lists every element, attribute and type, in Markdown.
+std::string writeElementReference();
+
+/// The part of the documentation that lists every code of a finding, in Markdown.
+std::string writeFindingReference();
+
+}  // namespace Varo::Model::Native
+
+#endif

@@ -1,0 +1,48 @@
+#include "value_types.hpp"
+
+#include <algorithm>
+
+#include "native/elements.hpp"
+
+namespace Varo::Model::Native {
+
+namespace {
+
+void addTypeOf(Attribute const& attribute, std::vector<ValueType const*>& types)
+{
+    auto const same = [&](ValueType const* type) { return type->name == attribute.type->name; };
+    if (std::none_of(types.begin(), types.end(), same)) {
+        types.push_back(attribute.type);
+    }
+}
+
+}  // namespace
+
+std::vector<Element const*> allElements()
+{
+    std::vector<Element const*> elements = {&robotDescriptionElement};
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        for (Child const& child : elements[i]->children) {
+            if (std::find(elements.begin(), elements.end(), child.element) == elements.end()) {
+                elements.push_back(child.element);
+            }
+        }
+    }
+    return elements;
+}
+
+std::vector<ValueType const*> usedTypes()
+{
+    std::vector<ValueType const*> types;
+    for (Element const* element : allElements()) {
+        for (Attribute const& attribute : element->attributes) {
+            addTypeOf(attribute, types);
+        }
+        if (element->text != nullptr) {
+            addTypeOf(*element->text, types);
+        }
+    }
+    return types;
+}
+
+}  // namespace Varo::Model::Native

@@ -1,0 +1,18 @@
+#ifndef VARO_MODEL_GENERATE_VALUE_TYPES_HPP
+#define VARO_MODEL_GENERATE_VALUE_TYPES_HPP
+
+#include <vector>
+
+#include "native/schema.hpp"
+
+namespace Varo::Model::Native {
+
+/// Every element of the dialect, from the root inward, each table once.
+std::vector<Element const*> allElements();
+
+/// Every type that attributes and texts of the dialect have, in the order of their first use.
+std::vector<ValueType const*> usedTypes();
+
+}  // namespace Varo::Model::Native
+
+#endif

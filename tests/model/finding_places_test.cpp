@@ -1,0 +1,119 @@
+#include <fstream>
+#include <iterator>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "varo/model/model_utils.hpp"
+
+namespace Varo::Model {
+namespace {
+
+std::string readData(std::string const& name)
+{
+    std::ifstream in(VARO_SOURCE_DIR "/tests/model/data/" + name + ".xml");
+    EXPECT_TRUE(in) << name;
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+struct Fault {
+    char const* file;
+    char const* code;
+    int line;
+    int column;
+    char const* path;
+    char const* said;  ///< part of message or hint
+};
+std::ostream& operator<<(std::ostream& out, Fault const& fault)
+{
+    return out << fault.file;
+}
+
+class FindingPlaces : public testing::TestWithParam<Fault> {};
+
+TEST_P(FindingPlaces, IsReportedOnceWhereItStands)
+{
+    Fault const& fault = GetParam();
+    Findings const findings = ModelUtils::diagnose(readData(fault.file));
+    ASSERT_EQ(findings.size(), 1U);
+    Finding const& finding = findings.front();
+    EXPECT_EQ(finding.severity, Severity::error);
+    EXPECT_EQ(finding.code, fault.code);
+    EXPECT_EQ(finding.line, fault.line);
+    EXPECT_EQ(finding.column, fault.column);
+    EXPECT_EQ(finding.path, fault.path);
+    EXPECT_THAT(finding.message + finding.hint, testing::HasSubstr(fault.said));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, FindingPlaces,
+    testing::Values(
+        Fault{"unknown_element", "unknown-element", 5, 3, "/robotDescription/joynt[@name=\"K\"]", "\"joint\"?"},
+        Fault{"unknown_attribute", "unknown-attribute", 5, 42, "/robotDescription/sensor[@name=\"S\"]", "\"colour\""},
+        Fault{"missing_root", "missing-element", 1, 1, "/robotDescription", "\"root\""},
+        Fault{"missing_attribute", "missing-attribute", 3, 3, "/robotDescription/joint[@name=\"J\"]", "\"min\""},
+        Fault{"wrong_number", "wrong-value", 5, 28, "/robotDescription/joint[@name=\"K\"]", "\"0,5\""},
+        Fault{"wrong_count", "wrong-value", 5, 53, "/robotDescription/sensor[@name=\"S\"]/placement", "three"},
+        Fault{"sensor_unknown_type", "wrong-value", 5, 31, "/robotDescription/sensor[@name=\"S\"]", "\"camera\"?"},
+        Fault{"empty_key", "wrong-value", 5, 42, "/robotDescription/sensor[@name=\"S\"]/key", "text"},
+        Fault{"unexpected_text", "unexpected-text", 5, 3, "/robotDescription", "\"fault\""},
+        Fault{"duplicate_joint", "duplicate-name", 5, 10, "/robotDescription/joint[@name=\"J\"]", "\"J\""},
+        Fault{"duplicate_sub_joint", "duplicate-name", 7, 22,
+              "/robotDescription/actuator[@name=\"A\"]/group/subJoint[@name=\"F\"]", "\"F\""},
+        Fault{"duplicate_posture_angle", "duplicate-name", 5, 53, "/robotDescription/posture[@name=\"P\"]/angle",
+              "\"J\""},
+        Fault{"matrix_beside_xyz", "conflicting-attributes", 4, 28, "/robotDescription/joint[@name=\"J\"]/placement",
+              "matrix"},
+        Fault{"actuator_loop", "actuator-loop", 5, 22, "/robotDescription/actuator[@name=\"A\"]", "\"A\""},
+        Fault{"number_too_large", "wrong-value", 5, 27, "/robotDescription/joint[@name=\"K\"]", "1e999"},
+        Fault{"unknown_root", "unknown-root", 1, 1, "/robotDescripton", "\"robotDescription\"?"}),
+    [](auto const& fault) { return std::string(fault.param.file); });
+
+TEST(FindingPlaces, FiveFaultsAreFoundInOneRun)
+{
+    std::vector<std::string> places;
+    for (Finding const& finding : ModelUtils::diagnose(readData("five_faults"))) {
+        places.push_back(std::to_string(finding.line) + ":" + std::to_string(finding.column) + " " + finding.code);
+    }
+    EXPECT_THAT(places, testing::ElementsAre("2:21 unknown-attribute", "3:28 wrong-value", "5:16 wrong-value",
+                                             "6:5 unknown-element", "8:3 missing-attribute"));
+}
+
+TEST(FindingPlaces, ColumnsCountCharactersAndNotTheByteOrderMark)
+{
+    Findings const findings = ModelUtils::diagnose(
+        "\xEF\xBB\xBF<robotDescription name='\xC3\xA4\xE2\x82\xAC' x='1'>\n"
+        "<root name='B'/></robotDescription>");
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].line, 1);
+    EXPECT_EQ(findings[0].column, 29);
+}
+
+TEST(FindingPlaces, ExceptionSaysFirstErrorAndCarriesAll)
+{
+    try {
+        ModelUtils::robotFromXml(readData("five_faults"));
+        FAIL();
+    } catch (DescriptionError const& error) {
+        EXPECT_STREQ(error.what(), "2:21: root has no attribute \"msh\". (and 4 more)");
+        EXPECT_EQ(error.findings().size(), 5U);
+    }
+}
+
+TEST(FindingPlaces, BeyondTheThousandthFindingsAreOnlyCounted)
+{
+    std::string xml = "<robotDescription name='R'><root name='B'/>";
+    for (int i = 0; i < 1500; ++i) {
+        xml += "<x/>";
+    }
+    Findings const findings = ModelUtils::diagnose(xml + "</robotDescription>");
+    ASSERT_EQ(findings.size(), 1001U);
+    EXPECT_EQ(findings.back().code, "too-many-findings");
+    EXPECT_THAT(findings.back().message, testing::HasSubstr("500"));
+    EXPECT_EQ(findings.back().severity, Severity::error);
+}
+
+}  // namespace
+}  // namespace Varo::Model

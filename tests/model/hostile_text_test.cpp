@@ -1,0 +1,106 @@
+#include <chrono>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "varo/model/model_utils.hpp"
+
+namespace Varo::Model {
+namespace {
+
+std::string const head = "<robotDescription name='R'><root name='B'/>";
+std::string const tail = "</robotDescription>";
+
+/// Refused with a place, whatever it is, and in a time that linear work does not reach even in a slow build.
+void expectRefused(std::string const& xml)
+{
+    auto const start = std::chrono::steady_clock::now();
+    Findings const findings = ModelUtils::diagnose(xml);
+    std::chrono::duration<double> const seconds = std::chrono::steady_clock::now() - start;
+    ASSERT_FALSE(findings.empty());
+    EXPECT_LE(findings.size(), 1001U);
+    EXPECT_GE(findings[0].line, 1);
+    EXPECT_GE(findings[0].column, 1);
+    EXPECT_LT(findings[0].message.size(), 1000U);
+    EXPECT_LT(findings[0].path.size(), 4000U);
+    EXPECT_FALSE(ModelUtils::checkXml(xml));
+    EXPECT_LT(seconds.count(), 20.0);
+}
+
+std::string repeated(std::string const& part, std::size_t count)
+{
+    std::string text;
+    text.reserve(part.size() * count);
+    for (std::size_t i = 0; i < count; ++i) {
+        text += part;
+    }
+    return text;
+}
+
+TEST(HostileText, ATextCutAnywhereIsRefusedOnce)
+{
+    std::ifstream in(VARO_SOURCE_DIR "/robots/minimal.xml");
+    std::string xml{std::istreambuf_iterator<char>(in), {}};
+    xml.resize(xml.find("</robotDescription>") + 18);
+    for (std::size_t size = 0; size <= xml.size(); ++size) {
+        Findings const findings = ModelUtils::diagnose(xml.substr(0, size));
+        ASSERT_EQ(findings.size(), 1U) << size << " bytes";
+        EXPECT_EQ(findings[0].severity, Severity::error);
+    }
+}
+
+TEST(HostileText, GarbageIsRefused)
+{
+    std::mt19937 random(1);
+    std::string garbage(10'000'000, '\0');
+    for (char& c : garbage) {
+        c = static_cast<char>(random());
+    }
+    expectRefused(garbage);
+    expectRefused(head + garbage);
+    expectRefused(repeated("<", 10'000'000));
+    expectRefused(head + repeated("&", 10'000'000) + tail);
+    expectRefused(head + "<x a='" + repeated("&", 3'000'000) + "'/>" + tail);
+}
+
+TEST(HostileText, LongNamesAreRefusedAndShortenedInWhatIsSaid)
+{
+    std::string const name(1'000'000, 'x');
+    expectRefused(head + "<joint min='0' max='1' name='" + name + "'/>" + tail);
+    expectRefused(head + "<" + name + "/>" + tail);
+    expectRefused(head + "<joint " + name + "='1'/>" + tail);
+    expectRefused(head + "<joint name='" + name + "'>" + repeated("<y/>", 100'000) + "</joint>" + tail);
+}
+
+TEST(HostileText, ManyFaultsInOneElementAreFoundInLinearTime)
+{
+    std::string attributes;
+    for (int i = 0; i < 200'000; ++i) {
+        attributes += " a" + std::to_string(i) + "='&'";
+    }
+    expectRefused(head + "<joint" + attributes + "/>" + tail);
+}
+
+TEST(HostileText, EntityBombsAreRefused)
+{
+    std::string bomb = "<!DOCTYPE a [<!ENTITY e0 'x'>";
+    for (int i = 1; i < 30; ++i) {
+        std::string const previous = "&e" + std::to_string(i - 1) + ";";
+        bomb += "<!ENTITY e" + std::to_string(i) + " '" + previous + previous + "'>";
+    }
+    expectRefused(bomb + "]>" + "<robotDescription name='&e29;'><root name='B'/>" + tail);
+}
+
+TEST(HostileText, DeepNestingIsRefusedWithoutRecursion)
+{
+    std::string const deep = repeated("<a>", 100'000);
+    expectRefused(deep);
+    expectRefused(deep + repeated("</a>", 100'000));
+    expectRefused(head + deep + "&" + repeated("</a>", 100'000) + tail);
+}
+
+}  // namespace
+}  // namespace Varo::Model

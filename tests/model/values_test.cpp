@@ -1,0 +1,103 @@
+#include "native/values.hpp"
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <locale>
+#include <string>
+
+#include <gmock/gmock.h>
+
+namespace Varo::Model::Native {
+namespace {
+
+constexpr float infinity = std::numeric_limits<float>::infinity();
+
+TEST(Values, NumbersAreFiniteDecimals)
+{
+    struct Case {
+        char const* text;
+        float value;
+    };
+    for (Case const& c : {Case{"1", 1.0F},
+                          {"+1", 1.0F},
+                          {"-2e-3", -0.002F},
+                          {".5", 0.5F},
+                          {"5.", 5.0F},
+                          {" 7\n", 7.0F},
+                          {"1E+2", 100.0F},
+                          {"3.4028235e38", 3.4028235e38F},
+                          {"1e-60", 0.0F},
+                          {"-1e-400", 0.0F},
+                          {"1e-44", 1e-44F}}) {
+        float value = -1.0F;
+        EXPECT_TRUE(parseNumber(c.text, value)) << c.text;
+        EXPECT_EQ(value, c.value) << c.text;
+    }
+    for (char const* text :
+         {"",         " ",    "+",    "-",   ".",   "e5",  "nan", "NaN", "-nan", "inf", "+inf",  "-inf",
+          "infinity", "0x10", "1.0f", "1,5", "1 2", "--1", "+-1", "-+1", "++1",  "1e",  "1e999", "-1e39"}) {
+        float value = 42.0F;
+        EXPECT_FALSE(parseNumber(text, value)) << text;
+        EXPECT_EQ(value, 42.0F) << text;
+    }
+}
+
+TEST(Values, ListsHaveTheirCount)
+{
+    Position3D position;
+    EXPECT_TRUE(Vector3::parse(" 1\t+2\n3 ", position));
+    EXPECT_EQ(position, (Position3D{1.0F, 2.0F, 3.0F}));
+    for (char const* text : {"", "1 2", "1 2 3 4", "1 2 x", "1,2,3"}) {
+        EXPECT_FALSE(Vector3::parse(text, position)) << text;
+    }
+    EXPECT_EQ(position, (Position3D{1.0F, 2.0F, 3.0F}));
+}
+
+TEST(Values, LimitsMayBeInfiniteInOneWord)
+{
+    float value = 0.0F;
+    EXPECT_TRUE(LowerLimit::parse("unlimited", value));
+    EXPECT_EQ(value, -infinity);
+    EXPECT_TRUE(UpperLimit::parse("unlimited", value));
+    EXPECT_EQ(value, infinity);
+    EXPECT_FALSE(UpperLimit::parse("inf", value));
+}
+
+TEST(Values, IntegersAndBooleansAndNames)
+{
+    std::int32_t integer = 0;
+    EXPECT_TRUE(parseInteger("+12", integer) && integer == 12);
+    EXPECT_TRUE(parseInteger("-3", integer) && integer == -3);
+    for (char const* text : {"", "1.0", "2147483648", "0x1", "+-1"}) {
+        EXPECT_FALSE(parseInteger(text, integer)) << text;
+    }
+    bool boolean = false;
+    EXPECT_TRUE(Boolean::parse("1", boolean) && boolean);
+    EXPECT_FALSE(Boolean::parse("yes", boolean));
+    std::string name;
+    EXPECT_TRUE(Name::parse(std::string(longestName, 'x'), name));
+    EXPECT_FALSE(Name::parse(std::string(longestName + 1, 'x'), name));
+    EXPECT_FALSE(Name::parse("", name));
+}
+
+/// Makes numbers with a comma for as long as it lives.
+class DecimalComma : public std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+};
+
+TEST(Values, NumbersReadTheSameUnderADecimalComma)
+{
+    std::locale const before = std::locale::global(std::locale(std::locale(), new DecimalComma));
+    std::string const cBefore = std::setlocale(LC_ALL, nullptr);
+    std::setlocale(LC_ALL, "de_DE.UTF-8");  // where it is installed
+    float value = 0.0F;
+    EXPECT_TRUE(parseNumber("1.5", value));
+    EXPECT_EQ(value, 1.5F);
+    EXPECT_FALSE(parseNumber("1,5", value));
+    std::locale::global(before);
+    std::setlocale(LC_ALL, cBefore.c_str());
+}
+
+}  // namespace
+}  // namespace Varo::Model::Native
