@@ -1,12 +1,15 @@
 #include "varo/model/model_utils.hpp"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "diagnostics.hpp"
+#include "native/native_codes.hpp"
 #include "native/native_reader.hpp"
 #include "native/native_writer.hpp"
 #include "spelling.hpp"
+#include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
 #include "xml_text.hpp"
 
@@ -81,6 +84,20 @@ std::unique_ptr<Robot> robotFromXml(std::string const& xml)
         throw DescriptionError(what, std::move(reading.findings));
     }
     return std::move(reading.robot);
+}
+
+std::vector<std::string> findingCodes()
+{
+    std::set<std::string_view> names;
+    auto const add = [&names](auto const& codes) {
+        for (FindingCode const* code : codes) {
+            names.insert(code->name);
+        }
+    };
+    add(codes::ofTexts);
+    add(Native::codes::ofDialect);
+    add(Urdf::codes::ofDialect);
+    return {names.begin(), names.end()};
 }
 
 std::string toXml(Robot const& robot)

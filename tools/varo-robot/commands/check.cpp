@@ -102,8 +102,24 @@ bool isBad(Findings const& findings)
                        [](Finding const& finding) { return finding.severity == Severity::error; });
 }
 
+bool isCode(std::string const& word)
+{
+    std::vector<std::string> known = Varo::Model::ModelUtils::findingCodes();
+    for (std::string const& code : Rules::codes()) {
+        known.push_back(code);
+    }
+    known.emplace_back(codes::modelIncomplete);
+    return std::find(known.begin(), known.end(), word) != known.end();
+}
+
 int check(Options const& options)
 {
+    for (std::string const& code : options.silenced) {
+        if (!isCode(code)) {
+            std::cerr << "There are no findings with the code \"" << code << "\".\n";
+            return exitStatus::wrongUsage;
+        }
+    }
     bool bad = false;
     Json data = Json::array();
     for (std::string const& file : options.files) {

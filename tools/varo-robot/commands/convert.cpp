@@ -51,9 +51,8 @@ std::function<int()> declare(CLI::App& app)
 
 }  // namespace
 
-Command const convertCommand = {
-    "convert", "Write the description in the native dialect",
-    R"(Reads a description of either dialect and writes it in the native one, in its
+Command const convertCommand = {"convert", "Write the description in the native dialect",
+                                R"(Reads a description of either dialect and writes it in the native one, in its
 canonical form: elements and attributes in the format's order, values that are
 defaults left out, comments dropped. The model of what is written equals that of
 the original to the last bit, and converting it again changes nothing.
@@ -65,6 +64,6 @@ are kept as attributes "urdfLink".
 Examples:
   varo-robot convert panda.urdf -o panda.xml
   varo-robot convert robot.urdf | varo-robot dump -)",
-    declare};
+                                declare};
 
 }  // namespace Tool

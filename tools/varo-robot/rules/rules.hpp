@@ -2,6 +2,7 @@
 #define TOOL_RULES_RULES_HPP
 
 #include <string>
+#include <vector>
 
 #include "varo/model/finding.hpp"
 #include "varo/model/robot.hpp"
@@ -11,6 +12,9 @@ namespace Tool::Rules {
 
 /// The findings of all rules about an accepted description, with their places in `text`, from which `robot` was read.
 Varo::Model::Findings apply(std::string const& text, Varo::Model::Robot const& robot);
+
+/// The codes that these findings bear.
+std::vector<std::string> codes();
 
 }  // namespace Tool::Rules
 

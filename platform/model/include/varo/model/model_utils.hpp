@@ -36,6 +36,9 @@ VAROROBOTMODEL_API bool checkXml(std::string const& xml);
 /// All findings of the text, in one pass, in the order of their places.
 VAROROBOTMODEL_API Findings diagnose(std::string const& xml);
 
+/// The codes of all findings that there are, in either dialect, in ascending order.
+VAROROBOTMODEL_API std::vector<std::string> findingCodes();
+
 /// The robot as a text of the native dialect, whatever the dialect it was read from. Reading that text gives a robot
 /// that holds the same, bit by bit, and whose text is the same. Throws std::out_of_range for a robot, not made by
 /// `read`, whose tables lack a listed name.

@@ -1,0 +1,124 @@
+#include <map>
+#include <set>
+
+#include <nlohmann/json.hpp>
+
+#include "run_tool.hpp"
+
+namespace ToolTest {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using Keys = std::vector<std::string>;
+
+class Dump : public ToolFixture {};
+
+Keys keysOf(Json const& object)
+{
+    Keys keys;
+    for (auto const& [key, value] : object.items()) {
+        keys.push_back(key);
+    }
+    return keys;
+}
+
+Keys operator+(Keys left, Keys const& right)
+{
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+TEST_F(Dump, PrintsEveryNumberAndName)
+{
+    Json const dump = Json::parse(run({"dump", "-"}, legs).out);
+    EXPECT_EQ(keysOf(dump), (Keys{"name", "prettyName", "version", "rootLink", "links", "joints", "jointSymmetries",
+                                  "jointGroups", "actuators", "actuatorGroups", "sensors"}));
+    EXPECT_EQ(dump["name"], "Walker");
+    EXPECT_EQ(dump["prettyName"], "The Walker");
+    EXPECT_EQ(dump["version"], "2.1");
+    EXPECT_EQ(dump["rootLink"], "PelvisLink");
+    EXPECT_EQ(dump["links"].size(), 3U);
+    EXPECT_EQ(dump["links"][0].dump(), Json::parse(R"({
+        "name": "PelvisLink", "frame": "PelvisLink", "type": "regular", "parentJoint": null,
+        "childrenJoints": ["LHip", "RHip"],
+        "mass": {"mass": 4.5, "com": [0, 0, -0.01], "inertia": [0, 0, 0, 0, 0, 0, 0, 0, 0]},
+        "frictionMaterial": "gum",
+        "visual": {"meshPath": "pelvis.dae", "meshTransform": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1]},
+        "localPosition": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1],
+        "globalPosition": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1]})")
+                                           .dump());
+    EXPECT_EQ(dump["joints"][1].dump(), Json::parse(R"({
+        "name": "RHip", "frame": "RHip", "parentLink": "PelvisLink", "childLink": "RHipLink",
+        "localPosition": [1, 0, 0, 0, 0, 1, 0, -0.1, 0, 0, 1, -0.05, 0, 0, 0, 1],
+        "globalPosition": [1, 0, 0, -0, 0, 1, 0, -0.1, 0, 0, 1, -0.05, 0, 0, 0, 1]})")
+                                            .dump());
+    EXPECT_EQ(dump["jointSymmetries"].dump(), R"([{"joints":["LHip","RHip"],"type":"ReflectedSymmetric"}])");
+    EXPECT_EQ(dump["jointGroups"][1].dump(), R"({"name":"RLeg","joints":["RHip"]})");
+    EXPECT_EQ(dump["actuatorGroups"][0].dump(), R"({"name":"LLeg","parent":null,"actuators":["LHip"]})");
+    EXPECT_EQ(dump["sensors"][2].dump(), Json::parse(R"({
+        "name": "Eye", "type": "Camera", "frame": "Eye",
+        "globalPosition": [1, 0, 0, 0.2, 0, 1, 0, -0, 0, 0, 1, -0, 0, 0, 0, 1],
+        "bufferSize": 3686400, "width": 640, "height": 480})")
+                                             .dump());
+}
+
+TEST_F(Dump, PrintsTheShortestNumbersWhateverTheLocale)
+{
+    std::string const dump = run({"dump", "-"}, legs).out;
+    // Neither 1.25 with zeros behind it nor 0.1 as the double next to it; nothing is a number without end.
+    for (char const* const line :
+         {"\"mass\": 1.25,", "\"minValue\": -1.1,", "\"maxValue\": null,", ", 0, 0.1, 0, 0,"}) {
+        EXPECT_NE(dump.find(line), std::string::npos) << line;
+    }
+    Outcome const made = runCommand("localedef -i de_DE -f UTF-8 ./de_DE.UTF-8");
+    if (!std::filesystem::exists(folder() / "de_DE.UTF-8")) {
+        GTEST_SKIP() << "no locale with a decimal comma can be made here: " << made.err;
+    }
+    std::string const environment = "LOCPATH='" + folder().string() + "' LC_ALL=de_DE.UTF-8";
+    EXPECT_EQ(runCommand("env " + environment + " printf %.1f 1,5").out, "1,5");
+    EXPECT_EQ(run({"dump", "-"}, legs, environment).out, dump);
+}
+
+TEST_F(Dump, EveryKindOfElementHasItsMembers)
+{
+    Keys const device = {"name", "type", "frame", "globalPosition", "bufferSize"};
+    Keys const actuator = device + Keys{"dcmKeys"};
+    Keys const range = {"startValue", "minValue", "maxValue"};
+    Keys const mirror = {"reflectedSymmetric", "reflectedSymmetricReversed"};
+    Keys const jointMotor = actuator + range + Keys{"controlledJoint"} + mirror;
+    std::map<std::string, Keys> const actuators = {
+        {"Angle", actuator + range + Keys{"maxSpeed", "controlledJoint"} + mirror + Keys{"reflectionForced"}},
+        {"Coupled",
+         actuator + range + Keys{"maxSpeed"} + mirror + Keys{"reflectionForced", "controlledJointAndRatios"}},
+        {"Torque", jointMotor},
+        {"AngleSpeed", jointMotor},
+        {"WheelVelocity", actuator + Keys{"maxVelocity", "controlledJoint"}},
+        {"LED", actuator + Keys{"shortname", "groups", "color"}},
+    };
+    Keys const keyed = device + Keys{"dcmKeys", "dcmStateKeys", "dcmCommandKeys"};
+    Keys const size = {"width", "height"};
+    std::map<std::string, Keys> const sensors = {{"Camera", device + size},
+                                                 {"CameraDepth", device + size},
+                                                 {"ArrayDepth", keyed + size},
+                                                 {"Microphone", device}};
+
+    std::set<std::string> seen;
+    for (auto const& entry : std::filesystem::directory_iterator(VARO_SOURCE_DIR "/robots")) {
+        Json const dump = Json::parse(run({"dump", entry.path().string()}).out);
+        for (Json const& one : dump["actuators"]) {
+            EXPECT_EQ(keysOf(one), actuators.at(one["type"])) << one["name"];
+            seen.insert(one["type"]);
+        }
+        for (Json const& one : dump["sensors"]) {
+            auto const special = sensors.find(one["type"]);
+            EXPECT_EQ(keysOf(one), special == sensors.end() ? keyed : special->second) << one["name"];
+            EXPECT_EQ(one["globalPosition"].size(), 16U);
+        }
+    }
+    EXPECT_EQ(seen.size(), actuators.size()) << "the example robots have actuators of every kind";
+}
+
+}  // namespace
+
+}  // namespace ToolTest

@@ -1,0 +1,82 @@
+#include "run_tool.hpp"
+
+namespace ToolTest {
+
+namespace {
+
+constexpr int fine = 0;
+constexpr int bad = 1;
+constexpr int wrongUsage = 2;
+
+class Usage : public ToolFixture {};
+
+TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
+{
+    write("good.xml", legs);
+    write("bad.xml", "<robotDescription/>");
+    write("empty.xml", "");
+    struct Case {
+        std::vector<std::string> arguments;
+        int status;
+        std::string err;  // what standard error must hold
+    };
+    std::vector<Case> const cases = {
+        {{"--version"}, fine, ""},
+        {{"--help"}, fine, ""},
+        {{"check", "good.xml"}, fine, ""},
+        {{"check", "good.xml", "bad.xml"}, bad, "bad.xml:1:1: error: "},
+        {{"dump", "bad.xml"}, bad, "bad.xml:1:1: error: "},
+        {{"info", "none.xml"}, bad, "none.xml: error: It cannot be read: No such file or directory."},
+        {{"tree", "."}, bad, ".: error: It cannot be read: Is a directory."},
+        {{"check", "empty.xml"}, bad, "empty.xml: error: There is nothing in it."},
+        {{"show", "Nobody", "good.xml"}, bad, "good.xml: error: Nothing in it is called \"Nobody\"."},
+        {{"convert", "good.xml", "-o", "none/out.xml"}, bad, "none/out.xml: error: It cannot be written"},
+        {{}, wrongUsage, "A subcommand is required"},
+        {{"frobnicate"}, wrongUsage, "There is no command \"frobnicate\"."},
+        {{"check"}, wrongUsage, "FILE is required"},
+        {{"tree", "--tall", "good.xml"}, wrongUsage, "--tall"},
+        {{"list", "frobs", "good.xml"}, wrongUsage, "Known kinds:\nlinks, wheels, joints,"},
+        {{"check", "--silence", "no-such-code", "good.xml"}, wrongUsage, "no-such-code"},
+    };
+    for (Case const& expected : cases) {
+        SCOPED_TRACE(testing::PrintToString(expected.arguments));
+        Outcome const outcome = run(expected.arguments);
+        EXPECT_EQ(outcome.status, expected.status);
+        EXPECT_NE(outcome.err.find(expected.err), std::string::npos) << outcome.err;
+        EXPECT_EQ(outcome.err.empty(), expected.status == fine);
+    }
+}
+
+TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
+{
+    std::vector<std::vector<std::string>> const commands = {{"check"},        {"info"},  {"tree"}, {"list", "joints"},
+                                                            {"show", "LHip"}, {"graph"}, {"dump"}, {"convert"}};
+    std::string const overview = run({"--help"}).out;
+    for (std::vector<std::string> command : commands) {
+        SCOPED_TRACE(command.front());
+        EXPECT_NE(overview.find("\n  " + command.front() + " "), std::string::npos);
+        std::string const help = run({command.front(), "--help"}).out;
+        EXPECT_NE(help.find("Usage: varo-robot " + command.front()), std::string::npos);
+        EXPECT_NE(help.find("Example"), std::string::npos);
+
+        command.emplace_back("-");
+        Outcome const outcome = run(command, legs);
+        EXPECT_EQ(outcome.status, fine) << outcome.err;
+        EXPECT_FALSE(outcome.out.empty());
+    }
+}
+
+TEST_F(Usage, FullDiskIsReported)
+{
+    if (!std::filesystem::exists("/dev/full")) {
+        GTEST_SKIP() << "there is no /dev/full";
+    }
+    write("good.xml", legs);
+    Outcome const outcome = runCommand(VARO_ROBOT " dump good.xml >/dev/full");
+    EXPECT_EQ(outcome.status, bad);
+    EXPECT_EQ(outcome.err, "varo-robot: error: standard output cannot be written.\n");
+}
+
+}  // namespace
+
+}  // namespace ToolTest

@@ -1,0 +1,242 @@
+#include <algorithm>
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+#include "run_tool.hpp"
+
+namespace ToolTest {
+
+namespace {
+
+using Json = nlohmann::json;
+
+std::string const robots = VARO_SOURCE_DIR "/robots/";
+std::string const humanoid = robots + "humanoid.xml";
+
+std::size_t countOf(std::string const& text, std::string const& part)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) {
+        ++count;
+    }
+    return count;
+}
+
+/// A chain of as many joints.
+std::string serialChain(int joints)
+{
+    std::ostringstream text;
+    text << "<robotDescription name=\"Snake\"><root name=\"Base\"/>";
+    for (int i = 0; i < joints; ++i) {
+        text << "<joint name=\"J" << i << "\" min=\"0\" max=\"1\"><placement xyz=\"1 0 0\"/></joint>";
+    }
+    text << "<chain name=\"Body\" parent=\"Base\">";
+    for (int i = 0; i < joints; ++i) {
+        text << "<jointRef name=\"J" << i << "\"/>";
+    }
+    text << "</chain></robotDescription>";
+    return text.str();
+}
+
+class Info : public ToolFixture {};
+
+TEST_F(Info, SaysOnOneScreenWhatRobotItIs)
+{
+    EXPECT_EQ(run({"info", "-"}, legs).out, R"(name          Walker
+pretty name   The Walker
+version       2.1
+dialect       native
+root link     PelvisLink
+links         3
+joints        2
+total mass    7 kg
+actuators     2: 2 Angle
+sensors       3: 2 Angle, 1 Camera
+symmetries    1
+joint groups  2
+chains        LLeg: joints 1, on Pelvis
+              RLeg: joints 1, on Pelvis
+)");
+    Outcome const outcome = run({"info", humanoid});
+    EXPECT_LE(std::count(outcome.out.begin(), outcome.out.end(), '\n'), 24);
+}
+
+TEST_F(Info, SummarisesWhatCouldNotBeCarriedOver)
+{
+    std::string const info = run({"info", "-"}, R"(<robot name="r">
+  <link name="base"><collision/></link><link name="tip"><collision/></link>
+  <joint name="j" type="floating"><parent link="base"/><child link="tip"/></joint>
+</robot>)")
+                                 .out;
+    EXPECT_NE(info.find("dialect       urdf\n"), std::string::npos);
+    EXPECT_NE(info.find("not carried   1 warning joint-frozen, line 3: "), std::string::npos) << info;
+    EXPECT_NE(info.find("1 note not-carried, line 2: "), std::string::npos) << info;
+}
+
+class Tree : public ToolFixture {};
+
+TEST_F(Tree, DrawsBranchesAsTheLocaleCan)
+{
+    EXPECT_EQ(run({"tree", "-"}, legs, "LC_ALL=C.UTF-8").out,
+              "[PelvisLink]\n"
+              "├─ LHip → [LHipLink]\n"
+              "└─ RHip → [RHipLink]\n");
+    EXPECT_EQ(run({"tree", "--mass", "--pose", "-"}, legs, "LC_ALL=C").out,
+              "[PelvisLink]           4.5 kg      xyz 0.000 0.000 0.000  rpy 0.000 0.000 0.000\n"
+              "|- LHip -> [LHipLink]  1.25 kg     xyz 0.000 0.100 -0.050  rpy 0.000 0.000 0.000\n"
+              "`- RHip -> [RHipLink]  1.25 kg     xyz 0.000 -0.100 -0.050  rpy 0.000 0.000 0.000\n");
+}
+
+TEST_F(Tree, NamesUrdfLinksAndMarksWheels)
+{
+    EXPECT_EQ(run({"tree", "-"}, R"(<robot name="r"><link name="base"/><link name="tip"/>
+        <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)",
+                  "LC_ALL=C")
+                  .out,
+              "[baseLink] urdf:base\n`- j -> [jLink] urdf:tip\n");
+    EXPECT_EQ(countOf(run({"tree", robots + "rover.xml"}).out, "] wheel\n"), 4U);
+}
+
+TEST_F(Tree, DeepTreesNeedNoStack)
+{
+    constexpr int depth = 20000;
+    write("snake.xml", serialChain(depth));
+    Outcome const outcome = runCommand("ulimit -s 1024; LC_ALL=C " VARO_ROBOT " tree snake.xml");
+    ASSERT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(std::count(outcome.out.begin(), outcome.out.end(), '\n'), depth + 1);
+    std::string const last = std::string(40 * 3, ' ') + "... 19999 `- J19999 -> [J19999Link]\n";
+    EXPECT_EQ(outcome.out.substr(outcome.out.size() - last.size()), last);
+}
+
+class List : public ToolFixture {};
+
+TEST_F(List, AlignsTheTable)
+{
+    EXPECT_EQ(run({"list", "angle-actuators", "-"}, legs).out,
+              R"(NAME  JOINT  MIN   MAX        MIRROR  KEYS
+LHip  LHip   -1.1  unlimited  RHip    LHip/Angle/Actuator
+RHip  RHip   -1.1  unlimited  LHip    RHip/Angle/Actuator
+)");
+    EXPECT_EQ(run({"list", "cameras", "-"}, legs).out, R"(NAME  WIDTH  HEIGHT  POSITION           BYTES
+Eye   640    480     0.200 0.000 0.000  3686400
+)");
+}
+
+TEST_F(List, PrintsTheSameObjectsAsDump)
+{
+    Json const dump = Json::parse(run({"dump", humanoid}).out);
+    auto const ofType = [&](char const* key, char const* type) {
+        Json found = Json::array();
+        std::copy_if(dump[key].begin(), dump[key].end(), std::back_inserter(found),
+                     [&](Json const& element) { return element["type"] == type; });
+        return found;
+    };
+    Json groups = dump["jointGroups"];
+    groups.insert(groups.end(), dump["actuatorGroups"].begin(), dump["actuatorGroups"].end());
+    std::vector<std::pair<std::string, Json>> const cases = {
+        {"links", dump["links"]},
+        {"Joint", dump["joints"]},
+        {"symmetries", dump["jointSymmetries"]},
+        {"groups", groups},
+        {"jointGroup", dump["jointGroups"]},
+        {"actuator_groups", dump["actuatorGroups"]},
+        {"actuators", dump["actuators"]},
+        {"LEDs", ofType("actuators", "LED")},
+        {"coupledActuators", ofType("actuators", "Coupled")},
+        {"sensors", dump["sensors"]},
+        {"camera", ofType("sensors", "Camera")},
+        {"CameraDepthSensors", ofType("sensors", "CameraDepth")},
+        {"fsrs", ofType("sensors", "FSR")},
+        {"wheels", Json::array()},
+    };
+    for (auto const& [kind, expected] : cases) {
+        EXPECT_EQ(Json::parse(run({"list", "--json", kind, humanoid}).out), expected) << kind;
+    }
+}
+
+class Show : public ToolFixture {};
+
+TEST_F(Show, PrintsAllThatBearsTheName)
+{
+    std::string const shown = run({"show", "LHip", "-"}, legs).out;
+    std::string headings;
+    std::istringstream lines(shown);
+    for (std::string line; std::getline(lines, line);) {
+        headings += line.empty() || line[0] == ' ' ? "" : line + "\n";
+    }
+    EXPECT_EQ(headings, "joint LHip\nsymmetry of LHip\nactuator LHip\nsensor LHip\n");
+    for (char const* const fact :
+         {"\n  globalPosition              xyz 0.000 0.100 -0.050  rpy 0.000 0.000 0.000\n",
+          "\n  joints                      LHip, RHip\n", "\n  maxValue                    unlimited\n",
+          "\n  reflectedSymmetricReversed  no\n"}) {
+        EXPECT_NE(shown.find(fact), std::string::npos) << fact << shown;
+    }
+}
+
+TEST_F(Show, FindsLinksByTheirUrdfName)
+{
+    std::string const urdf = R"(<robot name="r"><link name="base"/><link name="tip"/>
+        <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)";
+    std::string const shown = run({"show", "tip", "-"}, urdf).out;
+    EXPECT_EQ(shown.substr(0, shown.find('\n')), "link jLink");
+    EXPECT_NE(shown.find("  urdfName                    tip\n"), std::string::npos);
+    Outcome const missed = run({"show", "TI", "-"}, urdf);
+    EXPECT_EQ(missed.status, 1);
+    EXPECT_NE(missed.err.find("Similar names: tip."), std::string::npos) << missed.err;
+}
+
+class Graph : public ToolFixture {};
+
+TEST_F(Graph, HasEveryLinkJointAndMirrorPair)
+{
+    Json const dump = Json::parse(run({"dump", humanoid}).out);
+    std::string const graph = run({"graph", humanoid}).out;
+    for (Json const& joint : dump["joints"]) {
+        std::string const arrow = "  \"" + joint["parentLink"].get<std::string>() + "\" -> \"" +
+                                  joint["childLink"].get<std::string>() + "\" [label=\"" +
+                                  joint["name"].get<std::string>() + "\", color=";
+        EXPECT_EQ(countOf(graph, arrow), 1U) << arrow;
+    }
+    EXPECT_EQ(countOf(graph, "style=dashed"), dump["jointSymmetries"].size());
+    EXPECT_EQ(countOf(graph, "shape=note"), 0U);
+    std::string const full = run({"graph", "--sensors", "--actuators", humanoid}).out;
+    for (char const* const key : {"sensors", "actuators"}) {
+        for (Json const& device : dump[key]) {
+            std::string const line =
+                device["type"].get<std::string>() + " " + device["name"].get<std::string>() + "\\l";
+            EXPECT_NE(full.find(line), std::string::npos) << line;
+        }
+    }
+}
+
+TEST_F(Graph, ChainsHaveColoursOfTheirOwn)
+{
+    std::string const graph = run({"graph", "-"}, legs).out;
+    auto const fillOf = [&](std::string const& node) {
+        std::string const start = "  \"" + node + "\" [fillcolor=";
+        std::size_t const at = graph.find(start) + start.size();
+        return graph.substr(at, graph.find(']', at) - at);
+    };
+    EXPECT_NE(fillOf("LHipLink"), fillOf("RHipLink"));
+    EXPECT_NE(fillOf("LHipLink"), fillOf("PelvisLink"));
+}
+
+#ifdef VARO_DOT
+TEST_F(Graph, IsWhatGraphvizTakesWhateverTheNames)
+{
+    std::string text = legs;
+    for (std::size_t at = text.find("LHip"); at != std::string::npos; at = text.find("LHip", at)) {
+        text.replace(at, 4, "L \\&quot;&lt;N");
+    }
+    write("graph.dot", run({"graph", "--sensors", "--actuators", "-"}, text).out);
+    Outcome const drawn = runCommand(VARO_DOT " -Tplain graph.dot");
+    EXPECT_EQ(drawn.status, 0) << drawn.err;
+    EXPECT_EQ(drawn.err, "");
+    EXPECT_EQ(countOf(drawn.out, "\nedge "), 3U + 5U) << drawn.out;  // joints and mirrors, notes
+}
+#endif
+
+}  // namespace
+
+}  // namespace ToolTest
