@@ -57,22 +57,15 @@ bool parseTinyNumber(std::string_view text, float& value)
     return false;
 }
 
-}  // namespace
-
-std::string_view trimmed(std::string_view text)
+/// A number without white space around it.
+bool parseBareNumber(std::string_view text, float& value)
 {
-    while (!text.empty() && isWhite(text.front())) {
-        text.remove_prefix(1);
+    // Single digits, zeros above all, are most of what matrices consist of.
+    if (text.size() == 1 && isDigit(text.front())) {
+        value = static_cast<float>(text.front() - '0');
+        return true;
     }
-    while (!text.empty() && isWhite(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
-bool parseNumber(std::string_view text, float& value)
-{
-    std::string_view const digits = withoutPlus(trimmed(text));
+    std::string_view const digits = withoutPlus(text);
     if (!startsLikeNumber(digits)) {
         return false;
     }
@@ -92,6 +85,24 @@ bool parseNumber(std::string_view text, float& value)
     return true;
 }
 
+}  // namespace
+
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && isWhite(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isWhite(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool parseNumber(std::string_view text, float& value)
+{
+    return parseBareNumber(trimmed(text), value);
+}
+
 bool parseNumbers(std::string_view text, float* values, std::size_t count)
 {
     std::size_t found = 0;
@@ -107,7 +118,7 @@ bool parseNumbers(std::string_view text, float* values, std::size_t count)
         if (start == position) {
             return found == count;
         }
-        if (found == count || !parseNumber(text.substr(start, position - start), values[found])) {
+        if (found == count || !parseBareNumber(text.substr(start, position - start), values[found])) {
             return false;
         }
         ++found;
