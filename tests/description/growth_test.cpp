@@ -81,11 +81,12 @@ double secondsFor(Fill fill, int count)
 TEST(Growth, IsLinearInTheSizeOfTheRobot)
 {
     for (Fill const fill : {&fillLongChain, &fillManyChains, &fillStack}) {
-        double smallest = secondsFor(fill, 1250);
+        double ofSmallRobot = secondsFor(fill, 1250);
         for (int repeat = 0; repeat < 2; ++repeat) {
-            smallest = std::max(smallest, secondsFor(fill, 1250));  // the slow side, lest a busy machine fail the test
+            ofSmallRobot =
+                std::max(ofSmallRobot, secondsFor(fill, 1250));  // the slow side, lest a busy machine fail the test
         }
-        EXPECT_LT(secondsFor(fill, 20000), 96 * smallest);
+        EXPECT_LT(secondsFor(fill, 20000), 96 * ofSmallRobot);
     }
 }
 
