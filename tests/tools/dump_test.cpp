@@ -80,6 +80,17 @@ TEST_F(Dump, PrintsTheShortestNumbersWhateverTheLocale)
     EXPECT_EQ(run({"dump", "-"}, legs, environment).out, dump);
 }
 
+TEST_F(Dump, DeepChainsTakeLinearTime)
+{
+    constexpr int depth = 5000;
+    write("snake.xml", serialChain(depth));
+    Json const dump = Json::parse(run({"dump", "snake.xml"}).out);
+    for (int const joint : {10, 499, 500, 1000, depth - 1}) {
+        EXPECT_EQ(dump["joints"][static_cast<std::size_t>(joint)]["globalPosition"].dump(),
+                  "[1,0,0," + std::to_string(joint + 1) + ",0,1,0,0,0,0,1,0,0,0,0,1]");
+    }
+}
+
 TEST_F(Dump, EveryKindOfElementHasItsMembers)
 {
     Keys const device = {"name", "type", "frame", "globalPosition", "bufferSize"};

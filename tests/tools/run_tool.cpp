@@ -68,6 +68,21 @@ Outcome ToolFixture::runCommand(std::string const& command, std::string const& i
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(_folder / ".out"), readFile(_folder / ".err")};
 }
 
+std::string serialChain(int joints)
+{
+    std::ostringstream text;
+    text << "<robotDescription name=\"Snake\"><root name=\"Base\"/>";
+    for (int i = 0; i < joints; ++i) {
+        text << "<joint name=\"J" << i << "\" min=\"0\" max=\"1\"><placement xyz=\"1 0 0\"/></joint>";
+    }
+    text << "<chain name=\"Body\" parent=\"Base\">";
+    for (int i = 0; i < joints; ++i) {
+        text << "<jointRef name=\"J" << i << "\"/>";
+    }
+    text << "</chain></robotDescription>";
+    return text.str();
+}
+
 char const legs[] = R"(<robotDescription name="Walker" version="2.1">
   <prettyName>The Walker</prettyName>
   <root name="Pelvis" mesh="pelvis.dae"><mass value="4.5" com="0 0 -0.01"/></root>

@@ -41,6 +41,9 @@ private:
 /// A pelvis with two mirrored legs of one joint, and a camera.
 extern char const legs[];
 
+/// One chain of as many joints, each a metre before the last.
+std::string serialChain(int joints);
+
 }  // namespace ToolTest
 
 #endif

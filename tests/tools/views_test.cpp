@@ -23,22 +23,6 @@ std::size_t countOf(std::string const& text, std::string const& part)
     return count;
 }
 
-/// A chain of as many joints.
-std::string serialChain(int joints)
-{
-    std::ostringstream text;
-    text << "<robotDescription name=\"Snake\"><root name=\"Base\"/>";
-    for (int i = 0; i < joints; ++i) {
-        text << "<joint name=\"J" << i << "\" min=\"0\" max=\"1\"><placement xyz=\"1 0 0\"/></joint>";
-    }
-    text << "<chain name=\"Body\" parent=\"Base\">";
-    for (int i = 0; i < joints; ++i) {
-        text << "<jointRef name=\"J" << i << "\"/>";
-    }
-    text << "</chain></robotDescription>";
-    return text.str();
-}
-
 class Info : public ToolFixture {};
 
 TEST_F(Info, SaysOnOneScreenWhatRobotItIs)

@@ -13,31 +13,32 @@ namespace Tool {
 namespace {
 
 template <class Element>
-void addElements(JsonStream& dump, char const* key, std::vector<Element const*> const& elements)
+void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vector<Element const*> const& elements)
 {
     dump.next(key);
     JsonStream array(std::cout, '[', 2);
     for (Element const* element : elements) {
-        array.add(toJson(*element));
+        array.add(json.of(*element));
     }
 }
 
 int dump(std::string const& file)
 {
     auto const [description, model] = loadRobot(file);
+    ElementJson json;
     {
         JsonStream dump(std::cout, '{');
         dump.add("name", model.name());
         dump.add("prettyName", model.prettyName(0));
         dump.add("version", description.reading.robot->version());
         dump.add("rootLink", model.rootLink()->name());
-        addElements(dump, "links", model.links());
-        addElements(dump, "joints", model.joints());
-        addElements(dump, "jointSymmetries", model.jointSymmetries());
-        addElements(dump, "jointGroups", model.jointGroups());
-        addElements(dump, "actuators", model.actuators());
-        addElements(dump, "actuatorGroups", model.actuatorGroups());
-        addElements(dump, "sensors", model.sensors());
+        addElements(dump, json, "links", model.links());
+        addElements(dump, json, "joints", model.joints());
+        addElements(dump, json, "jointSymmetries", model.jointSymmetries());
+        addElements(dump, json, "jointGroups", model.jointGroups());
+        addElements(dump, json, "actuators", model.actuators());
+        addElements(dump, json, "actuatorGroups", model.actuatorGroups());
+        addElements(dump, json, "sensors", model.sensors());
     }
     std::cout << '\n';
     return exitStatus::fine;

@@ -50,7 +50,7 @@ private:
     {
         for (Element const* element : elements) {
             if (element->name() == _name) {
-                _found.push_back({kind + (" " + _name), toJson(*element)});
+                _found.push_back({kind + (" " + _name), _json.of(*element)});
             }
         }
     }
@@ -61,6 +61,7 @@ private:
     Sim::Model const& _model;
     LinkNames const& _linkNames;
     std::string _name;
+    ElementJson _json;
     std::vector<Sighting> _found;
 };
 
@@ -84,7 +85,7 @@ void Search::addLinks()
         bool const isMeant = std::find(urdfLinks.begin(), urdfLinks.end(), link->name()) != urdfLinks.end();
         if (link->name() == _name || isMeant) {
             std::string const urdfName = _linkNames.urdfNameOf(link->name());
-            _found.push_back({"link " + link->name(), toJson(*link)});
+            _found.push_back({"link " + link->name(), _json.of(*link)});
             if (!urdfName.empty()) {
                 _found.back().facts["urdfName"] = urdfName;
             }
@@ -96,7 +97,7 @@ void Search::addJoints()
 {
     for (Sim::Joint const* joint : _model.joints()) {
         if (joint->name() == _name) {
-            Json facts = toJson(*joint);
+            Json facts = _json.of(*joint);
             facts["jointGroups"] = namesOf(_model.jointGroupsOfJoint(_name));
             facts["actuatorGroups"] = namesOf(_model.actuatorGroupsOfJoint(_name));
             _found.push_back({"joint " + _name, std::move(facts)});
@@ -110,7 +111,7 @@ void Search::addSymmetries()
     for (Sim::JointSymmetry const* symmetry : _model.jointSymmetries()) {
         auto const [first, second] = symmetry->symmetricJoints();
         if (isNamed(first) || isNamed(second)) {
-            _found.push_back({"symmetry of " + _name, toJson(*symmetry)});
+            _found.push_back({"symmetry of " + _name, _json.of(*symmetry)});
         }
     }
 }

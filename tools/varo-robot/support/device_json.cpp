@@ -133,8 +133,10 @@ bool addSize(Json& json, Sim::Sensor const& sensor)
     return pictured != nullptr;
 }
 
+}  // namespace
+
 template <class Device>
-Json commonJson(Device const& device)
+Json ElementJson::deviceJson(Device const& device)
 {
     return {
         {"name", device.name()},
@@ -145,11 +147,9 @@ Json commonJson(Device const& device)
     };
 }
 
-}  // namespace
-
-Json toJson(Sim::Actuator const& actuator)
+Json ElementJson::of(Sim::Actuator const& actuator)
 {
-    Json json = commonJson(actuator);
+    Json json = deviceJson(actuator);
     if (auto const* const keyed = dynamic_cast<Sim::DCMActuator const*>(&actuator)) {
         json["dcmKeys"] = keyed->dcmKeys();
     }
@@ -158,9 +158,9 @@ Json toJson(Sim::Actuator const& actuator)
     return json;
 }
 
-Json toJson(Sim::Sensor const& sensor)
+Json ElementJson::of(Sim::Sensor const& sensor)
 {
-    Json json = commonJson(sensor);
+    Json json = deviceJson(sensor);
     if (auto const* const keyed = dynamic_cast<Sim::DCMSensor const*>(&sensor)) {
         json["dcmKeys"] = keyed->dcmKeys();
         json["dcmStateKeys"] = keyed->dcmStateKeys();

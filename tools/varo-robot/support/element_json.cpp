@@ -34,7 +34,12 @@ Json visualJson(Sim::VisualData const* visual)
 
 }  // namespace
 
-Json toJson(Sim::Link const& link)
+Json ElementJson::globalPosition(Sim::Frame const* frame)
+{
+    return frame == nullptr ? Json(nullptr) : matrixOf(_poses.of(*frame));
+}
+
+Json ElementJson::of(Sim::Link const& link)
 {
     return {
         {"name", link.name()},
@@ -50,7 +55,7 @@ Json toJson(Sim::Link const& link)
     };
 }
 
-Json toJson(Sim::Joint const& joint)
+Json ElementJson::of(Sim::Joint const& joint)
 {
     return {
         {"name", joint.name()},
@@ -62,7 +67,7 @@ Json toJson(Sim::Joint const& joint)
     };
 }
 
-Json toJson(Sim::JointSymmetry const& symmetry)
+Json ElementJson::of(Sim::JointSymmetry const& symmetry)
 {
     auto const [first, second] = symmetry.symmetricJoints();
     bool const reversed = symmetry.symmetryType() == Sim::JointSymmetry::ReflectedSymmetricReversed;
@@ -72,12 +77,12 @@ Json toJson(Sim::JointSymmetry const& symmetry)
     };
 }
 
-Json toJson(Sim::JointGroup const& group)
+Json ElementJson::of(Sim::JointGroup const& group)
 {
     return {{"name", group.name()}, {"joints", namesOf(group.joints())}};
 }
 
-Json toJson(Sim::ActuatorGroup const& group)
+Json ElementJson::of(Sim::ActuatorGroup const& group)
 {
     return {
         {"name", group.name()},

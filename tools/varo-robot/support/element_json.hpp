@@ -1,6 +1,7 @@
 #ifndef TOOL_SUPPORT_ELEMENT_JSON_HPP
 #define TOOL_SUPPORT_ELEMENT_JSON_HPP
 
+#include "support/global_poses.hpp"
 #include "support/json.hpp"
 
 namespace Sim {
@@ -13,17 +14,28 @@ class Link;
 class Sensor;
 }  // namespace Sim
 
-/// The elements of a model as data: what `dump` prints of each, and `list` and `show` too. Poses are the 16 numbers of
-/// the homogeneous matrix, row by row; other elements are referred to by name, null where there is none.
 namespace Tool {
 
-Json toJson(Sim::Link const& link);
-Json toJson(Sim::Joint const& joint);
-Json toJson(Sim::JointSymmetry const& symmetry);
-Json toJson(Sim::JointGroup const& group);
-Json toJson(Sim::Actuator const& actuator);
-Json toJson(Sim::ActuatorGroup const& group);
-Json toJson(Sim::Sensor const& sensor);
+/// Makes data of the elements of one model: what `dump` prints of each, and `list` and `show` too. Poses are the 16
+/// numbers of the homogeneous matrix, row by row; other elements are referred to by name, null where there is none.
+class ElementJson {
+public:
+    Json of(Sim::Link const& link);
+    Json of(Sim::Joint const& joint);
+    Json of(Sim::JointSymmetry const& symmetry);
+    Json of(Sim::JointGroup const& group);
+    Json of(Sim::Actuator const& actuator);
+    Json of(Sim::ActuatorGroup const& group);
+    Json of(Sim::Sensor const& sensor);
+
+private:
+    /// What actuators and sensors have in common.
+    template <class Device>
+    Json deviceJson(Device const& device);
+    Json globalPosition(Sim::Frame const* frame);
+
+    GlobalPoses _poses;
+};
 
 }  // namespace Tool
 

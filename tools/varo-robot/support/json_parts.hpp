@@ -37,12 +37,6 @@ inline Json localPosition(Sim::Frame const* frame)
     return frame == nullptr ? Json(nullptr) : matrixOf(frame->localPosition());
 }
 
-/// In the frame of the root.
-inline Json globalPosition(Sim::Frame const* frame)
-{
-    return frame == nullptr ? Json(nullptr) : matrixOf(Sim::Frame::globalPosition(frame));
-}
-
 }  // namespace Tool
 
 #endif

@@ -1,5 +1,6 @@
 #include "support/kinds.hpp"
 
+#include <algorithm>
 #include <cctype>
 
 #include "sim/actuator.hpp"
@@ -14,10 +15,11 @@ namespace {
 template <class Element>
 std::vector<Json> dataOf(std::vector<Element const*> const& elements)
 {
+    ElementJson json;
     std::vector<Json> data;
     data.reserve(elements.size());
     for (Element const* element : elements) {
-        data.push_back(toJson(*element));
+        data.push_back(json.of(*element));
     }
     return data;
 }
@@ -28,15 +30,14 @@ std::vector<Json> all(Sim::Model const& model)
     return dataOf((model.*list)());
 }
 
-std::vector<Json> wheels(Sim::Model const& model)
+/// Those elements of a list whose type is the given one.
+template <auto list, auto type>
+std::vector<Json> ofType(Sim::Model const& model)
 {
-    std::vector<Json> data;
-    for (Sim::Link const* link : model.links()) {
-        if (link->type() == Sim::Link::Wheel) {
-            data.push_back(toJson(*link));
-        }
-    }
-    return data;
+    auto elements = (model.*list)();
+    auto const isOther = [](auto const* element) { return element->type() != type; };
+    elements.erase(std::remove_if(elements.begin(), elements.end(), isOther), elements.end());
+    return dataOf(elements);
 }
 
 std::vector<Json> groups(Sim::Model const& model)
@@ -44,30 +45,6 @@ std::vector<Json> groups(Sim::Model const& model)
     std::vector<Json> data = dataOf(model.jointGroups());
     for (Json& group : dataOf(model.actuatorGroups())) {
         data.push_back(std::move(group));
-    }
-    return data;
-}
-
-template <Sim::Actuator::Type type>
-std::vector<Json> actuatorsOf(Sim::Model const& model)
-{
-    std::vector<Json> data;
-    for (Sim::Actuator const* actuator : model.actuators()) {
-        if (actuator->type() == type) {
-            data.push_back(toJson(*actuator));
-        }
-    }
-    return data;
-}
-
-template <Sim::Sensor::Type type>
-std::vector<Json> sensorsOf(Sim::Model const& model)
-{
-    std::vector<Json> data;
-    for (Sim::Sensor const* sensor : model.sensors()) {
-        if (sensor->type() == type) {
-            data.push_back(toJson(*sensor));
-        }
     }
     return data;
 }
@@ -100,7 +77,7 @@ std::vector<Kind> const& kinds()
 
     static std::vector<Kind> const table = {
         {"link", "links", links, all<&Model::links>},
-        {"wheel", "wheels", links, wheels},
+        {"wheel", "wheels", links, ofType<&Model::links, Sim::Link::Wheel>},
         {"joint", "joints", {name, {"FROM", "/parentLink"}, {"TO", "/childLink"}, position}, all<&Model::joints>},
         {"symmetry", "symmetries", {{"JOINTS", "/joints"}, type}, all<&Model::jointSymmetries>},
         {"group", "groups", {name, {"JOINTS", "/joints"}, {"ACTUATORS", "/actuators"}}, groups},
@@ -110,32 +87,34 @@ std::vector<Kind> const& kinds()
          {name, {"PARENT", "/parent"}, {"ACTUATORS", "/actuators"}},
          all<&Model::actuatorGroups>},
         {"actuator", "actuators", {name, type, position, keys}, all<&Model::actuators>},
-        {"angle-actuator", "angle-actuators", motors, actuatorsOf<Actuator::Angle>},
-        {"angle-speed-actuator", "angle-speed-actuators", motors, actuatorsOf<Actuator::AngleSpeed>},
-        {"torque-actuator", "torque-actuators", motors, actuatorsOf<Actuator::Torque>},
+        {"angle-actuator", "angle-actuators", motors, ofType<&Model::actuators, Actuator::Angle>},
+        {"angle-speed-actuator", "angle-speed-actuators", motors, ofType<&Model::actuators, Actuator::AngleSpeed>},
+        {"torque-actuator", "torque-actuators", motors, ofType<&Model::actuators, Actuator::Torque>},
         {"coupled-actuator",
          "coupled-actuators",
          {name, {"MIN", "/minValue"}, {"MAX", "/maxValue"}, {"JOINTS AND RATIOS", "/controlledJointAndRatios"}},
-         actuatorsOf<Actuator::Coupled>},
-        {"wheel-velocity-actuator", "wheel-velocity-actuators", wheelMotors, actuatorsOf<Actuator::WheelVelocity>},
-        {"wheel-torque-actuator", "wheel-torque-actuators", wheelMotors, actuatorsOf<Actuator::WheelTorque>},
-        {"led", "leds", leds, actuatorsOf<Actuator::LED>},
+         ofType<&Model::actuators, Actuator::Coupled>},
+        {"wheel-velocity-actuator", "wheel-velocity-actuators", wheelMotors,
+         ofType<&Model::actuators, Actuator::WheelVelocity>},
+        {"wheel-torque-actuator", "wheel-torque-actuators", wheelMotors,
+         ofType<&Model::actuators, Actuator::WheelTorque>},
+        {"led", "leds", leds, ofType<&Model::actuators, Actuator::LED>},
         {"sensor", "sensors", sensors, all<&Model::sensors>},
-        {"angle-sensor", "angle-sensors", sensors, sensorsOf<Sensor::Angle>},
-        {"angle-speed-sensor", "angle-speed-sensors", sensors, sensorsOf<Sensor::AngleSpeed>},
-        {"torque-sensor", "torque-sensors", sensors, sensorsOf<Sensor::Torque>},
-        {"coupled-sensor", "coupled-sensors", sensors, sensorsOf<Sensor::Coupled>},
-        {"wheel-velocity-sensor", "wheel-velocity-sensors", sensors, sensorsOf<Sensor::WheelVelocity>},
-        {"camera", "cameras", pictured, sensorsOf<Sensor::Camera>},
-        {"depth-camera", "depth-cameras", pictured, sensorsOf<Sensor::CameraDepth>},
-        {"array-depth-sensor", "array-depth-sensors", pictured, sensorsOf<Sensor::ArrayDepth>},
-        {"single-depth-sensor", "single-depth-sensors", sensors, sensorsOf<Sensor::SingleDepth>},
-        {"sonar", "sonars", sensors, sensorsOf<Sensor::Sonar>},
-        {"bumper", "bumpers", sensors, sensorsOf<Sensor::Bumper>},
-        {"tactile-sensor", "tactile-sensors", sensors, sensorsOf<Sensor::Tactile>},
-        {"fsr", "fsrs", sensors, sensorsOf<Sensor::FSR>},
-        {"inertial-sensor", "inertial-sensors", sensors, sensorsOf<Sensor::Inertial>},
-        {"microphone", "microphones", sensors, sensorsOf<Sensor::Microphone>},
+        {"angle-sensor", "angle-sensors", sensors, ofType<&Model::sensors, Sensor::Angle>},
+        {"angle-speed-sensor", "angle-speed-sensors", sensors, ofType<&Model::sensors, Sensor::AngleSpeed>},
+        {"torque-sensor", "torque-sensors", sensors, ofType<&Model::sensors, Sensor::Torque>},
+        {"coupled-sensor", "coupled-sensors", sensors, ofType<&Model::sensors, Sensor::Coupled>},
+        {"wheel-velocity-sensor", "wheel-velocity-sensors", sensors, ofType<&Model::sensors, Sensor::WheelVelocity>},
+        {"camera", "cameras", pictured, ofType<&Model::sensors, Sensor::Camera>},
+        {"depth-camera", "depth-cameras", pictured, ofType<&Model::sensors, Sensor::CameraDepth>},
+        {"array-depth-sensor", "array-depth-sensors", pictured, ofType<&Model::sensors, Sensor::ArrayDepth>},
+        {"single-depth-sensor", "single-depth-sensors", sensors, ofType<&Model::sensors, Sensor::SingleDepth>},
+        {"sonar", "sonars", sensors, ofType<&Model::sensors, Sensor::Sonar>},
+        {"bumper", "bumpers", sensors, ofType<&Model::sensors, Sensor::Bumper>},
+        {"tactile-sensor", "tactile-sensors", sensors, ofType<&Model::sensors, Sensor::Tactile>},
+        {"fsr", "fsrs", sensors, ofType<&Model::sensors, Sensor::FSR>},
+        {"inertial-sensor", "inertial-sensors", sensors, ofType<&Model::sensors, Sensor::Inertial>},
+        {"microphone", "microphones", sensors, ofType<&Model::sensors, Sensor::Microphone>},
     };
     return table;
 }
