@@ -58,6 +58,7 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
         std::string const help = run({command.front(), "--help"}).out;
         EXPECT_NE(help.find("Usage: varo-robot " + command.front()), std::string::npos);
         EXPECT_NE(help.find("Example"), std::string::npos);
+        EXPECT_EQ(help.find("Example"), help.rfind("Example"));
 
         command.emplace_back("-");
         Outcome const outcome = run(command, legs);

@@ -178,7 +178,7 @@ std::function<int()> declare(CLI::App& app)
     declareFile(app, options->file);
     app.add_flag("--sensors", options->sensors, "Add the sensors, as notes beside the links that carry them");
     app.add_flag("--actuators", options->actuators,
-                 "Add the actuators likewise, and which of them moves a coupled joint how far");
+                 "Add the actuators likewise, and what the coupled ones move");
     return [options] { return graph(*options); };
 }
 

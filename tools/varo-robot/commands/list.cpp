@@ -115,7 +115,7 @@ std::function<int()> declare(CLI::App& app)
     app.add_option("KIND", options->kind, "What to list, in the plural or the singular")->type_name("")->required();
     declareFile(app, options->file);
     app.add_flag("--json", options->json, "Print a JSON array of the elements, each as `dump` prints it");
-    app.footer([] { return listCommand.details + ("\n\nKinds:\n" + knownKinds()); });
+    app.footer(listCommand.details + ("\n\nKinds:\n" + knownKinds()));
     return [options] { return list(*options); };
 }
 
