@@ -1,0 +1,174 @@
+#include "varo/math/transform.hpp"
+
+#include <array>
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::FloatNear;
+using testing::Pointwise;
+using Varo::Math::pinv;
+using Varo::Math::Position3D;
+using Varo::Math::Transform;
+
+constexpr float quarterTurn = 1.57079633F;
+
+/// Poses all over a space of some metres, the same ones in every run.
+std::vector<Transform> randomPoses(int count)
+{
+    std::mt19937 generator(20240229U);
+    std::uniform_real_distribution<float> angle(-3.2F, 3.2F);
+    std::uniform_real_distribution<float> length(-3.0F, 3.0F);
+    std::vector<Transform> poses;
+    for (int i = 0; i < count; ++i) {
+        float const x = length(generator);
+        float const y = length(generator);
+        float const z = length(generator);
+        float const roll = angle(generator);
+        float const pitch = angle(generator);
+        float const yaw = angle(generator);
+        poses.push_back(Transform::fromPosition(x, y, z) * Transform::fromRpy(roll, pitch, yaw));
+    }
+    return poses;
+}
+
+Transform linear(std::array<float, 9> const& m)
+{
+    return Transform::fromRows({m[0], m[1], m[2], 0.5F, m[3], m[4], m[5], -1.0F, m[6], m[7], m[8], 2.0F});
+}
+
+/// The same linear part without the translation.
+Transform turned(Transform const& t)
+{
+    std::array<float, 12> rows = t.rows();
+    rows[3] = rows[7] = rows[11] = 0.0F;
+    return Transform::fromRows(rows);
+}
+
+void expectNear(Transform const& actual, Transform const& expected, float tolerance = 1e-5F)
+{
+    EXPECT_THAT(actual.rows(), Pointwise(FloatNear(tolerance), expected.rows()));
+}
+
+void expectNear(Position3D const& actual, Position3D const& expected)
+{
+    EXPECT_NEAR(actual.x, expected.x, 1e-5F);
+    EXPECT_NEAR(actual.y, expected.y, 1e-5F);
+    EXPECT_NEAR(actual.z, expected.z, 1e-5F);
+}
+
+TEST(Transform, RigidOnesObeyTheLawsOfAGroup)
+{
+    std::vector<Transform> const poses = randomPoses(200);
+    for (std::size_t i = 2; i < poses.size(); ++i) {
+        Transform const& a = poses[i - 2];
+        Transform const& b = poses[i - 1];
+        Transform const& c = poses[i];
+        expectNear(a * a.inverse(), Transform());
+        expectNear(a.inverse() * a, Transform());
+        expectNear((a * b) * c, a * (b * c));
+        expectNear((a * b).inverse(), b.inverse() * a.inverse());
+        EXPECT_EQ(a * Transform(), a);
+        expectNear((a * b) * Position3D{1.0F, 2.0F, 3.0F}, a * (b * Position3D{1.0F, 2.0F, 3.0F}));
+        Transform product = a;
+        EXPECT_EQ(product *= b, a * b);
+    }
+}
+
+TEST(Transform, RotationsTurnByTheRightHandRule)
+{
+    Position3D const x = {1.0F, 0.0F, 0.0F};
+    Position3D const y = {0.0F, 1.0F, 0.0F};
+    Position3D const z = {0.0F, 0.0F, 1.0F};
+    expectNear(Transform::fromRotX(quarterTurn) * y, z);
+    expectNear(Transform::fromRotY(quarterTurn) * z, x);
+    expectNear(Transform::fromRotZ(quarterTurn) * x, y);
+    for (auto const& rotation : {Transform::fromRotX, Transform::fromRotY, Transform::fromRotZ}) {
+        expectNear(rotation(0.7F) * rotation(-1.9F), rotation(-1.2F));
+    }
+}
+
+TEST(Transform, RollPitchAndYawTurnAboutFixedAxesInThisOrder)
+{
+    // The entries of Rz(yaw) * Ry(pitch) * Rx(roll), written out and computed in double precision.
+    double const roll = 0.3;
+    double const pitch = -0.7;
+    double const yaw = 1.9;
+    double const cr = std::cos(roll), sr = std::sin(roll);
+    double const cp = std::cos(pitch), sp = std::sin(pitch);
+    double const cy = std::cos(yaw), sy = std::sin(yaw);
+    std::array<double, 12> const expected = {
+        cy * cp,
+        cy * sp * sr - sy * cr,
+        cy * sp * cr + sy * sr,
+        0.0,  //
+        sy * cp,
+        sy * sp * sr + cy * cr,
+        sy * sp * cr - cy * sr,
+        0.0,  //
+        -sp,
+        cp * sr,
+        cp * cr,
+        0.0,
+    };
+    EXPECT_THAT(Transform::fromRpy(0.3F, -0.7F, 1.9F).rows(), Pointwise(testing::DoubleNear(1e-6), expected));
+}
+
+TEST(Transform, ShowsItsEntriesRowByRow)
+{
+    Transform const t = Transform::fromRows({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+    EXPECT_THAT(t.toMatrix(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 0, 0, 0, 1));
+    EXPECT_EQ(t(1, 2), 7.0F);
+    EXPECT_EQ(t.position(), (Position3D{4.0F, 8.0F, 12.0F}));
+    EXPECT_EQ(Transform::fromPosition(4.0F, 8.0F, 12.0F).position(), t.position());
+}
+
+TEST(Transform, ComparesWithATolerance)
+{
+    Transform const t = Transform::fromPosition(1.0F, 2.0F, 3.0F);
+    EXPECT_TRUE(t.isNear(Transform::fromPosition(1.0F, 2.0F, 3.00005F)));
+    EXPECT_FALSE(t.isNear(Transform::fromPosition(1.0F, 2.0F, 3.0002F)));
+    EXPECT_TRUE(t.isNear(Transform::fromPosition(1.0F, 2.5F, 3.0F), 0.5F));
+    EXPECT_FALSE(t.isNear(Transform::fromPosition(1.0F, NAN, 3.0F), 10.0F));
+}
+
+TEST(PseudoInverse, EqualsTheInverseOfRigidTransforms)
+{
+    for (Transform const& pose : randomPoses(200)) {
+        expectNear(pinv(pose), pose.inverse());
+    }
+}
+
+TEST(PseudoInverse, MeetsThePenroseConditionsWhateverTheRank)
+{
+    Transform const cases[] = {
+        linear({2, 0, 0, 0, 3, 0, 0, 0, 4}),  // regular, not a rotation
+        linear({1, 2, 3, 4, 5, 6, 7, 8, 10}),   linear({1, 2, 3, 2, 4, 6, 1, 0, 1}),  // rank 2
+        linear({1, 2, 3, 2, 4, 6, -1, -2, -3}),  // rank 1
+        linear({0, 0, 0, 0, 0, 0, 0, 0, 0}),
+    };
+    for (Transform const& t : cases) {
+        SCOPED_TRACE(testing::PrintToString(t.rows()));
+        Transform const inverse = pinv(t);
+        Transform const a = turned(t);
+        Transform const p = turned(inverse);
+        Transform const ap = a * p;
+        Transform const pa = p * a;
+        expectNear(a * pa, a, 1e-4F);
+        expectNear(p * ap, p, 1e-4F);
+        for (auto const& [row, column] : {std::pair{0, 1}, {0, 2}, {1, 2}}) {
+            EXPECT_NEAR(ap(row, column), ap(column, row), 1e-5F);
+            EXPECT_NEAR(pa(row, column), pa(column, row), 1e-5F);
+        }
+        Position3D const back = p * t.position();
+        expectNear(inverse.position(), {-back.x, -back.y, -back.z});
+    }
+}
+
+}  // namespace
