@@ -88,9 +88,12 @@ void log(std::string const& category, int lineLevel, std::string_view origin, st
 
 void setSink(Sink sink)
 {
+    if (!sink) {
+        sink = standardErrorSink();
+    }
     State& shared = state();
     std::lock_guard const lock(shared.mutex);
-    shared.sink = sink ? std::move(sink) : standardErrorSink();
+    shared.sink.swap(sink);  // what the old one holds goes once the lock is released
 }
 
 }  // namespace zu::log
