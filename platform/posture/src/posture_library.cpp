@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <string_view>
 #include <unordered_map>
@@ -103,7 +104,7 @@ void appendPosture(std::string& out, std::string const& name, std::vector<float>
     for (float const value : values) {
         out += separator;
         separator = ',';
-        if (value == value) {
+        if (!std::isnan(value)) {
             appendNumber(out, value);
         }
     }
@@ -175,6 +176,9 @@ bool PostureLibrary::loadLibraryFromName(std::string const& name)
             return false;
         }
     }
+    if (postures.empty()) {
+        return false;
+    }
     _postures = std::move(postures);
     _angleCount = angleCount;
     return true;
@@ -197,7 +201,7 @@ bool PostureLibrary::getPostureFromId(int id, Posture& posture, bool completed) 
         known ? _postures[static_cast<std::size_t>(id)].values : std::vector<float>(_angleCount, unset);
     if (completed) {
         for (float& value : values) {
-            value = value == value ? value : 0.0F;
+            value = std::isnan(value) ? 0.0F : value;
         }
     }
     posture = Posture(std::move(values));
