@@ -1,0 +1,41 @@
+# The one library that is installed: the objects of all rooms, and what CMake and pkg-config users need to find it.
+include(CMakePackageConfigHelpers)
+
+get_property(rooms GLOBAL PROPERTY VARO_ROOMS)
+set(public_headers
+    ${PROJECT_SOURCE_DIR}/include
+    ${PROJECT_SOURCE_DIR}/platform/export/include
+    ${PROJECT_SOURCE_DIR}/platform/log/include
+    ${PROJECT_SOURCE_DIR}/platform/math/include
+    ${PROJECT_SOURCE_DIR}/platform/model/include
+    ${PROJECT_SOURCE_DIR}/platform/posture/include
+)
+
+add_library(varorobotmodel SHARED)
+add_library(varorobotmodel::varorobotmodel ALIAS varorobotmodel)
+target_link_libraries(varorobotmodel PRIVATE ${rooms})
+target_include_directories(varorobotmodel INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+foreach(directory ${public_headers})
+    target_include_directories(varorobotmodel INTERFACE $<BUILD_INTERFACE:${directory}>)
+    install(DIRECTORY ${directory}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endforeach()
+target_compile_features(varorobotmodel INTERFACE cxx_std_17)
+set_target_properties(varorobotmodel PROPERTIES
+    LINKER_LANGUAGE CXX
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}  # before 1.0 every minor version may break the ABI
+)
+# Installed programs find the library beside them, wherever the tree stands.
+set(CMAKE_INSTALL_RPATH $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/varorobotmodel)
+install(TARGETS varorobotmodel EXPORT varorobotmodelTargets)
+install(EXPORT varorobotmodelTargets NAMESPACE varorobotmodel:: DESTINATION ${package_dir}
+    FILE varorobotmodelConfig.cmake)
+write_basic_package_version_file(varorobotmodelConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+# Relative to the file itself, so that the installed tree may be moved.
+file(RELATIVE_PATH up_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+set(PKGCONFIG_PREFIX "\${pcfiledir}/${up_to_prefix}")
+configure_file(${PROJECT_SOURCE_DIR}/cmake/varorobotmodel.pc.in varorobotmodel.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/varorobotmodelConfigVersion.cmake DESTINATION ${package_dir})
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/varorobotmodel.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
