@@ -69,7 +69,7 @@ TEST(Loading, NeverTakesATextForTheFileThatItsFirstBytesName)
 {
     TemporaryFile const file(robot(""));
     std::string const argument = file.path + '\0' + "rest";
-    EXPECT_THAT(refusalOf(argument), testing::HasSubstr("does not exist."));
+    EXPECT_THAT(refusalOf(argument), testing::StartsWith("Could not load model. '" + file.path));
 }
 
 TEST(Loading, SaysThatAFileCannotBeOpened)
