@@ -177,8 +177,7 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
     app.add_flag("--sensors", options->sensors, "Add the sensors, as notes beside the links that carry them");
-    app.add_flag("--actuators", options->actuators,
-                 "Add the actuators likewise, and what the coupled ones move");
+    app.add_flag("--actuators", options->actuators, "Add the actuators likewise, and what the coupled ones move");
     return [options] { return graph(*options); };
 }
 
