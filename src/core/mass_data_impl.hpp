@@ -13,16 +13,16 @@ inline constexpr char massDataErrorMsg[] = "Could not query MassData as it seems
 class MassDataImpl {
 public:
     MassDataImpl(float mass, Varo::Math::Position3D CoM, std::vector<float> inertiaMatrix)
-        : _mass(mass), _CoM(CoM), _inertiaMatrix(std::move(inertiaMatrix))
+        : _mass(mass), _com(CoM), _inertiaMatrix(std::move(inertiaMatrix))
     {}
 
     float mass() const { return _mass; }
-    Varo::Math::Position3D const& CoM() const { return _CoM; }
+    Varo::Math::Position3D const& CoM() const { return _com; }
     std::vector<float> const& inertiaMatrix() const { return _inertiaMatrix; }
 
 private:
     float _mass;
-    Varo::Math::Position3D _CoM;
+    Varo::Math::Position3D _com;
     std::vector<float> _inertiaMatrix;
 };
 

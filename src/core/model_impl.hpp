@@ -223,7 +223,7 @@ private:
     {
         auto impl = std::make_unique<Impl>(std::forward<Arguments>(arguments)...);
         auto const actuator = boost::make_shared<Handle>(impl.get());
-        impl.release();
+        static_cast<void>(impl.release());  // the handle has it
         _actuators.push_back(actuator);
         return actuator;
     }
