@@ -10,7 +10,7 @@ namespace Sim {
 class ActuatorImpl;
 class Frame;
 
-/// A device of the robot that takes commands; its concrete class says which kind.
+/// A device of the robot that takes commands; its concrete class, which nothing derives from, says which kind.
 ///
 /// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
 /// and safe to ask from several threads. A copy has data of its own and outlives the model; its getters that return

@@ -9,7 +9,7 @@ class AngleActuatorImpl;
 class Joint;
 
 /// Drives a joint to an angle (rad; m for a sliding joint).
-class VAROROBOTMODEL_API AngleActuator : public DCMActuator {
+class VAROROBOTMODEL_API AngleActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit AngleActuator(AngleActuatorImpl* impl = nullptr);

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the angle of a joint (rad; m for a sliding joint).
-class VAROROBOTMODEL_API AngleSensor : public DCMSensor {
+class VAROROBOTMODEL_API AngleSensor final : public DCMSensor {
 public:
     AngleSensor();
     ~AngleSensor();

@@ -10,7 +10,7 @@ class Joint;
 
 /// Drives a joint at an angular speed (rad/s). Only models whose name contains "SpecialSimulation" or "Helvo" have
 /// any.
-class VAROROBOTMODEL_API AngleSpeedActuator : public DCMActuator {
+class VAROROBOTMODEL_API AngleSpeedActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit AngleSpeedActuator(AngleSpeedActuatorImpl* impl = nullptr);

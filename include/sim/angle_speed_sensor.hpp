@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the angular speed of a joint or wheel (rad/s).
-class VAROROBOTMODEL_API AngleSpeedSensor : public DCMSensor {
+class VAROROBOTMODEL_API AngleSpeedSensor final : public DCMSensor {
 public:
     AngleSpeedSensor();
     ~AngleSpeedSensor();

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures distances along many rays, arranged in a grid (m).
-class VAROROBOTMODEL_API ArrayDepthSensor : public DCMSensor {
+class VAROROBOTMODEL_API ArrayDepthSensor final : public DCMSensor {
 public:
     ArrayDepthSensor();
     ~ArrayDepthSensor();

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Feels whether something is pushed against it.
-class VAROROBOTMODEL_API BumperSensor : public DCMSensor {
+class VAROROBOTMODEL_API BumperSensor final : public DCMSensor {
 public:
     BumperSensor();
     ~BumperSensor();

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Takes pictures whose pixels are distances (m).
-class VAROROBOTMODEL_API CameraDepthSensor : public BaseCamera {
+class VAROROBOTMODEL_API CameraDepthSensor final : public BaseCamera {
 public:
     CameraDepthSensor();
     ~CameraDepthSensor();

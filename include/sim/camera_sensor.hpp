@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Takes colour pictures.
-class VAROROBOTMODEL_API CameraSensor : public BaseCamera {
+class VAROROBOTMODEL_API CameraSensor final : public BaseCamera {
 public:
     CameraSensor();
     ~CameraSensor();

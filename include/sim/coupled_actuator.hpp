@@ -12,7 +12,7 @@ class CoupledActuatorImpl;
 class Joint;
 
 /// One motor that drives several joints at once, each to the motor's angle (rad) times a ratio of its own.
-class VAROROBOTMODEL_API CoupledActuator : public DCMActuator {
+class VAROROBOTMODEL_API CoupledActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit CoupledActuator(CoupledActuatorImpl* impl = nullptr);

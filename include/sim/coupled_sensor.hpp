@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the angle of a coupled actuator (rad).
-class VAROROBOTMODEL_API CoupledSensor : public DCMSensor {
+class VAROROBOTMODEL_API CoupledSensor final : public DCMSensor {
 public:
     CoupledSensor();
     ~CoupledSensor();

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the force on a patch of the robot by a force-sensing resistor, mostly under a foot (N).
-class VAROROBOTMODEL_API FSRSensor : public DCMSensor {
+class VAROROBOTMODEL_API FSRSensor final : public DCMSensor {
 public:
     FSRSensor();
     ~FSRSensor();

@@ -7,7 +7,7 @@ namespace Sim {
 
 /// Measures angular rates and accelerations. Bears the name that the description gives it with
 /// "/Gyrometer" appended.
-class VAROROBOTMODEL_API InertialSensor : public DCMSensor {
+class VAROROBOTMODEL_API InertialSensor final : public DCMSensor {
 public:
     InertialSensor();
     ~InertialSensor();

@@ -11,7 +11,7 @@ namespace Sim {
 class LEDActuatorImpl;
 
 /// A light.
-class VAROROBOTMODEL_API LEDActuator : public DCMActuator {
+class VAROROBOTMODEL_API LEDActuator final : public DCMActuator {
 public:
     enum Color {
         Red = 0,

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Listens.
-class VAROROBOTMODEL_API MicrophoneSensor : public Sensor {
+class VAROROBOTMODEL_API MicrophoneSensor final : public Sensor {
 public:
     MicrophoneSensor();
     ~MicrophoneSensor();

@@ -10,7 +10,7 @@ namespace Sim {
 class Frame;
 class SensorImpl;
 
-/// A measuring device of the robot; its concrete class says which kind.
+/// A measuring device of the robot; its concrete class, which nothing derives from, says which kind.
 ///
 /// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
 /// and safe to ask from several threads. Every getter of this class and of those derived from it throws

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the distance along one ray (m). Loading never makes one.
-class VAROROBOTMODEL_API SingleDepthSensor : public DCMSensor {
+class VAROROBOTMODEL_API SingleDepthSensor final : public DCMSensor {
 public:
     SingleDepthSensor();
     ~SingleDepthSensor();

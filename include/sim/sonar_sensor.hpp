@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures distances by ultrasound (m).
-class VAROROBOTMODEL_API SonarSensor : public DCMSensor {
+class VAROROBOTMODEL_API SonarSensor final : public DCMSensor {
 public:
     SonarSensor();
     ~SonarSensor();

@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Feels whether it is touched.
-class VAROROBOTMODEL_API TactileSensor : public DCMSensor {
+class VAROROBOTMODEL_API TactileSensor final : public DCMSensor {
 public:
     TactileSensor();
     ~TactileSensor();

@@ -9,7 +9,7 @@ class Joint;
 class TorqueActuatorImpl;
 
 /// Drives a joint by torque (N*m). Only models whose name contains "SpecialSimulation" or "Helvo" have any.
-class VAROROBOTMODEL_API TorqueActuator : public DCMActuator {
+class VAROROBOTMODEL_API TorqueActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit TorqueActuator(TorqueActuatorImpl* impl = nullptr);

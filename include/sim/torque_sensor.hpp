@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the torque at a joint or wheel (N*m).
-class VAROROBOTMODEL_API TorqueSensor : public DCMSensor {
+class VAROROBOTMODEL_API TorqueSensor final : public DCMSensor {
 public:
     TorqueSensor();
     ~TorqueSensor();

@@ -9,7 +9,7 @@ class Joint;
 class WheelTorqueActuatorImpl;
 
 /// Drives a wheel by torque. Loading never makes one.
-class VAROROBOTMODEL_API WheelTorqueActuator : public DCMActuator {
+class VAROROBOTMODEL_API WheelTorqueActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit WheelTorqueActuator(WheelTorqueActuatorImpl* impl = nullptr);

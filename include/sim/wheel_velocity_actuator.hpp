@@ -9,7 +9,7 @@ class Joint;
 class WheelVelocityActuatorImpl;
 
 /// Drives a wheel at an angular speed.
-class VAROROBOTMODEL_API WheelVelocityActuator : public DCMActuator {
+class VAROROBOTMODEL_API WheelVelocityActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit WheelVelocityActuator(WheelVelocityActuatorImpl* impl = nullptr);

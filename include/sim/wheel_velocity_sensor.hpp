@@ -6,7 +6,7 @@
 namespace Sim {
 
 /// Measures the angular speed of a wheel (rad/s). Loading never makes one.
-class VAROROBOTMODEL_API WheelVelocitySensor : public DCMSensor {
+class VAROROBOTMODEL_API WheelVelocitySensor final : public DCMSensor {
 public:
     WheelVelocitySensor();
     ~WheelVelocitySensor();

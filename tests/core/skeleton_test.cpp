@@ -98,9 +98,9 @@ TEST(Skeleton, GivesWhatIsNotDescribedItsDefaults)
                                  chain("C", "Base", {"Light"})));
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     for (char const* name : {"LightLink", "FLink"}) {
-        Sim::MassData const* const mass = model.link(name)->mass();
-        EXPECT_EQ(mass->mass(), 0.0F);
-        EXPECT_EQ(mass->inertiaMatrix(), std::vector<float>(9, 0.0F));
+        Sim::MassData const* const data = model.link(name)->mass();
+        EXPECT_EQ(data->mass(), 0.0F);
+        EXPECT_EQ(data->inertiaMatrix(), std::vector<float>(9, 0.0F));
         EXPECT_EQ(model.link(name)->frictionMaterial(), "gum");
     }
     EXPECT_EQ(model.link("LightLink")->visual()->meshPath(), "Light.dae");

@@ -32,7 +32,10 @@ public:
     static Transform fromPosition(float x, float y, float z);
 
     /// The entry in row 0 to 2 and column 0 to 3 (column 3 is the translation). No bounds check.
-    constexpr float operator()(int row, int column) const { return _rows[static_cast<std::size_t>(row * 4 + column)]; }
+    constexpr float operator()(int row, int column) const
+    {
+        return _rows[static_cast<std::size_t>(row) * 4 + static_cast<std::size_t>(column)];
+    }
     /// The twelve entries of the upper three rows, row by row.
     constexpr std::array<float, 12> const& rows() const { return _rows; }
     /// All sixteen entries of the homogeneous matrix, row by row; the last row is 0 0 0 1.
