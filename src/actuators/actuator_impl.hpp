@@ -15,7 +15,7 @@ inline constexpr char actuatorErrMsg[] = "Could not query Actuator as it seems n
 
 class ActuatorImpl {
 public:
-    ActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name, Actuator::Type type)
+    ActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Actuator::Type type)
         : _frame(frame), _name(name), _type(type)
     {}
     ActuatorImpl(ActuatorImpl const&) = default;

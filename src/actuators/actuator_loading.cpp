@@ -60,27 +60,28 @@ void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSp
     }
 }
 
-boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr frame, std::string const& name,
+boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& frame, std::string const& name,
                                                              Keys const& dcmKeys, float startValue, float minValue,
                                                              float maxValue, float maxSpeed,
-                                                             boost::shared_ptr<Joint const> joint,
+                                                             boost::shared_ptr<Joint const> const& joint,
                                                              bool reflectionForced)
 {
     return addActuator<AngleActuator, AngleActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed,
                                                          joint, reflectionForced);
 }
 
-boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr frame, std::string const& name,
+boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& frame, std::string const& name,
                                                                Keys const& dcmKeys, float startValue, float minValue,
-                                                               float maxValue, boost::shared_ptr<Joint const> joint)
+                                                               float maxValue,
+                                                               boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<TorqueActuator, TorqueActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
 }
 
-boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr frame, std::string const& name,
+boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr const& frame, std::string const& name,
                                                                        Keys const& dcmKeys, float startValue,
                                                                        float minValue, float maxValue,
-                                                                       boost::shared_ptr<Joint const> joint)
+                                                                       boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<AngleSpeedActuator, AngleSpeedActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue,
                                                                    joint);

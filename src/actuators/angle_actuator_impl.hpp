@@ -13,9 +13,9 @@ inline constexpr char angleActuatorErrorMsg[] = "Could not query AngleActuator a
 
 class AngleActuatorImpl : public JointActuatorImpl<AngleActuator, Actuator::Angle> {
 public:
-    AngleActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    AngleActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                       std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
-                      float maxSpeed, boost::shared_ptr<Joint const> joint, bool reflectionForced)
+                      float maxSpeed, boost::shared_ptr<Joint const> const& joint, bool reflectionForced)
         : JointActuatorImpl(frame, name, dcmKeys, startValue, minValue, maxValue, joint),
           _maxSpeed(maxSpeed),
           _reflectionForced(reflectionForced)

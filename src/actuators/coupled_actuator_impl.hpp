@@ -18,7 +18,7 @@ class CoupledActuatorImpl : public MirroredActuatorImpl<CoupledActuator, Actuato
 public:
     using JointsAndRatios = std::vector<std::pair<boost::shared_ptr<Joint const>, float>>;
 
-    CoupledActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    CoupledActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                         std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
                         float maxSpeed, JointsAndRatios jointsAndRatios, bool reflectionForced)
         : MirroredActuatorImpl(frame, name, dcmKeys, startValue, minValue, maxValue),

@@ -54,7 +54,7 @@ CoupledActuatorImpl::JointsAndRatios ModelImpl::jointsAndRatiosOf(std::string co
     return result;
 }
 
-boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr frame, std::string const& name,
+boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr const& frame, std::string const& name,
                                                                  Keys const& dcmKeys, float startValue, float minValue,
                                                                  float maxValue, float maxSpeed,
                                                                  CoupledActuatorImpl::JointsAndRatios jointsAndRatios,

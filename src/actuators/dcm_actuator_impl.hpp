@@ -13,7 +13,7 @@ inline constexpr char dcmActuatorMsg[] = "Could not query DCMActuator as it seem
 
 class DCMActuatorImpl : public ActuatorImpl {
 public:
-    DCMActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name, Actuator::Type type,
+    DCMActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Actuator::Type type,
                     std::vector<std::string> const& dcmKeys)
         : ActuatorImpl(frame, name, type), _dcmKeys(dcmKeys)
     {}

@@ -13,9 +13,9 @@ namespace Sim {
 template <class Handle, Actuator::Type kind>
 class JointActuatorImpl : public MirroredActuatorImpl<Handle, kind> {
 public:
-    JointActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                       std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
-                      boost::shared_ptr<Joint const> joint)
+                      boost::shared_ptr<Joint const> const& joint)
         : MirroredActuatorImpl<Handle, kind>(frame, name, dcmKeys, startValue, minValue, maxValue),
           _controlledJoint(joint)
     {}

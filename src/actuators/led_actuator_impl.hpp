@@ -14,7 +14,7 @@ inline constexpr char ledActuatorErrMsg[] = "Could not query LEDActuator as it s
 
 class LEDActuatorImpl : public DCMActuatorImpl {
 public:
-    LEDActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                     std::vector<std::string> const& dcmKeys, std::string const& shortname,
                     std::vector<std::string> const& groups, LEDActuator::Color color)
         : DCMActuatorImpl(frame, name, Actuator::LED, dcmKeys), _shortname(shortname), _groups(groups), _color(color)

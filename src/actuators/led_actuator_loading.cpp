@@ -5,8 +5,8 @@
 
 namespace Sim {
 
-boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
-                                                         std::string const& shortname,
+boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr const& frame, std::string const& name,
+                                                         Keys const& dcmKeys, std::string const& shortname,
                                                          std::vector<std::string> const& groups,
                                                          LEDActuator::Color color)
 {

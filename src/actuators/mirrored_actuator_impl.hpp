@@ -15,7 +15,7 @@ namespace Sim {
 template <class Handle, Actuator::Type kind>
 class MirroredActuatorImpl : public DCMActuatorImpl {
 public:
-    MirroredActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    MirroredActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                          std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue)
         : DCMActuatorImpl(frame, name, kind, dcmKeys), _startValue(startValue), _minValue(minValue), _maxValue(maxValue)
     {}
@@ -25,7 +25,7 @@ public:
     float maxValue() const { return _maxValue; }
 
     boost::shared_ptr<Handle const> reflectedSymmetric() const { return _reflectedSymmetric.lock(); }
-    void setReflectedSymmetric(boost::shared_ptr<Handle const> partner) { _reflectedSymmetric = partner; }
+    void setReflectedSymmetric(boost::shared_ptr<Handle const> const& partner) { _reflectedSymmetric = partner; }
     bool reflectedSymmetricReversed() const { return _reflectedSymmetricReversed; }
     void setReflectedSymmetricReversed(bool reversed) { _reflectedSymmetricReversed = reversed; }
 

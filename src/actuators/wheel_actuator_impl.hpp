@@ -16,8 +16,8 @@ namespace Sim {
 template <Actuator::Type kind>
 class WheelActuatorImpl : public DCMActuatorImpl {
 public:
-    WheelActuatorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
-                      std::vector<std::string> const& dcmKeys, float limit, boost::shared_ptr<Joint const> joint)
+    WheelActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
+                      std::vector<std::string> const& dcmKeys, float limit, boost::shared_ptr<Joint const> const& joint)
         : DCMActuatorImpl(frame, name, kind, dcmKeys), _limit(limit), _controlledJoint(joint)
     {}
 

@@ -29,16 +29,16 @@ void ModelImpl::fetchWheelActuator(std::string const& name)
     addWheelVelocityActuator(link->_impl->frame(), name, keys, maxVelocity, _index->joints.find(parentJoint->name()));
 }
 
-boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePtr frame, std::string const& name,
+boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePtr const& frame, std::string const& name,
                                                                          Keys const& dcmKeys, float maxTorque,
-                                                                         boost::shared_ptr<Joint const> joint)
+                                                                         boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<WheelTorqueActuator, WheelTorqueActuatorImpl>(frame, name, dcmKeys, maxTorque, joint);
 }
 
-boost::shared_ptr<WheelVelocityActuator> ModelImpl::addWheelVelocityActuator(FramePtr frame, std::string const& name,
-                                                                             Keys const& dcmKeys, float maxVelocity,
-                                                                             boost::shared_ptr<Joint const> joint)
+boost::shared_ptr<WheelVelocityActuator> ModelImpl::addWheelVelocityActuator(
+    FramePtr const& frame, std::string const& name, Keys const& dcmKeys, float maxVelocity,
+    boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<WheelVelocityActuator, WheelVelocityActuatorImpl>(frame, name, dcmKeys, maxVelocity, joint);
 }

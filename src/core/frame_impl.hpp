@@ -14,7 +14,8 @@ inline constexpr char frameErrorMsg[] = "Could not query Frame as it seems not c
 
 class FrameImpl {
 public:
-    FrameImpl(std::string const& name, Varo::Math::Transform const& position, boost::shared_ptr<Frame const> parent)
+    FrameImpl(std::string const& name, Varo::Math::Transform const& position,
+              boost::shared_ptr<Frame const> const& parent)
         : _name(name), _parentFrame(parent), _position(position)
     {}
     virtual ~FrameImpl() = default;

@@ -16,11 +16,12 @@ inline constexpr char jointErrorMsg[] = "Could not query Joint as it seems not c
 
 class JointImpl {
 public:
-    JointImpl(boost::shared_ptr<Frame const> frame, std::string const& name, boost::shared_ptr<Link> parentLink)
+    JointImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
+              boost::shared_ptr<Link> const& parentLink)
         : _frame(frame), _name(name), _parentLink(parentLink)
     {}
 
-    void setChildLink(boost::shared_ptr<Link> link) { _childLink = link; }
+    void setChildLink(boost::shared_ptr<Link> const& link) { _childLink = link; }
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
     std::string const& name() const { return _name; }

@@ -2,9 +2,10 @@
 
 namespace Sim {
 
-LinkImpl::LinkImpl(boost::shared_ptr<Frame const> frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
-                   boost::shared_ptr<MassData const> massData, std::string const& frictionMaterial, Link::LinkType type,
-                   boost::shared_ptr<VisualData const> visualData)
+LinkImpl::LinkImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
+                   boost::shared_ptr<Joint> const& parentJoint, boost::shared_ptr<MassData const> const& massData,
+                   std::string const& frictionMaterial, Link::LinkType type,
+                   boost::shared_ptr<VisualData const> const& visualData)
     : _frame(frame),
       _name(name),
       _parentJoint(parentJoint),

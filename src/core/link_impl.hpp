@@ -19,12 +19,13 @@ inline constexpr char linkErrorMsg[] = "Could not query Link as it seems not cor
 
 class LinkImpl {
 public:
-    LinkImpl(boost::shared_ptr<Frame const> frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
-             boost::shared_ptr<MassData const> massData, std::string const& frictionMaterial, Link::LinkType type,
-             boost::shared_ptr<VisualData const> visualData);
+    LinkImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
+             boost::shared_ptr<Joint> const& parentJoint, boost::shared_ptr<MassData const> const& massData,
+             std::string const& frictionMaterial, Link::LinkType type,
+             boost::shared_ptr<VisualData const> const& visualData);
     virtual ~LinkImpl() = default;
 
-    void addChildJoint(boost::shared_ptr<Joint> joint) { _childrenJoints.push_back(joint); }
+    void addChildJoint(boost::shared_ptr<Joint> const& joint) { _childrenJoints.push_back(joint); }
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
     std::string const& name() const { return _name; }

@@ -96,7 +96,8 @@ boost::shared_ptr<Link> ModelImpl::rootLink() const
     return link(_motionModel->rootName() + "Link");
 }
 
-ModelImpl::FramePtr ModelImpl::addFrame(std::string const& name, Varo::Math::Transform const& position, FramePtr parent)
+ModelImpl::FramePtr ModelImpl::addFrame(std::string const& name, Varo::Math::Transform const& position,
+                                        FramePtr const& parent)
 {
     _frames.push_back(makeElement<Frame, FrameImpl>(name, position, parent));
     return _frames.back();

@@ -100,41 +100,45 @@ public:
     std::vector<boost::shared_ptr<ActuatorGroup>> actuatorGroupsOfJoint(std::string const& jointName) const;
 
     // Factories: make one element and register it, unchecked.
-    FramePtr addFrame(std::string const& name, Varo::Math::Transform const& position, FramePtr parent);
+    FramePtr addFrame(std::string const& name, Varo::Math::Transform const& position, FramePtr const& parent);
     boost::shared_ptr<MassData const> createMass(float mass, Varo::Math::Position3D const& CoM,
                                                  std::vector<float> const& inertiaMatrix);
     boost::shared_ptr<VisualData const> createVisual(std::string const& meshPath,
                                                      Varo::Math::Transform const& meshTransform);
-    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
-                                                      float startValue, float minValue, float maxValue, float maxSpeed,
-                                                      boost::shared_ptr<Joint const> joint, bool reflectionForced);
-    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
-                                                        float startValue, float minValue, float maxValue,
-                                                        boost::shared_ptr<Joint const> joint);
-    boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr frame, std::string const& name,
+    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, std::string const& name,
+                                                      Keys const& dcmKeys, float startValue, float minValue,
+                                                      float maxValue, float maxSpeed,
+                                                      boost::shared_ptr<Joint const> const& joint,
+                                                      bool reflectionForced);
+    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, std::string const& name,
+                                                        Keys const& dcmKeys, float startValue, float minValue,
+                                                        float maxValue, boost::shared_ptr<Joint const> const& joint);
+    boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr const& frame, std::string const& name,
                                                                 Keys const& dcmKeys, float startValue, float minValue,
-                                                                float maxValue, boost::shared_ptr<Joint const> joint);
-    boost::shared_ptr<WheelTorqueActuator> addWheelTorqueActuator(FramePtr frame, std::string const& name,
+                                                                float maxValue,
+                                                                boost::shared_ptr<Joint const> const& joint);
+    boost::shared_ptr<WheelTorqueActuator> addWheelTorqueActuator(FramePtr const& frame, std::string const& name,
                                                                   Keys const& dcmKeys, float maxTorque,
-                                                                  boost::shared_ptr<Joint const> joint);
-    boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr frame, std::string const& name,
+                                                                  boost::shared_ptr<Joint const> const& joint);
+    boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr const& frame, std::string const& name,
                                                                       Keys const& dcmKeys, float maxVelocity,
-                                                                      boost::shared_ptr<Joint const> joint);
-    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
-                                                          float startValue, float minValue, float maxValue,
-                                                          float maxSpeed,
+                                                                      boost::shared_ptr<Joint const> const& joint);
+    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, std::string const& name,
+                                                          Keys const& dcmKeys, float startValue, float minValue,
+                                                          float maxValue, float maxSpeed,
                                                           CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                           bool reflectionForced);
-    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr const& frame, std::string const& name, Keys const& dcmKeys,
                                                   std::string const& shortname, std::vector<std::string> const& groups,
                                                   LEDActuator::Color color);
-    boost::shared_ptr<CameraSensor> addCameraSensor(FramePtr frame, std::string const& name, int width, int height);
-    boost::shared_ptr<CameraDepthSensor> addCameraDepthSensor(FramePtr frame, std::string const& name, int width,
+    boost::shared_ptr<CameraSensor> addCameraSensor(FramePtr const& frame, std::string const& name, int width,
+                                                    int height);
+    boost::shared_ptr<CameraDepthSensor> addCameraDepthSensor(FramePtr const& frame, std::string const& name, int width,
                                                               int height);
-    boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr frame, std::string const& name);
-    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr frame, std::string const& name, Keys const& dcmKeys,
+    boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr const& frame, std::string const& name);
+    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr const& frame, std::string const& name, Keys const& dcmKeys,
                                                   SonarSensorImpl::SonarType sonarType);
-    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr frame, std::string const& name,
+    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, std::string const& name,
                                                             Keys const& dcmKeys, int width, int height,
                                                             Keys const& dcmStateKeys, Keys const& dcmCommandKeys);
 
@@ -157,21 +161,25 @@ private:
     void fetchSensors();
 
     // Skeleton
-    boost::shared_ptr<Joint> addJoint(FramePtr frame, std::string const& name, boost::shared_ptr<Link> parentLink);
-    boost::shared_ptr<Link> addLink(FramePtr frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
-                                    boost::shared_ptr<MassData const> mass, std::string const& frictionMaterial,
-                                    boost::shared_ptr<VisualData const> visual);
-    boost::shared_ptr<Link> addWheel(FramePtr frame, std::string const& name, boost::shared_ptr<Joint> parentJoint,
-                                     boost::shared_ptr<MassData const> mass, std::string const& frictionMaterial,
-                                     boost::shared_ptr<VisualData const> visual);
-    boost::shared_ptr<Link> addLinkOfType(Link::LinkType type, FramePtr frame, std::string const& name,
-                                          boost::shared_ptr<Joint> parentJoint, boost::shared_ptr<MassData const> mass,
+    boost::shared_ptr<Joint> addJoint(FramePtr const& frame, std::string const& name,
+                                      boost::shared_ptr<Link> const& parentLink);
+    boost::shared_ptr<Link> addLink(FramePtr const& frame, std::string const& name,
+                                    boost::shared_ptr<Joint> const& parentJoint,
+                                    boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
+                                    boost::shared_ptr<VisualData const> const& visual);
+    boost::shared_ptr<Link> addWheel(FramePtr const& frame, std::string const& name,
+                                     boost::shared_ptr<Joint> const& parentJoint,
+                                     boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
+                                     boost::shared_ptr<VisualData const> const& visual);
+    boost::shared_ptr<Link> addLinkOfType(Link::LinkType type, FramePtr const& frame, std::string const& name,
+                                          boost::shared_ptr<Joint> const& parentJoint,
+                                          boost::shared_ptr<MassData const> const& mass,
                                           std::string const& frictionMaterial,
-                                          boost::shared_ptr<VisualData const> visual);
+                                          boost::shared_ptr<VisualData const> const& visual);
     boost::shared_ptr<Joint> attachJoint(std::string const& name, Varo::Math::Transform const& inParentLink,
-                                         boost::shared_ptr<Link> parentLink);
-    void fillInBranch(boost::shared_ptr<Joint> joint);
-    Branch openBranch(boost::shared_ptr<Joint> joint);
+                                         boost::shared_ptr<Link> const& parentLink);
+    void fillInBranch(boost::shared_ptr<Joint> const& joint);
+    Branch openBranch(boost::shared_ptr<Joint> const& joint);
     void fetchWheel(std::string const& name);
     boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
     boost::shared_ptr<MassData const> massOf(std::string const& name);
@@ -191,16 +199,17 @@ private:
 
     // Groups
     void addJointGroup(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints);
-    boost::shared_ptr<ActuatorGroup> addActuatorGroup(std::string const& name, boost::shared_ptr<ActuatorGroup> parent,
+    boost::shared_ptr<ActuatorGroup> addActuatorGroup(std::string const& name,
+                                                      boost::shared_ptr<ActuatorGroup> const& parent,
                                                       std::vector<boost::shared_ptr<Actuator>> const& actuators);
 
     // Sensors
     bool fetchSensor(std::string const& name);
-    void addDevice(std::string const& name, FramePtr frame, Keys const& keys);
-    void fetchLED(std::string const& name, FramePtr frame, Keys const& keys);
+    void addDevice(std::string const& name, FramePtr const& frame, Keys const& keys);
+    void fetchLED(std::string const& name, FramePtr const& frame, Keys const& keys);
     std::pair<int, int> requiredResolutionOf(std::string const& camera) const;
-    void fetchArrayDepthSensor(std::string const& name, FramePtr frame, Keys const& keys);
-    void fetchSonarSensor(std::string const& name, FramePtr frame, Keys const& keys);
+    void fetchArrayDepthSensor(std::string const& name, FramePtr const& frame, Keys const& keys);
+    void fetchSonarSensor(std::string const& name, FramePtr const& frame, Keys const& keys);
 
     template <class Handle, class Impl, class... Arguments>
     static boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)

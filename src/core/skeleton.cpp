@@ -41,7 +41,7 @@ void ModelImpl::fetchSkeleton()
 }
 
 /// Depth first, with a stack of its own: a robot may be deeper than the call stack is.
-void ModelImpl::fillInBranch(boost::shared_ptr<Joint> joint)
+void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
 {
     std::vector<Branch> open;
     open.push_back(openBranch(joint));
@@ -63,7 +63,7 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> joint)
 }
 
 /// Makes the link that the joint moves. Without children when there is one already.
-ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> joint)
+ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
 {
     Branch branch;
     branch.jointName = joint->name();
@@ -87,7 +87,7 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> joint)
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(std::string const& name, Transform const& inParentLink,
-                                                boost::shared_ptr<Link> parentLink)
+                                                boost::shared_ptr<Link> const& parentLink)
 {
     FramePtr const frame = addFrame(name, inParentLink, parentLink->_impl->frame());
     auto const joint = addJoint(frame, name, parentLink);
@@ -95,8 +95,8 @@ boost::shared_ptr<Joint> ModelImpl::attachJoint(std::string const& name, Transfo
     return joint;
 }
 
-boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr frame, std::string const& name,
-                                             boost::shared_ptr<Link> parentLink)
+boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr const& frame, std::string const& name,
+                                             boost::shared_ptr<Link> const& parentLink)
 {
     auto const joint = makeElement<Joint, JointImpl>(frame, name, parentLink);
     _joints.push_back(joint);
@@ -104,27 +104,29 @@ boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr frame, std::string const& 
     return joint;
 }
 
-boost::shared_ptr<Link> ModelImpl::addLink(FramePtr frame, std::string const& name,
-                                           boost::shared_ptr<Joint> parentJoint, boost::shared_ptr<MassData const> mass,
+boost::shared_ptr<Link> ModelImpl::addLink(FramePtr const& frame, std::string const& name,
+                                           boost::shared_ptr<Joint> const& parentJoint,
+                                           boost::shared_ptr<MassData const> const& mass,
                                            std::string const& frictionMaterial,
-                                           boost::shared_ptr<VisualData const> visual)
+                                           boost::shared_ptr<VisualData const> const& visual)
 {
     return addLinkOfType(Link::Regular, frame, name, parentJoint, mass, frictionMaterial, visual);
 }
 
-boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr frame, std::string const& name,
-                                            boost::shared_ptr<Joint> parentJoint,
-                                            boost::shared_ptr<MassData const> mass, std::string const& frictionMaterial,
-                                            boost::shared_ptr<VisualData const> visual)
+boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr const& frame, std::string const& name,
+                                            boost::shared_ptr<Joint> const& parentJoint,
+                                            boost::shared_ptr<MassData const> const& mass,
+                                            std::string const& frictionMaterial,
+                                            boost::shared_ptr<VisualData const> const& visual)
 {
     return addLinkOfType(Link::Wheel, frame, name, parentJoint, mass, frictionMaterial, visual);
 }
 
-boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr frame, std::string const& name,
-                                                 boost::shared_ptr<Joint> parentJoint,
-                                                 boost::shared_ptr<MassData const> mass,
+boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr const& frame, std::string const& name,
+                                                 boost::shared_ptr<Joint> const& parentJoint,
+                                                 boost::shared_ptr<MassData const> const& mass,
                                                  std::string const& frictionMaterial,
-                                                 boost::shared_ptr<VisualData const> visual)
+                                                 boost::shared_ptr<VisualData const> const& visual)
 {
     auto const link = makeElement<Link, LinkImpl>(frame, name, parentJoint, mass, frictionMaterial, type, visual);
     _links.push_back(link);

@@ -76,7 +76,7 @@ MotionModel::MotionModel(std::unique_ptr<Varo::Model::Robot> robot) : _robot(std
         _descriptionName = _robot->name();
     }
     _startAngles = readStartAngles(*_robot, Varo::Model::angleNames(_chainNames, _chains, _actuators));
-    _index = std::make_unique<Index const>(_chainNames, _chains, _actuators, _startAngles, _reflectionForced);
+    _index = std::make_unique<Index const>(*this);
 }
 
 MotionModel::~MotionModel() = default;
@@ -109,7 +109,7 @@ std::list<std::string> MotionModel::wheelNames() const
 std::string MotionModel::parentJointFromChain(std::string const& chain) const
 {
     std::string parent;
-    readField(_chains, chain, &Varo::Model::ChainConfig::parentJoint, parent);
+    readField(find(_chains, chain), &Varo::Model::ChainConfig::parentJoint, parent);
     return parent;
 }
 
@@ -122,27 +122,27 @@ bool MotionModel::startAngle(std::string const& name, float& angle) const
 
 bool MotionModel::parentJointFromActuator(std::string const& name, std::string& parent) const
 {
-    return readField(_actuators, name, &Varo::Model::ActuatorConfig::parentJoint, parent);
+    return readField(_index->of(name).actuator, &Varo::Model::ActuatorConfig::parentJoint, parent);
 }
 
 bool MotionModel::parentJointFromWheel(std::string const& name, std::string& parent) const
 {
-    return readField(_wheels, name, &Varo::Model::WheelConfig::parentJoint, parent);
+    return readField(_index->of(name).wheel, &Varo::Model::WheelConfig::parentJoint, parent);
 }
 
 bool MotionModel::maxTorqueFromWheel(std::string const& name, float& torque) const
 {
-    return readField(_wheels, name, &Varo::Model::WheelConfig::maxTorque, torque);
+    return readField(_index->of(name).wheel, &Varo::Model::WheelConfig::maxTorque, torque);
 }
 
 bool MotionModel::maxVelocityFromWheel(std::string const& name, float& velocity) const
 {
-    return readField(_wheels, name, &Varo::Model::WheelConfig::maxVelocity, velocity);
+    return readField(_index->of(name).wheel, &Varo::Model::WheelConfig::maxVelocity, velocity);
 }
 
 bool MotionModel::ratioFromJoint(std::string const& name, float& ratio) const
 {
-    return readField(_subActuators, name, &Varo::Model::SubActuatorConfig::ratio, ratio);
+    return readField(_index->of(name).subActuator, &Varo::Model::SubActuatorConfig::ratio, ratio);
 }
 
 }  // namespace Sim

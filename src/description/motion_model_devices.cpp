@@ -6,6 +6,7 @@
 #include <boost/algorithm/string/split.hpp>
 #include <boost/algorithm/string/trim.hpp>
 
+#include "description/motion_model_index.hpp"
 #include "description/table_lookup.hpp"
 #include "sim/motion_model.hpp"
 
@@ -14,21 +15,19 @@ namespace Sim {
 namespace {
 
 using Varo::Model::SensorConfig;
-using Varo::Model::SensorTable;
 
 /// Null when the device or its attribute is missing.
-std::string const* attributeOf(SensorTable const& devices, std::string const& name, std::string const& attribute)
+std::string const* attributeOf(SensorConfig const* device, std::string const& attribute)
 {
-    auto const* device = find(devices, name);
     return device == nullptr ? nullptr : find(device->attributes, attribute);
 }
 
-bool appendAttributes(SensorTable const& devices, std::string const& name, std::vector<std::string> const& attributes,
+bool appendAttributes(SensorConfig const* device, std::vector<std::string> const& attributes,
                       std::vector<std::string>& values)
 {
     auto const before = values.size();
     for (auto const& attribute : attributes) {
-        if (auto const* value = attributeOf(devices, name, attribute)) {
+        if (auto const* value = attributeOf(device, attribute)) {
             values.push_back(*value);
         }
     }
@@ -80,14 +79,14 @@ std::list<std::string> MotionModel::sensorNames() const
 std::int32_t MotionModel::sensorType(std::string const& name) const
 {
     std::int32_t type = Varo::Model::unknownSensor;
-    readField(_sensors, name, &SensorConfig::type, type);
+    readField(_index->of(name).sensor, &SensorConfig::type, type);
     return type;
 }
 
 bool MotionModel::transformFromSensorName(std::string const& name, Varo::Math::Transform& transform,
                                           std::string& parent) const
 {
-    auto const* sensor = find(_sensors, name);
+    auto const* sensor = _index->of(name).sensor;
     if (sensor == nullptr) {
         return false;
     }
@@ -98,22 +97,22 @@ bool MotionModel::transformFromSensorName(std::string const& name, Varo::Math::T
 
 bool MotionModel::dcmKeysFromSensorName(std::string const& name, std::vector<std::string>& keys) const
 {
-    return readField(_sensors, name, &SensorConfig::keys, keys);
+    return readField(_index->of(name).sensor, &SensorConfig::keys, keys);
 }
 
 bool MotionModel::dcmCommandKeys(std::string const& name, std::vector<std::string>& keys) const
 {
-    return appendAttributes(_sensors, name, k_dcmCommandKeyNames, keys);
+    return appendAttributes(_index->of(name).sensor, k_dcmCommandKeyNames, keys);
 }
 
 bool MotionModel::dcmStateKeys(std::string const& name, std::vector<std::string>& keys) const
 {
-    return appendAttributes(_sensors, name, k_stateDcmKeyNames, keys);
+    return appendAttributes(_index->of(name).sensor, k_stateDcmKeyNames, keys);
 }
 
 bool MotionModel::shortnameFromLED(std::string const& led, std::string& shortname) const
 {
-    auto const* value = attributeOf(_sensors, led, "shortname");
+    auto const* value = attributeOf(_index->of(led).sensor, "shortname");
     if (value == nullptr) {
         return false;
     }
@@ -123,7 +122,7 @@ bool MotionModel::shortnameFromLED(std::string const& led, std::string& shortnam
 
 bool MotionModel::groupsFromLED(std::string const& led, std::vector<std::string>& groups) const
 {
-    auto const* value = attributeOf(_sensors, led, "groups");
+    auto const* value = attributeOf(_index->of(led).sensor, "groups");
     if (value == nullptr) {
         return false;
     }
@@ -133,7 +132,7 @@ bool MotionModel::groupsFromLED(std::string const& led, std::vector<std::string>
 
 bool MotionModel::colorFromLED(std::string const& led, int* color) const
 {
-    auto const* value = attributeOf(_sensors, led, "color");
+    auto const* value = attributeOf(_index->of(led).sensor, "color");
     if (value == nullptr) {
         return false;
     }
@@ -149,7 +148,7 @@ bool MotionModel::colorFromLED(std::string const& led, int* color) const
 
 bool MotionModel::resolutionsFromCamera(std::string const& camera, std::vector<std::pair<int, int>>& resolutions) const
 {
-    auto const* value = attributeOf(_sensors, camera, "resolutions");
+    auto const* value = attributeOf(_index->of(camera).sensor, "resolutions");
     if (value == nullptr) {
         return false;
     }

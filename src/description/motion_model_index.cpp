@@ -1,85 +1,90 @@
 #include "description/motion_model_index.hpp"
 
-#include <unordered_set>
-
 namespace Sim {
 
-namespace {
-
-/// Calls `visit` with the position of every name that does not stand earlier in `names` already.
-template <typename Visit>
-void forEachFirstPlace(std::vector<std::string> const& names, Visit visit)
+MotionModel::Index::Index(MotionModel const& model)
 {
-    std::unordered_set<std::string_view> seen;
-    for (std::size_t position = 0; position < names.size(); ++position) {
-        if (seen.insert(names[position]).second) {
-            visit(position);
-        }
-    }
-}
+    _entries.reserve(model._joints.size() + model._subActuators.size() + model._actuators.size() +
+                     model._wheels.size() + model._sensors.size() + 1);
+    addRecords(model._joints, &NameEntry::joint);
+    addRecords(model._subActuators, &NameEntry::subActuator);
+    addRecords(model._actuators, &NameEntry::actuator);
+    addRecords(model._wheels, &NameEntry::wheel);
+    addRecords(model._sensors, &NameEntry::sensor);
+    _entries[model._root.name].root = &model._root;
 
-}  // namespace
-
-MotionModel::Index::Index(std::vector<std::string> const& chainNames, Varo::Model::ChainTable const& chains,
-                          Varo::Model::ActuatorTable const& actuators,
-                          std::vector<std::pair<std::string, float>> const& startAngles,
-                          std::vector<std::string> const& reflectionForced)
-{
-    for (auto const& name : chainNames) {
-        addListedChain(name, chains.at(name));
+    for (auto const& name : model._chainNames) {
+        addListedChain(name, model._chains.at(name));
     }
-    for (auto const& entry : chains) {
+    for (auto const& entry : model._chains) {
         addChainPlaces(entry.second);
     }
-    for (auto const& entry : actuators) {
-        addActuator(entry);
+    for (auto const& entry : model._actuators) {
+        addGroups(entry);
     }
-    for (auto const& [name, angle] : startAngles) {
-        auto& known = _relations[name].startAngle;
+    for (auto const& [name, angle] : model._startAngles) {
+        auto& known = _entries[name].startAngle;
         known = known.value_or(angle);  // the first one counts
     }
-    for (auto const& name : reflectionForced) {
-        _relations[name].reflectionForced = true;
+    for (auto const& name : model._reflectionForced) {
+        _entries[name].reflectionForced = true;
     }
 }
 
-NameRelations const& MotionModel::Index::of(std::string const& name) const
+NameEntry const& MotionModel::Index::of(std::string const& name) const
 {
-    static NameRelations const none;
-    auto const found = _relations.find(name);
-    return found == _relations.end() ? none : found->second;
+    static NameEntry const none;
+    auto const found = _entries.find(name);
+    return found == _entries.end() ? none : found->second;
+}
+
+template <typename Record>
+void MotionModel::Index::addRecords(std::map<std::string, Record> const& table, Record const* NameEntry::*record)
+{
+    for (auto const& [name, value] : table) {
+        _entries[name].*record = &value;
+    }
 }
 
 void MotionModel::Index::addListedChain(std::string const& name, Varo::Model::ChainConfig const& chain)
 {
     auto const& joints = chain.jointNames;
-    forEachFirstPlace(joints, [&](std::size_t position) {
-        auto& joint = _relations[joints[position]];
+    for (std::size_t position = 0; position < joints.size(); ++position) {
+        auto& joint = _entries[joints[position]];
+        if (!joint.branches.empty() && joint.branches.back().chain == &name) {
+            continue;  // listed twice
+        }
         if (joint.firstChain == nullptr) {
             joint.firstChain = &name;
         }
-        joint.branches.push_back({position + 1 < joints.size() ? &joints[position + 1] : nullptr, true});
-    });
+        joint.branches.push_back({&name, position + 1 < joints.size() ? &joints[position + 1] : nullptr, true});
+    }
     if (!joints.empty()) {
-        _relations[chain.parentJoint].branches.push_back({&joints.front(), false});
+        _entries[chain.parentJoint].branches.push_back({&name, &joints.front(), false});
     }
 }
 
 void MotionModel::Index::addChainPlaces(Varo::Model::ChainConfig const& chain)
 {
-    forEachFirstPlace(chain.jointNames, [&](std::size_t position) {
-        _relations[chain.jointNames[position]].lastPlace = {&chain, position};
-    });
+    for (std::size_t position = 0; position < chain.jointNames.size(); ++position) {
+        auto& place = _entries[chain.jointNames[position]].lastPlace;
+        if (place.chain != &chain) {
+            place = {&chain, position};
+        }
+    }
 }
 
-void MotionModel::Index::addActuator(Varo::Model::ActuatorTable::value_type const& entry)
+void MotionModel::Index::addGroups(Varo::Model::ActuatorTable::value_type const& entry)
 {
     auto const& actuator = entry.second;
-    _relations[actuator.parentJoint].actuators.push_back(&entry);
+    _entries[actuator.parentJoint].actuators.push_back(&entry);
     for (auto const& group : actuator.jointGroups) {
-        forEachFirstPlace(group, [&](std::size_t position) {
-            _relations[group[position]].groupPlaces.push_back({&actuator, &group, position});
-        });
+        for (std::size_t position = 0; position < group.size(); ++position) {
+            auto& places = _entries[group[position]].groupPlaces;
+            if (places.empty() || places.back().group != &group) {
+                places.push_back({&actuator, &group, position});
+            }
+        }
     }
 }
 

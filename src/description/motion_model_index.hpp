@@ -2,11 +2,11 @@
 #define SIM_MOTION_MODEL_INDEX_HPP
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "sim/motion_model.hpp"
@@ -14,7 +14,7 @@
 namespace Sim {
 
 /// What the tables of a motion model say of one name. Everything pointed to belongs to the tables.
-struct NameRelations {
+struct NameEntry {
     /// Where a chain lists the joint: the first place, if it does so twice.
     struct ChainPlace {
         Varo::Model::ChainConfig const* chain = nullptr;
@@ -22,6 +22,7 @@ struct NameRelations {
     };
     /// How one chain goes on from the joint.
     struct Branch {
+        std::string const* chain = nullptr;  ///< its name in the list of chains
         std::string const* next = nullptr;  ///< null at the chain's end
         bool listsJoint = false;  ///< true when the chain runs through the joint, false when it hangs on it
     };
@@ -32,6 +33,15 @@ struct NameRelations {
         std::size_t position = 0;
     };
 
+    // The records of that name, null where there is none.
+    Varo::Model::JointConfig const* joint = nullptr;
+    Varo::Model::JointConfig const* root = nullptr;
+    Varo::Model::SubActuatorConfig const* subActuator = nullptr;
+    Varo::Model::ActuatorConfig const* actuator = nullptr;
+    Varo::Model::WheelConfig const* wheel = nullptr;
+    Varo::Model::SensorConfig const* sensor = nullptr;
+
+    // What records of other names say of it.
     std::string const* firstChain = nullptr;  ///< name of the first chain, in the description's order, that lists it
     ChainPlace lastPlace;  ///< in the last chain, in order of name, that lists it
     std::vector<Branch> branches;  ///< in the description's order of chains
@@ -41,22 +51,22 @@ struct NameRelations {
     bool reflectionForced = false;
 };
 
-/// The relations of all names, found in constant time. Refers into the tables that it was made of, so that these must
+/// The entries of all names, found in constant time. Refers into the model that it was made of, whose tables must
 /// neither change nor move.
 struct MotionModel::Index {
-    Index(std::vector<std::string> const& chainNames, Varo::Model::ChainTable const& chains,
-          Varo::Model::ActuatorTable const& actuators, std::vector<std::pair<std::string, float>> const& startAngles,
-          std::vector<std::string> const& reflectionForced);
+    explicit Index(MotionModel const& model);
 
-    /// Empty relations for a name that nothing is known of.
-    NameRelations const& of(std::string const& name) const;
+    /// An empty entry for a name that nothing is known of.
+    NameEntry const& of(std::string const& name) const;
 
 private:
+    template <typename Record>
+    void addRecords(std::map<std::string, Record> const& table, Record const* NameEntry::*record);
     void addListedChain(std::string const& name, Varo::Model::ChainConfig const& chain);
     void addChainPlaces(Varo::Model::ChainConfig const& chain);
-    void addActuator(Varo::Model::ActuatorTable::value_type const& entry);
+    void addGroups(Varo::Model::ActuatorTable::value_type const& actuator);
 
-    std::unordered_map<std::string_view, NameRelations> _relations;
+    std::unordered_map<std::string_view, NameEntry> _entries;
 };
 
 }  // namespace Sim

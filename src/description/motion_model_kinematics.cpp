@@ -8,10 +8,7 @@ namespace {
 
 using Varo::Math::Transform;
 using Varo::Model::ActuatorConfig;
-using Varo::Model::ActuatorTable;
 using Varo::Model::JointConfig;
-using Varo::Model::JointTable;
-using Varo::Model::WheelTable;
 
 constexpr float k_quarterTurn = 1.5707964F;
 
@@ -35,15 +32,14 @@ Transform underParentOfWheel(MotionModel const& model, std::string const& name, 
 
 /// Calls `read` with the record of the body that the name stands for: a joint's, the root's or a wheel's.
 template <typename Read>
-bool readBody(std::string const& name, JointTable const& joints, JointConfig const& root, WheelTable const& wheels,
-              Read read)
+bool readBody(NameEntry const& named, Read read)
 {
-    if (auto const* joint = find(joints, name)) {
-        read(*joint);
-    } else if (name == root.name) {
-        read(root);
-    } else if (auto const* wheel = find(wheels, name)) {
-        read(*wheel);
+    if (named.joint != nullptr) {
+        read(*named.joint);
+    } else if (named.root != nullptr) {
+        read(*named.root);
+    } else if (named.wheel != nullptr) {
+        read(*named.wheel);
     } else {
         return false;
     }
@@ -51,11 +47,10 @@ bool readBody(std::string const& name, JointTable const& joints, JointConfig con
 }
 
 /// The actuator's limit replaces that of a joint of the same name.
-bool readLimit(std::string const& name, JointTable const& joints, float JointConfig::*ofJoint,
-               ActuatorTable const& actuators, float ActuatorConfig::*ofActuator, float& limit)
+bool readLimit(NameEntry const& named, float JointConfig::*ofJoint, float ActuatorConfig::*ofActuator, float& limit)
 {
-    bool const isJoint = readField(joints, name, ofJoint, limit);
-    bool const isActuator = readField(actuators, name, ofActuator, limit);
+    bool const isJoint = readField(named.joint, ofJoint, limit);
+    bool const isActuator = readField(named.actuator, ofActuator, limit);
     return isJoint || isActuator;
 }
 
@@ -63,13 +58,14 @@ bool readLimit(std::string const& name, JointTable const& joints, float JointCon
 
 bool MotionModel::endTransformFromJointName(std::string const& name, Transform& end) const
 {
-    if (readField(_joints, name, &JointConfig::endTransform, end)) {
+    auto const& named = _index->of(name);
+    if (readField(named.joint, &JointConfig::endTransform, end)) {
         return true;
     }
-    if (_subActuators.count(name) != 0) {
+    if (named.subActuator != nullptr) {
         return endTransformFromSubactuatorName(name, end);
     }
-    return _wheels.count(name) != 0 && endTransformFromWheelName(name, end);
+    return named.wheel != nullptr && endTransformFromWheelName(name, end);
 }
 
 bool MotionModel::endTransformFromSubactuatorName(std::string const& /*name*/, Transform& end) const
@@ -89,43 +85,42 @@ bool MotionModel::transformFromJointName(std::string const& name, Transform& tra
     if (name.empty()) {
         return false;
     }
-    auto const* joint = find(_joints, name);
-    if (joint == nullptr) {
+    auto const& named = _index->of(name);
+    if (named.joint == nullptr) {
         return transformFromSubactuatorName(name, transform, parent);
     }
-    auto const [chain, position] = _index->of(name).lastPlace;
+    auto const [chain, position] = named.lastPlace;
     if (chain == nullptr) {
         return true;
     }
     if (position == 0) {
         parent = "rootFrame";
-        transform = endOf(*this, chain->parentJoint).inverse() * chain->placement * joint->placement;
+        transform = endOf(*this, chain->parentJoint).inverse() * chain->placement * named.joint->placement;
     } else {
         parent = chain->jointNames[position - 1];
-        transform = endOf(*this, parent).inverse() * joint->placement;
+        transform = endOf(*this, parent).inverse() * named.joint->placement;
     }
     return true;
 }
 
 bool MotionModel::transformFromSubactuatorName(std::string const& name, Transform& transform, std::string& parent) const
 {
-    auto const* subActuator = name.empty() ? nullptr : find(_subActuators, name);
-    if (subActuator == nullptr) {
+    auto const& named = _index->of(name);
+    if (name.empty() || named.subActuator == nullptr) {
         return false;
     }
-    transform = pinv(endOf(*this, parent)) * subActuator->placement;
-    auto const& places = _index->of(name).groupPlaces;
-    if (places.empty()) {
+    transform = pinv(endOf(*this, parent)) * named.subActuator->placement;
+    if (named.groupPlaces.empty()) {
         return false;
     }
-    auto const [actuator, group, position] = places.front();
+    auto const [actuator, group, position] = named.groupPlaces.front();
     parent = position == 0 ? actuator->parentJoint : (*group)[position - 1];
     return true;
 }
 
 bool MotionModel::transformFromWheel(std::string const& name, Transform& transform) const
 {
-    auto const* wheel = find(_wheels, name);
+    auto const* wheel = _index->of(name).wheel;
     if (wheel == nullptr) {
         return false;
     }
@@ -135,7 +130,7 @@ bool MotionModel::transformFromWheel(std::string const& name, Transform& transfo
 
 bool MotionModel::transformFromActuator(std::string const& name, Transform& transform) const
 {
-    auto const* actuator = find(_actuators, name);
+    auto const* actuator = _index->of(name).actuator;
     if (actuator == nullptr) {
         return false;
     }
@@ -146,64 +141,60 @@ bool MotionModel::transformFromActuator(std::string const& name, Transform& tran
 
 bool MotionModel::meshNameFromJointName(std::string const& name, std::string& mesh) const
 {
-    if (readField(_joints, name, &JointConfig::meshName, mesh) ||
-        readField(_subActuators, name, &Varo::Model::SubActuatorConfig::meshName, mesh) ||
-        readField(_wheels, name, &Varo::Model::WheelConfig::meshName, mesh)) {
-        return true;
-    }
-    if (name != _root.name) {
-        return false;
-    }
-    mesh = _root.meshName;
-    return true;
+    auto const& named = _index->of(name);
+    return readField(named.joint, &JointConfig::meshName, mesh) ||
+           readField(named.subActuator, &Varo::Model::SubActuatorConfig::meshName, mesh) ||
+           readField(named.wheel, &Varo::Model::WheelConfig::meshName, mesh) ||
+           readField(named.root, &JointConfig::meshName, mesh);
 }
 
 bool MotionModel::meshTransformFromJointName(std::string const& name, Transform& transform) const
 {
-    std::string mesh;
-    if (!meshNameFromJointName(name, mesh)) {
-        return false;
+    auto const& named = _index->of(name);
+    bool const hasMesh =
+        named.joint != nullptr || named.subActuator != nullptr || named.wheel != nullptr || named.root != nullptr;
+    if (hasMesh) {
+        transform = Transform();
     }
-    transform = Transform();
-    return true;
+    return hasMesh;
 }
 
 bool MotionModel::CoM(std::string const& name, Varo::Math::Position3D& com) const
 {
-    return readBody(name, _joints, _root, _wheels, [&](auto const& body) { com = body.centerOfMass; });
+    return readBody(_index->of(name), [&](auto const& body) { com = body.centerOfMass; });
 }
 
 bool MotionModel::mass(std::string const& name, float& mass) const
 {
-    return readBody(name, _joints, _root, _wheels, [&](auto const& body) { mass = body.mass; });
+    return readBody(_index->of(name), [&](auto const& body) { mass = body.mass; });
 }
 
 bool MotionModel::inertiaMatrix(std::string const& name, std::vector<float>& inertia) const
 {
-    return readBody(name, _joints, _root, _wheels, [&](auto const& body) { inertia = body.inertiaMatrix; });
+    return readBody(_index->of(name), [&](auto const& body) { inertia = body.inertiaMatrix; });
 }
 
 bool MotionModel::frictionMaterial(std::string const& name, std::string& material) const
 {
     std::string const* stated = nullptr;
-    readBody(name, _joints, _root, _wheels, [&](auto const& body) { stated = find(body.attributes, "material"); });
+    readBody(_index->of(name), [&](auto const& body) { stated = find(body.attributes, "material"); });
     material = stated == nullptr ? "gum" : *stated;
     return stated != nullptr;
 }
 
 bool MotionModel::minAngle(std::string const& name, float& angle) const
 {
-    return readLimit(name, _joints, &JointConfig::minAngle, _actuators, &ActuatorConfig::minAngle, angle);
+    return readLimit(_index->of(name), &JointConfig::minAngle, &ActuatorConfig::minAngle, angle);
 }
 
 bool MotionModel::maxAngle(std::string const& name, float& angle) const
 {
-    return readLimit(name, _joints, &JointConfig::maxAngle, _actuators, &ActuatorConfig::maxAngle, angle);
+    return readLimit(_index->of(name), &JointConfig::maxAngle, &ActuatorConfig::maxAngle, angle);
 }
 
 bool MotionModel::maxAngleSpeed(std::string const& name, float& speed) const
 {
-    return readLimit(name, _joints, &JointConfig::maxAngularSpeed, _actuators, &ActuatorConfig::maxAngularSpeed, speed);
+    return readLimit(_index->of(name), &JointConfig::maxAngularSpeed, &ActuatorConfig::maxAngularSpeed, speed);
 }
 
 }  // namespace Sim

@@ -165,7 +165,7 @@ void MotionModel::followingJointsFromSubactuators(std::string const& name, std::
 
 bool MotionModel::jointsFromActuator(std::string const& actuator, std::list<std::string>& joints) const
 {
-    auto const* record = find(_actuators, actuator);
+    auto const* record = _index->of(actuator).actuator;
     if (record == nullptr) {
         return false;
     }
@@ -187,7 +187,7 @@ bool MotionModel::coupledJointGroupFromParentJoint(std::string const& joint, std
 
 bool MotionModel::mirrorNameFromJointName(std::string const& name, std::string& mirror, bool& reflected) const
 {
-    if (auto const* joint = find(_joints, name)) {
+    if (auto const* joint = _index->of(name).joint) {
         return readMirror(*joint, mirror, reflected);
     }
     if (mirrorNameFromSubjointName(name, mirror, reflected)) {
@@ -208,7 +208,7 @@ bool MotionModel::mirrorNameFromSubjointName(std::string const& name, std::strin
 
 bool MotionModel::mirrorNameFromActuatorName(std::string const& name, std::string& mirror, bool& reflected) const
 {
-    auto const* actuator = find(_actuators, name);
+    auto const* actuator = _index->of(name).actuator;
     if (actuator == nullptr) {
         return false;
     }
@@ -218,8 +218,9 @@ bool MotionModel::mirrorNameFromActuatorName(std::string const& name, std::strin
 
 bool MotionModel::reflectionForcedFromJointName(std::string const& name, bool& forced) const
 {
-    forced = _index->of(name).reflectionForced;
-    return forced || _joints.count(name) != 0;
+    auto const& named = _index->of(name);
+    forced = named.reflectionForced;
+    return forced || named.joint != nullptr;
 }
 
 }  // namespace Sim

@@ -15,11 +15,10 @@ Value const* find(std::map<std::string, Value> const& table, std::string const& 
     return found == table.end() ? nullptr : &found->second;
 }
 
-/// Writes one field of the named record; false, with nothing written, for an unknown name.
+/// Writes one field of a record; false, with nothing written, for none.
 template <typename Record, typename Value>
-bool readField(std::map<std::string, Record> const& table, std::string const& name, Value Record::*field, Value& value)
+bool readField(Record const* record, Value Record::*field, Value& value)
 {
-    auto const* record = find(table, name);
     if (record == nullptr) {
         return false;
     }

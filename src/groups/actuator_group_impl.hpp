@@ -14,7 +14,7 @@ inline constexpr char actuatorGroupErrorMsg[] = "Could not query ActuatorGroup a
 
 class ActuatorGroupImpl {
 public:
-    ActuatorGroupImpl(std::string const& name, boost::shared_ptr<ActuatorGroup> parent,
+    ActuatorGroupImpl(std::string const& name, boost::shared_ptr<ActuatorGroup> const& parent,
                       std::vector<boost::shared_ptr<Actuator>> const& actuators)
         : _name(name), _parent(parent), _actuators(actuators)
     {}

@@ -29,7 +29,7 @@ void ModelImpl::addJointGroup(std::string const& name, std::vector<boost::shared
 }
 
 boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& name,
-                                                             boost::shared_ptr<ActuatorGroup> parent,
+                                                             boost::shared_ptr<ActuatorGroup> const& parent,
                                                              std::vector<boost::shared_ptr<Actuator>> const& actuators)
 {
     _actuatorGroupImpls.push_back(std::make_unique<ActuatorGroupImpl>(name, parent, actuators));

@@ -13,7 +13,7 @@ inline constexpr char arrayDepthSensorErrMsg[] =
 
 class ArrayDepthSensorImpl : public DCMSensorImpl {
 public:
-    ArrayDepthSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    ArrayDepthSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                          std::vector<std::string> const& dcmKeys, int width, int height,
                          std::vector<std::string> const& dcmStateKeys, std::vector<std::string> const& dcmCommandKeys)
         : DCMSensorImpl(frame, name, Sensor::ArrayDepth, dcmKeys, dcmStateKeys, dcmCommandKeys),

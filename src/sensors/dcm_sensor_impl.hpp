@@ -12,7 +12,7 @@ inline constexpr char dcmSensorErrMsg[] = "Could not query DCMSensor as it seems
 
 class DCMSensorImpl : public SensorImpl {
 public:
-    DCMSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name, Sensor::Type type,
+    DCMSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Sensor::Type type,
                   std::vector<std::string> const& dcmKeys, std::vector<std::string> const& dcmStateKeys,
                   std::vector<std::string> const& dcmCommandKeys)
         : SensorImpl(frame, name, type), _dcmKeys(dcmKeys), _dcmStateKeys(dcmStateKeys), _dcmCommandKeys(dcmCommandKeys)

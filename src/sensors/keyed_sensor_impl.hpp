@@ -12,7 +12,7 @@ namespace Sim {
 template <Sensor::Type kind, int bytes = 4>
 class KeyedSensorImpl : public DCMSensorImpl {
 public:
-    KeyedSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    KeyedSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                     std::vector<std::string> const& dcmKeys)
         : DCMSensorImpl(frame, name, kind, dcmKeys, {}, {})
     {}

@@ -12,7 +12,7 @@ inline constexpr char microphoneSensorErrMsg[] =
 
 class MicrophoneSensorImpl : public SensorImpl {
 public:
-    MicrophoneSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name)
+    MicrophoneSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name)
         : SensorImpl(frame, name, Sensor::Microphone)
     {}
 

@@ -11,7 +11,7 @@ namespace Sim {
 template <Sensor::Type kind, unsigned bytesPerPixel>
 class PictureCameraImpl : public BaseCameraImpl {
 public:
-    PictureCameraImpl(boost::shared_ptr<Frame const> frame, std::string const& name, int width, int height)
+    PictureCameraImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, int width, int height)
         : BaseCameraImpl(frame, name, kind), _width(width), _height(height)
     {}
 

@@ -15,7 +15,7 @@ inline constexpr char sensorErrMsg[] = "Could not query Sensor as it seems not c
 
 class SensorImpl {
 public:
-    SensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name, Sensor::Type type)
+    SensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Sensor::Type type)
         : _frame(frame), _name(name), _type(type)
     {}
     virtual ~SensorImpl() = default;

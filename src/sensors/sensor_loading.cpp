@@ -62,7 +62,7 @@ bool ModelImpl::fetchSensor(std::string const& name)
     return true;
 }
 
-void ModelImpl::addDevice(std::string const& name, FramePtr frame, Keys const& keys)
+void ModelImpl::addDevice(std::string const& name, FramePtr const& frame, Keys const& keys)
 {
     switch (_motionModel->sensorType(name)) {
     case Varo::Model::led: fetchLED(name, frame, keys); break;
@@ -93,7 +93,7 @@ void ModelImpl::addDevice(std::string const& name, FramePtr frame, Keys const& k
     }
 }
 
-void ModelImpl::fetchLED(std::string const& name, FramePtr frame, Keys const& keys)
+void ModelImpl::fetchLED(std::string const& name, FramePtr const& frame, Keys const& keys)
 {
     std::string shortname;
     std::vector<std::string> groups;
@@ -114,7 +114,7 @@ std::pair<int, int> ModelImpl::requiredResolutionOf(std::string const& camera) c
     return resolutions.front();
 }
 
-void ModelImpl::fetchArrayDepthSensor(std::string const& name, FramePtr frame, Keys const& keys)
+void ModelImpl::fetchArrayDepthSensor(std::string const& name, FramePtr const& frame, Keys const& keys)
 {
     std::vector<std::pair<int, int>> resolutions;
     bool const known = _motionModel->resolutionsFromCamera(name, resolutions) && !resolutions.empty();
@@ -126,7 +126,7 @@ void ModelImpl::fetchArrayDepthSensor(std::string const& name, FramePtr frame, K
     addArrayDepthSensor(frame, name, keys, width, height, stateKeys, commandKeys);
 }
 
-void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr frame, Keys const& keys)
+void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr const& frame, Keys const& keys)
 {
     if (keys.size() == 1) {
         addSonarSensor(frame, name, keys, SonarSensorImpl::SingleValue);
@@ -135,30 +135,30 @@ void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr frame, Keys c
     }
 }
 
-boost::shared_ptr<CameraSensor> ModelImpl::addCameraSensor(FramePtr frame, std::string const& name, int width,
+boost::shared_ptr<CameraSensor> ModelImpl::addCameraSensor(FramePtr const& frame, std::string const& name, int width,
                                                            int height)
 {
     return addSensor<CameraSensor, CameraSensorImpl>(frame, name, width, height);
 }
 
-boost::shared_ptr<CameraDepthSensor> ModelImpl::addCameraDepthSensor(FramePtr frame, std::string const& name, int width,
-                                                                     int height)
+boost::shared_ptr<CameraDepthSensor> ModelImpl::addCameraDepthSensor(FramePtr const& frame, std::string const& name,
+                                                                     int width, int height)
 {
     return addSensor<CameraDepthSensor, CameraDepthSensorImpl>(frame, name, width, height);
 }
 
-boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr frame, std::string const& name)
+boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr const& frame, std::string const& name)
 {
     return addSensor<MicrophoneSensor, MicrophoneSensorImpl>(frame, name);
 }
 
-boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr frame, std::string const& name, Keys const& dcmKeys,
-                                                         SonarSensorImpl::SonarType sonarType)
+boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, std::string const& name,
+                                                         Keys const& dcmKeys, SonarSensorImpl::SonarType sonarType)
 {
     return addSensor<SonarSensor, SonarSensorImpl>(frame, name, dcmKeys, sonarType);
 }
 
-boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr frame, std::string const& name,
+boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr const& frame, std::string const& name,
                                                                    Keys const& dcmKeys, int width, int height,
                                                                    Keys const& dcmStateKeys, Keys const& dcmCommandKeys)
 {

@@ -17,7 +17,7 @@ public:
         TenValues = 1,
     };
 
-    SonarSensorImpl(boost::shared_ptr<Frame const> frame, std::string const& name,
+    SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                     std::vector<std::string> const& dcmKeys, SonarType sonarType)
         : DCMSensorImpl(frame, name, Sensor::Sonar, dcmKeys, {}, {}), _sonarType(sonarType)
     {}
