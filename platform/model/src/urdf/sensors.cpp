@@ -1,5 +1,6 @@
 #include "urdf/sensors.hpp"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -34,8 +35,10 @@ std::string_view kindNameOf(pugi::xml_node sensor)
     return {};
 }
 
-std::string sensorKey(std::string const& sensor, std::string_view quantity)
+/// The blanks that a name may begin with are not the key's: the native dialect writes keys as text.
+std::string sensorKey(std::string_view sensor, std::string_view quantity)
 {
+    sensor.remove_prefix(std::min(sensor.find_first_not_of(" \t\r\n"), sensor.size()));
     std::string key;
     key.reserve(sensor.size() + quantity.size() + 8);
     return key.append(sensor).append("/").append(quantity).append("/Sensor");
