@@ -1,4 +1,6 @@
 #include <array>
+#include <cstdio>
+#include <exception>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
@@ -51,8 +53,6 @@ int runChosen(std::function<int()> const& chosen)
     } catch (Refused const& refused) {
         std::cout.flush();
         printFindings(std::cerr, refused.file(), refused.findings());
-    } catch (std::exception const& error) {  // want of memory, say
-        std::cerr << "varo-robot: error: " << error.what() << '\n';
     }
     return exitStatus::bad;
 }
@@ -86,5 +86,10 @@ int run(int argumentCount, char** arguments)
 
 int main(int argumentCount, char** arguments)
 {
-    return Tool::run(argumentCount, arguments);
+    try {
+        return Tool::run(argumentCount, arguments);
+    } catch (std::exception const& error) {  // want of memory, say
+        std::fprintf(stderr, "varo-robot: error: %s\n", error.what());
+    }
+    return Tool::exitStatus::bad;
 }

@@ -24,7 +24,7 @@ bool wantsColour(int fileDescriptor)
 char const* sequenceOf(Ink ink)
 {
     switch (ink) {
-    case Ink::heading: return "\033[1m";
+    case Ink::heading:
     case Ink::link: return "\033[1m";
     case Ink::joint: return "\033[36m";
     case Ink::faint: return "\033[2m";
