@@ -1,5 +1,6 @@
 #include "varo/model/friction.hpp"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -70,6 +71,12 @@ bool getCoefFriction(std::string const& material1, std::string const& material2,
         }
     }
     return false;
+}
+
+bool isFrictionMaterial(std::string const& material)
+{
+    return std::any_of(pairs.begin(), pairs.end(),
+                       [&](MaterialPair const& pair) { return pair.first == material || pair.second == material; });
 }
 
 }  // namespace Varo::Model
