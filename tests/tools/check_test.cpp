@@ -13,7 +13,7 @@ class Check : public ToolFixture {};
 /// Loads, and names a joint that is not there.
 constexpr char doubtful[] = R"(<robotDescription name="A">
   <root name="T"/>
-  <chain name="C" parent="T"/>
+  <prettyName>Little A</prettyName>
   <sensor name="S" parent="Nobody" type="button"/>
 </robotDescription>
 )";

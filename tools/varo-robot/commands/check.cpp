@@ -1,6 +1,10 @@
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <iostream>
 #include <memory>
+#include <optional>
+#include <set>
 
 #include <CLI/CLI.hpp>
 
@@ -9,6 +13,7 @@
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
 #include "support/json.hpp"
+#include "support/numbers.hpp"
 
 namespace Tool {
 
@@ -21,6 +26,7 @@ using Varo::Model::Severity;
 struct Options {
     std::vector<std::string> files;
     std::vector<std::string> silenced;
+    Rules::Tolerances tolerances;
     bool strict = false;
     bool json = false;
 };
@@ -31,20 +37,21 @@ void append(Findings& findings, Findings const& more)
 }
 
 /// What the text, the building of the model and the rules have to say.
-Findings findingsOf(Description const& description)
+Findings findingsOf(Description const& description, Rules::Tolerances const& tolerances)
 {
     Findings findings = description.reading.findings;
     if (description.reading.robot == nullptr) {
         return findings;
     }
-    append(findings, Rules::apply(description.text, *description.reading.robot));
+    std::optional<Sim::Model> model;
     try {
         Findings heard;
-        buildModel(description, heard);
+        model.emplace(buildModel(description, heard));
         append(findings, heard);
     } catch (Refused const& refused) {
         append(findings, refused.findings());
     }
+    append(findings, Rules::apply(description.text, *description.reading.robot, model ? &*model : nullptr, tolerances));
     std::stable_sort(findings.begin(), findings.end(), [](Finding const& a, Finding const& b) {
         return std::pair(a.line, a.column) < std::pair(b.line, b.column);
     });
@@ -102,29 +109,42 @@ bool isBad(Findings const& findings)
                        [](Finding const& finding) { return finding.severity == Severity::error; });
 }
 
-bool isCode(std::string const& word)
+/// The codes that can be silenced.
+std::set<std::string> knownCodes()
 {
-    std::vector<std::string> known = Varo::Model::ModelUtils::findingCodes();
-    for (std::string const& code : Rules::codes()) {
-        known.push_back(code);
+    std::set<std::string> known = {codes::modelIncomplete};
+    for (auto const& more : {Varo::Model::ModelUtils::findingCodes(), Rules::codes()}) {
+        known.insert(more.begin(), more.end());
     }
-    known.emplace_back(codes::modelIncomplete);
-    return std::find(known.begin(), known.end(), word) != known.end();
+    return known;
+}
+
+/// Whether all codes are known. Says which one is not, and those that are.
+bool areKnown(std::vector<std::string> const& codes)
+{
+    std::set<std::string> const known = knownCodes();
+    auto const isUnknown = [&known](std::string const& code) { return known.count(code) == 0; };
+    auto const unknown = std::find_if(codes.begin(), codes.end(), isUnknown);
+    if (unknown == codes.end()) {
+        return true;
+    }
+    std::cerr << "There are no findings with the code \"" << *unknown << "\". The codes are:\n";
+    for (std::string const& code : known) {
+        std::cerr << "  " << code << '\n';
+    }
+    return false;
 }
 
 int check(Options const& options)
 {
-    for (std::string const& code : options.silenced) {
-        if (!isCode(code)) {
-            std::cerr << "There are no findings with the code \"" << code << "\".\n";
-            return exitStatus::wrongUsage;
-        }
+    if (!areKnown(options.silenced)) {
+        return exitStatus::wrongUsage;
     }
     bool bad = false;
     Json data = Json::array();
     for (std::string const& file : options.files) {
         Description const description = readDescription(file);
-        Findings findings = findingsOf(description);
+        Findings findings = findingsOf(description, options.tolerances);
         obey(options, findings);
         bad = bad || isBad(findings);
         if (options.json) {
@@ -143,6 +163,41 @@ int check(Options const& options)
     return bad ? exitStatus::bad : exitStatus::fine;
 }
 
+bool parseTolerance(std::string const& text, double& tolerance)
+{
+    double value = 0.0;
+    char const* const end = text.data() + text.size();
+    auto const [stop, error] = std::from_chars(text.data(), end, value);
+    bool const isTolerance = error == std::errc() && stop == end && std::isfinite(value) && value >= 0.0;
+    tolerance = isTolerance ? value : tolerance;
+    return isTolerance;
+}
+
+void declareTolerances(CLI::App& app, Rules::Tolerances& tolerances)
+{
+    struct Tolerance {
+        char const* option;
+        double& value;
+        char const* meaning;
+    };
+    for (Tolerance const& each : {
+             Tolerance{"--tolerance-mass", tolerances.mass, "How far masses may differ, as a part of the greater"},
+             {"--tolerance-com", tolerances.centerOfMass, "How far a centre of mass may miss a reflection, in m"},
+             {"--tolerance-inertia", tolerances.inertia,
+              "How far inertias may be out, as a part of their greatest entry"},
+             {"--tolerance-limit", tolerances.limit, "How far limits and start angles may be out, in rad (m)"},
+         }) {
+        auto const read = [&value = each.value](std::string const& text) {
+            if (!parseTolerance(text, value)) {
+                throw CLI::ValidationError("A tolerance is a number that is not negative, not " + text);
+            }
+        };
+        app.add_option_function<std::string>(each.option, read, each.meaning)
+            ->type_name("NUMBER")
+            ->default_str(rounded(each.value));
+    }
+}
+
 std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
@@ -152,6 +207,7 @@ std::function<int()> declare(CLI::App& app)
         ->type_name("CODE")
         ->expected(1)
         ->take_all();
+    declareTolerances(app, options->tolerances);
     app.add_flag("--json", options->json, "Print the findings on standard output, as a JSON array");
     return [options] { return check(*options); };
 }
@@ -159,15 +215,17 @@ std::function<int()> declare(CLI::App& app)
 }  // namespace
 
 Command const checkCommand = {"check", "Report everything that is wrong or doubtful",
-                              R"(Reads each description, builds its model, and reports in one run all that is
-found, a line each on standard error:
+                              R"(Reads each description, builds its model, applies the rules to what it says,
+and reports in one run all that is found, a line each on standard error:
 
   FILE:LINE:COLUMN: error|warning|note: what is wrong [code]
       what to do about it
 
 Errors refuse the description, warnings are about what loads but is hardly
 meant, and notes say what the reader passed over. What concerns the file as a
-whole bears no line. Standard output gets a summary of each file or, with
+whole bears no line. The rules warn of bodies and motors that cannot be, of
+mirror pairs that do not mirror, and of what has no effect; docs/checking.md
+lists them with their codes and tolerances. Standard output gets a summary of each file or, with
 --json, an array of all findings, each an object with file, severity, code,
 line, column, path, message and hint.
 
@@ -176,6 +234,7 @@ The exit status is 1 when there is an error in any file, and 0 otherwise.
 Examples:
   varo-robot check --strict robots/*.xml
   varo-robot check --silence not-carried pr2.urdf
+  varo-robot check --tolerance-com 0.001 --tolerance-inertia 0.05 walker.xml
   xmllint --noent robot.xml | varo-robot check -)",
                               declare};
 

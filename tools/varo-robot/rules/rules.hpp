@@ -4,14 +4,25 @@
 #include <string>
 #include <vector>
 
+#include "sim/model.hpp"
 #include "varo/model/finding.hpp"
 #include "varo/model/robot.hpp"
 
 /// What `check` looks for beyond the reader's own findings: data that reads well and cannot be true.
 namespace Tool::Rules {
 
+/// How far values may miss what they should be.
+struct Tolerances {
+    double mass = 1e-3;  ///< part of the greater mass
+    double centerOfMass = 1e-4;  ///< m
+    double inertia = 1e-3;  ///< part of the greatest entry of the matrix
+    double limit = 1e-4;  ///< rad (m for prismatic joints)
+};
+
 /// The findings of all rules about an accepted description, with their places in `text`, from which `robot` was read.
-Varo::Model::Findings apply(std::string const& text, Varo::Model::Robot const& robot);
+/// All are warnings. `model` is that of the robot; when it is null, the rules that compare poses are left out.
+Varo::Model::Findings apply(std::string const& text, Varo::Model::Robot const& robot, Sim::Model const* model,
+                            Tolerances const& tolerances);
 
 /// The codes that these findings bear.
 std::vector<std::string> codes();
