@@ -45,8 +45,10 @@ public:
 private:
     void checkMass(JointConfig const& first, JointConfig const& second)
     {
-        auto const [less, more] = std::minmax(static_cast<double>(first.mass), static_cast<double>(second.mass));
-        if (less >= 0.0 && more - less > _facts.tolerances.mass * more) {
+        auto const one = static_cast<double>(first.mass);
+        auto const other = static_cast<double>(second.mass);
+        bool const areMasses = one >= 0.0 && other >= 0.0;
+        if (areMasses && std::abs(one - other) > _facts.tolerances.mass * std::max(one, other)) {
             _facts.warn({"joint", second.name, "mass/@value"}, code::massNotMirrored,
                         "The masses of " + namesOf(first, second) + " differ: " + shortest(first.mass) + " kg and " +
                             shortest(second.mass) + " kg.");
