@@ -14,87 +14,98 @@
 namespace {
 
 using namespace Sim;
+using testing::ElementsAre;
 using Keys = std::vector<std::string>;
 
 Keys const keys = {"key"};
 boost::shared_ptr<Frame const> const noFrame;
-boost::shared_ptr<Joint const> const noJoint;
+boost::shared_ptr<Joint> const joint = boost::make_shared<Joint>();
+boost::shared_ptr<Joint> const noJoint;
 
-void expectKind(Actuator const& actuator, int type)
+/// A copy of a copy, made before the actuators that it comes from are gone.
+template <class T, class Impl>
+T copyOf(Impl* impl)
+{
+    T const source(impl);
+    return T(source);
+}
+
+void expectBasics(DCMActuator const& actuator, int type)
 {
     EXPECT_EQ(actuator.type(), type);
     EXPECT_EQ(actuator.bufferSize(), 4);
     EXPECT_EQ(actuator.name(), "A");
     EXPECT_EQ(actuator.frame(), nullptr);
+    EXPECT_EQ(actuator.dcmKeys(), keys);
 }
 
-/// A copy answers as its source did, after the source is gone.
-template <class T, class Impl, class Check>
-void expectDeepCopy(Impl* impl, Check const& check)
+template <class T>
+void expectRange(T const& actuator)
 {
-    auto source = std::make_unique<T>(impl);
-    T const copy(*source);
-    T const copyOfCopy(copy);
-    source.reset();
-    EXPECT_EQ(copy.dcmKeys(), keys);
-    EXPECT_EQ(copy.name(), "A");
-    check(copy);
-    check(copyOfCopy);
+    EXPECT_EQ(actuator.startValue(), 1.0F);
+    EXPECT_EQ(actuator.minValue(), 2.0F);
+    EXPECT_EQ(actuator.maxValue(), 3.0F);
+}
+
+/// Of a kind that drives a joint between limits; it has a partner that mirrors it reversed.
+template <class T, class Impl>
+T expectMirroredMotor(int type, Impl* impl)
+{
+    auto const partner = boost::make_shared<T>();
+    impl->setReflectedSymmetric(partner);
+    impl->setReflectedSymmetricReversed(true);
+    T const copy = copyOf<T>(impl);
+    expectBasics(copy, type);
+    expectRange(copy);
+    EXPECT_EQ(copy.reflectedSymmetric(), partner.get());
+    EXPECT_TRUE(copy.reflectedSymmetricReversed());
+    return copy;
 }
 
 }  // namespace
 
-TEST(ActuatorClasses, KnowTheirType)
+TEST(ActuatorClasses, KeepWhatTheyAreMadeOfAndCopyItDeeply)
 {
-    expectKind(AngleActuator(new AngleActuatorImpl(noFrame, "A", keys, 0, 0, 0, 0, noJoint, false)), 0);
-    expectKind(CoupledActuator(new CoupledActuatorImpl(noFrame, "A", keys, 0, 0, 0, 0, {}, false)), 1);
-    expectKind(TorqueActuator(new TorqueActuatorImpl(noFrame, "A", keys, 0, 0, 0, noJoint)), 2);
-    expectKind(AngleSpeedActuator(new AngleSpeedActuatorImpl(noFrame, "A", keys, 0, 0, 0, noJoint)), 3);
-    expectKind(WheelTorqueActuator(new WheelTorqueActuatorImpl(noFrame, "A", keys, 0, noJoint)), 4);
-    expectKind(WheelVelocityActuator(new WheelVelocityActuatorImpl(noFrame, "A", keys, 0, noJoint)), 5);
-    expectKind(LEDActuator(new LEDActuatorImpl(noFrame, "A", keys, "a", {}, LEDActuator::Red)), 6);
-}
+    auto const angle =
+        expectMirroredMotor<AngleActuator>(0, new AngleActuatorImpl(noFrame, "A", keys, 1, 2, 3, 4, joint, true));
+    EXPECT_EQ(angle.maxSpeed(), 4.0F);
+    EXPECT_EQ(angle.controlledJoint(), joint.get());
+    EXPECT_TRUE(angle.reflectionForced());
+    auto const coupled = expectMirroredMotor<CoupledActuator>(
+        1, new CoupledActuatorImpl(noFrame, "A", keys, 1, 2, 3, 4, {{joint, 5.0F}}, true));
+    EXPECT_EQ(coupled.maxSpeed(), 4.0F);
+    EXPECT_TRUE(coupled.reflectionForced());
+    EXPECT_THAT(coupled.controlledJointAndRatios(), ElementsAre(std::pair(joint.get(), 5.0F)));
+    auto const torque =
+        expectMirroredMotor<TorqueActuator>(2, new TorqueActuatorImpl(noFrame, "A", keys, 1, 2, 3, joint));
+    EXPECT_EQ(torque.controlledJoint(), joint.get());
+    auto const speed =
+        expectMirroredMotor<AngleSpeedActuator>(3, new AngleSpeedActuatorImpl(noFrame, "A", keys, 1, 2, 3, joint));
+    EXPECT_EQ(speed.controlledJoint(), joint.get());
 
-TEST(ActuatorClasses, CopyDeeply)
-{
-    auto const joint = boost::make_shared<Joint>();
-    auto* const angle = new AngleActuatorImpl(noFrame, "A", keys, 1, 2, 3, 4, joint, true);
-    auto const partner = boost::make_shared<AngleActuator>();
-    angle->setReflectedSymmetric(partner);
-    angle->setReflectedSymmetricReversed(true);
-    expectDeepCopy<AngleActuator>(angle, [&](AngleActuator const& copy) {
-        EXPECT_EQ(copy.startValue(), 1.0F);
-        EXPECT_EQ(copy.minValue(), 2.0F);
-        EXPECT_EQ(copy.maxValue(), 3.0F);
-        EXPECT_EQ(copy.maxSpeed(), 4.0F);
-        EXPECT_EQ(copy.controlledJoint(), joint.get());
-        EXPECT_EQ(copy.reflectedSymmetric(), partner.get());
-        EXPECT_TRUE(copy.reflectedSymmetricReversed());
-        EXPECT_TRUE(copy.reflectionForced());
-    });
-    expectDeepCopy<WheelVelocityActuator>(new WheelVelocityActuatorImpl(noFrame, "A", keys, 5, joint),
-                                          [&](WheelVelocityActuator const& copy) {
-                                              EXPECT_EQ(copy.maxVelocity(), 5.0F);
-                                              EXPECT_EQ(copy.controlledJoint(), joint.get());
-                                          });
-    expectDeepCopy<LEDActuator>(new LEDActuatorImpl(noFrame, "A", keys, "short", {"g"}, LEDActuator::Green),
-                                [](LEDActuator const& copy) {
-                                    EXPECT_EQ(copy.shortname(), "short");
-                                    EXPECT_EQ(copy.groups(), Keys{"g"});
-                                    EXPECT_EQ(copy.color(), LEDActuator::Green);
-                                });
-    AngleActuator const empty;
-    EXPECT_THROW(static_cast<void>(AngleActuator(empty).name()), std::runtime_error);
+    auto const wheelTorque = copyOf<WheelTorqueActuator>(new WheelTorqueActuatorImpl(noFrame, "A", keys, 5, joint));
+    expectBasics(wheelTorque, 4);
+    EXPECT_EQ(wheelTorque.maxTorque(), 5.0F);
+    EXPECT_EQ(wheelTorque.controlledJoint(), joint.get());
+    auto const wheel = copyOf<WheelVelocityActuator>(new WheelVelocityActuatorImpl(noFrame, "A", keys, 5, noJoint));
+    expectBasics(wheel, 5);
+    EXPECT_EQ(wheel.maxVelocity(), 5.0F);
+    EXPECT_EQ(wheel.controlledJoint(), nullptr);
+    auto const led = copyOf<LEDActuator>(new LEDActuatorImpl(noFrame, "A", keys, "short", {"g"}, LEDActuator::Green));
+    expectBasics(led, 6);
+    EXPECT_EQ(led.shortname(), "short");
+    EXPECT_EQ(led.groups(), Keys{"g"});
+    EXPECT_EQ(led.color(), LEDActuator::Green);
+    EXPECT_THROW(static_cast<void>(AngleActuator(AngleActuator()).name()), std::runtime_error);
 }
 
 TEST(ActuatorClasses, LeaveOutDrivenJointsThatDoNotExist)
 {
-    auto first = boost::make_shared<Joint>();
-    auto const second = boost::make_shared<Joint>();
+    auto other = boost::make_shared<Joint>();
     CoupledActuator const actuator(new CoupledActuatorImpl(noFrame, "A", keys, 0, 0, 0, 0,
-                                                           {{first, 1.0F}, {noJoint, 7.0F}, {second, -1.0F}}, false));
-    using Driven = std::vector<std::pair<Joint const*, float>>;
-    EXPECT_EQ(actuator.controlledJointAndRatios(), (Driven{{first.get(), 1.0F}, {second.get(), -1.0F}}));
-    first.reset();
-    EXPECT_EQ(actuator.controlledJointAndRatios(), (Driven{{second.get(), -1.0F}}));
+                                                           {{other, 1.0F}, {noJoint, 7.0F}, {joint, -1.0F}}, false));
+    EXPECT_THAT(actuator.controlledJointAndRatios(),
+                ElementsAre(std::pair(other.get(), 1.0F), std::pair(joint.get(), -1.0F)));
+    other.reset();
+    EXPECT_THAT(actuator.controlledJointAndRatios(), ElementsAre(std::pair(joint.get(), -1.0F)));
 }

@@ -105,8 +105,10 @@ TEST(Loading, AMovedFromModelSaysSo)
 {
     Sim::Model model(robot(""));
     Sim::Link const* const root = model.rootLink();
-    Sim::Model const target(std::move(model));
+    Sim::Model target(std::move(model));
     EXPECT_EQ(target.rootLink(), root);
-    EXPECT_EQ(messageOf<std::runtime_error>([&] { static_cast<void>(model.links()); }),
+    model = std::move(target);
+    EXPECT_EQ(model.rootLink(), root);
+    EXPECT_EQ(messageOf<std::runtime_error>([&] { static_cast<void>(target.links()); }),
               "Could not query Model as it seems not correctly constructed.");
 }

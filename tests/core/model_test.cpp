@@ -3,57 +3,123 @@
 #include <gmock/gmock.h>
 
 #include "descriptions.hpp"
-#include "sim/camera_sensor.hpp"
+#include "elements.hpp"
 #include "sim/friction.hpp"
-#include "sim/joint.hpp"
-#include "sim/link.hpp"
-#include "sim/sensor.hpp"
-#include "sim/single_depth_sensor.hpp"
 #include "throws.hpp"
 
 namespace {
 
 using namespace Tests;
+using Sim::Model;
+
+/// Of every kind that loading makes, one or more; all kinds on the joint "J" bear its name.
+std::string const everything = robot(
+    joint("J") + chain("C", "Base", {"J"}) + wheel("W", "J") +
+        actuator("Hand", "J", "<group>" + subJoint("F") + "</group>") + sensor("Led", "J", "led") +
+        sensor("J", "J", "camera", attribute("resolutions", "640 480")) +
+        sensor("Eye", "J", "camera", attribute("resolutions", "64 48")) +
+        sensor("Depth", "J", "depthCamera", attribute("resolutions", "32 24")) + sensor("Skin", "J", "tactile") +
+        sensor("Bump", "J", "bumper") + sensor("Ear", "J", "microphone") + sensor("Grid", "J", "arrayDepth", keys(2)) +
+        sensor("Echo", "J", "sonar", keys(1)) + sensor("Sole", "J", "fsr") + sensor("Imu", "J", "inertial"),
+    "HelvoSpecialSimulation");
+
+/// The elements of a registry that are of class T, in its order.
+template <class T, class Base>
+std::vector<T const*> ofKind(std::vector<Base const*> const& registry)
+{
+    std::vector<T const*> found;
+    for (Base const* element : registry) {
+        if (auto const* const typed = dynamic_cast<T const*>(element)) {
+            found.push_back(typed);
+        }
+    }
+    return found;
+}
+
+template <class T>
+using One = T const* (Model::*)(std::string const&) const;
+template <class T>
+using All = std::vector<T const*> (Model::*)() const;
+
+/// A kind has as many elements as expected, all of which are found by name, past those of other kinds.
+template <class T>
+void expectKind(Model const& model, std::size_t count, One<T> one, std::vector<T const*> const& all)
+{
+    SCOPED_TRACE(typeid(T).name());
+    EXPECT_EQ(all.size(), count);
+    if constexpr (std::is_base_of_v<Sim::Sensor, T>) {
+        EXPECT_EQ(all, ofKind<T>(model.sensors()));
+    } else if constexpr (std::is_base_of_v<Sim::Actuator, T>) {
+        EXPECT_EQ(all, ofKind<T>(model.actuators()));
+    }
+    for (T const* element : all) {
+        EXPECT_EQ((model.*one)(element->name()), element);
+    }
+    EXPECT_EQ((model.*one)("nobody"), nullptr);
+}
+
+template <class T>
+void expectKind(Model const& model, std::size_t count, One<T> one, All<T> all)
+{
+    expectKind(model, count, one, (model.*all)());
+}
 
 }  // namespace
 
+TEST(Model, FindsElementsOfEveryKindByName)
+{
+    Model const model(everything);
+    expectKind(model, 3, &Model::joint, &Model::joints);
+    expectKind(model, 4, &Model::link, &Model::links);
+    expectKind(model, 2, &Model::jointGroup, &Model::jointGroups);
+    expectKind(model, 1, &Model::actuatorGroup, &Model::actuatorGroups);
+    expectKind(model, 1, &Model::angleActuator, &Model::angleActuators);
+    expectKind(model, 1, &Model::angleSpeedActuator, &Model::angleSpeedActuators);
+    expectKind(model, 1, &Model::torqueActuator, &Model::torqueActuators);
+    expectKind(model, 1, &Model::coupledActuator, &Model::coupledActuators);
+    expectKind(model, 0, &Model::wheelTorqueActuator, &Model::wheelTorqueActuators);
+    expectKind(model, 1, &Model::wheelVelocityActuator, &Model::wheelVelocityActuators);
+    expectKind(model, 1, &Model::ledActuator, model.ledActuators(""));
+    expectKind(model, 1, &Model::angleSensor, &Model::angleSensors);
+    expectKind(model, 1, &Model::angleSpeedSensor, &Model::angleSpeedSensors);
+    expectKind(model, 1, &Model::torqueSensor, &Model::torqueSensors);
+    expectKind(model, 1, &Model::coupledSensor, &Model::coupledSensors);
+    expectKind(model, 0, &Model::wheelVelocitySensor, &Model::wheelVelocitySensors);
+    expectKind(model, 1, &Model::tactileSensor, &Model::tactileSensors);
+    expectKind(model, 2, &Model::cameraSensor, &Model::cameraSensors);
+    expectKind(model, 1, &Model::cameraDepthSensor, &Model::cameraDepthSensors);
+    expectKind(model, 1, &Model::bumperSensor, &Model::bumperSensors);
+    expectKind(model, 1, &Model::microphoneSensor, &Model::microphoneSensors);
+    expectKind(model, 0, &Model::singleDepthSensor, &Model::singleDepthSensors);
+    expectKind(model, 1, &Model::arrayDepthSensor, &Model::arrayDepthSensors);
+    expectKind(model, 1, &Model::sonarSensor, &Model::sonarSensors);
+    expectKind(model, 1, &Model::fsrSensor, &Model::fsrSensors);
+    expectKind(model, 1, &Model::inertialSensor, &Model::inertialSensors);
+    EXPECT_EQ(model.sensor("J")->type(), Sim::Sensor::Angle) << "the first of that name, whatever its kind";
+    EXPECT_EQ(model.actuator("J")->type(), Sim::Actuator::Angle);
+}
+
 TEST(Model, AnswersUnknownNamesWithNullOrNothing)
 {
-    Sim::Model const model(robot(joint("J") + chain("C", "Base", {"J"})));
-    EXPECT_EQ(model.joint("j"), nullptr);
-    EXPECT_EQ(model.joint("Base"), nullptr);
-    EXPECT_EQ(model.link("J"), nullptr);
+    Model const model(everything);
+    EXPECT_EQ(model.joint("j"), nullptr) << "letters of another case are others";
+    EXPECT_EQ(model.joint("Base"), nullptr) << "there is no joint at the root";
+    EXPECT_EQ(model.link("J"), nullptr) << "a link bears its joint's name and \"Link\"";
     EXPECT_EQ(model.sensor(""), nullptr);
     EXPECT_EQ(model.actuator("C"), nullptr);
-    EXPECT_EQ(model.angleActuator("X"), nullptr);
-    EXPECT_EQ(model.jointGroup("J"), nullptr);
-    EXPECT_EQ(model.actuatorGroup("J"), nullptr);
     EXPECT_EQ(model.jointSymmetry("J"), nullptr);
     EXPECT_TRUE(model.jointGroupsOfJoint("X").empty());
     EXPECT_TRUE(model.actuatorGroupsOfJoint("X").empty());
     EXPECT_TRUE(model.ledActuators("X").empty());
 }
 
-TEST(Model, LooksUpByKindPastElementsOfOtherKindsWithTheName)
-{
-    // The angle sensor of joint "Eye" precedes the camera of the same name.
-    Sim::Model const model(robot(joint("Eye") + chain("C", "Base", {"Eye"}) +
-                                 sensor("Eye", "Eye", "camera", attribute("resolutions", "640 480"))));
-    EXPECT_EQ(model.sensor("Eye")->type(), Sim::Sensor::Angle);
-    ASSERT_NE(model.cameraSensor("Eye"), nullptr);
-    EXPECT_EQ(model.cameraSensor("Eye")->width(), 640);
-    EXPECT_EQ(model.sensors().size(), 2U);
-    EXPECT_EQ(model.cameraSensors().size(), 1U);
-    EXPECT_TRUE(model.sonarSensors().empty());
-}
-
 TEST(Model, SaysOnEveryCallThatTheInfraredQueriesAreDeprecated)
 {
-    Sim::Model model(robot(""));
+    Model model(robot(""));
     testing::internal::CaptureStdout();
     EXPECT_EQ(model.depthInfraredSensor("X"), nullptr);
     EXPECT_TRUE(model.depthInfraredSensors().empty());
-    Sim::Model const target(std::move(model));
+    Model const target(std::move(model));
     EXPECT_EQ(messageOf<std::runtime_error>([&] { static_cast<void>(model.depthInfraredSensor("X")); }),
               "Could not query Model as it seems not correctly constructed.");
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
@@ -64,12 +130,8 @@ TEST(Model, SaysOnEveryCallThatTheInfraredQueriesAreDeprecated)
 
 TEST(Model, KnowsFrictionBetweenMaterials)
 {
-    float forth = 0.0F;
-    float back = 0.0F;
-    float untouched = 7.0F;
-    EXPECT_TRUE(Sim::frictionCoeff("steel", "aluminium", forth));
-    EXPECT_TRUE(Sim::frictionCoeff("aluminium", "steel", back));
-    EXPECT_EQ(forth, back);
-    EXPECT_FALSE(Sim::frictionCoeff("steel", "moonlight", untouched));
-    EXPECT_EQ(untouched, 7.0F);
+    float coefficient = 0.0F;
+    EXPECT_TRUE(Sim::frictionCoeff("steel", "aluminium", coefficient));
+    EXPECT_EQ(coefficient, 0.61F);
+    EXPECT_FALSE(Sim::frictionCoeff("steel", "moonlight", coefficient));
 }

@@ -1,7 +1,5 @@
 #include <limits>
 
-#include <gmock/gmock.h>
-
 #include "model_of.hpp"
 
 namespace {
@@ -33,13 +31,13 @@ TEST(Devices, AreListedWithTypePlaceAndKeys)
 
     Varo::Math::Transform transform;
     std::string parent;
-    std::vector<std::string> keys = {"old"};
     EXPECT_FALSE(model.transformFromSensorName("Nobody", transform, parent));
-    EXPECT_FALSE(model.dcmKeysFromSensorName("Nobody", keys));
-    EXPECT_THAT(keys, ElementsAre("old"));
     EXPECT_TRUE(model.transformFromSensorName("Camera", transform, parent));
     EXPECT_EQ(transform, Varo::Math::Transform::fromPosition(1.0F, 2.0F, 3.0F));
     EXPECT_EQ(parent, "Head");
+    std::vector<std::string> keys = {"old"};
+    EXPECT_FALSE(model.dcmKeysFromSensorName("Nobody", keys));
+    EXPECT_THAT(keys, ElementsAre("old"));
     EXPECT_TRUE(model.dcmKeysFromSensorName("Camera", keys));
     EXPECT_THAT(keys, ElementsAre("k1", "k2"));
 }
@@ -68,26 +66,23 @@ TEST(Devices, WithoutTheAttributeLeaveTheAnswerUntouched)
 {
     auto const model = modelWith("other", "value");
     for (auto const* name : {"Device", "Nobody"}) {
-        SCOPED_TRACE(name);
-        std::string shortname = "old";
+        EXPECT_EQ(answerOf(model, &Sim::MotionModel::shortnameFromLED, name), std::nullopt);
         std::vector<std::string> groups = {"old"};
-        int color = 7;
-        std::vector<std::pair<int, int>> resolutions;
-        EXPECT_FALSE(model.shortnameFromLED(name, shortname) || model.groupsFromLED(name, groups));
-        EXPECT_FALSE(model.colorFromLED(name, &color) || model.resolutionsFromCamera(name, resolutions));
-        EXPECT_EQ(shortname, "old");
+        EXPECT_FALSE(model.groupsFromLED(name, groups));
         EXPECT_THAT(groups, ElementsAre("old"));
+        int color = 7;
+        EXPECT_FALSE(model.colorFromLED(name, &color));
         EXPECT_EQ(color, 7);
+        std::vector<std::pair<int, int>> resolutions;
+        EXPECT_FALSE(model.resolutionsFromCamera(name, resolutions));
         EXPECT_THAT(resolutions, IsEmpty());
     }
 }
 
 TEST(Led, GroupsAreThePiecesBetweenTabsAndBlanks)
 {
-    std::string shortname;
-    EXPECT_TRUE(modelWith("shortname", "short name").shortnameFromLED("Device", shortname));
-    EXPECT_EQ(shortname, "short name");
-
+    EXPECT_EQ(answerOf(modelWith("shortname", "short name"), &Sim::MotionModel::shortnameFromLED, "Device"),
+              "short name");
     std::vector<std::string> groups = {"old"};
     EXPECT_TRUE(modelWith("groups", "Ears  Left\tAll").groupsFromLED("Device", groups));
     EXPECT_THAT(groups, ElementsAre("Ears", "", "Left", "All"));
@@ -97,11 +92,8 @@ TEST(Led, GroupsAreThePiecesBetweenTabsAndBlanks)
 
 TEST(Led, ColorIsTheLastFullChannel)
 {
-    struct {
-        char const* value;
-        int channel;
-    } const cases[] = {{"255 0 0", 0}, {"0\t0\t255", 2}, {"255 255 0", 1}, {"0  255", 2}, {"0 0255 25", 7}, {"", 7}};
-    for (auto const& [value, expected] : cases) {
+    for (auto const& [value, expected] :
+         {std::pair("255 0 0", 0), {"0\t0\t255", 2}, {"255 255 0", 1}, {"0  255", 2}, {"0 0255 25", 7}, {"", 7}}) {
         SCOPED_TRACE(value);
         int channel = 7;
         EXPECT_TRUE(modelWith("color", value).colorFromLED("Device", &channel));

@@ -1,7 +1,5 @@
 #include <chrono>
 
-#include <gtest/gtest.h>
-
 #include "model_of.hpp"
 
 namespace {

@@ -1,7 +1,4 @@
-#include <optional>
 #include <stdexcept>
-
-#include <gmock/gmock.h>
 
 #include "model_of.hpp"
 
@@ -12,10 +9,7 @@ using testing::IsEmpty;
 
 std::optional<float> startAngle(Sim::MotionModel const& model, std::string const& name)
 {
-    float angle = -99.0F;
-    bool const known = model.startAngle(name, angle);
-    EXPECT_EQ(known, angle != -99.0F) << name;
-    return known ? std::optional<float>(angle) : std::nullopt;
+    return answerOf(model, &Sim::MotionModel::startAngle, name);
 }
 
 TEST(Identity, IsTheDescriptionsWhenThereAreChains)

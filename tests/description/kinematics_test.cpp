@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "model_of.hpp"
 
 namespace {
@@ -111,28 +109,22 @@ TEST(JointFrame, IsDecidedByTheLastChainInOrderOfName)
 TEST(WheelFrame, IsTurnedInTheLinkOfTheParentOfTheWheel)
 {
     auto const underTurned = Transform::fromRows({0, 1, 0, 2, 0, 0, 1, -1, 1, 0, 0, 2});
-    struct {
-        char const* name;
-        bool isWheel;
-        bool isActuator;
-        Transform transform;
-    } const cases[] = {
-        {"Wheel", true, false, underTurned},
-        {"DoubledWheel", true, false, Transform::fromRows({0, 0, -0.5F, 0.5F, 0, 0.5F, 0, 1, 0.5F, 0, 0, 1.5F})},
-        {"Both", true, true, underTurned},  // though the actuator hangs elsewhere
-        {"Hand", false, true, Transform::fromRows({0, 0, -1, 1, 0, 1, 0, 2, 1, 0, 0, 3})},  // without its own parent
-        {"Nobody", false, false, at(untouched, 0, 0)},
-    };
     auto const model = modelOf(fill);
-    for (auto const& c : cases) {
-        SCOPED_TRACE(c.name);
-        Transform ofWheel = at(untouched, 0, 0);
-        Transform ofActuator = ofWheel;
-        EXPECT_EQ(model.transformFromWheel(c.name, ofWheel), c.isWheel);
-        EXPECT_EQ(model.transformFromActuator(c.name, ofActuator), c.isActuator);
-        EXPECT_TRUE(ofWheel.isNear(c.isWheel ? c.transform : at(untouched, 0, 0), 1e-6F));
-        EXPECT_TRUE(ofActuator.isNear(c.isActuator ? c.transform : at(untouched, 0, 0), 1e-6F));
-    }
+    auto const expectWheel = [&](char const* name, Transform const& expected) {
+        auto const found = answerOf(model, &Sim::MotionModel::transformFromWheel, name);
+        EXPECT_TRUE(found && found->isNear(expected, 1e-6F)) << name;
+    };
+    auto const expectActuator = [&](char const* name, Transform const& expected) {
+        auto const found = answerOf(model, &Sim::MotionModel::transformFromActuator, name);
+        EXPECT_TRUE(found && found->isNear(expected, 1e-6F)) << name;
+    };
+    expectWheel("Wheel", underTurned);
+    expectWheel("DoubledWheel", Transform::fromRows({0, 0, -0.5F, 0.5F, 0, 0.5F, 0, 1, 0.5F, 0, 0, 1.5F}));
+    expectWheel("Both", underTurned);
+    expectActuator("Both", underTurned);  // though it hangs elsewhere itself
+    expectActuator("Hand", Transform::fromRows({0, 0, -1, 1, 0, 1, 0, 2, 1, 0, 0, 3}));  // without its own parent
+    EXPECT_EQ(answerOf(model, &Sim::MotionModel::transformFromWheel, "Hand"), std::nullopt);
+    EXPECT_EQ(answerOf(model, &Sim::MotionModel::transformFromActuator, "Wheel"), std::nullopt);
 }
 
 TEST(LinkFrame, IsFixedForSubJointsAndWheels)

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "model_of.hpp"
 
 namespace {
@@ -75,11 +73,10 @@ TEST(Mirrors, TellWhetherAReflectionIsForced)
         bool forced;
     } const cases[] = {
         {"Plain", true, false}, {"Forced", true, true}, {"NoJoint", true, true}, {"Nobody", false, false}};
-    for (auto const& c : cases) {
-        SCOPED_TRACE(c.name);
-        bool forced = !c.forced;
-        EXPECT_EQ(model.reflectionForcedFromJointName(c.name, forced), c.answer);
-        EXPECT_EQ(forced, c.forced);
+    for (auto const& [name, answer, expected] : cases) {
+        bool forced = !expected;
+        EXPECT_EQ(model.reflectionForcedFromJointName(name, forced), answer) << name;
+        EXPECT_EQ(forced, expected) << name;
     }
 }
 

@@ -1,10 +1,10 @@
-#include <gmock/gmock.h>
-
 #include "model_of.hpp"
 
 namespace {
 
-using testing::ElementsAre;
+using Motion = Sim::MotionModel;
+using Varo::Math::Position3D;
+using Varo::Math::Transform;
 
 template <typename Body>
 void giveBody(Body& body, float mass)
@@ -31,25 +31,18 @@ void fill(FakeRobot& robot)
 
 TEST(Body, IsThatOfTheFirstTableThatKnowsTheName)
 {
-    constexpr float untouched = 7.0F;
-    struct {
-        char const* name;
-        float mass;
-    } const cases[] = {{"Joint", 1.0F},        {"Torso", 2.0F},     {"Wheel", 3.0F},      {"Shared", 5.0F},
-                       {"Phalanx", untouched}, {"Hand", untouched}, {"Nobody", untouched}};
     auto const model = modelOf(fill);
-    for (auto const& [name, expected] : cases) {
+    for (auto const& [name, mass] :
+         {std::pair("Joint", 1.0F), {"Torso", 2.0F}, {"Wheel", 3.0F}, {"Shared", 5.0F}, {"Bare", 0.0F}}) {
         SCOPED_TRACE(name);
-        float mass = untouched;
-        Varo::Math::Position3D com{untouched, 0.0F, 0.0F};
-        std::vector<float> inertia(2, untouched);
-        bool const known = expected != untouched;
-        EXPECT_EQ(model.mass(name, mass), known);
-        EXPECT_EQ(mass, expected);
-        EXPECT_EQ(model.CoM(name, com), known);
-        EXPECT_EQ(com.x, expected);
-        EXPECT_EQ(model.inertiaMatrix(name, inertia), known);
-        EXPECT_THAT(inertia, ElementsAre(expected, expected));
+        EXPECT_EQ(answerOf(model, &Motion::mass, name), mass);
+        EXPECT_EQ(answerOf(model, &Motion::CoM, name), (Position3D{mass, 0.0F, 0.0F}));
+        EXPECT_EQ(answerOf(model, &Motion::inertiaMatrix, name), std::vector<float>(mass > 0 ? 2 : 9, mass));
+    }
+    for (char const* name : {"Phalanx", "Hand", "Nobody"}) {
+        EXPECT_EQ(answerOf(model, &Motion::mass, name), std::nullopt);
+        EXPECT_EQ(answerOf(model, &Motion::CoM, name), std::nullopt);
+        EXPECT_EQ(answerOf(model, &Motion::inertiaMatrix, name), std::nullopt);
     }
 }
 
@@ -59,45 +52,39 @@ TEST(Body, OfAJointHidesTheRootsOfTheSameName)
         fill(robot);
         giveBody(robot.addJoint("Torso"), 8.0F);
     });
-    float mass = 0.0F;
-    EXPECT_TRUE(model.mass("Torso", mass));
-    EXPECT_EQ(mass, 8.0F);
+    EXPECT_EQ(answerOf(model, &Motion::mass, "Torso"), 8.0F);
 }
 
 TEST(Mesh, HasNoPoseOfItsOwn)
 {
-    struct {
-        char const* name;
-        char const* mesh;
-    } const cases[] = {{"Joint", "1.dae"}, {"Torso", "2.dae"},  {"Wheel", "3.dae"}, {"Phalanx", "4.dae"},
-                       {"Bare", ""},       {"Shared", "5.dae"}, {"Hand", nullptr},  {"Nobody", nullptr}};
     auto const model = modelOf(fill);
-    for (auto const& [name, expected] : cases) {
-        SCOPED_TRACE(name);
-        auto const before = Varo::Math::Transform::fromPosition(1.0F, 2.0F, 3.0F);
-        auto transform = before;
-        std::string mesh = "untouched";
-        bool const known = expected != nullptr;
-        EXPECT_EQ(model.meshNameFromJointName(name, mesh), known);
-        EXPECT_EQ(mesh, known ? expected : "untouched");
-        EXPECT_EQ(model.meshTransformFromJointName(name, transform), known);
-        EXPECT_EQ(transform, known ? Varo::Math::Transform() : before);
+    for (auto const& [name, mesh] : {std::pair("Joint", "1.dae"),
+                                     {"Torso", "2.dae"},
+                                     {"Wheel", "3.dae"},
+                                     {"Phalanx", "4.dae"},
+                                     {"Bare", ""},
+                                     {"Shared", "5.dae"}}) {
+        EXPECT_EQ(answerOf(model, &Motion::meshNameFromJointName, name), mesh);
+        EXPECT_EQ(answerOf(model, &Motion::meshTransformFromJointName, name), Transform());
+    }
+    for (char const* name : {"Hand", "Nobody"}) {
+        EXPECT_EQ(answerOf(model, &Motion::meshNameFromJointName, name), std::nullopt);
+        EXPECT_EQ(answerOf(model, &Motion::meshTransformFromJointName, name), std::nullopt);
     }
 }
 
 TEST(FrictionMaterial, IsGumUnlessStated)
 {
-    struct {
-        char const* name;
-        bool stated;
-    } const cases[] = {{"Joint", true}, {"Torso", true},    {"Wheel", true},
-                       {"Bare", false}, {"Phalanx", false}, {"Nobody", false}};
     auto const model = modelOf(fill);
-    for (auto const& [name, stated] : cases) {
-        SCOPED_TRACE(name);
+    for (auto const& [name, stated] : {std::pair("Joint", true),
+                                       {"Torso", true},
+                                       {"Wheel", true},
+                                       {"Bare", false},
+                                       {"Phalanx", false},
+                                       {"Nobody", false}}) {
         std::string material = "untouched";
-        EXPECT_EQ(model.frictionMaterial(name, material), stated);
-        EXPECT_EQ(material, stated ? "steel" : "gum");
+        EXPECT_EQ(model.frictionMaterial(name, material), stated) << name;
+        EXPECT_EQ(material, stated ? "steel" : "gum") << name;
     }
 }
 
@@ -114,22 +101,14 @@ TEST(Limits, OfAnActuatorReplaceThoseOfAJointOfTheSameName)
         give(robot.addActuator("Both", "Joint"), 3.0F);
         give(robot.addActuator("Hand", "Joint"), 4.0F);
     });
-    struct {
-        char const* name;
-        float max;
-    } const cases[] = {{"Joint", 1.0F}, {"Both", 3.0F}, {"Hand", 4.0F}, {"Nobody", 0.0F}};
-    for (auto const& [name, max] : cases) {
+    for (auto const& [name, max] : {std::pair("Joint", 1.0F), {"Both", 3.0F}, {"Hand", 4.0F}}) {
         SCOPED_TRACE(name);
-        float min = 0.0F;
-        float maxRead = 0.0F;
-        float speed = 0.0F;
-        bool const known = max != 0.0F;
-        EXPECT_EQ(model.minAngle(name, min), known);
-        EXPECT_EQ(model.maxAngle(name, maxRead), known);
-        EXPECT_EQ(model.maxAngleSpeed(name, speed), known);
-        EXPECT_EQ(min, -max);
-        EXPECT_EQ(maxRead, max);
-        EXPECT_EQ(speed, 10.0F * max);
+        EXPECT_EQ(answerOf(model, &Motion::minAngle, name), -max);
+        EXPECT_EQ(answerOf(model, &Motion::maxAngle, name), max);
+        EXPECT_EQ(answerOf(model, &Motion::maxAngleSpeed, name), 10.0F * max);
+    }
+    for (auto const query : {&Motion::minAngle, &Motion::maxAngle, &Motion::maxAngleSpeed}) {
+        EXPECT_EQ(answerOf(model, query, "Nobody"), std::nullopt);
     }
 }
 
@@ -142,23 +121,16 @@ TEST(SingleFields, AreReadFromOneTableOnly)
         robot.addActuator("Hand", "Wrist", {{"Phalanx"}});
         robot.subActuators["Phalanx"].ratio = 0.5F;
     });
-    float value = 0.0F;
-    std::string parent;
-    EXPECT_TRUE(model.maxTorqueFromWheel("Wheel", value));
-    EXPECT_EQ(value, 1.0F);
-    EXPECT_TRUE(model.maxVelocityFromWheel("Wheel", value));
-    EXPECT_EQ(value, 2.0F);
-    EXPECT_TRUE(model.ratioFromJoint("Phalanx", value));
-    EXPECT_EQ(value, 0.5F);
-    EXPECT_TRUE(model.parentJointFromWheel("Wheel", parent));
-    EXPECT_EQ(parent, "Torso");
-    EXPECT_TRUE(model.parentJointFromActuator("Hand", parent));
-    EXPECT_EQ(parent, "Wrist");
-    EXPECT_FALSE(model.maxTorqueFromWheel("Hand", value) || model.maxVelocityFromWheel("Hand", value));
-    EXPECT_FALSE(model.ratioFromJoint("Hand", value) || model.parentJointFromWheel("Hand", parent));
-    EXPECT_FALSE(model.parentJointFromActuator("Wheel", parent));
-    EXPECT_EQ(value, 0.5F);
-    EXPECT_EQ(parent, "Wrist");
+    EXPECT_EQ(answerOf(model, &Motion::maxTorqueFromWheel, "Wheel"), 1.0F);
+    EXPECT_EQ(answerOf(model, &Motion::maxVelocityFromWheel, "Wheel"), 2.0F);
+    EXPECT_EQ(answerOf(model, &Motion::ratioFromJoint, "Phalanx"), 0.5F);
+    EXPECT_EQ(answerOf(model, &Motion::parentJointFromWheel, "Wheel"), "Torso");
+    EXPECT_EQ(answerOf(model, &Motion::parentJointFromActuator, "Hand"), "Wrist");
+    for (auto const query : {&Motion::maxTorqueFromWheel, &Motion::maxVelocityFromWheel, &Motion::ratioFromJoint}) {
+        EXPECT_EQ(answerOf(model, query, "Hand"), std::nullopt);
+    }
+    EXPECT_EQ(answerOf(model, &Motion::parentJointFromWheel, "Hand"), std::nullopt);
+    EXPECT_EQ(answerOf(model, &Motion::parentJointFromActuator, "Wheel"), std::nullopt);
 }
 
 }  // namespace

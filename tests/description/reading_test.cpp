@@ -1,9 +1,7 @@
 #include <stdexcept>
 
-#include <gmock/gmock.h>
-
 #include "descriptions.hpp"
-#include "sim/motion_model.hpp"
+#include "model_of.hpp"
 #include "varo/model/finding.hpp"
 
 namespace {
@@ -25,15 +23,10 @@ TEST(Reading, CarriesADescriptionIntoTheModel)
     EXPECT_EQ(model.name(), "Testbot");
     EXPECT_THAT(model.actuatorNames(), ElementsAre("Neck", "Head", "Jaw"));
     EXPECT_THAT(model.followingJoints("Head"), ElementsAre("Lip"));
-    float angle = 0.0F;
-    EXPECT_TRUE(model.startAngle("Jaw", angle));
-    EXPECT_EQ(angle, 0.25F);
-    EXPECT_TRUE(model.startAngle("Head", angle));
-    EXPECT_EQ(angle, 0.0F);
-    EXPECT_TRUE(model.mass("Base", angle));
-    EXPECT_EQ(angle, 2.0F);
-    EXPECT_TRUE(model.ratioFromJoint("Lip", angle));
-    EXPECT_EQ(angle, 0.5F);
+    EXPECT_EQ(answerOf(model, &Sim::MotionModel::startAngle, "Jaw"), 0.25F);
+    EXPECT_EQ(answerOf(model, &Sim::MotionModel::startAngle, "Head"), 0.0F);
+    EXPECT_EQ(answerOf(model, &Sim::MotionModel::mass, "Base"), 2.0F);
+    EXPECT_EQ(answerOf(model, &Sim::MotionModel::ratioFromJoint, "Lip"), 0.5F);
     std::vector<std::pair<int, int>> resolutions;
     EXPECT_TRUE(model.resolutionsFromCamera("Eye", resolutions));
     EXPECT_THAT(resolutions, ElementsAre(Pair(640, 480), Pair(320, 240)));

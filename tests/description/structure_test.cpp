@@ -1,8 +1,6 @@
 #include <random>
 #include <stdexcept>
 
-#include <gmock/gmock.h>
-
 #include "model_of.hpp"
 
 namespace {

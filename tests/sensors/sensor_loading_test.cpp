@@ -2,11 +2,11 @@
 
 #include "core/model_impl.hpp"
 #include "descriptions.hpp"
-#include "sim/angle_sensor.hpp"
+#include "sim/angle_speed_sensor.hpp"
 #include "sim/array_depth_sensor.hpp"
-#include "sim/fsr_sensor.hpp"
 #include "sim/inertial_sensor.hpp"
 #include "sim/model.hpp"
+#include "sim/torque_sensor.hpp"
 #include "throws.hpp"
 #include "zu/log.hpp"
 
@@ -15,6 +15,7 @@ namespace {
 using namespace Tests;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 
 std::string const arm = joint("Elbow") + chain("Arm", "Base", {"Elbow"});
 
@@ -38,13 +39,14 @@ public:
     std::vector<std::string> lines;
 };
 
-std::vector<int> typesOf(Sim::Model const& model)
+/// Type and size of a reading of every sensor.
+std::vector<std::pair<int, int>> kindsOf(Sim::Model const& model)
 {
-    std::vector<int> types;
+    std::vector<std::pair<int, int>> kinds;
     for (Sim::Sensor const* each : model.sensors()) {
-        types.push_back(each->type());
+        kinds.emplace_back(each->type(), each->bufferSize());
     }
-    return types;
+    return kinds;
 }
 
 }  // namespace
@@ -54,61 +56,48 @@ TEST(SensorLoading, MakesTheKindThatTheDescriptionNames)
     struct {
         char const* type;
         std::string inside;
-        std::vector<int> expected;
+        std::vector<std::pair<int, int>> typeAndSize;
     } const cases[] = {
-        {"tactile", "", {Sim::Sensor::Tactile}},
-        {"camera", attribute("resolutions", "64 48&#10;32 24"), {Sim::Sensor::Camera}},
-        {"depthCamera", attribute("resolutions", "32 24"), {Sim::Sensor::CameraDepth}},
-        {"bumper", "", {Sim::Sensor::Bumper}},
-        {"microphone", "", {Sim::Sensor::Microphone}},
-        {"arrayDepth", keys(8), {Sim::Sensor::ArrayDepth}},
-        {"sonar", keys(1), {Sim::Sensor::Sonar}},
-        {"sonar", keys(10), {Sim::Sensor::Sonar}},
+        {"tactile", "", {{Sim::Sensor::Tactile, 4}}},
+        {"camera", attribute("resolutions", "64 48&#10;32 24"), {{Sim::Sensor::Camera, 64 * 48 * 12}}},
+        {"depthCamera", attribute("resolutions", "32 24"), {{Sim::Sensor::CameraDepth, 32 * 24 * 4}}},
+        {"bumper", "", {{Sim::Sensor::Bumper, 4}}},
+        {"microphone", "", {{Sim::Sensor::Microphone, 4}}},
+        {"arrayDepth", keys(8), {{Sim::Sensor::ArrayDepth, 32}}},
+        {"sonar", keys(1), {{Sim::Sensor::Sonar, 4}}},
+        {"sonar", keys(10), {{Sim::Sensor::Sonar, 40}}},
         {"sonar", keys(2), {}},
         {"sonar", "", {}},
-        {"fsr", "", {Sim::Sensor::FSR}},
-        {"inertial", "", {Sim::Sensor::Inertial}},
+        {"fsr", "", {{Sim::Sensor::FSR, 4}}},
+        {"inertial", "", {{Sim::Sensor::Inertial, 28}}},
         {"led", "", {}},
         {"battery", "", {}},
         {"temperature", "", {}},
         {"button", "", {}},
         {"unknown", "", {}},
     };
-    for (auto const& each : cases) {
-        std::string const text = robot(sensor("S", "Base", each.type, each.inside));
-        EXPECT_EQ(typesOf(Sim::Model(text)), each.expected) << each.type;
+    for (auto const& [type, inside, expected] : cases) {
+        std::string const text = robot(sensor("S", "Base", type, inside));
+        EXPECT_EQ(kindsOf(Sim::Model(text)), expected) << type;
         EXPECT_NE(Sim::ModelImpl(text).frame("S"), nullptr) << "a frame is made whatever becomes of the sensor";
     }
 }
 
-TEST(SensorLoading, HangsSensorsOnTheLinkOfTheirJointOrOnTheRoot)
+TEST(SensorLoading, HangsSensorsOnTheRootWhenTheirParentIsNoJoint)
 {
-    std::string const placement = "<placement xyz='1 2 3'/>";
-    Sim::Model const model(robot(arm + sensor("OnElbow", "Elbow", "fsr", placement) +
-                                 sensor("OnLink", "ElbowLink", "fsr") + sensor("OnRoot", "Base", "inertial")));
-    EXPECT_EQ(model.sensor("OnElbow")->frame()->parentFrame()->name(), "ElbowLink");
-    EXPECT_EQ(model.sensor("OnElbow")->frame()->localPosition(), Varo::Math::Transform::fromPosition(1, 2, 3));
-    EXPECT_EQ(model.sensor("OnLink")->frame()->parentFrame()->name(), "BaseLink");
-    EXPECT_EQ(model.sensor("OnRoot"), nullptr);
-    ASSERT_NE(model.inertialSensor("OnRoot/Gyrometer"), nullptr);
-    EXPECT_EQ(model.inertialSensor("OnRoot/Gyrometer")->frame()->name(), "OnRoot");
+    Sim::Model const model(robot(arm + sensor("S", "ElbowLink", "fsr") + sensor("I", "Elbow", "inertial")));
+    EXPECT_EQ(model.sensor("S")->frame()->parentFrame()->name(), "BaseLink");
+    EXPECT_EQ(model.sensor("I"), nullptr);
+    EXPECT_EQ(model.inertialSensor("I/Gyrometer")->frame()->parentFrame()->name(), "ElbowLink");
 }
 
-TEST(SensorLoading, GivesArrayDepthSensorsTheirGridAndKeys)
+TEST(SensorLoading, GivesArrayDepthSensorsWithoutResolutionsOneRow)
 {
-    std::string const modes = attribute("getOperationMode", "get") + attribute("setOperationMode", "set");
-    Sim::Model const model(
-        robot(sensor("Bare", "Base", "arrayDepth", keys(8)) +
-              sensor("Full", "Base", "arrayDepth", keys(6) + attribute("resolutions", "3 2") + modes) +
-              sensor("Blank", "Base", "arrayDepth", keys(4) + attribute("resolutions", ""))));
-    EXPECT_EQ(model.arrayDepthSensor("Bare")->width(), 8);
-    EXPECT_EQ(model.arrayDepthSensor("Bare")->height(), 1);
-    EXPECT_THAT(model.arrayDepthSensor("Bare")->dcmStateKeys(), IsEmpty());
-    EXPECT_EQ(model.arrayDepthSensor("Full")->width(), 3);
-    EXPECT_EQ(model.arrayDepthSensor("Full")->height(), 2);
-    EXPECT_THAT(model.arrayDepthSensor("Full")->dcmStateKeys(), ElementsAre("get"));
-    EXPECT_THAT(model.arrayDepthSensor("Full")->dcmCommandKeys(), ElementsAre("set"));
-    EXPECT_EQ(model.arrayDepthSensor("Blank")->width(), 4) << "no line is as good as no resolutions";
+    for (std::string const& resolutions : {std::string(), attribute("resolutions", "")}) {
+        Sim::Model const model(robot(sensor("Row", "Base", "arrayDepth", keys(8) + resolutions)));
+        EXPECT_EQ(model.arrayDepthSensor("Row")->width(), 8);
+        EXPECT_EQ(model.arrayDepthSensor("Row")->height(), 1);
+    }
 }
 
 TEST(SensorLoading, RefusesCamerasWithoutResolutions)
@@ -124,17 +113,16 @@ TEST(SensorLoading, RefusesCamerasWithoutResolutions)
 
 TEST(SensorLoading, DerivesSensorsFromActuatorsByTheModelsName)
 {
-    std::string const body = arm + actuator("Hand", "Elbow", "<group>" + subJoint("F") + "</group>") +
-                             wheel("W", "Elbow") + sensor("A", "Base", "fsr");
-    Sim::Model const plain(robot(body, "Helvo"));
-    EXPECT_THAT(namesOf(plain.sensors()), ElementsAre("Elbow", "Hand", "A"));
-    EXPECT_THAT(typesOf(plain), ElementsAre(Sim::Sensor::Angle, Sim::Sensor::Coupled, Sim::Sensor::FSR));
-    EXPECT_EQ(plain.angleSensor("Elbow")->frame(), plain.actuator("Elbow")->frame());
-    EXPECT_THAT(plain.angleSensor("Elbow")->dcmKeys(), ElementsAre("Elbow/Angle/Sensor"));
-
+    std::string const body = arm + actuator("Hand", "Elbow", "") + wheel("W", "Elbow") + sensor("A", "Base", "fsr");
+    using Type = Sim::Sensor::Type;
+    EXPECT_THAT(kindsOf(Sim::Model(robot(body, "Helvo"))),
+                ElementsAre(Pair(Type::Angle, 4), Pair(Type::Coupled, 4), Pair(Type::FSR, 4)));
     Sim::Model const special(robot(body, "MySpecialSimulationBot"));
-    EXPECT_THAT(typesOf(special), ElementsAre(Sim::Sensor::Angle, Sim::Sensor::Torque, Sim::Sensor::AngleSpeed,
-                                              Sim::Sensor::Coupled, Sim::Sensor::FSR));
+    EXPECT_THAT(kindsOf(special), ElementsAre(Pair(Type::Angle, 4), Pair(Type::Torque, 4), Pair(Type::AngleSpeed, 4),
+                                              Pair(Type::Coupled, 4), Pair(Type::FSR, 4)));
+    EXPECT_EQ(special.torqueSensor("Elbow")->frame(), special.actuator("Elbow")->frame());
+    EXPECT_THAT(special.torqueSensor("Elbow")->dcmKeys(), ElementsAre("Elbow/Torque/Sensor"));
+    EXPECT_THAT(special.angleSpeedSensor("Elbow")->dcmKeys(), ElementsAre("Elbow/AngularSpeed/Sensor"));
 }
 
 TEST(SensorLoading, LogsTheKindsThatHaveNoClass)

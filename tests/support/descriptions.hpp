@@ -83,7 +83,7 @@ template <class Elements>
 std::vector<std::string> namesOf(Elements const& elements)
 {
     std::vector<std::string> names;
-    for (auto const* element : elements) {
+    for (auto const& element : elements) {
         names.push_back(element == nullptr ? "-" : element->name());
     }
     return names;
