@@ -84,14 +84,19 @@ TEST(Skeleton, IsAsDeepAsTheRobot)
 {
     int const depth = 100000;
     std::string body;
+    std::string angles;
     std::vector<std::string> names;
     for (int i = 0; i < depth; ++i) {
-        names.push_back("J" + std::to_string(i));
+        // Neither ascending nor descending, so that no order of the names helps.
+        names.push_back("J" + std::to_string((i * 7919LL) % depth));
         body += joint(names.back(), "<placement xyz='0 0 0.001'/>");
+        angles += "<angle of='" + names.back() + "' value='0.5'/>";
     }
-    Sim::Model const model(robot(body + chain("C", "Base", names)));
+    Sim::Model const model(
+        robot(body + chain("C", "Base", names) + "<posture name='StandInit'>" + angles + "</posture>"));
     EXPECT_EQ(model.links().size(), 100001U);
     EXPECT_NEAR(Sim::Frame::globalPosition(model.links().back()->frame()).position().z, 100.0F, 0.1F);
+    EXPECT_EQ(model.angleActuators().back()->startValue(), 0.5F);
 }
 
 TEST(Wheels, AreRefusedWithoutTheirJointOrMaterial)

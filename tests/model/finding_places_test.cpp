@@ -1,11 +1,10 @@
-#include <fstream>
-#include <iterator>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 
+#include "files.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Varo::Model {
@@ -13,9 +12,7 @@ namespace {
 
 std::string readData(std::string const& name)
 {
-    std::ifstream in(VARO_SOURCE_DIR "/tests/model/data/" + name + ".xml");
-    EXPECT_TRUE(in) << name;
-    return {std::istreambuf_iterator<char>(in), {}};
+    return Tests::contentOf(VARO_SOURCE_DIR "/tests/model/data/" + name + ".xml");
 }
 
 struct Fault {

@@ -1,11 +1,10 @@
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <set>
 #include <string>
 
 #include <gmock/gmock.h>
 
+#include "files.hpp"
 #include "format_writer.hpp"
 #include "spliced.hpp"
 #include "value_types.hpp"
@@ -15,13 +14,6 @@ namespace Varo::Model {
 namespace {
 
 std::string const tree = VARO_SOURCE_DIR;
-
-std::string readFile(std::string const& path)
-{
-    std::ifstream in(path);
-    EXPECT_TRUE(in) << path;
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 bool schemaAccepts(std::string const& file)
 {
@@ -35,13 +27,13 @@ bool schemaAccepts(std::string const& file)
 
 TEST(FormatDocuments, SchemaIsWhatTheTablesSay)
 {
-    EXPECT_EQ(readFile(tree + "/schema/robot-description.xsd"), Native::writeSchema())
+    EXPECT_EQ(Tests::contentOf(tree + "/schema/robot-description.xsd"), Native::writeSchema())
         << "Run write_format to bring it up to date.";
 }
 
 TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
 {
-    std::string const docs = readFile(tree + "/docs/description-format.md");
+    std::string const docs = Tests::contentOf(tree + "/docs/description-format.md");
     EXPECT_EQ(docs, Native::spliced(docs, "elements", Native::writeElementReference()));
     EXPECT_EQ(docs, Native::spliced(docs, "findings", Native::writeFindingReference()));
 }
@@ -62,35 +54,25 @@ TEST(FormatDocuments, DeclaredDefaultsAreThoseOfTheRecords)
 
 TEST(FormatDocuments, SchemaAndReaderAcceptTheExampleRobots)
 {
-    int robots = 0;
-    for (auto const& entry : std::filesystem::directory_iterator(tree + "/robots")) {
-        std::string const file = entry.path().string();
-        if (entry.path().extension() == ".xml") {
-            ++robots;
-            EXPECT_TRUE(schemaAccepts(file)) << file;
-            EXPECT_THAT(ModelUtils::diagnose(readFile(file)), testing::IsEmpty()) << file;
-        }
+    auto const robots = Tests::filesIn(tree + "/robots", ".xml");
+    EXPECT_GE(robots.size(), 3U);
+    for (std::string const& file : robots) {
+        EXPECT_TRUE(schemaAccepts(file)) << file;
+        EXPECT_THAT(ModelUtils::diagnose(Tests::contentOf(file)), testing::IsEmpty()) << file;
     }
-    EXPECT_GE(robots, 3);
-}
-
-/// What XSD 1.0 cannot say, as the documentation lists it.
-bool isBeyondSchema(std::string const& fault)
-{
-    return fault == "repeated_placement" || fault == "matrix_beside_xyz" || fault == "actuator_loop" ||
-           fault == "number_too_large";
 }
 
 TEST(FormatDocuments, SchemaRefusesWhatTheReaderRefuses)
 {
-    int refused = 0;
-    for (auto const& entry : std::filesystem::directory_iterator(tree + "/tests/model/data")) {
-        std::string const file = entry.path().string();
-        ++refused;
-        EXPECT_FALSE(ModelUtils::checkXml(readFile(file))) << file;
-        EXPECT_EQ(schemaAccepts(file), isBeyondSchema(entry.path().stem().string())) << file;
+    // What XSD 1.0 cannot say, as the documentation lists it.
+    std::set<std::string> const beyondSchema = {"actuator_loop", "matrix_beside_xyz", "number_too_large",
+                                                "repeated_placement"};
+    auto const files = Tests::filesIn(tree + "/tests/model/data", ".xml");
+    EXPECT_GE(files.size(), 15U);
+    for (std::string const& file : files) {
+        EXPECT_FALSE(ModelUtils::checkXml(Tests::contentOf(file))) << file;
+        EXPECT_EQ(schemaAccepts(file), beyondSchema.count(std::filesystem::path(file).stem().string()) == 1) << file;
     }
-    EXPECT_GE(refused, 15);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "varo/model/friction.hpp"
 
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -10,19 +11,17 @@ using Varo::Model::getCoefFriction;
 
 TEST(Friction, DoesNotAskForAnOrder)
 {
-    struct {
-        char const* first;
-        char const* second;
-        float coefficient;
-    } const table[] = {{"steel", "steel", 0.74F},    {"aluminium", "steel", 0.61F}, {"steel", "teflon", 0.04F},
-                       {"rubber", "concrete", 1.0F}, {"gum", "gum", 1.0F},          {"glass", "glass", 0.94F}};
-    for (auto const& row : table) {
+    for (auto const& [first, second, expected] : {std::tuple("steel", "steel", 0.74F),
+                                                  {"aluminium", "steel", 0.61F},
+                                                  {"steel", "teflon", 0.04F},
+                                                  {"rubber", "concrete", 1.0F},
+                                                  {"gum", "gum", 1.0F},
+                                                  {"glass", "glass", 0.94F}}) {
         float forth = -1.0F;
         float back = -1.0F;
-        EXPECT_TRUE(getCoefFriction(row.first, row.second, forth)) << row.first;
-        EXPECT_TRUE(getCoefFriction(row.second, row.first, back)) << row.first;
-        EXPECT_EQ(forth, row.coefficient) << row.first;
-        EXPECT_EQ(back, row.coefficient) << row.first;
+        EXPECT_TRUE(getCoefFriction(first, second, forth) && getCoefFriction(second, first, back)) << first;
+        EXPECT_EQ(forth, expected) << first;
+        EXPECT_EQ(back, expected) << first;
     }
 }
 

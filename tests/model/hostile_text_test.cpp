@@ -1,11 +1,10 @@
 #include <chrono>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 
 #include <gmock/gmock.h>
 
+#include "files.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Varo::Model {
@@ -42,8 +41,7 @@ std::string repeated(std::string const& part, std::size_t count)
 
 TEST(HostileText, ATextCutAnywhereIsRefusedOnce)
 {
-    std::ifstream in(VARO_SOURCE_DIR "/robots/minimal.xml");
-    std::string xml{std::istreambuf_iterator<char>(in), {}};
+    std::string xml = Tests::contentOf(VARO_SOURCE_DIR "/robots/minimal.xml");
     xml.resize(xml.find("</robotDescription>") + 18);
     for (std::size_t size = 0; size <= xml.size(); ++size) {
         Findings const findings = ModelUtils::diagnose(xml.substr(0, size));

@@ -1,7 +1,6 @@
 #include "native/values.hpp"
 
 #include <clocale>
-#include <cmath>
 #include <limits>
 #include <locale>
 #include <string>
@@ -15,24 +14,20 @@ constexpr float infinity = std::numeric_limits<float>::infinity();
 
 TEST(Values, NumbersAreFiniteDecimals)
 {
-    struct Case {
-        char const* text;
-        float value;
-    };
-    for (Case const& c : {Case{"1", 1.0F},
-                          {"+1", 1.0F},
-                          {"-2e-3", -0.002F},
-                          {".5", 0.5F},
-                          {"5.", 5.0F},
-                          {" 7\n", 7.0F},
-                          {"1E+2", 100.0F},
-                          {"3.4028235e38", 3.4028235e38F},
-                          {"1e-60", 0.0F},
-                          {"-1e-400", 0.0F},
-                          {"1e-44", 1e-44F}}) {
+    for (auto const& [text, expected] : {std::pair("1", 1.0F),
+                                         {"+1", 1.0F},
+                                         {"-2e-3", -0.002F},
+                                         {".5", 0.5F},
+                                         {"5.", 5.0F},
+                                         {" 7\n", 7.0F},
+                                         {"1E+2", 100.0F},
+                                         {"3.4028235e38", 3.4028235e38F},
+                                         {"1e-60", 0.0F},
+                                         {"-1e-400", 0.0F},
+                                         {"1e-44", 1e-44F}}) {
         float value = -1.0F;
-        EXPECT_TRUE(parseNumber(c.text, value)) << c.text;
-        EXPECT_EQ(value, c.value) << c.text;
+        EXPECT_TRUE(parseNumber(text, value)) << text;
+        EXPECT_EQ(value, expected) << text;
     }
     for (char const* text :
          {"",         " ",    "+",    "-",   ".",   "e5",  "nan", "NaN", "-nan", "inf", "+inf",  "-inf",
@@ -81,22 +76,17 @@ TEST(Values, IntegersAndBooleansAndNames)
     EXPECT_FALSE(Name::parse("", name));
 }
 
-/// Makes numbers with a comma for as long as it lives.
-class DecimalComma : public std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-};
-
 TEST(Values, NumbersReadTheSameUnderADecimalComma)
 {
-    std::locale const before = std::locale::global(std::locale(std::locale(), new DecimalComma));
-    std::string const cBefore = std::setlocale(LC_ALL, nullptr);
-    std::setlocale(LC_ALL, "de_DE.UTF-8");  // where it is installed
+    std::string const before = std::setlocale(LC_ALL, nullptr);
+    EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "CTest says where it is";
+    std::locale const globalBefore = std::locale::global(std::locale("de_DE.UTF-8"));
     float value = 0.0F;
     EXPECT_TRUE(parseNumber("1.5", value));
     EXPECT_EQ(value, 1.5F);
     EXPECT_FALSE(parseNumber("1,5", value));
-    std::locale::global(before);
-    std::setlocale(LC_ALL, cBefore.c_str());
+    std::locale::global(globalBefore);
+    std::setlocale(LC_ALL, before.c_str());
 }
 
 }  // namespace

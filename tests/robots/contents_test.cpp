@@ -13,7 +13,6 @@
 #include "sim/led_actuator.hpp"
 #include "sim/model.hpp"
 #include "sim/sonar_sensor.hpp"
-#include "varo/model/model_utils.hpp"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -22,13 +21,6 @@ using testing::SizeIs;
 namespace {
 
 class ExampleRobot : public testing::TestWithParam<char const*> {};
-
-TEST_P(ExampleRobot, GivesNoFinding)
-{
-    for (Varo::Model::Finding const& finding : Varo::Model::ModelUtils::diagnose(Tests::exampleText(GetParam()))) {
-        ADD_FAILURE_AT(Tests::examplePath(GetParam()).c_str(), finding.line) << finding.code << ": " << finding.message;
-    }
-}
 
 TEST_P(ExampleRobot, LoadsSilently)
 {

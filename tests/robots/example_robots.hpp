@@ -1,8 +1,6 @@
 #ifndef VARO_TESTS_EXAMPLE_ROBOTS_HPP
 #define VARO_TESTS_EXAMPLE_ROBOTS_HPP
 
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "sim/frame.hpp"
@@ -16,14 +14,6 @@ inline constexpr char const* exampleRobots[] = {"minimal", "rover", "humanoid", 
 inline std::string examplePath(std::string const& robot)
 {
     return std::string(VARO_SOURCE_DIR) + "/robots/" + robot + ".xml";
-}
-
-inline std::string exampleText(std::string const& robot)
-{
-    std::ifstream const file(examplePath(robot));
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
 }
 
 /// The pose in the root's frame of a frame, or of anything that has one.

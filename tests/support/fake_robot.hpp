@@ -8,7 +8,8 @@
 
 #include "varo/model/robot.hpp"
 
-/// A robot whose tables a test fills as it likes, also with what no reader would let through.
+/// A robot whose tables a test fills as it likes, also with what no reader would let through. It lists no names but
+/// those of chains, which are the only ones whose order means something.
 class FakeRobot : public Varo::Model::Robot {
 public:
     std::string descriptionName = "Description";  ///< what name() says
@@ -75,33 +76,27 @@ public:
         return found == prettyNameTable.end() ? descriptionName : found->second;
     }
     std::string const& version() const override { return versionText; }
-    void listActuators(std::vector<std::string>& names, Varo::Model::ActuatorTable& table,
+    void listActuators(std::vector<std::string>&, Varo::Model::ActuatorTable& table,
                        Varo::Model::SubActuatorTable& subTable) const override
     {
-        list(actuators, names, table);
+        table = actuators;
         subTable = subActuators;
     }
     void listChains(std::vector<std::string>& names, Varo::Model::ChainTable& table) const override
     {
-        list(chains, names, table);
         names = chainNames;
+        table = chains;
     }
     void listJoints(std::string& name, Varo::Model::JointConfig& rootRecord, Varo::Model::JointTable& table,
-                    std::vector<std::string>& names, std::vector<std::string>& forced) const override
+                    std::vector<std::string>&, std::vector<std::string>& forced) const override
     {
         name = robotName;
         rootRecord = root;
-        list(joints, names, table);
+        table = joints;
         forced = reflectionForced;
     }
-    void listSensors(std::vector<std::string>& names, Varo::Model::SensorTable& table) const override
-    {
-        list(sensors, names, table);
-    }
-    void listWheels(std::vector<std::string>& names, Varo::Model::WheelTable& table) const override
-    {
-        list(wheels, names, table);
-    }
+    void listSensors(std::vector<std::string>&, Varo::Model::SensorTable& table) const override { table = sensors; }
+    void listWheels(std::vector<std::string>&, Varo::Model::WheelTable& table) const override { table = wheels; }
     std::vector<Varo::Model::PostureConfig> const& postures() const override { return postureList; }
     std::map<int, std::string> const& prettyNames() const override { return prettyNameTable; }
     std::string const& dialect() const override { return _dialect; }
@@ -113,17 +108,6 @@ private:
         auto& record = table[name];
         record.name = name;
         return record;
-    }
-
-    template <typename Record>
-    static void list(std::map<std::string, Record> const& from, std::vector<std::string>& names,
-                     std::map<std::string, Record>& table)
-    {
-        table = from;
-        names.clear();
-        for (auto const& entry : from) {
-            names.push_back(entry.first);
-        }
     }
 
     std::string const _dialect = "fake";

@@ -69,7 +69,7 @@ double checkFile(std::string const& file)
 
 void checkFolder(std::string const& folder)
 {
-    std::vector<std::string> const files = urdfFilesIn(folder);
+    std::vector<std::string> const files = Tests::filesIn(folder, ".urdf");
     EXPECT_FALSE(files.empty());
     double largest = 0.0;
     std::string worst;
@@ -91,7 +91,7 @@ TEST(UrdfGeometry, OwnFilesStandWhereTheTextSays)
 
 TEST(UrdfGeometry, RealRobotsStandWhereTheTextSays)
 {
-    if (urdfFilesIn(realRobotsFolder()).empty()) {
+    if (Tests::filesIn(realRobotsFolder(), ".urdf").empty()) {
         GTEST_SKIP() << "There are no robots in " << realRobotsFolder();
     }
     checkFolder(realRobotsFolder());

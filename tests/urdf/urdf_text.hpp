@@ -1,45 +1,24 @@
 #ifndef TESTS_URDF_URDF_TEXT_HPP
 #define TESTS_URDF_URDF_TEXT_HPP
 
-#include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "files.hpp"
+#include "tables.hpp"
 #include "varo/model/model_utils.hpp"
 
 /// What the tests make URDF texts and look into robots with.
 namespace UrdfTest {
 
 using namespace Varo::Model;
+using Tests::contentOf;
+using Tests::Tables;
 
 inline std::string dataFile(std::string const& name)
 {
     return VARO_SOURCE_DIR "/tests/urdf/data/" + name;
-}
-
-inline std::string contentOf(std::string const& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-inline std::vector<std::string> urdfFilesIn(std::string const& folder)
-{
-    std::vector<std::string> files;
-    if (std::filesystem::is_directory(folder)) {
-        for (auto const& entry : std::filesystem::directory_iterator(folder)) {
-            if (entry.path().extension() == ".urdf") {
-                files.push_back(entry.path().string());
-            }
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
 }
 
 inline std::string ownFolder()
@@ -78,30 +57,6 @@ inline std::string arm(std::string const& moreOfC = {})
     return link("root") + link("a") + link("b") + link("c") + joint("A", "root", "a") + joint("B", "a", "b") +
            joint("C", "b", "c", "<limit lower=\"-1\" upper=\"1\"/>" + moreOfC);
 }
-
-/// All tables of a robot.
-struct Tables {
-    explicit Tables(Robot const& robot)
-    {
-        std::vector<std::string> unused;
-        robot.listJoints(name, root, joints, jointNames, unused);
-        robot.listChains(chainNames, chains);
-        robot.listActuators(actuatorNames, actuators, subActuators);
-        robot.listSensors(sensorNames, sensors);
-    }
-
-    std::string name;
-    JointConfig root;
-    JointTable joints;
-    std::vector<std::string> jointNames;
-    std::vector<std::string> chainNames;
-    ChainTable chains;
-    std::vector<std::string> actuatorNames;
-    ActuatorTable actuators;
-    SubActuatorTable subActuators;
-    std::vector<std::string> sensorNames;
-    SensorTable sensors;
-};
 
 inline Tables tablesOf(std::string const& xml)
 {

@@ -1,0 +1,39 @@
+#ifndef VARO_TESTS_FILES_HPP
+#define VARO_TESTS_FILES_HPP
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace Tests {
+
+inline std::string contentOf(std::filesystem::path const& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// In order of name; none when there is no such folder.
+inline std::vector<std::string> filesIn(std::string const& folder, std::string const& extension)
+{
+    std::vector<std::string> files;
+    if (std::filesystem::is_directory(folder)) {
+        for (auto const& entry : std::filesystem::directory_iterator(folder)) {
+            if (entry.path().extension() == extension) {
+                files.push_back(entry.path().string());
+            }
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+}  // namespace Tests
+
+#endif
