@@ -1,6 +1,7 @@
 #include <stdexcept>
 
 #include "model_of.hpp"
+#include "varo/model/finding.hpp"
 
 namespace {
 
@@ -46,6 +47,7 @@ TEST(Identity, IsTheRobotsWithoutChains)
 TEST(Identity, RefusesARobotThatIsNone)
 {
     EXPECT_THROW(Sim::MotionModel(std::unique_ptr<Varo::Model::Robot>()), std::invalid_argument);
+    EXPECT_THROW(Sim::MotionModel("<robotDescription"), Varo::Model::DescriptionError);
 }
 
 TEST(Identity, PassesOnWhatAListingThrows)

@@ -96,28 +96,8 @@ TEST(Transform, RotationsTurnByTheRightHandRule)
 
 TEST(Transform, RollPitchAndYawTurnAboutFixedAxesInThisOrder)
 {
-    // The entries of Rz(yaw) * Ry(pitch) * Rx(roll), written out and computed in double precision.
-    double const roll = 0.3;
-    double const pitch = -0.7;
-    double const yaw = 1.9;
-    double const cr = std::cos(roll), sr = std::sin(roll);
-    double const cp = std::cos(pitch), sp = std::sin(pitch);
-    double const cy = std::cos(yaw), sy = std::sin(yaw);
-    std::array<double, 12> const expected = {
-        cy * cp,
-        cy * sp * sr - sy * cr,
-        cy * sp * cr + sy * sr,
-        0.0,  //
-        sy * cp,
-        sy * sp * sr + cy * cr,
-        sy * sp * cr - cy * sr,
-        0.0,  //
-        -sp,
-        cp * sr,
-        cp * cr,
-        0.0,
-    };
-    EXPECT_THAT(Transform::fromRpy(0.3F, -0.7F, 1.9F).rows(), Pointwise(testing::DoubleNear(1e-6), expected));
+    expectNear(Transform::fromRpy(0.3F, -0.7F, 1.9F),
+               Transform::fromRotZ(1.9F) * Transform::fromRotY(-0.7F) * Transform::fromRotX(0.3F));
 }
 
 TEST(Transform, ShowsItsEntriesRowByRow)

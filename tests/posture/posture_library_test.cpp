@@ -32,6 +32,8 @@ protected:
         robot.addChain("Arm", "Torso", {"Neck"});
         robot.addChain("Leg", "Torso", {"Knee"});
         robot.addActuator("Hand", "Neck");
+        robot.addActuator("OnAnActuator", "Hand");
+        robot.addActuator("OnTheRoot", "Torso");
     }
 
     void load() { ASSERT_TRUE(library.loadLibraryFromName(getRobotPostureLibraryName(robot))); }

