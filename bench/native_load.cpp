@@ -1,33 +1,54 @@
-// How long a native description takes to load, beside the bare parse of the same text, for growing robots.
+// How long native descriptions take to load, beside the bare parse of the same text: growing serial robots, and the
+// files that are given.
 #include <cmath>
 #include <cstdio>
 
-#include <pugixml.hpp>
-
-#include "medians.hpp"
+#include "bare_parse.hpp"
 #include "serial_robot.hpp"
 #include "sim/model.hpp"
+#include "text_file.hpp"
+#include "timing.hpp"
 
-int main()
+namespace {
+
+/// Prints the beginning of a row and answers the time to load.
+double printTimes(char const* title, std::string const& text)
 {
-    std::printf("| joints | text (KiB) | bare parse (us) | Sim::Model (us) | ratio | growth exponent |\n");
-    std::printf("| --- | --- | --- | --- | --- | --- |\n");
+    auto const times = Bench::smallestMedians({
+        [&] { Bench::parseBare(text); },
+        [&] { Sim::Model const model(text); },
+    });
+    std::printf("| %s | %zu | %.1f | %.1f | %.2f |", title, text.size() / 1024, times[0], times[1],
+                times[1] / times[0]);
+    return times[1];
+}
+
+void printSerialRobots()
+{
     double lastTime = 0.0;
     int lastJoints = 0;
     for (int const joints : {30, 100, 1000, 10000, 100000}) {
-        std::string const text = Bench::serialRobot(joints);
-        double const parse = Bench::medianMicroseconds([&] {
-            pugi::xml_document document;
-            document.load_buffer(text.data(), text.size());
-        });
-        double const load = Bench::medianMicroseconds([&] { Sim::Model const model(text); });
-        std::printf("| %d | %zu | %.1f | %.1f | %.2f | ", joints, text.size() / 1024, parse, load, load / parse);
+        double const time = printTimes((std::to_string(joints) + " joints").c_str(), Bench::serialRobot(joints));
         if (lastJoints == 0) {
-            std::printf("|\n");
+            std::printf(" |\n");
         } else {
-            std::printf("%.2f |\n", std::log(load / lastTime) / std::log(static_cast<double>(joints) / lastJoints));
+            std::printf(" %.2f |\n", std::log(time / lastTime) / std::log(static_cast<double>(joints) / lastJoints));
         }
-        lastTime = load;
+        lastTime = time;
         lastJoints = joints;
+        std::fflush(stdout);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    std::printf("| robot | text (KiB) | bare parse (us) | Sim::Model (us) | ratio | growth exponent |\n");
+    std::printf("| --- | ---: | ---: | ---: | ---: | ---: |\n");
+    printSerialRobots();
+    for (int i = 1; i < argc; ++i) {
+        printTimes(Bench::nameOf(argv[i]).c_str(), Bench::readText(argv[i]));
+        std::printf(" |\n");
     }
 }
