@@ -1,31 +1,22 @@
-#include "zu/log.hpp"
-
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
+
+#include "captured_log.hpp"
 
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Collects what is logged while it lives. The tests use categories of their own, since categories stay.
+/// The tests use categories of their own, since categories stay.
 class LogTest : public testing::Test {
 protected:
-    std::vector<std::string> lines;
-
-    LogTest()
-    {
-        zu::log::setSink([this](zu::log::Record const& record) {
-            lines.push_back(std::string(record.category) + '|' + std::to_string(record.level) + '|' +
-                            std::string(record.origin) + '|' + std::string(record.message));
-        });
-    }
-    ~LogTest() override { zu::log::setSink({}); }
+    Tests::CapturedLog log;
+    std::vector<std::string> const& lines = log.lines;
 };
 
 TEST_F(LogTest, CategoriesStandAtErrorUntilSetOtherwise)

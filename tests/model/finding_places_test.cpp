@@ -12,7 +12,7 @@ namespace {
 
 std::string readData(std::string const& name)
 {
-    return Tests::contentOf(VARO_SOURCE_DIR "/tests/model/data/" + name + ".xml");
+    return Tests::readFile(VARO_SOURCE_DIR "/tests/model/data/" + name + ".xml");
 }
 
 struct Fault {

@@ -27,13 +27,13 @@ bool schemaAccepts(std::string const& file)
 
 TEST(FormatDocuments, SchemaIsWhatTheTablesSay)
 {
-    EXPECT_EQ(Tests::contentOf(tree + "/schema/robot-description.xsd"), Native::writeSchema())
+    EXPECT_EQ(Tests::readFile(tree + "/schema/robot-description.xsd"), Native::writeSchema())
         << "Run write_format to bring it up to date.";
 }
 
 TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
 {
-    std::string const docs = Tests::contentOf(tree + "/docs/description-format.md");
+    std::string const docs = Tests::readFile(tree + "/docs/description-format.md");
     EXPECT_EQ(docs, Native::spliced(docs, "elements", Native::writeElementReference()));
     EXPECT_EQ(docs, Native::spliced(docs, "findings", Native::writeFindingReference()));
 }
@@ -58,7 +58,7 @@ TEST(FormatDocuments, SchemaAndReaderAcceptTheExampleRobots)
     EXPECT_GE(robots.size(), 3U);
     for (std::string const& file : robots) {
         EXPECT_TRUE(schemaAccepts(file)) << file;
-        EXPECT_THAT(ModelUtils::diagnose(Tests::contentOf(file)), testing::IsEmpty()) << file;
+        EXPECT_THAT(ModelUtils::diagnose(Tests::readFile(file)), testing::IsEmpty()) << file;
     }
 }
 
@@ -70,7 +70,7 @@ TEST(FormatDocuments, SchemaRefusesWhatTheReaderRefuses)
     auto const files = Tests::filesIn(tree + "/tests/model/data", ".xml");
     EXPECT_GE(files.size(), 15U);
     for (std::string const& file : files) {
-        EXPECT_FALSE(ModelUtils::checkXml(Tests::contentOf(file))) << file;
+        EXPECT_FALSE(ModelUtils::checkXml(Tests::readFile(file))) << file;
         EXPECT_EQ(schemaAccepts(file), beyondSchema.count(std::filesystem::path(file).stem().string()) == 1) << file;
     }
 }

@@ -41,7 +41,7 @@ std::string repeated(std::string const& part, std::size_t count)
 
 TEST(HostileText, ATextCutAnywhereIsRefusedOnce)
 {
-    std::string xml = Tests::contentOf(VARO_SOURCE_DIR "/robots/minimal.xml");
+    std::string xml = Tests::readFile(VARO_SOURCE_DIR "/robots/minimal.xml");
     xml.resize(xml.find("</robotDescription>") + 18);
     for (std::size_t size = 0; size <= xml.size(); ++size) {
         Findings const findings = ModelUtils::diagnose(xml.substr(0, size));

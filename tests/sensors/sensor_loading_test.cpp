@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "captured_log.hpp"
 #include "core/model_impl.hpp"
 #include "descriptions.hpp"
 #include "sim/angle_speed_sensor.hpp"
@@ -8,7 +9,6 @@
 #include "sim/model.hpp"
 #include "sim/torque_sensor.hpp"
 #include "throws.hpp"
-#include "zu/log.hpp"
 
 namespace {
 
@@ -18,26 +18,6 @@ using testing::IsEmpty;
 using testing::Pair;
 
 std::string const arm = joint("Elbow") + chain("Arm", "Base", {"Elbow"});
-
-/// Collects what is logged for as long as a test runs.
-class CapturedLog {
-public:
-    explicit CapturedLog(int level)
-    {
-        zu::log::setLevel("varorobotmodel", level);
-        zu::log::setSink([this](zu::log::Record const& record) {
-            lines.push_back(std::to_string(record.level) + " " + std::string(record.origin) + ": " +
-                            std::string(record.message));
-        });
-    }
-    ~CapturedLog()
-    {
-        zu::log::setSink({});
-        zu::log::setLevel("varorobotmodel", zu::log::error);
-    }
-
-    std::vector<std::string> lines;
-};
 
 /// Type and size of a reading of every sensor.
 std::vector<std::pair<int, int>> kindsOf(Sim::Model const& model)
@@ -128,12 +108,12 @@ TEST(SensorLoading, DerivesSensorsFromActuatorsByTheModelsName)
 TEST(SensorLoading, LogsTheKindsThatHaveNoClass)
 {
     std::string const text = robot(sensor("B", "Base", "battery") + sensor("L", "Base", "led"));
-    {
-        CapturedLog const quiet(zu::log::info);
-        Sim::Model const model(text);
-        EXPECT_THAT(quiet.lines, IsEmpty());
-    }
-    CapturedLog const log(zu::log::verbose);
+    CapturedLog const log;
+    zu::log::setLevel("varorobotmodel", zu::log::info);
+    Sim::Model const unheard(text);
+    EXPECT_THAT(log.lines, IsEmpty());
+    zu::log::setLevel("varorobotmodel", zu::log::verbose);
     Sim::Model const model(text);
-    EXPECT_THAT(log.lines, ElementsAre("5 fetchSensors: Could not find good type for sensor: B"));
+    EXPECT_THAT(log.lines, ElementsAre("varorobotmodel|5|fetchSensors|Could not find good type for sensor: B"));
+    zu::log::setLevel("varorobotmodel", zu::log::error);
 }

@@ -12,7 +12,7 @@
 
 namespace Tests {
 
-inline std::string contentOf(std::filesystem::path const& path)
+inline std::string readFile(std::filesystem::path const& path)
 {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;

@@ -1,5 +1,3 @@
-#include <iostream>
-
 #include "run_tool.hpp"
 
 namespace ToolTest {
@@ -20,12 +18,10 @@ protected:
         EXPECT_TRUE(original.out == run({"dump", "once.xml"}).out) << "the dumps differ";
     }
 
-    void expectRoundTrips(std::string const& directory) const
+    void expectRoundTrips(std::string const& directory, std::string const& extension) const
     {
-        for (auto const& entry : std::filesystem::directory_iterator(directory)) {
-            if (entry.path().extension() == ".xml" || entry.path().extension() == ".urdf") {
-                expectRoundTrip(entry.path().string());
-            }
+        for (std::string const& file : Tests::filesIn(directory, extension)) {
+            expectRoundTrip(file);
         }
     }
 };
@@ -81,18 +77,13 @@ TEST_F(Convert, WritesTheCanonicalForm)
 
 TEST_F(Convert, ExampleRobotsComeBackTheSame)
 {
-    expectRoundTrips(VARO_SOURCE_DIR "/robots");
+    expectRoundTrips(VARO_SOURCE_DIR "/robots", ".xml");
 }
 
 TEST_F(Convert, UrdfRobotsComeBackTheSame)
 {
-    expectRoundTrips(VARO_SOURCE_DIR "/tests/urdf/data");
-    std::string const shared = VARO_SOURCE_DIR "/../shared/robots";
-    if (std::filesystem::exists(shared)) {
-        expectRoundTrips(shared);
-    } else {
-        std::cout << "Only our own URDF files were converted: there is no " << shared << ".\n";
-    }
+    expectRoundTrips(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf");
+    expectRoundTrips(VARO_SOURCE_DIR "/../shared/robots", ".urdf");  // real robots, where there are any
 }
 
 TEST_F(Convert, RefusesWhatIsBad)

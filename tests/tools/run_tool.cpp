@@ -31,13 +31,6 @@ std::string shellQuoted(std::string const& text)
 
 }  // namespace
 
-std::string readFile(std::filesystem::path const& path)
-{
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
-
 ToolFixture::ToolFixture() : _folder(newFolder()) {}
 
 ToolFixture::~ToolFixture()

@@ -7,15 +7,17 @@
 
 #include <gtest/gtest.h>
 
+#include "files.hpp"
+
 namespace ToolTest {
+
+using Tests::readFile;
 
 struct Outcome {
     int status;  ///< the exit status, or -1 when a signal ended it
     std::string out;
     std::string err;
 };
-
-std::string readFile(std::filesystem::path const& path);
 
 /// Runs varo-robot in a folder of its own, which goes with the test.
 class ToolFixture : public testing::Test {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 #include <sstream>
 
 #include <nlohmann/json.hpp>
@@ -13,6 +14,8 @@ using Json = nlohmann::json;
 
 std::string const robots = VARO_SOURCE_DIR "/robots/";
 std::string const humanoid = robots + "humanoid.xml";
+std::string const urdf = R"(<robot name="r"><link name="base"/><link name="tip"/>
+  <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)";
 
 std::size_t countOf(std::string const& text, std::string const& part)
 {
@@ -74,11 +77,7 @@ TEST_F(Tree, DrawsBranchesAsTheLocaleCan)
 
 TEST_F(Tree, NamesUrdfLinksAndMarksWheels)
 {
-    EXPECT_EQ(run({"tree", "-"}, R"(<robot name="r"><link name="base"/><link name="tip"/>
-        <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)",
-                  "LC_ALL=C")
-                  .out,
-              "[baseLink] urdf:base\n`- j -> [jLink] urdf:tip\n");
+    EXPECT_EQ(run({"tree", "-"}, urdf, "LC_ALL=C").out, "[baseLink] urdf:base\n`- j -> [jLink] urdf:tip\n");
     EXPECT_EQ(countOf(run({"tree", robots + "rover.xml"}).out, "] wheel\n"), 4U);
 }
 
@@ -116,27 +115,25 @@ TEST_F(List, PrintsTheSameObjectsAsDump)
                      [&](Json const& element) { return element["type"] == type; });
         return found;
     };
-    Json groups = dump["jointGroups"];
-    groups.insert(groups.end(), dump["actuatorGroups"].begin(), dump["actuatorGroups"].end());
-    std::vector<std::pair<std::string, Json>> const cases = {
-        {"links", dump["links"]},
-        {"Joint", dump["joints"]},
-        {"symmetries", dump["jointSymmetries"]},
-        {"groups", groups},
-        {"jointGroup", dump["jointGroups"]},
-        {"actuator_groups", dump["actuatorGroups"]},
-        {"actuators", dump["actuators"]},
-        {"LEDs", ofType("actuators", "LED")},
-        {"coupledActuators", ofType("actuators", "Coupled")},
-        {"sensors", dump["sensors"]},
-        {"camera", ofType("sensors", "Camera")},
-        {"CameraDepthSensors", ofType("sensors", "CameraDepth")},
-        {"fsrs", ofType("sensors", "FSR")},
-        {"wheels", Json::array()},
-    };
-    for (auto const& [kind, expected] : cases) {
+    for (auto const& [kind, expected] : std::map<std::string, Json>{
+             {"links", dump["links"]},
+             {"Joint", dump["joints"]},
+             {"symmetries", dump["jointSymmetries"]},
+             {"jointGroup", dump["jointGroups"]},
+             {"actuator_groups", dump["actuatorGroups"]},
+             {"actuators", dump["actuators"]},
+             {"LEDs", ofType("actuators", "LED")},
+             {"coupledActuators", ofType("actuators", "Coupled")},
+             {"sensors", dump["sensors"]},
+             {"camera", ofType("sensors", "Camera")},
+             {"CameraDepthSensors", ofType("sensors", "CameraDepth")},
+             {"fsrs", ofType("sensors", "FSR")},
+             {"wheels", Json::array()},
+         }) {
         EXPECT_EQ(Json::parse(run({"list", "--json", kind, humanoid}).out), expected) << kind;
     }
+    EXPECT_EQ(Json::parse(run({"list", "--json", "groups", humanoid}).out).size(),
+              dump["jointGroups"].size() + dump["actuatorGroups"].size());
 }
 
 class Show : public ToolFixture {};
@@ -160,8 +157,6 @@ TEST_F(Show, PrintsAllThatBearsTheName)
 
 TEST_F(Show, FindsLinksByTheirUrdfName)
 {
-    std::string const urdf = R"(<robot name="r"><link name="base"/><link name="tip"/>
-        <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)";
     std::string const shown = run({"show", "tip", "-"}, urdf).out;
     EXPECT_EQ(shown.substr(0, shown.find('\n')), "link jLink");
     EXPECT_NE(shown.find("  urdfName                    tip\n"), std::string::npos);

@@ -59,7 +59,7 @@ TEST(UrdfChains, KeepTheOrderOfSiblingsBehindTheContinuation)
 
 TEST(UrdfJoints, KeepTheirKindAndLimits)
 {
-    Tables const tables = tablesOf(contentOf(dataFile("awkward_axes.urdf")));
+    Tables const tables = tablesOf(readFile(dataFile("awkward_axes.urdf")));
     JointConfig const& down = tables.joints.at("down");
     EXPECT_EQ(down.jointType, revolute);
     EXPECT_EQ(down.minAngle, -1.0F);
@@ -75,7 +75,7 @@ TEST(UrdfJoints, KeepTheirKindAndLimits)
         EXPECT_EQ(config.minAngle, 0.0F);
         EXPECT_EQ(config.maxAngle, 0.0F);
     }
-    EXPECT_THAT(complaintsAbout(contentOf(dataFile("awkward_axes.urdf"))), ElementsAre("joint-frozen", "joint-frozen"));
+    EXPECT_THAT(complaintsAbout(readFile(dataFile("awkward_axes.urdf"))), ElementsAre("joint-frozen", "joint-frozen"));
 }
 
 }  // namespace

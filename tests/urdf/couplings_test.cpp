@@ -42,7 +42,7 @@ TEST(UrdfCouplings, DriveTheLeaderAndAllThatFollowItInTheEnd)
 /// Building reaches the members in an order that is not the file's; none may be hung anywhere but on its own link.
 TEST(UrdfCouplings, LeaveEveryMemberOnItsOwnLink)
 {
-    std::string const coupled = contentOf(dataFile("gripper.urdf"));
+    std::string const coupled = readFile(dataFile("gripper.urdf"));
     std::string plain = coupled;
     for (std::size_t at = plain.find("<mimic"); at != plain.npos; at = plain.find("<mimic")) {
         plain.erase(at, plain.find("/>", at) + 2 - at);

@@ -17,7 +17,7 @@ using testing::ElementsAre;
 /// That the links of the file stand right is tested with the geometry of all files.
 TEST(UrdfNames, MayBeSharedByLinksAndJoints)
 {
-    std::string const text = contentOf(dataFile("names.urdf"));
+    std::string const text = readFile(dataFile("names.urdf"));
     Sim::Model const model(text);
     EXPECT_EQ(model.rootLink()->name(), "base_2Link");
     EXPECT_EQ(model.joints().size(), 4U);
@@ -37,7 +37,7 @@ TEST(UrdfNames, MayBeSharedByLinksAndJoints)
 
 TEST(UrdfNames, OfLinksAreKeptAsAttributes)
 {
-    Tables const tables = tablesOf(contentOf(dataFile("names.urdf")));
+    Tables const tables = tablesOf(readFile(dataFile("names.urdf")));
     EXPECT_EQ(tables.root.attributes.at("urdfLink"), "base");
     EXPECT_EQ(tables.joints.at("a").attributes.at("urdfLink"), "b");
     EXPECT_EQ(tables.joints.at("aLink").attributes.at("urdfLink"), "a");

@@ -35,7 +35,7 @@ std::vector<std::string> sampleTexts()
     std::vector<std::string> texts;
     for (std::string const& folder : {ownFolder(), realRobotsFolder()}) {
         for (std::string const& file : Tests::filesIn(folder, ".urdf")) {
-            texts.push_back(contentOf(file));
+            texts.push_back(readFile(file));
         }
     }
     return texts;

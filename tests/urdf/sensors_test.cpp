@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 TEST(UrdfSensors, BecomeTheNearestKind)
 {
-    Tables const tables = tablesOf(contentOf(dataFile("sensors.urdf")));
+    Tables const tables = tablesOf(readFile(dataFile("sensors.urdf")));
     struct Case {
         char const* name;
         std::int32_t type;
@@ -37,7 +37,7 @@ TEST(UrdfSensors, BecomeTheNearestKind)
     }
     EXPECT_EQ(tables.sensors.size(), 14U);
     EXPECT_THAT(tables.sensors.at("echo").keys, ElementsAre("echo/Distance/Sensor"));
-    EXPECT_THAT(complaintsAbout(contentOf(dataFile("sensors.urdf"))),
+    EXPECT_THAT(complaintsAbout(readFile(dataFile("sensors.urdf"))),
                 ElementsAre("sensor-size", "sensor-kind-lost", "renamed", "sensor-lost"));
 }
 

@@ -11,7 +11,7 @@ using testing::ElementsAre;
 
 TEST(UrdfTolerance, TakesOrNotesWhatRealFilesAreLooseAbout)
 {
-    std::string const text = contentOf(dataFile("loose.urdf"));
+    std::string const text = readFile(dataFile("loose.urdf"));
     EXPECT_THAT(complaintsAbout(text), ElementsAre("wrong-count", "wrong-count"));
     Tables const tables = tablesOf(text);
     JointConfig const& early = tables.joints.at("early");

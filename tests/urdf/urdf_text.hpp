@@ -13,7 +13,7 @@
 namespace UrdfTest {
 
 using namespace Varo::Model;
-using Tests::contentOf;
+using Tests::readFile;
 using Tests::Tables;
 
 inline std::string dataFile(std::string const& name)
