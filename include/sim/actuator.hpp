@@ -18,6 +18,7 @@ class Frame;
 /// actuator without implementation.
 class VAROROBOTMODEL_API Actuator {
 public:
+    /// The kinds of actuators.
     enum Type {
         Angle = 0,
         Coupled = 1,
@@ -36,15 +37,17 @@ public:
     virtual int bufferSize() const = 0;
     /// Where the actuator sits; null when its model is gone.
     Frame const* frame() const;
+    /// The kind, which the concrete class stands for.
     Type type() const;
 
 protected:
     /// Takes ownership.
     explicit Actuator(ActuatorImpl* impl);
+    /// A copy with data of its own.
     Actuator(Actuator const& other);
     ~Actuator();
 
-    ActuatorImpl* _impl;
+    ActuatorImpl* _impl;  ///< owned; null in an actuator without implementation
 
 private:
     friend class ModelImpl;

@@ -13,6 +13,7 @@ class VAROROBOTMODEL_API AngleActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit AngleActuator(AngleActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     AngleActuator(AngleActuator const& other);
     ~AngleActuator();
 

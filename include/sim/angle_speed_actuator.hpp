@@ -14,13 +14,17 @@ class VAROROBOTMODEL_API AngleSpeedActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit AngleSpeedActuator(AngleSpeedActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     AngleSpeedActuator(AngleSpeedActuator const& other);
     ~AngleSpeedActuator();
 
     /// 4: one single-precision value.
     int bufferSize() const override;
+    /// rad/s; always 0.
     float startValue() const;
+    /// rad/s; always -10, as descriptions state none.
     float minValue() const;
+    /// rad/s; always 10, as descriptions state none.
     float maxValue() const;
     /// Null when its model is gone.
     Joint const* controlledJoint() const;

@@ -16,6 +16,7 @@ class VAROROBOTMODEL_API CoupledActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit CoupledActuator(CoupledActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     CoupledActuator(CoupledActuator const& other);
     ~CoupledActuator();
 

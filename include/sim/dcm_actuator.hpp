@@ -20,6 +20,7 @@ public:
 protected:
     /// Takes ownership.
     explicit DCMActuator(DCMActuatorImpl* impl);
+    /// A copy with data of its own, which outlives the model.
     DCMActuator(DCMActuator const& other);
     ~DCMActuator();
 };

@@ -24,7 +24,9 @@ public:
 
     /// Where the joint sits, posed in the frame of its parent link. Null only when its model is gone.
     Frame const* frame() const;
+    /// As in the description; Model::joint finds the joint by it.
     std::string const& name() const;
+    /// The link that the joint hangs on. Null only when its model is gone.
     Link const* parentLink() const;
     /// The link that the joint moves; null when it moves none.
     Link const* childLink() const;

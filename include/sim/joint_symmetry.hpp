@@ -16,6 +16,7 @@ class JointSymmetryImpl;
 /// and safe to ask from several threads. Every getter throws std::runtime_error on a symmetry that no model made.
 class VAROROBOTMODEL_API JointSymmetry {
 public:
+    /// Which values of the two joints mirror each other.
     enum SymmetryType {
         ReflectedSymmetric = 0,  ///< equal values of the two joints mirror each other
         ReflectedSymmetricReversed = 1,  ///< opposite values do
@@ -31,6 +32,7 @@ public:
     std::pair<Joint const*, Joint const*> symmetricJoints() const;
     /// The partner of `joint`, which is recognised by its name; null when it is null or not of this pair.
     Joint const* symmetricJoint(Joint const* joint) const;
+    /// As the description states it of the first joint.
     SymmetryType symmetryType() const;
 
 private:

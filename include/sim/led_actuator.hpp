@@ -13,6 +13,7 @@ class LEDActuatorImpl;
 /// A light.
 class VAROROBOTMODEL_API LEDActuator final : public DCMActuator {
 public:
+    /// What a light shines in.
     enum Color {
         Red = 0,
         Green = 1,
@@ -21,6 +22,7 @@ public:
 
     /// Takes ownership; without implementation, every getter throws.
     explicit LEDActuator(LEDActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     LEDActuator(LEDActuator const& other);
     ~LEDActuator();
 
@@ -30,6 +32,7 @@ public:
     std::string const& shortname() const;
     /// The groups of lights to which it belongs, as Model::ledActuators takes them.
     std::vector<std::string> const& groups() const;
+    /// Blue when the description names none.
     Color color() const;
 };
 

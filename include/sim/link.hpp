@@ -20,9 +20,10 @@ class VisualData;
 /// and safe to ask from several threads. Every getter throws std::runtime_error on a link that no model made.
 class VAROROBOTMODEL_API Link {
 public:
+    /// The kinds of links.
     enum LinkType {
-        Regular = 0,
-        Wheel = 1,
+        Regular = 0,  ///< the root body, or what a joint moves
+        Wheel = 1,  ///< what a wheel of the description is
     };
 
     Link();
@@ -40,6 +41,7 @@ public:
     MassData const* mass() const;
     /// The material of its surface, as frictionCoeff takes it; "gum" when the description names none.
     std::string const& frictionMaterial() const;
+    /// Whether it is a wheel.
     LinkType type() const;
     /// Null when the link has none.
     VisualData const* visual() const;

@@ -58,36 +58,48 @@ public:
     /// description lacks what its elements need, and std::out_of_range when its posture "StandInit" gives an angle to
     /// a name that no chain leads to. Takes time and memory proportional to the size of the robot.
     explicit Model(std::string const& pathOrXml);
+    /// Takes over all of `other`, which is then one that was moved from. What `other` handed out stays valid.
     Model(Model&& other) noexcept;
+    /// Swaps the two: what this model handed out stays valid as long as `other`, and the other way round.
     Model& operator=(Model&& other) noexcept;
+    /// Ends the life of everything that the model handed out.
     ~Model();
 
+    /// The description's name.
     std::string const& name() const;
     /// A name for people, by index; the model's name when the description has none for that index.
     std::string prettyName(int index) const;
-    /// The XML text of the description.
+    /// The XML text of the description, as it was read.
     std::string const& configFile() const;
 
     /// @name Links and joints
     /// @{
+
+    /// The first element of the kind that bears the name, null when none does; the plural lists all of the kind.
     Joint const* joint(std::string const& name) const;
     std::vector<Joint const*> joints() const;
     Link const* link(std::string const& name) const;
     std::vector<Link const*> links() const;
+    /// The link that no joint moves, the first one made; never null.
     Link const* rootLink() const;
     /// @}
 
     /// @name Symmetries and groups
     /// @{
 
-    /// The symmetry that the joint of that name is part of.
+    /// The symmetry that the joint of that name is part of; null when it is part of none.
     JointSymmetry const* jointSymmetry(std::string const& name) const;
+    /// All symmetries.
     std::vector<JointSymmetry const*> jointSymmetries() const;
+    /// The first group of that name, null when there is none.
     JointGroup const* jointGroup(std::string const& name) const;
+    /// All groups of joints.
     std::vector<JointGroup const*> jointGroups() const;
     /// The groups that list the joint, once for each time they do.
     std::vector<JointGroup const*> jointGroupsOfJoint(std::string const& name) const;
+    /// The first group of that name, null when there is none.
     ActuatorGroup const* actuatorGroup(std::string const& name) const;
+    /// All groups of actuators.
     std::vector<ActuatorGroup const*> actuatorGroups() const;
     /// The groups with an angle or coupled actuator that drives the joint, once for each time that one does.
     std::vector<ActuatorGroup const*> actuatorGroupsOfJoint(std::string const& name) const;
@@ -96,6 +108,8 @@ public:
     /// @name Actuators
     /// A look-up by kind passes over actuators of other kinds that bear the name.
     /// @{
+
+    /// The first actuator of the kind that bears the name, null when none does; the plural lists all of the kind.
     Actuator const* actuator(std::string const& name) const;
     std::vector<Actuator const*> actuators() const;
     AngleActuator const* angleActuator(std::string const& name) const;
@@ -118,6 +132,8 @@ public:
     /// @name Sensors
     /// A look-up by kind passes over sensors of other kinds that bear the name.
     /// @{
+
+    /// The first sensor of the kind that bears the name, null when none does; the plural lists all of the kind.
     Sensor const* sensor(std::string const& name) const;
     std::vector<Sensor const*> sensors() const;
     AngleSensor const* angleSensor(std::string const& name) const;

@@ -45,7 +45,9 @@ public:
     std::string const& name() const;
     /// A name for people, by index; the description's name when it has none for that index.
     std::string prettyName(int index) const;
+    /// The name of the root body.
     std::string const& rootName() const { return _root.name; }
+    /// The description's own version; empty when it states none.
     std::string version() const;
     /// In the description's order.
     std::list<std::string> chainNames() const;
@@ -59,7 +61,10 @@ public:
 
     /// @name Single fields
     /// @{
+
+    /// What the actuator hangs on, as the description states it.
     bool parentJointFromActuator(std::string const& name, std::string& parent) const;
+    /// The joint that the wheel hangs on.
     bool parentJointFromWheel(std::string const& name, std::string& parent) const;
     bool maxTorqueFromWheel(std::string const& name, float& torque) const;  ///< N*m
     bool maxVelocityFromWheel(std::string const& name, float& velocity) const;  ///< rad/s
@@ -117,9 +122,11 @@ public:
     /// @name Structure
     /// @{
 
+    /// The chain's joints, from its parent outward; empty for an unknown chain.
     std::list<std::string> jointNames(std::string const& chain) const;
     /// The joint lists of all chains, merged as sorted lists are, although they are not sorted.
     std::list<std::string> jointNames() const;
+    /// The chain's joints, each of which has an angle actuator of its name.
     std::list<std::string> angleActuatorNames(std::string const& chain) const;
     /// Chain after chain.
     std::list<std::string> angleActuatorNames() const;
@@ -167,11 +174,13 @@ public:
 
     /// In ascending order.
     std::list<std::string> sensorNames() const;
+    /// The keys that the description gives the device, in its order.
     bool dcmKeysFromSensorName(std::string const& name, std::vector<std::string>& keys) const;
     /// Appends the values of the device's attributes that k_dcmCommandKeyNames lists; false when it has none.
     bool dcmCommandKeys(std::string const& name, std::vector<std::string>& keys) const;
     /// Appends the values of the device's attributes that k_stateDcmKeyNames lists; false when it has none.
     bool dcmStateKeys(std::string const& name, std::vector<std::string>& keys) const;
+    /// The "shortname" attribute; false, with nothing written, when the device has none.
     bool shortnameFromLED(std::string const& led, std::string& shortname) const;
     /// The pieces between the tabs and blanks of the "groups" attribute, empty ones included.
     bool groupsFromLED(std::string const& led, std::vector<std::string>& groups) const;
@@ -180,7 +189,9 @@ public:
     /// Appends width and height (pixels) per line of the "resolutions" attribute; lines without two pieces are skipped.
     bool resolutionsFromCamera(std::string const& camera, std::vector<std::pair<int, int>>& resolutions) const;
 
+    /// The attributes whose values are keys for commanding a device: "setOperationMode".
     static std::vector<std::string> const k_dcmCommandKeyNames;
+    /// The attributes whose values are keys for reading a device's state: "getOperationMode".
     static std::vector<std::string> const k_stateDcmKeyNames;
     /// @}
 

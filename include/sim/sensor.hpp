@@ -17,7 +17,7 @@ class SensorImpl;
 /// std::runtime_error on a sensor that no model made.
 class VAROROBOTMODEL_API Sensor {
 public:
-    /// Binding for every consumer, the gap at 11 included.
+    /// The kinds of sensors. The numbers are binding for every consumer, the gap at 11 included.
     enum Type {
         Angle = 0,
         Coupled = 1,
@@ -45,13 +45,14 @@ public:
     virtual int bufferSize() const = 0;
     /// Where the sensor sits; null only when its model is gone.
     Frame const* frame() const;
+    /// The kind, which the concrete class stands for.
     Type type() const;
 
 protected:
     Sensor();
     ~Sensor();
 
-    SensorImpl* _impl;  // owned by the concrete class, which knows its kind
+    SensorImpl* _impl;  ///< null until a model makes the sensor; owned by the concrete class, which knows its kind
 
 private:
     friend class ModelImpl;

@@ -13,13 +13,17 @@ class VAROROBOTMODEL_API TorqueActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit TorqueActuator(TorqueActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     TorqueActuator(TorqueActuator const& other);
     ~TorqueActuator();
 
     /// 4: one single-precision value.
     int bufferSize() const override;
+    /// N*m; always 0.
     float startValue() const;
+    /// N*m; always -100, as descriptions state none.
     float minValue() const;
+    /// N*m; always 100, as descriptions state none.
     float maxValue() const;
     /// Null when its model is gone.
     Joint const* controlledJoint() const;

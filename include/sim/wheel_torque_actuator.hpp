@@ -13,6 +13,7 @@ class VAROROBOTMODEL_API WheelTorqueActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit WheelTorqueActuator(WheelTorqueActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     WheelTorqueActuator(WheelTorqueActuator const& other);
     ~WheelTorqueActuator();
 

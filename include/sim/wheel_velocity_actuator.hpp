@@ -13,6 +13,7 @@ class VAROROBOTMODEL_API WheelVelocityActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
     explicit WheelVelocityActuator(WheelVelocityActuatorImpl* impl = nullptr);
+    /// A copy with data of its own, which outlives the model.
     WheelVelocityActuator(WheelVelocityActuator const& other);
     ~WheelVelocityActuator();
 

@@ -17,12 +17,13 @@ enum Level : int { silent = 0, fatal = 1, error = 2, warning = 3, info = 4, verb
 
 /// One line on its way to the sink; the views live as long as the sink's call.
 struct Record {
-    std::string_view category;
-    int level;
+    std::string_view category;  ///< as handed to log()
+    int level;  ///< of the line, not of the category
     std::string_view origin;  ///< the function that speaks
-    std::string_view message;
+    std::string_view message;  ///< one line, without its end
 };
 
+/// Where lines go, see setSink().
 using Sink = std::function<void(Record const&)>;
 
 /// Makes the category known, at level `error`; does nothing when it is known already.

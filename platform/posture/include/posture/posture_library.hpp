@@ -17,9 +17,12 @@ namespace posture {
 /// (Varo::Model::angleNames); values that the description gives to other names stand behind them, as surplus.
 class VAROROBOTMODEL_API Posture {
 public:
+    /// Without values.
     Posture() = default;
+    /// With these values.
     explicit Posture(std::vector<float> jointValues) : _jointValues(std::move(jointValues)) {}
 
+    /// The values; the reference lives as long as the posture.
     std::vector<float> const& jointValues() const { return _jointValues; }
 
 private:

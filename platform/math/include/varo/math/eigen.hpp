@@ -8,6 +8,7 @@
 /// For programs that compute with Eigen: the one public header that needs it. Nothing else includes it.
 namespace Varo::Math {
 
+/// Coordinate by coordinate.
 inline Eigen::Vector3f toEigen(Position3D const& position)
 {
     return {position.x, position.y, position.z};

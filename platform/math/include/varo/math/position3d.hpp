@@ -5,16 +5,18 @@ namespace Varo::Math {
 
 /// A point or an offset in space: metres, single precision, in the frame that its owner names. Zero by default.
 struct Position3D {
-    float x = 0.0F;
-    float y = 0.0F;
-    float z = 0.0F;
+    float x = 0.0F;  ///< m
+    float y = 0.0F;  ///< m
+    float z = 0.0F;  ///< m
 };
 
+/// Coordinate by coordinate, exactly.
 inline bool operator==(Position3D const& a, Position3D const& b)
 {
     return a.x == b.x && a.y == b.y && a.z == b.z;
 }
 
+/// The contrary of `==`.
 inline bool operator!=(Position3D const& a, Position3D const& b)
 {
     return !(a == b);

@@ -24,11 +24,15 @@ public:
 
     /// From the twelve entries of the upper three rows, row by row.
     static constexpr Transform fromRows(std::array<float, 12> const& rows) { return Transform(rows); }
+    /// The rotation by `angle` (rad) about x.
     static Transform fromRotX(float angle);
+    /// The rotation by `angle` (rad) about y.
     static Transform fromRotY(float angle);
+    /// The rotation by `angle` (rad) about z.
     static Transform fromRotZ(float angle);
     /// Roll about x, then pitch about y, then yaw about z, all fixed axes: Rz(yaw) * Ry(pitch) * Rx(roll).
     static Transform fromRpy(float roll, float pitch, float yaw);
+    /// The translation by x, y and z (m), without rotation.
     static Transform fromPosition(float x, float y, float z);
 
     /// The entry in row 0 to 2 and column 0 to 3 (column 3 is the translation). No bounds check.
@@ -40,6 +44,7 @@ public:
     constexpr std::array<float, 12> const& rows() const { return _rows; }
     /// All sixteen entries of the homogeneous matrix, row by row; the last row is 0 0 0 1.
     std::array<float, 16> toMatrix() const;
+    /// The translation: where the frame's origin is (m).
     Position3D position() const { return {_rows[3], _rows[7], _rows[11]}; }
 
     /// The inverse of a rigid transform: transposed rotation, translation turned back. Exact up to rounding when the
@@ -51,6 +56,7 @@ public:
                           -(m[1] * m[3] + m[5] * m[7] + m[9] * m[11]), m[2], m[6], m[10],
                           -(m[2] * m[3] + m[6] * m[7] + m[10] * m[11])});
     }
+    /// The product with `right` to the right of this one, in place.
     Transform& operator*=(Transform const& right);
 
     /// True when no entry differs by more than `tolerance`.
@@ -62,6 +68,7 @@ private:
     std::array<float, 12> _rows = {1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F, 1.0F, 0.0F};
 };
 
+/// The product, from left to right as Transform says: the right one's map comes first.
 constexpr Transform operator*(Transform const& left, Transform const& right)
 {
     auto const& a = left.rows();
@@ -86,6 +93,7 @@ inline bool operator==(Transform const& a, Transform const& b)
     return a.rows() == b.rows();
 }
 
+/// The contrary of `==`.
 inline bool operator!=(Transform const& a, Transform const& b)
 {
     return !(a == b);

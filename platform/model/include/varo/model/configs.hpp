@@ -18,6 +18,7 @@ namespace Varo::Model {
 using Math::Position3D;
 using Math::Transform;
 
+/// Free texts by their names.
 using Attributes = std::map<std::string, std::string>;
 
 /// Values of the mirror kind of joints and actuators.
@@ -48,7 +49,7 @@ enum SensorType : std::int32_t {
 /// A joint together with the body (link) that it moves; the robot's root is one too, of which only name, mesh, mass
 /// and attributes mean something.
 struct JointConfig {
-    std::string name;
+    std::string name;  ///< under which the table holds the record
     std::string meshName;  ///< mesh file, as the description states it
     float minAngle = 0.0F;  ///< rad (m for prismatic joints); minus infinity when unlimited
     float maxAngle = 0.0F;  ///< rad (m for prismatic joints); infinity when unlimited
@@ -62,9 +63,9 @@ struct JointConfig {
     Transform placement;  ///< the joint frame at zero position, in the frame of the joint (or root) before it
     Transform endTransform;  ///< the link frame in the joint frame
     Position3D meshOrientation;  ///< rad, roll, pitch and yaw of the mesh in the link frame; carried like meshPosition
-    std::int32_t mirrorKind = noMirror;
+    std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
     std::string mirrorName;  ///< the symmetric joint, when mirrorKind is not noMirror
-    std::int32_t jointType = revolute;
+    std::int32_t jointType = revolute;  ///< a JointType
     float damping = 0.0F;  ///< N*m*s/rad (N*s/m)
     float friction = 0.0F;  ///< N*m (N), Coulomb friction of the joint
     Attributes attributes;  ///< free texts; "material" names the body's surface
@@ -72,7 +73,7 @@ struct JointConfig {
 
 /// A motor that drives the sub-joints of its groups together (a hand's fingers, say).
 struct ActuatorConfig {
-    std::string name;
+    std::string name;  ///< under which the table holds the record
     float minAngle = 0.0F;  ///< rad
     float maxAngle = 0.0F;  ///< rad
     float maxTorque = 0.0F;  ///< N*m; 0 when not stated
@@ -80,38 +81,38 @@ struct ActuatorConfig {
     std::string parentJoint;  ///< the joint that it hangs on
     Transform placement;  ///< in the frame of the parent joint
     std::vector<std::vector<std::string>> jointGroups;  ///< names of sub-joints, each group from the parent outward
-    std::int32_t mirrorKind = noMirror;
-    std::string mirrorName;
+    std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
+    std::string mirrorName;  ///< the symmetric actuator, when mirrorKind is not noMirror
 };
 
 /// A device on the robot that measures, or a light.
 struct SensorConfig {
-    std::string name;
+    std::string name;  ///< under which the table holds the record
     std::string parent;  ///< the joint or link that carries it
-    std::int32_t type = unknownSensor;
+    std::int32_t type = unknownSensor;  ///< a SensorType
     Transform placement;  ///< in the frame of the link that the parent joint moves (of the root link otherwise)
-    Attributes attributes;
+    Attributes attributes;  ///< free texts; what each kind reads of them stands at MotionModel's queries of devices
     std::vector<std::string> keys;  ///< device keys
 };
 
 /// A driven wheel.
 struct WheelConfig {
-    std::string name;
-    std::string meshName;
+    std::string name;  ///< under which the table holds the record
+    std::string meshName;  ///< as JointConfig::meshName
     float maxTorque = 0.0F;  ///< N*m
     float maxVelocity = 0.0F;  ///< rad/s
     float mass = 0.0F;  ///< kg
     std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< as JointConfig::inertiaMatrix
     Position3D centerOfMass;  ///< m, in the wheel's link frame
-    std::string parentJoint;
+    std::string parentJoint;  ///< the joint that it hangs on
     Transform placement;  ///< in the frame of the parent joint
-    Attributes attributes;
+    Attributes attributes;  ///< as JointConfig::attributes
 };
 
 /// A joint that has no motor of its own and follows its actuator.
 struct SubActuatorConfig {
-    std::string name;
-    std::string meshName;
+    std::string name;  ///< under which the table holds the record
+    std::string meshName;  ///< as JointConfig::meshName
     float offset = 0.0F;  ///< rad, the sub-joint's angle when the actuator stands at 0; carried
     float ratio = 0.0F;  ///< sub-joint angle per actuator angle
     Transform placement;  ///< in the frame of the element before it
@@ -119,7 +120,7 @@ struct SubActuatorConfig {
 
 /// A serial chain of joints.
 struct ChainConfig {
-    std::string name;
+    std::string name;  ///< under which the table holds the record
     std::string parentJoint;  ///< the joint, or the root, that the chain hangs on
     std::vector<std::string> jointNames;  ///< from the parent outward
     Transform placement;  ///< the chain's base frame in the frame of the parent joint
@@ -129,15 +130,21 @@ struct ChainConfig {
 
 /// Joint values of one named posture, in the order of the description.
 struct PostureConfig {
-    std::string name;
+    std::string name;  ///< "StandInit" gives the start values of the actuators
     std::vector<std::pair<std::string, float>> angles;  ///< joint or actuator name, value in rad (m)
 };
 
+/// Joints by their names.
 using JointTable = std::map<std::string, JointConfig>;
+/// Coupled actuators by their names.
 using ActuatorTable = std::map<std::string, ActuatorConfig>;
+/// Sensors and lights by their names.
 using SensorTable = std::map<std::string, SensorConfig>;
+/// Wheels by their names.
 using WheelTable = std::map<std::string, WheelConfig>;
+/// Sub-joints by their names.
 using SubActuatorTable = std::map<std::string, SubActuatorConfig>;
+/// Chains by their names.
 using ChainTable = std::map<std::string, ChainConfig>;
 
 }  // namespace Varo::Model

@@ -20,8 +20,8 @@ inline constexpr std::size_t maxTextSize = std::size_t{256} * 1024 * 1024;
 
 /// What became of a text: the robot, null when a finding is an error, and all findings.
 struct Reading {
-    std::unique_ptr<Robot> robot;
-    Findings findings;
+    std::unique_ptr<Robot> robot;  ///< null when the text is refused
+    Findings findings;  ///< in the order of their places
 };
 
 /// Reads the XML text of a description of either dialect. Never throws for what the text says.

@@ -20,18 +20,24 @@ public:
     Robot(Robot const&) = delete;
     Robot& operator=(Robot const&) = delete;
 
+    /// The robot's name.
     virtual std::string const& name() const = 0;
     /// A name for people, by index; the robot's name when the description gives none for that index.
     virtual std::string prettyName(int index) const = 0;
     /// The description's own version; empty when it states none.
     virtual std::string const& version() const = 0;
+    /// The coupled actuators, and the sub-joints that they move.
     virtual void listActuators(std::vector<std::string>& names, ActuatorTable& actuators,
                                SubActuatorTable& subActuators) const = 0;
+    /// The kinematic chains.
     virtual void listChains(std::vector<std::string>& names, ChainTable& chains) const = 0;
-    /// `reflectionForced` receives the names of the joints whose reflection is forced.
+    /// The robot's name, its root body and its joints; `reflectionForced` receives the names of the joints whose
+    /// reflection is forced.
     virtual void listJoints(std::string& robotName, JointConfig& root, JointTable& joints,
                             std::vector<std::string>& names, std::vector<std::string>& reflectionForced) const = 0;
+    /// The sensors and lights.
     virtual void listSensors(std::vector<std::string>& names, SensorTable& sensors) const = 0;
+    /// The wheels.
     virtual void listWheels(std::vector<std::string>& names, WheelTable& wheels) const = 0;
     virtual ~Robot() = default;
 
