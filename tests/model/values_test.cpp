@@ -1,11 +1,16 @@
 #include "native/values.hpp"
 
+#include <charconv>
 #include <clocale>
+#include <cmath>
 #include <limits>
 #include <locale>
+#include <random>
 #include <string>
 
 #include <gmock/gmock.h>
+
+#include "short_decimal.hpp"
 
 namespace Varo::Model::Native {
 namespace {
@@ -38,12 +43,56 @@ TEST(Values, NumbersAreFiniteDecimals)
     }
 }
 
+/// Whether the text, all of which is a short decimal, reads as `from_chars` reads it, bit by bit; true for others.
+template <class Float>
+bool readsAsFromCharsDoes(std::string const& text)
+{
+    Float quick = 0;
+    if (parseShortDecimal(text, quick) != text.size()) {
+        return true;
+    }
+    Float exact = 1;
+    auto const end = text.data() + text.size();
+    return std::from_chars(text.data(), end, exact).ptr == end && exact == quick &&
+           std::signbit(exact) == std::signbit(quick);
+}
+
+TEST(Values, ShortDecimalsReadAsAllOthersDo)
+{
+    std::mt19937_64 random;
+    for (int i = 0; i < 200000; ++i) {
+        std::string text = std::to_string(random()).substr(0, 1 + random() % 19);
+        text.insert(0, random() % 6, '0');
+        text.insert(random() % (text.size() + 1), ".");
+        text.insert(0, random() % 2, '-');
+        ASSERT_TRUE(readsAsFromCharsDoes<float>(text)) << text;
+        ASSERT_TRUE(readsAsFromCharsDoes<double>(text)) << text;
+    }
+}
+
+TEST(Values, ShortDecimalsAreTakenWhereDivisionIsExact)
+{
+    for (auto const& [text, length] : {std::pair("16777216", 8),
+                                       {"16777217", 0},
+                                       {"0.0000000001", 12},
+                                       {"0.00000000001", 0},
+                                       {"00000000000000000001", 19},
+                                       {"-1.5 7", 4},
+                                       {"1e3", 1},
+                                       {"-", 0},
+                                       {".", 0},
+                                       {"", 0}}) {
+        float value = 0.0F;
+        EXPECT_EQ(parseShortDecimal(text, value), length) << text;
+    }
+}
+
 TEST(Values, ListsHaveTheirCount)
 {
     Position3D position;
     EXPECT_TRUE(Vector3::parse(" 1\t+2\n3 ", position));
     EXPECT_EQ(position, (Position3D{1.0F, 2.0F, 3.0F}));
-    for (char const* text : {"", "1 2", "1 2 3 4", "1 2 x", "1,2,3"}) {
+    for (char const* text : {"", "1 2", "1 2 3 4", "1 2 x", "1,2,3", "1 2 3x", "1 2 3.4.5"}) {
         EXPECT_FALSE(Vector3::parse(text, position)) << text;
     }
     EXPECT_EQ(position, (Position3D{1.0F, 2.0F, 3.0F}));

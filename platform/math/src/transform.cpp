@@ -31,7 +31,16 @@ Transform Transform::fromRotZ(float angle)
 
 Transform Transform::fromRpy(float roll, float pitch, float yaw)
 {
-    return fromRotZ(yaw) * fromRotY(pitch) * fromRotX(roll);
+    float const cr = std::cos(roll);
+    float const sr = std::sin(roll);
+    float const cp = std::cos(pitch);
+    float const sp = std::sin(pitch);
+    float const cy = std::cos(yaw);
+    float const sy = std::sin(yaw);
+    // Adding 0 keeps -0 out, as a product of rotations does.
+    return fromRows({cy * cp + 0.0F, cy * sp * sr - sy * cr + 0.0F, cy * sp * cr + sy * sr + 0.0F, 0.0F,  //
+                     sy * cp + 0.0F, sy * sp * sr + cy * cr + 0.0F, sy * sp * cr - cy * sr + 0.0F, 0.0F,  //
+                     0.0F - sp, cp * sr + 0.0F, cp * cr + 0.0F, 0.0F});
 }
 
 Transform Transform::fromPosition(float x, float y, float z)

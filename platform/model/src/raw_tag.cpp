@@ -17,12 +17,17 @@ constexpr std::array<bool, 256> makeNameEnds()
 }
 constexpr std::array<bool, 256> nameEnds = makeNameEnds();
 
-}  // namespace
-
-bool isXmlSpace(char c)
+/// The first offset from `position` on whose character does not belong to what is being taken.
+template <class Belongs>
+std::size_t findEnd(std::string_view text, std::size_t position, Belongs const& belongs)
 {
-    return c == ' ' || c == '\n' || c == '\t' || c == '\r';
+    while (position < text.size() && belongs(text[position])) {
+        ++position;
+    }
+    return position;
 }
+
+}  // namespace
 
 RawTag::RawTag(std::string_view text, std::size_t offset) : _text(text), _position(offset + 1)
 {
@@ -54,7 +59,7 @@ bool RawTag::next(RawAttribute& attribute)
     if (close == _text.npos) {
         return breakOff();
     }
-    attribute.value = _text.substr(_position + 1, close - _position - 1);
+    attribute.value = {_text.data() + _position + 1, close - _position - 1};
     _position = close + 1;
     return true;
 }
@@ -62,19 +67,15 @@ bool RawTag::next(RawAttribute& attribute)
 bool RawTag::skipSpace()
 {
     std::size_t const start = _position;
-    while (_position < _text.size() && isXmlSpace(_text[_position])) {
-        ++_position;
-    }
+    _position = findEnd(_text, start, isXmlSpace);
     return _position > start;
 }
 
 std::string_view RawTag::takeName()
 {
     std::size_t const start = _position;
-    while (_position < _text.size() && !nameEnds[static_cast<unsigned char>(_text[_position])]) {
-        ++_position;
-    }
-    return _text.substr(start, _position - start);
+    _position = findEnd(_text, start, [](char c) { return !nameEnds[static_cast<unsigned char>(c)]; });
+    return {_text.data() + start, _position - start};
 }
 
 bool RawTag::finish()

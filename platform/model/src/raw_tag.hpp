@@ -43,7 +43,10 @@ private:
     bool _emptyElement = false;
 };
 
-bool isXmlSpace(char c);
+constexpr bool isXmlSpace(char c)
+{
+    return c == ' ' || c == '\n' || c == '\t' || c == '\r';
+}
 
 }  // namespace Varo::Model
 

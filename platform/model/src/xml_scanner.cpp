@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "raw_tag.hpp"
@@ -17,35 +16,37 @@ constexpr std::size_t deepestPath = 16;  // steps
 constexpr std::size_t longestReference = 32;  // bytes
 constexpr std::size_t longestTagForPath = 4096;  // bytes, beyond which no name is looked for
 
-bool isUnusual(char c)
+/// Without branches, so that compilers make it look at many bytes at a time.
+constexpr bool isUnusual(char c)
 {
     auto const byte = static_cast<unsigned char>(c);
-    return byte >= 0x80 || (byte < 0x20 && !isXmlSpace(c));
+    bool const isSpace = (byte == '\t') | (byte == '\n') | (byte == '\r');
+    return (byte >= 0x80) | ((byte < 0x20) & !isSpace);
 }
 
-/// The first control character or byte beyond ASCII from `start` on. Eight bytes at a time: nearly all are usual.
+/// The first control character or byte beyond ASCII from `start` on. Nearly all bytes are usual.
 std::size_t findUnusual(std::string_view text, std::size_t start)
 {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    constexpr std::uint64_t spaces = 0x2020202020202020U;
-    for (; start + 8 <= text.size(); start += 8) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, text.data() + start, 8);
-        if ((((word - spaces) | word) & highBits) == 0) {
-            continue;
+    constexpr std::size_t block = 64;
+    for (; start + block <= text.size(); start += block) {
+        unsigned char found = 0;
+        for (std::size_t i = 0; i < block; ++i) {
+            found = static_cast<unsigned char>(found | (isUnusual(text[start + i]) ? 1U : 0U));
         }
-        auto const eight = text.substr(start, 8);
-        auto const found = std::find_if(eight.begin(), eight.end(), isUnusual);
-        if (found != eight.end()) {
-            return start + static_cast<std::size_t>(found - eight.begin());
+        if (found != 0) {
+            break;
         }
     }
-    for (; start < text.size(); ++start) {
-        if (isUnusual(text[start])) {
-            return start;
-        }
-    }
-    return text.npos;
+    auto const rest = text.substr(start);
+    auto const found = std::find_if(rest.begin(), rest.end(), isUnusual);
+    return found == rest.end() ? text.npos : start + static_cast<std::size_t>(found - rest.begin());
+}
+
+/// Which of 64 bits stands for an attribute's name: names with different bits differ.
+std::uint64_t bitOf(std::string_view name)
+{
+    auto const mixed = static_cast<unsigned>(name.front() + 7 * name[name.size() / 2] + 31 * name.back());
+    return std::uint64_t{1} << (mixed % 64);
 }
 
 /// Whether `&` and `;` may stand around `body`.
@@ -104,10 +105,11 @@ XmlScanner::XmlScanner(std::string_view text, Diagnostics& diagnostics) : _text(
 void XmlScanner::scan(std::size_t end)
 {
     _text = _text.substr(0, end);
+    _nextLess = _text.find('<');
     _nextAmpersand = _text.find('&');
     _nextUnusual = findUnusual(_text, _start);
     while (_position < _text.size()) {
-        scanContent(std::min(_text.find('<', _position), _text.size()));
+        scanContent(std::min(findLess(_position), _text.size()));
         if (_position < _text.size()) {
             scanMarkup();
         }
@@ -158,22 +160,39 @@ void XmlScanner::scanStartTag()
     std::size_t const start = _position;
     enterRoot(start);
     _openTags.push_back(start);
-    _attributeNames.clear();
     RawTag tag(_text, start);
+    bool const namesDiffer = readAttributes(tag);
+    _broken = tag.isBroken();
+    std::size_t const end = tag.isBroken() ? _text.size() : tag.end();
+    if (findLess(start + 1) < end || findAmpersand(start) < end) {
+        checkValues();
+    }
+    if (!namesDiffer) {
+        checkNamesDiffer(start);
+    }
+    finishToken(end);
+    if (tag.isEmptyElement()) {
+        _openTags.pop_back();
+    }
+}
+
+/// True when all names surely differ.
+bool XmlScanner::readAttributes(RawTag& tag)
+{
+    _attributes.clear();
+    std::uint64_t names = 0;
+    bool differ = true;
     for (RawAttribute attribute; tag.next(attribute);) {
         if (!attribute.spaced) {
             report(offsetOf(attribute.name), codes::malformedXml,
                    "There is no white space before the attribute " + quoted(attribute.name) + ".");
         }
-        _attributeNames.push_back(attribute.name);
-        checkValue(attribute.value);
+        std::uint64_t const bit = bitOf(attribute.name);
+        differ = differ && (names & bit) == 0;
+        names |= bit;
+        _attributes.push_back(attribute);
     }
-    checkNamesDiffer(start);
-    _broken = tag.isBroken();
-    finishToken(tag.isBroken() ? _text.size() : tag.end());
-    if (tag.isEmptyElement()) {
-        _openTags.pop_back();
-    }
+    return differ;
 }
 
 void XmlScanner::enterRoot(std::size_t tag)
@@ -257,47 +276,37 @@ void XmlScanner::scanDocumentType()
     finishToken(endOfDocumentType(_text, _position + 2));
 }
 
-/// Reports the second of two like-named attributes; by sorting only where there are many.
+/// Reports the second of two like-named attributes.
 void XmlScanner::checkNamesDiffer(std::size_t tag)
 {
-    constexpr std::size_t few = 16;
-    auto const reportSecond = [&](std::string_view name) {
-        report(std::max(tag, offsetOf(name)), codes::repeatedAttribute,
-               "The attribute " + quoted(name) + " stands twice in one element.", "The first one counts.");
-    };
-    auto& names = _attributeNames;
-    if (names.size() <= few) {
-        for (auto name = names.begin(); name != names.end(); ++name) {
-            if (std::find(names.begin(), name, *name) != name) {
-                reportSecond(*name);
-            }
-        }
-        return;
-    }
-    std::stable_sort(names.begin(), names.end());
-    for (std::size_t i = 1; i < names.size(); ++i) {
-        if (names[i] == names[i - 1]) {
-            reportSecond(names[i]);
+    std::sort(_attributes.begin(), _attributes.end(), [](RawAttribute const& a, RawAttribute const& b) {
+        return std::make_pair(a.name, a.name.data()) < std::make_pair(b.name, b.name.data());
+    });
+    for (std::size_t i = 1; i < _attributes.size(); ++i) {
+        std::string_view const name = _attributes[i].name;
+        if (name == _attributes[i - 1].name) {
+            report(std::max(tag, offsetOf(name)), codes::repeatedAttribute,
+                   "The attribute " + quoted(name) + " stands twice in one element.", "The first one counts.");
         }
     }
 }
 
-void XmlScanner::checkValue(std::string_view value)
+void XmlScanner::checkValues()
 {
-    std::size_t const bracket = value.find('<');
-    if (bracket != value.npos) {
-        report(offsetOf(value) + bracket, codes::malformedXml, "The character < cannot stand in an attribute's value.",
-               "Write &lt; instead; or is the closing quote missing?");
+    for (RawAttribute const& attribute : _attributes) {
+        std::size_t const start = offsetOf(attribute.value);
+        std::size_t const bracket = attribute.value.find('<');
+        if (bracket != attribute.value.npos) {
+            report(start + bracket, codes::malformedXml, "The character < cannot stand in an attribute's value.",
+                   "Write &lt; instead; or is the closing quote missing?");
+        }
+        checkReferences(start, start + attribute.value.size());
     }
-    checkReferences(offsetOf(value), offsetOf(value) + value.size());
 }
 
 void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
 {
-    while (_nextAmpersand < begin) {
-        _nextAmpersand = _text.find('&', begin);
-    }
-    for (; _nextAmpersand < end; _nextAmpersand = _text.find('&', _nextAmpersand + 1)) {
+    for (findAmpersand(begin); _nextAmpersand < end; findAmpersand(_nextAmpersand + 1)) {
         std::size_t const length = std::min(end - _nextAmpersand - 1, longestReference);
         std::string_view const rest = _text.substr(_nextAmpersand + 1, length);
         std::string_view const body = rest.substr(0, std::min(rest.find(';'), rest.find('&')));
@@ -328,6 +337,22 @@ void XmlScanner::checkCharacters(std::size_t end)
         }
         _nextUnusual = findUnusual(_text, _nextUnusual + std::max<std::size_t>(character.length, 1));
     }
+}
+
+std::size_t XmlScanner::findLess(std::size_t start)
+{
+    if (_nextLess < start) {
+        _nextLess = _text.find('<', start);
+    }
+    return _nextLess;
+}
+
+std::size_t XmlScanner::findAmpersand(std::size_t start)
+{
+    if (_nextAmpersand < start) {
+        _nextAmpersand = _text.find('&', start);
+    }
+    return _nextAmpersand;
 }
 
 void XmlScanner::finishToken(std::size_t end)

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "diagnostics.hpp"
+#include "raw_tag.hpp"
 
 namespace Varo::Model {
 
@@ -38,14 +39,17 @@ private:
     void scanInstruction();
     void scanDocumentType();
     void checkDeclaration(std::string_view instruction);
+    bool readAttributes(RawTag& tag);
+    void checkValues();
     void checkNamesDiffer(std::size_t tag);
-    void checkValue(std::string_view value);
     void checkReferences(std::size_t begin, std::size_t end);
     void checkCharacters(std::size_t end);
     void enterRoot(std::size_t tag);
 
     bool startsWith(std::string_view prefix) const { return _text.substr(_position, prefix.size()) == prefix; }
     std::size_t offsetOf(std::string_view part) const { return static_cast<std::size_t>(part.data() - _text.data()); }
+    std::size_t findLess(std::size_t start);
+    std::size_t findAmpersand(std::size_t start);
     void finishToken(std::size_t end);
     void report(std::size_t offset, FindingCode const& code, std::string message, std::string hint = {});
 
@@ -54,7 +58,8 @@ private:
     std::size_t _start = 0;  ///< behind the byte order mark
     std::size_t _position = 0;
     std::vector<std::size_t> _openTags;  ///< offsets of the `<` of the elements around
-    std::vector<std::string_view> _attributeNames;  ///< of the tag at hand
+    std::vector<RawAttribute> _attributes;  ///< of the tag at hand
+    std::size_t _nextLess = 0;  ///< the next `<`, once looked for
     std::size_t _nextAmpersand = 0;
     std::size_t _nextUnusual = 0;  ///< the next byte that is a control character or beyond ASCII
     bool _rootSeen = false;

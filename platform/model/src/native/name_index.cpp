@@ -8,7 +8,6 @@ namespace Varo::Model::Native {
 NameIndex::NameIndex(RobotData const& robot) : _rootLink(robot.root.name + "Link")
 {
     _kinds.reserve(robot.joints.names.size() + robot.subActuators.size() + robot.actuators.names.size());
-    auto const mark = [this](std::string_view name, unsigned kind) { _kinds[name] |= kind; };
     mark(robot.root.name, root);
     mark(_rootLink, rootLink);
     for (auto const& entry : robot.joints.byName) {
@@ -35,6 +34,14 @@ unsigned NameIndex::kinds(std::string_view name) const
 {
     auto const found = _kinds.find(name);
     return found == _kinds.end() ? 0 : found->second;
+}
+
+bool NameIndex::mark(std::string_view name, unsigned kinds)
+{
+    unsigned& marks = _kinds[name];
+    bool const isNew = (marks & kinds) == 0;
+    marks |= kinds;
+    return isNew;
 }
 
 std::string NameIndex::suggestion(std::string_view written, unsigned kinds)

@@ -47,7 +47,12 @@ namespace {
 
 Transform compose(Position3D const& xyz, Position3D const& rpy)
 {
-    return Transform::fromPosition(xyz.x, xyz.y, xyz.z) * Transform::fromRpy(rpy.x, rpy.y, rpy.z);
+    std::array<float, 12> rows = Transform::fromRpy(rpy.x, rpy.y, rpy.z).rows();
+    // Adding 0 keeps -0 out, as multiplying by a rotation does.
+    rows[3] = xyz.x + 0.0F;
+    rows[7] = xyz.y + 0.0F;
+    rows[11] = xyz.z + 0.0F;
+    return Transform::fromRows(rows);
 }
 
 bool sameBits(Transform const& a, Transform const& b)

@@ -80,12 +80,18 @@ void checkActuatorLoops(pugi::xml_node root, ElementReader& reader)
 void checkChainLoops(pugi::xml_node root, ElementReader& reader)
 {
     std::vector<pugi::xml_node> chains;
-    Indices byJoint;
+    Indices byJoint;  // of the joints that chains hang on
     for (pugi::xml_node const chain : root.children("chain")) {
-        for (pugi::xml_node const joint : chain.children("jointRef")) {
-            byJoint.try_emplace(joint.attribute("name").value(), chains.size());
-        }
+        byJoint.try_emplace(chain.attribute("parent").value(), Hanging::nothing);
         chains.push_back(chain);
+    }
+    for (std::size_t i = 0; i < chains.size(); ++i) {
+        for (pugi::xml_node const joint : chains[i].children("jointRef")) {
+            auto const found = byJoint.find(joint.attribute("name").value());
+            if (found != byJoint.end() && found->second == Hanging::nothing) {
+                found->second = i;
+            }
+        }
     }
     for (pugi::xml_node const chain : findCircles(hangOnParents(std::move(chains), byJoint))) {
         reader.diagnostics().report({chain, "parent"}, codes::chainLoop,

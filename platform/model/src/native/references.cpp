@@ -58,7 +58,7 @@ private:
         for (pugi::xml_node const reference : node.children("jointRef")) {
             checkName(reference, "name", joints, "The chain's joint", "a joint");
             std::string_view const name = reference.attribute("name").value();
-            if (!name.empty() && !_jointsInChains.insert(name).second) {
+            if (!name.empty() && !_names.mark(name, NameIndex::passed)) {
                 _diagnostics.report({reference, "name"}, codes::jointInTwoChains,
                                     "The joint " + quoted(name) + " already stands in a chain.");
             }
@@ -101,7 +101,6 @@ private:
 
     Diagnostics& _diagnostics;
     NameIndex _names;
-    std::unordered_set<std::string_view> _jointsInChains;
 };
 
 /// Postures and the angles of one have no table that would notice the second of a name.

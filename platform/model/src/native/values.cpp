@@ -1,9 +1,11 @@
 #include "values.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
 
+#include "short_decimal.hpp"
 #include "utf8.hpp"
 
 namespace Varo::Model::Native {
@@ -18,6 +20,13 @@ bool isWhite(char c)
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
+}
+
+/// How many characters the text begins with that `belong`.
+template <class Belong>
+std::size_t lengthWhere(std::string_view text, Belong const& belong)
+{
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), belong) - text.begin());
 }
 
 /// The digits, point and exponent that a finite number has behind its sign; false for the words that `from_chars`
@@ -60,17 +69,16 @@ bool parseTinyNumber(std::string_view text, float& value)
 /// A number without white space around it.
 bool parseBareNumber(std::string_view text, float& value)
 {
-    // Single digits, zeros above all, are most of what matrices consist of.
-    if (text.size() == 1 && isDigit(text.front())) {
-        value = static_cast<float>(text.front() - '0');
+    std::string_view const digits = withoutPlus(text);
+    float number = 0.0F;
+    if (parseShortDecimal(digits, number) == digits.size() && !digits.empty()) {
+        value = number;
         return true;
     }
-    std::string_view const digits = withoutPlus(text);
     if (!startsLikeNumber(digits)) {
         return false;
     }
     char const* const end = digits.data() + digits.size();
-    float number = 0.0F;
     auto const result = std::from_chars(digits.data(), end, number);
     if (result.ptr != end) {
         return false;
@@ -106,23 +114,21 @@ bool parseNumber(std::string_view text, float& value)
 bool parseNumbers(std::string_view text, float* values, std::size_t count)
 {
     std::size_t found = 0;
-    std::size_t position = 0;
-    while (true) {
-        while (position < text.size() && isWhite(text[position])) {
-            ++position;
-        }
-        std::size_t const start = position;
-        while (position < text.size() && !isWhite(text[position])) {
-            ++position;
-        }
-        if (start == position) {
-            return found == count;
-        }
-        if (found == count || !parseBareNumber(text.substr(start, position - start), values[found])) {
+    for (text = trimmed(text); !text.empty(); ++found) {
+        if (found == count) {
             return false;
         }
-        ++found;
+        std::size_t length = parseShortDecimal(text, values[found]);
+        if (length == 0 || (length < text.size() && !isWhite(text[length]))) {
+            length = lengthWhere(text, [](char c) { return !isWhite(c); });
+            if (!parseBareNumber(text.substr(0, length), values[found])) {
+                return false;
+            }
+        }
+        text.remove_prefix(length);
+        text.remove_prefix(lengthWhere(text, isWhite));
     }
+    return found == count;
 }
 
 bool parseInteger(std::string_view text, std::int32_t& value)

@@ -6,6 +6,7 @@
 #include <string>
 #include <system_error>
 
+#include "short_decimal.hpp"
 #include "urdf/urdf_codes.hpp"
 
 namespace Varo::Model::Urdf {
@@ -52,6 +53,10 @@ bool parseWord(std::string_view word, double& value)
         word.remove_prefix(1);
     }
     double number = 0.0;
+    if (!word.empty() && parseShortDecimal(word, number) == word.size()) {
+        value = number;
+        return true;
+    }
     auto const [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
     if (error == std::errc::invalid_argument || end != word.data() + word.size() || std::isnan(number)) {
         return false;
