@@ -45,8 +45,21 @@ std::size_t findUnusual(std::string_view text, std::size_t start)
 /// Which of 64 bits stands for an attribute's name: names with different bits differ.
 std::uint64_t bitOf(std::string_view name)
 {
-    auto const mixed = static_cast<unsigned>(name.front() + 7 * name[name.size() / 2] + 31 * name.back());
+    auto const mixed = static_cast<unsigned>(name.front() + 11 * name[name.size() / 2] + 17 * name.back());
     return std::uint64_t{1} << (mixed % 64);
+}
+
+/// Goes to the end of the tag. True when its attributes are surely apart from each other and of different names.
+bool skipPlainAttributes(RawTag& tag)
+{
+    std::uint64_t names = 0;
+    bool isPlain = true;
+    for (RawAttribute attribute; tag.next(attribute);) {
+        std::uint64_t const bit = bitOf(attribute.name);
+        isPlain = isPlain && attribute.spaced && (names & bit) == 0;
+        names |= bit;
+    }
+    return isPlain;
 }
 
 /// Whether `&` and `;` may stand around `body`.
@@ -161,38 +174,16 @@ void XmlScanner::scanStartTag()
     enterRoot(start);
     _openTags.push_back(start);
     RawTag tag(_text, start);
-    bool const namesDiffer = readAttributes(tag);
+    bool const isPlain = skipPlainAttributes(tag);
     _broken = tag.isBroken();
     std::size_t const end = tag.isBroken() ? _text.size() : tag.end();
-    if (findLess(start + 1) < end || findAmpersand(start) < end) {
-        checkValues();
-    }
-    if (!namesDiffer) {
-        checkNamesDiffer(start);
+    if (!isPlain || findLess(start + 1) < end || findAmpersand(start) < end) {
+        checkAttributes(start);
     }
     finishToken(end);
     if (tag.isEmptyElement()) {
         _openTags.pop_back();
     }
-}
-
-/// True when all names surely differ.
-bool XmlScanner::readAttributes(RawTag& tag)
-{
-    _attributes.clear();
-    std::uint64_t names = 0;
-    bool differ = true;
-    for (RawAttribute attribute; tag.next(attribute);) {
-        if (!attribute.spaced) {
-            report(offsetOf(attribute.name), codes::malformedXml,
-                   "There is no white space before the attribute " + quoted(attribute.name) + ".");
-        }
-        std::uint64_t const bit = bitOf(attribute.name);
-        differ = differ && (names & bit) == 0;
-        names |= bit;
-        _attributes.push_back(attribute);
-    }
-    return differ;
 }
 
 void XmlScanner::enterRoot(std::size_t tag)
@@ -276,32 +267,42 @@ void XmlScanner::scanDocumentType()
     finishToken(endOfDocumentType(_text, _position + 2));
 }
 
-/// Reports the second of two like-named attributes.
-void XmlScanner::checkNamesDiffer(std::size_t tag)
+/// All attributes of the tag that begins at `start`, one by one.
+void XmlScanner::checkAttributes(std::size_t start)
 {
-    std::sort(_attributes.begin(), _attributes.end(), [](RawAttribute const& a, RawAttribute const& b) {
-        return std::make_pair(a.name, a.name.data()) < std::make_pair(b.name, b.name.data());
-    });
-    for (std::size_t i = 1; i < _attributes.size(); ++i) {
-        std::string_view const name = _attributes[i].name;
-        if (name == _attributes[i - 1].name) {
-            report(std::max(tag, offsetOf(name)), codes::repeatedAttribute,
-                   "The attribute " + quoted(name) + " stands twice in one element.", "The first one counts.");
+    std::vector<std::string_view> names;
+    RawTag tag(_text, start);
+    for (RawAttribute attribute; tag.next(attribute);) {
+        names.push_back(attribute.name);
+        if (!attribute.spaced) {
+            report(offsetOf(attribute.name), codes::malformedXml,
+                   "There is no white space before the attribute " + quoted(attribute.name) + ".");
+        }
+        checkValue(attribute.value);
+    }
+    checkNamesDiffer(start, names);
+}
+
+/// Reports the second of two like-named attributes.
+void XmlScanner::checkNamesDiffer(std::size_t tag, std::vector<std::string_view>& names)
+{
+    std::stable_sort(names.begin(), names.end());
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        if (names[i] == names[i - 1]) {
+            report(std::max(tag, offsetOf(names[i])), codes::repeatedAttribute,
+                   "The attribute " + quoted(names[i]) + " stands twice in one element.", "The first one counts.");
         }
     }
 }
 
-void XmlScanner::checkValues()
+void XmlScanner::checkValue(std::string_view value)
 {
-    for (RawAttribute const& attribute : _attributes) {
-        std::size_t const start = offsetOf(attribute.value);
-        std::size_t const bracket = attribute.value.find('<');
-        if (bracket != attribute.value.npos) {
-            report(start + bracket, codes::malformedXml, "The character < cannot stand in an attribute's value.",
-                   "Write &lt; instead; or is the closing quote missing?");
-        }
-        checkReferences(start, start + attribute.value.size());
+    std::size_t const bracket = value.find('<');
+    if (bracket != value.npos) {
+        report(offsetOf(value) + bracket, codes::malformedXml, "The character < cannot stand in an attribute's value.",
+               "Write &lt; instead; or is the closing quote missing?");
     }
+    checkReferences(offsetOf(value), offsetOf(value) + value.size());
 }
 
 void XmlScanner::checkReferences(std::size_t begin, std::size_t end)

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "diagnostics.hpp"
-#include "raw_tag.hpp"
 
 namespace Varo::Model {
 
@@ -39,9 +38,9 @@ private:
     void scanInstruction();
     void scanDocumentType();
     void checkDeclaration(std::string_view instruction);
-    bool readAttributes(RawTag& tag);
-    void checkValues();
-    void checkNamesDiffer(std::size_t tag);
+    void checkAttributes(std::size_t start);
+    void checkNamesDiffer(std::size_t tag, std::vector<std::string_view>& names);
+    void checkValue(std::string_view value);
     void checkReferences(std::size_t begin, std::size_t end);
     void checkCharacters(std::size_t end);
     void enterRoot(std::size_t tag);
@@ -58,7 +57,6 @@ private:
     std::size_t _start = 0;  ///< behind the byte order mark
     std::size_t _position = 0;
     std::vector<std::size_t> _openTags;  ///< offsets of the `<` of the elements around
-    std::vector<RawAttribute> _attributes;  ///< of the tag at hand
     std::size_t _nextLess = 0;  ///< the next `<`, once looked for
     std::size_t _nextAmpersand = 0;
     std::size_t _nextUnusual = 0;  ///< the next byte that is a control character or beyond ASCII
