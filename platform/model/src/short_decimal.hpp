@@ -19,7 +19,7 @@ namespace Varo::Model {
 template <class Float>
 std::size_t parseShortDecimal(std::string_view text, Float& value)
 {
-    constexpr Float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F, 1e9F, 1e10F};
+    static constexpr Float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F, 1e9F, 1e10F};
     constexpr std::ptrdiff_t mostDecimals = sizeof powers / sizeof powers[0] - 1;
     constexpr std::uint64_t largestExact = std::uint64_t{1}
                                            << static_cast<unsigned>(std::numeric_limits<Float>::digits);
@@ -47,7 +47,7 @@ std::size_t parseShortDecimal(std::string_view text, Float& value)
     if (digitCount == 0 || digits > largestExact || decimals > mostDecimals || FLT_EVAL_METHOD != 0) {
         return 0;
     }
-    auto const number = static_cast<Float>(digits) / powers[decimals];
+    auto const number = static_cast<Float>(static_cast<std::int64_t>(digits)) / powers[decimals];
     value = negative ? -number : number;
     return static_cast<std::size_t>(at - text.data());
 }

@@ -79,7 +79,7 @@ void ElementReader::readAttributes(Element const& element, pugi::xml_node node, 
 {
     Bits seen = 0;
     std::size_t next = 0;
-    for (pugi::xml_attribute const attribute : node.attributes()) {
+    for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
         std::size_t const index = findRow(element.attributes, attribute.name(), next);
         if (index == element.attributes.size()) {
             seen |= reportUnknownAttribute(element, node, attribute);
@@ -99,7 +99,7 @@ void ElementReader::readAttributes(Element const& element, pugi::xml_node node, 
 void ElementReader::readContent(Element const& element, pugi::xml_node node, void* record)
 {
     Bits seen = 0;
-    for (pugi::xml_node const child : node.children()) {
+    for (auto child = node.first_child(); child; child = child.next_sibling()) {
         if (child.type() == pugi::node_element) {
             seen |= readChild(element, child, seen, record);
         } else if (isText(child) && element.text == nullptr && !trimmed(child.value()).empty()) {

@@ -19,14 +19,8 @@ NameIndex::NameIndex(RobotData const& robot) : _rootLink(robot.root.name + "Link
     for (auto const& entry : robot.wheels.byName) {
         mark(entry.first, wheel);
     }
-    for (auto const& entry : robot.chains.byName) {
-        for (std::string const& name : entry.second.jointNames) {
-            mark(name, inChain | hasAngle);
-        }
-    }
     for (auto const& entry : robot.actuators.byName) {
-        bool const onChain = (kinds(entry.second.parentJoint) & inChain) != 0;
-        mark(entry.first, actuator | (onChain ? hasAngle : 0U));
+        mark(entry.first, actuator);
     }
 }
 
@@ -36,12 +30,12 @@ unsigned NameIndex::kinds(std::string_view name) const
     return found == _kinds.end() ? 0 : found->second;
 }
 
-bool NameIndex::mark(std::string_view name, unsigned kinds)
+unsigned NameIndex::mark(std::string_view name, unsigned kinds)
 {
-    unsigned& marks = _kinds[name];
-    bool const isNew = (marks & kinds) == 0;
-    marks |= kinds;
-    return isNew;
+    unsigned& all = _kinds[name];
+    unsigned const before = all;
+    all |= kinds;
+    return before;
 }
 
 std::string NameIndex::suggestion(std::string_view written, unsigned kinds)

@@ -22,16 +22,15 @@ public:
         rootLink = 32,
         inChain = 64,  ///< a joint or a mere name that a chain lists
         hasAngle = 128,  ///< stands in a chain, or is an actuator that hangs on what does
-        passed = 256,  ///< marked by those who go through the chains
     };
 
-    /// `robot` must outlive the index and stay as it is.
+    /// `robot` must outlive the index and stay as it is. What chains list has to be marked afterwards.
     explicit NameIndex(RobotData const& robot);
 
     unsigned kinds(std::string_view name) const;
 
-    /// False when the name, whose characters must outlive the index, already bears one of the marks.
-    bool mark(std::string_view name, unsigned kinds);
+    /// Adds to what bears the name, whose characters must outlive the index, and answers what bore it before.
+    unsigned mark(std::string_view name, unsigned kinds);
 
     /// A hint with the name of such a kind that was probably meant; empty when there is none. Gives up when it has
     /// compared very many names.

@@ -14,16 +14,20 @@ namespace {
 /// One walk over the elements that hold references. An element that lacks a name or a reference has been reported.
 class ReferenceCheck {
 public:
-    explicit ReferenceCheck(ElementReader& reader) : _diagnostics(reader.diagnostics()), _names(reader.robot()) {}
+    explicit ReferenceCheck(ElementReader& reader)
+        : _diagnostics(reader.diagnostics()), _robot(reader.robot()), _names(_robot)
+    {}
 
     void check(pugi::xml_node root)
     {
+        for (pugi::xml_node const chain : root.children("chain")) {
+            checkChain(chain);
+        }
+        markActuatorsOnChains();
         for (pugi::xml_node const node : root.children()) {
             std::string_view const element = node.name();
             if (element == "joint") {
                 checkJoint(node);
-            } else if (element == "chain") {
-                checkChain(node);
             } else if (element == "actuator") {
                 checkActuator(node);
             } else if (element == "wheel") {
@@ -41,28 +45,46 @@ private:
     static constexpr unsigned subJoints = NameIndex::subJoint;
     static constexpr unsigned carriers = joints | subJoints | NameIndex::wheel | NameIndex::root | NameIndex::rootLink;
 
+    void checkChain(pugi::xml_node node)
+    {
+        checkName(node, "parent", joints | subJoints | NameIndex::root, "The chain's parent", "a joint or the root");
+        for (pugi::xml_node const reference : node.children("jointRef")) {
+            std::string_view const name = reference.attribute("name").value();
+            if (name.empty()) {
+                continue;
+            }
+            unsigned const before = _names.mark(name, NameIndex::inChain | NameIndex::hasAngle);
+            if ((before & joints) == 0) {
+                reportDangling(reference, "name", joints, "The chain's joint", "a joint");
+            }
+            if ((before & NameIndex::inChain) != 0) {
+                _diagnostics.report({reference, "name"}, codes::jointInTwoChains,
+                                    "The joint " + quoted(name) + " already stands in a chain.");
+            } else if ((before & joints) != 0) {
+                ++_jointsInChains;
+            }
+        }
+    }
+
+    void markActuatorsOnChains()
+    {
+        for (auto const& [name, actuator] : _robot.actuators.byName) {
+            if ((_names.kinds(actuator.parentJoint) & NameIndex::inChain) != 0) {
+                _names.mark(name, NameIndex::hasAngle);
+            }
+        }
+    }
+
     void checkJoint(pugi::xml_node node)
     {
+        bool const allInChains = _jointsInChains == _robot.joints.names.size();
         char const* const name = node.attribute("name").value();
-        if ((_names.kinds(name) & (joints | NameIndex::inChain)) == joints) {
+        if (!allInChains && (_names.kinds(name) & (joints | NameIndex::inChain)) == joints) {
             _diagnostics.report(node, codes::jointInNoChain,
                                 "The joint " + quoted(name) + " stands in no chain, so that no model will contain it.",
                                 "Add a jointRef to a chain.");
         }
         checkName(node.child("mirror"), "name", joints | subJoints, "The joint's mirror", "a joint");
-    }
-
-    void checkChain(pugi::xml_node node)
-    {
-        checkName(node, "parent", joints | subJoints | NameIndex::root, "The chain's parent", "a joint or the root");
-        for (pugi::xml_node const reference : node.children("jointRef")) {
-            checkName(reference, "name", joints, "The chain's joint", "a joint");
-            std::string_view const name = reference.attribute("name").value();
-            if (!name.empty() && !_names.mark(name, NameIndex::passed)) {
-                _diagnostics.report({reference, "name"}, codes::jointInTwoChains,
-                                    "The joint " + quoted(name) + " already stands in a chain.");
-            }
-        }
     }
 
     void checkActuator(pugi::xml_node node)
@@ -91,16 +113,24 @@ private:
     void checkName(pugi::xml_node node, char const* attribute, unsigned kinds, char const* subject, char const* wanted)
     {
         char const* const name = node.attribute(attribute).value();
-        if (*name == 0 || (_names.kinds(name) & kinds) != 0) {
-            return;
+        if (*name != 0 && (_names.kinds(name) & kinds) == 0) {
+            reportDangling(node, attribute, kinds, subject, wanted);
         }
+    }
+
+    void reportDangling(pugi::xml_node node, char const* attribute, unsigned kinds, char const* subject,
+                        char const* wanted)
+    {
+        char const* const name = node.attribute(attribute).value();
         _diagnostics.report({node, attribute}, codes::danglingReference,
                             std::string(subject) + ", " + quoted(name) + ", is not the name of " + wanted + ".",
                             _names.suggestion(name, kinds));
     }
 
     Diagnostics& _diagnostics;
+    RobotData const& _robot;
     NameIndex _names;
+    std::size_t _jointsInChains = 0;  ///< of those that the robot has, each counted once
 };
 
 /// Postures and the angles of one have no table that would notice the second of a name.

@@ -12,10 +12,8 @@ namespace Varo::Model::Native {
 
 namespace {
 
-bool isWhite(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
+/// A closure, so that algorithms inline it.
+constexpr auto isWhite = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; };
 
 bool isDigit(char c)
 {

@@ -45,7 +45,7 @@ void readBody(pugi::xml_node link, JointConfig& body, Report const& report)
     body.attributes[linkNameAttribute] = link.attribute("name").value();
     pugi::xml_node inertial;
     std::vector<pugi::xml_node> visuals;
-    for (pugi::xml_node child : link.children()) {
+    for (auto child = link.first_child(); child; child = child.next_sibling()) {
         std::string_view const name = child.name();
         if (name == "visual") {
             visuals.push_back(child);

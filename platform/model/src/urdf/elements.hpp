@@ -26,7 +26,7 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
                                              Report const& report)
 {
     std::array<pugi::xml_node, count> children;
-    for (pugi::xml_node child : node.children()) {
+    for (auto child = node.first_child(); child; child = child.next_sibling()) {
         if (child.type() != pugi::node_element) {
             continue;
         }
