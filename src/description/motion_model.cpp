@@ -64,7 +64,7 @@ MotionModel::MotionModel(std::unique_ptr<Varo::Model::Robot> robot) : _robot(std
     std::vector<std::string> names;
     _robot->listChains(_chainNames, _chains);
     _robot->listActuators(names, _actuators, _subActuators);
-    _robot->takeJoints(_robotName, _root, _joints, names, _reflectionForced);
+    _robot->listJoints(_robotName, _root, _joints, names, _reflectionForced);
     _robot->listSensors(names, _sensors);
     _robot->listWheels(names, _wheels);
 

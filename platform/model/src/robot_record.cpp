@@ -40,16 +40,6 @@ void RobotRecord::listJoints(std::string& robotName, JointConfig& root, JointTab
     reflectionForced = _data.reflectionForced;
 }
 
-void RobotRecord::takeJoints(std::string& robotName, JointConfig& root, JointTable& joints,
-                             std::vector<std::string>& names, std::vector<std::string>& reflectionForced)
-{
-    robotName = _data.name;
-    root = _data.root;
-    names = std::exchange(_data.joints.names, {});
-    joints = std::exchange(_data.joints.byName, {});
-    reflectionForced = _data.reflectionForced;
-}
-
 void RobotRecord::listSensors(std::vector<std::string>& names, SensorTable& sensors) const
 {
     list(_data.sensors, names, sensors);

@@ -63,8 +63,6 @@ public:
     void listChains(std::vector<std::string>& names, ChainTable& chains) const override;
     void listJoints(std::string& robotName, JointConfig& root, JointTable& joints, std::vector<std::string>& names,
                     std::vector<std::string>& reflectionForced) const override;
-    void takeJoints(std::string& robotName, JointConfig& root, JointTable& joints, std::vector<std::string>& names,
-                    std::vector<std::string>& reflectionForced) override;
     void listSensors(std::vector<std::string>& names, SensorTable& sensors) const override;
     void listWheels(std::vector<std::string>& names, WheelTable& wheels) const override;
     std::vector<PostureConfig> const& postures() const override { return _data.postures; }

@@ -41,14 +41,6 @@ public:
     virtual void listWheels(std::vector<std::string>& names, WheelTable& wheels) const = 0;
     virtual ~Robot() = default;
 
-    /// As listJoints, for the last one who asks: the robot may hand over its records instead of copying them, and then
-    /// lists no joints any more. The one operation that must run alone.
-    virtual void takeJoints(std::string& robotName, JointConfig& root, JointTable& joints,
-                            std::vector<std::string>& names, std::vector<std::string>& reflectionForced)
-    {
-        listJoints(robotName, root, joints, names, reflectionForced);
-    }
-
     /// The postures that the description carries, in its order.
     virtual std::vector<PostureConfig> const& postures() const = 0;
     /// Every pretty name by its index.
