@@ -17,9 +17,12 @@ namespace {
 
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
+/// Hundreds of digits, whose size the exponent alone does not tell.
+std::string const zeros(400, '0');
+
 TEST(Values, NumbersAreFiniteDecimals)
 {
-    for (auto const& [text, expected] : {std::pair("1", 1.0F),
+    for (auto const& [text, expected] : {std::pair<std::string, float>("1", 1.0F),
                                          {"+1", 1.0F},
                                          {"-2e-3", -0.002F},
                                          {".5", 0.5F},
@@ -29,14 +32,41 @@ TEST(Values, NumbersAreFiniteDecimals)
                                          {"3.4028235e38", 3.4028235e38F},
                                          {"1e-60", 0.0F},
                                          {"-1e-400", 0.0F},
-                                         {"1e-44", 1e-44F}}) {
+                                         {"1e-44", 1e-44F},
+                                         {"0." + zeros + "1e2", 0.0F},
+                                         {"1" + zeros + "e-99999999999999999999", 0.0F},
+                                         {"2" + zeros + "e-400", 2.0F}}) {
         float value = -1.0F;
         EXPECT_TRUE(parseNumber(text, value)) << text;
         EXPECT_EQ(value, expected) << text;
     }
-    for (char const* text :
-         {"",         " ",    "+",    "-",   ".",   "e5",  "nan", "NaN", "-nan", "inf", "+inf",  "-inf",
-          "infinity", "0x10", "1.0f", "1,5", "1 2", "--1", "+-1", "-+1", "++1",  "1e",  "1e999", "-1e39"}) {
+    for (std::string const& text : std::vector<std::string>{"1" + zeros + "e-2",
+                                                            "-1" + zeros,
+                                                            "0." + zeros + "1e999999999999999999999",
+                                                            "",
+                                                            " ",
+                                                            "+",
+                                                            "-",
+                                                            ".",
+                                                            "e5",
+                                                            "nan",
+                                                            "NaN",
+                                                            "-nan",
+                                                            "inf",
+                                                            "+inf",
+                                                            "-inf",
+                                                            "infinity",
+                                                            "0x10",
+                                                            "1.0f",
+                                                            "1,5",
+                                                            "1 2",
+                                                            "--1",
+                                                            "+-1",
+                                                            "-+1",
+                                                            "++1",
+                                                            "1e",
+                                                            "1e999",
+                                                            "-1e39"}) {
         float value = 42.0F;
         EXPECT_FALSE(parseNumber(text, value)) << text;
         EXPECT_EQ(value, 42.0F) << text;

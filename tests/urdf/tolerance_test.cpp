@@ -25,6 +25,14 @@ TEST(UrdfTolerance, TakesOrNotesWhatRealFilesAreLooseAbout)
     EXPECT_EQ(ModelUtils::robotFromXml(text)->version(), "1.2");
 }
 
+TEST(UrdfTolerance, CountsWhatAnInertialDoesNotStateAsZero)
+{
+    Findings const findings = ModelUtils::diagnose(robot("<link name=\"root\"><inertial><mass/></inertial></link>"));
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].code, "incomplete-inertial");
+    EXPECT_THAT(findings[0].message, testing::HasSubstr("no mass and no inertia"));
+}
+
 TEST(UrdfTolerance, NotesEachKindOfStrangeElementOnce)
 {
     std::string text = link("root");
@@ -39,16 +47,17 @@ TEST(UrdfTolerance, NotesEachKindOfStrangeElementOnce)
 
 TEST(UrdfTolerance, ReadsNumbersOfEveryForm)
 {
-    for (auto const& [number, expected] : {std::pair("1", 1.0F),
+    for (auto const& [number, expected] : {std::pair<std::string, float>("1", 1.0F),
                                            {"+1", 1.0F},
                                            {"-.5", -0.5F},
                                            {"5.", 5.0F},
                                            {"\t2e-1\n", 0.2F},
                                            {"1E+2", 100.0F},
                                            {"1e-999", 0.0F},
+                                           {"0." + std::string(400, '0') + "1e2", 0.0F},
                                            {"007", 7.0F},
                                            {"0.0000000000000000000000000000001e1", 1e-30F}}) {
-        std::string const text = robot(arm("<dynamics damping=\"" + std::string(number) + "\"/>"));
+        std::string const text = robot(arm("<dynamics damping=\"" + number + "\"/>"));
         EXPECT_EQ(tablesOf(text).joints.at("C").damping, expected) << number;
     }
 }

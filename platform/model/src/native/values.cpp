@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "decimal_size.hpp"
 #include "short_decimal.hpp"
 #include "utf8.hpp"
 
@@ -56,8 +57,7 @@ bool parseTinyNumber(std::string_view text, float& value)
         value = static_cast<float>(wide);
         return true;
     }
-    auto const exponent = text.find_first_of("eE");
-    if (result.ec == std::errc::result_out_of_range && exponent + 1 < text.size() && text[exponent + 1] == '-') {
+    if (result.ec == std::errc::result_out_of_range && isBelowOne(text)) {
         value = text.front() == '-' ? -0.0F : 0.0F;
         return true;
     }

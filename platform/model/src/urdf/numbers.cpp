@@ -6,6 +6,7 @@
 #include <string>
 #include <system_error>
 
+#include "decimal_size.hpp"
 #include "short_decimal.hpp"
 #include "urdf/urdf_codes.hpp"
 
@@ -34,17 +35,11 @@ std::string_view takeWord(std::string_view& text)
     return word;
 }
 
-/// What a well-formed number stands for that has no place in double precision: zero when it is too small, and infinity
-/// when it is too large.
+/// What a well-formed number stands for that has no place in double precision.
 double outOfRange(std::string_view word)
 {
     double const sign = word.front() == '-' ? -1.0 : 1.0;
-    auto const exponent = word.find_first_of("eE");
-    bool tooSmall = word.find_first_of("123456789") > word.find('.');
-    if (exponent != word.npos) {
-        tooSmall = word[exponent + 1] == '-';
-    }
-    return tooSmall ? 0.0 : sign * std::numeric_limits<double>::infinity();
+    return isBelowOne(word) ? 0.0 : sign * std::numeric_limits<double>::infinity();
 }
 
 bool parseWord(std::string_view word, double& value)
