@@ -62,7 +62,7 @@ What the reader of a URDF description could not carry over is not written;
 are kept as attributes "urdfLink".
 
 Examples:
-  varo-robot convert panda.urdf -o panda.xml
+  varo-robot convert arm.urdf -o arm.xml
   varo-robot convert robot.urdf | varo-robot dump -)",
                                 declare};
 

@@ -203,7 +203,7 @@ The exit status is 1 when nothing bears the name.
 
 Examples:
   varo-robot show HeadYaw robots/humanoid.xml
-  varo-robot show panda_link4 panda.urdf)",
+  varo-robot show forearm_link arm.urdf)",
                              declare};
 
 }  // namespace Tool
