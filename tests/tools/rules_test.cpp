@@ -173,7 +173,7 @@ TEST_F(Rules, FindFaultsOfUrdfInItsText)
 <joint name="J" type="revolute"><parent link="Base"/><child link="Point"/>
  <limit lower="1" upper="2" effort="1" velocity="0"/></joint>
 <joint name="K" type="continuous"><parent link="Point"/><child link="J"/>
- <limit effort="1" velocity="inf"/><mimic joint="J"/></joint>
+ <limit effort="1" velocity="1e31"/><mimic joint="J"/></joint>
 <joint name="F" type="fixed"><parent link="J"/><child link="Flange"/><limit velocity="0" effort="0"/></joint>
 </robot>)"),
               (Strings{"3 negative-mass", "6 inertia-not-possible", "10 speed-not-positive", "12 unlimited"}));

@@ -63,10 +63,15 @@ std::vector<Refusal> const refusals = {
     {"not a number", jointWith("<origin xyz=\"0 0 0\" @rpy=\"nan 0 0\"/>"), "not-a-number"},
     {"infinite place", jointWith("<origin @xyz=\"0 inf 0\"/>"), "not-a-number"},
     {"hexadecimal", jointWith("<dynamics @damping=\"0x10\"/>"), "not-a-number"},
+    {"word that would not count",
+     twoLinks("<joint name=\"A\" type=\"continuous\"><parent link=\"root\"/><child link=\"a\"/>"
+              "<limit @upper=\"none\"/></joint>"),
+     "not-a-number"},
     {"unit behind", jointWith("<origin @xyz=\"1m 0 0\"/>"), "not-a-number"},
     {"commas", jointWith("<axis @xyz=\"0,0,1\"/>"), "not-a-number"},
     {"two signs", jointWith("<origin @xyz=\"+-1 0 0\"/>"), "not-a-number"},
     {"number too large", jointWith("<origin @xyz=\"1e31 0 0\"/>"), "not-a-number"},
+    {"number too long", jointWith("<origin @xyz=\"1" + std::string(400, '0') + "e-2 0 0\"/>"), "not-a-number"},
     {"empty number", jointWith("<dynamics @friction=\"\"/>"), "not-a-number"},
     {"mass that is none",
      twoLinks("<link name=\"b\"><inertial><mass @value=\"heavy\"/><inertia ixx=\"1\"/></inertial></link>" +
@@ -108,10 +113,11 @@ TEST(UrdfRefusals, NameTheFaultAndItsPlace)
 
 TEST(UrdfRefusals, AreAllFoundInOnePass)
 {
-    EXPECT_THAT(
-        complaintsAbout(robot(link("a") + link("a") + joint("A", "a", "z") +
-                              joint("B", "a", "y", "<axis xyz=\"0 0 0\"/><limit lower=\"x\"/>"))),
-        testing::UnorderedElementsAre("duplicate-name", "unknown-link", "unknown-link", "zero-axis", "not-a-number"));
+    EXPECT_THAT(complaintsAbout(robot(link("a") + link("a") + joint("A", "a", "z") +
+                                      joint("B", "a", "y", "<axis xyz=\"0 0 0\"/><limit lower=\"x\"/>") + link("b") +
+                                      link("c") + joint("C", "b", "c") + joint("D", "c", "b"))),
+                testing::UnorderedElementsAre("duplicate-name", "unknown-link", "unknown-link", "zero-axis",
+                                              "not-a-number", "joint-cycle"));
 }
 
 }  // namespace

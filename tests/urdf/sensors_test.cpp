@@ -24,10 +24,11 @@ TEST(UrdfSensors, BecomeTheNearestKind)
     };
     for (Case const& c :
          {Case{"eye", camera, "neck", 0}, Case{"depth", depthCamera, "neck", 0}, Case{"blind", depthCamera, "neck", 0},
-          Case{"gyro", inertial, "neck", 6}, Case{"nose", bumper, "neck", 1}, Case{"scan", arrayDepth, "neck", 1},
-          Case{"echo", sonar, "neck", 1}, Case{"place", unknownSensor, "neck", 0}, Case{"old", camera, "neck", 0},
-          Case{"strain", fsr, "neck", 1}, Case{"belly", bumper, "body", 1}, Case{"own", camera, "neck", 0},
-          Case{"own_scan", arrayDepth, "body", 1}, Case{"eye_2", camera, "neck", 0}}) {
+          Case{"gyro", inertial, "neck", 6}, Case{"nose", bumper, "neck", 1}, Case{"skin", tactile, "neck", 1},
+          Case{"ear", microphone, "neck", 0}, Case{"scan", arrayDepth, "neck", 1}, Case{"echo", sonar, "neck", 1},
+          Case{"place", unknownSensor, "neck", 0}, Case{"old", camera, "neck", 0}, Case{"strain", fsr, "neck", 1},
+          Case{"belly", bumper, "body", 1}, Case{"own", camera, "neck", 0}, Case{"own_scan", arrayDepth, "body", 1},
+          Case{"eye_2", camera, "neck", 0}}) {
         SCOPED_TRACE(c.name);
         ASSERT_EQ(tables.sensors.count(c.name), 1U);
         SensorConfig const& sensor = tables.sensors.at(c.name);
@@ -35,7 +36,7 @@ TEST(UrdfSensors, BecomeTheNearestKind)
         EXPECT_EQ(sensor.parent, c.parent);
         EXPECT_EQ(sensor.keys.size(), c.keys);
     }
-    EXPECT_EQ(tables.sensors.size(), 14U);
+    EXPECT_EQ(tables.sensors.size(), 16U);
     EXPECT_THAT(tables.sensors.at("echo").keys, ElementsAre("echo/Distance/Sensor"));
     EXPECT_THAT(complaintsAbout(readFile(dataFile("sensors.urdf"))),
                 ElementsAre("sensor-size", "sensor-kind-lost", "renamed", "sensor-lost"));

@@ -1,6 +1,10 @@
+#include <charconv>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+
+#include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/trim.hpp>
 
 #include "rules/facts.hpp"
 #include "rules/rule_codes.hpp"
@@ -10,14 +14,18 @@ namespace Tool::Rules {
 
 namespace {
 
-/// A speed that is not written down, or written as infinite, is one that is not stated.
+/// Whether this number says so. Beside 0, a speed of 0 may stand for one that is not written down, or is infinite.
+bool isWrittenAsNotPositive(std::string text)
+{
+    boost::algorithm::trim_left_if(text, boost::algorithm::is_any_of(" \t\r\n+"));
+    double value = 0.0;
+    auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && value <= 0.0;
+}
+
 void checkSpeed(Facts& facts, Subject const& subject, float speed)
 {
-    if (speed > 0.0F) {
-        return;
-    }
-    bool const isStated = facts.findings.textOf(subject).find_first_of("0123456789") != std::string::npos;
-    if (isStated) {
+    if (speed <= 0.0F && isWrittenAsNotPositive(facts.findings.textOf(subject))) {
         facts.warn(subject, code::speedNotPositive,
                    "The greatest speed of " + quoted(std::string(subject.name)) + ", " + shortest(speed) +
                        ", is not above 0.");

@@ -24,10 +24,11 @@ Matrix readInertia(pugi::xml_node node, Diagnostics& diagnostics)
 void readInertial(pugi::xml_node inertial, JointConfig& body, Report const& report)
 {
     auto const [origin, mass, inertia] = childrenOf<3>(inertial, {"origin", "mass", "inertia"}, report);
-    if (!mass || !inertia) {
-        report.diagnostics.report(
-            inertial, codes::incompleteInertial,
-            std::string("This inertial states no ") + (mass ? "inertia" : "mass") + "; it counts as 0.");
+    bool const hasMass = mass.attribute("value");
+    if (!hasMass || !inertia) {
+        std::string const missing = hasMass ? "inertia" : inertia ? "mass" : "mass and no inertia";
+        report.diagnostics.report(inertial, codes::incompleteInertial,
+                                  "This inertial states no " + missing + "; what is missing counts as 0.");
     }
     Pose const frame = readOrigin(origin, report.diagnostics);
     Matrix const turned = frame.rotation * readInertia(inertia, report.diagnostics) * transposed(frame.rotation);

@@ -67,7 +67,9 @@ void readLimits(pugi::xml_node node, pugi::xml_node limit, Motion motion, JointC
 {
     config.maxTorque = readCapacity(limit, "effort", diagnostics);
     config.maxAngularSpeed = readCapacity(limit, "velocity", diagnostics);
-    if (motion == Motion::unlimited) {
+    config.minAngle = static_cast<float>(readLimit(limit, "lower", -1, diagnostics));
+    config.maxAngle = static_cast<float>(readLimit(limit, "upper", 1, diagnostics));
+    if (motion == Motion::unlimited) {  // whatever the limits are, as long as they are numbers
         config.minAngle = -std::numeric_limits<float>::infinity();
         config.maxAngle = std::numeric_limits<float>::infinity();
         return;
@@ -76,8 +78,6 @@ void readLimits(pugi::xml_node node, pugi::xml_node limit, Motion motion, JointC
         diagnostics.report(node, codes::missingLimit, "This joint states no limits; it stays at 0.",
                            "Give it a limit element, or the type continuous.");
     }
-    config.minAngle = static_cast<float>(readLimit(limit, "lower", -1, diagnostics));
-    config.maxAngle = static_cast<float>(readLimit(limit, "upper", 1, diagnostics));
     if (config.minAngle > config.maxAngle) {
         diagnostics.report(limit, codes::reversedLimits, "The lower limit is above the upper one.");
     }

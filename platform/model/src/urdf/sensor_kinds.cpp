@@ -66,6 +66,8 @@ SensorKind const* findSensorKind(std::string_view name)
         {"rgbd_camera", depthCamera, {}},
         {"imu", inertial, motion},
         {"contact", bumper, {"Contact"}},
+        {"tactile", tactile, {"Contact"}},
+        {"microphone", microphone, {}},
         {"ray", arrayDepth, {"Distance"}},
         {"gpu_ray", arrayDepth, {"Distance"}},
         {"lidar", arrayDepth, {"Distance"}},

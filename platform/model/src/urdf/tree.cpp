@@ -17,6 +17,7 @@ public:
     /// Whether every name could be followed.
     bool connectAll();
     void findRoot(pugi::xml_node robot);
+    void reportCycles();
 
 private:
     void index();
@@ -24,7 +25,6 @@ private:
              pugi::xml_node node);
     std::size_t linkOf(Joint const& joint, pugi::xml_node element, char const* role);
     void attach(std::size_t joint);
-    void reportCycles();
     std::size_t linkAbove(std::size_t link) const;
     void reportCycle(std::size_t link);
 
@@ -125,7 +125,6 @@ void Connector::findRoot(pugi::xml_node robot)
                                 "Let a joint attach it to the robot.");
         }
     }
-    reportCycles();
 }
 
 /// Every link has one parent at most, so that going up from it ends at a root, or goes round in a circle.
@@ -173,6 +172,7 @@ void connect(Description& description, pugi::xml_node robot, Diagnostics& diagno
     if (connector.connectAll()) {
         connector.findRoot(robot);
     }
+    connector.reportCycles();
 }
 
 ChildJoints::ChildJoints(Description const& description)

@@ -41,8 +41,8 @@ inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning
                                             "The lower limit of a joint is above the upper one."};
 inline constexpr FindingCode unlimited{"unlimited", Severity::warning,
                                        "An infinite effort or velocity is kept as 0, which stands for not stated."};
-inline constexpr FindingCode incompleteInertial{"incomplete-inertial", Severity::warning,
-                                                "An inertial states no mass or no inertia; it counts as 0."};
+inline constexpr FindingCode incompleteInertial{
+    "incomplete-inertial", Severity::warning, "An inertial states no mass or no inertia; what is missing counts as 0."};
 inline constexpr FindingCode visualsLost{"visuals-lost", Severity::warning,
                                          "A link has several visuals, of which one mesh is kept."};
 inline constexpr FindingCode meshOffsetLost{"mesh-offset-lost", Severity::warning,
