@@ -82,7 +82,7 @@ TEST_F(Check, BuildsTheModelToo)
     Outcome const outcome = run({"check", "-"}, text);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err,
-              "<stdin>: error: No model can be built from it: Could not get Eye resolutions"
+              "<stdin>:1:1: error: No model can be built from it: Could not get Eye resolutions"
               " [model-not-built]\n");
 }
 

@@ -222,12 +222,15 @@ and reports in one run all that is found, a line each on standard error:
       what to do about it
 
 Errors refuse the description, warnings are about what loads but is hardly
-meant, and notes say what the reader passed over. What concerns the file as a
-whole bears no line. The rules warn of bodies and motors that cannot be, of
-mirror pairs that do not mirror, and of what has no effect; docs/checking.md
-lists them with their codes and tolerances. Standard output gets a summary of each file or, with
---json, an array of all findings, each an object with file, severity, code,
-line, column, path, message and hint.
+meant, and notes say what the reader passed over. What came up while the model
+was built stands at the root element; what concerns the file as a whole bears
+no line. The rules warn of bodies and motors that cannot be, of mirror pairs
+that do not mirror, and of what has no effect; docs/checking.md lists them with
+their codes and tolerances.
+
+Standard output gets a summary of each file or, with --json, an array of all
+findings, each an object with file, severity, code, line, column, path, message
+and hint.
 
 The exit status is 1 when there is an error in any file, and 0 otherwise.
 

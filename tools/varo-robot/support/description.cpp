@@ -7,8 +7,10 @@
 #include <iostream>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "support/finding_text.hpp"
+#include "varo/model/placed_findings.hpp"
 #include "zu/log.hpp"
 
 namespace Tool {
@@ -69,16 +71,25 @@ std::string withoutLineEnd(std::string text)
 /// Hears what the library logs, as long as it lives.
 class LogListener {
 public:
-    explicit LogListener(Findings& findings)
+    explicit LogListener(std::vector<std::string>& messages)
     {
-        zu::log::setSink([&findings](zu::log::Record const& record) {
-            findings.push_back(fileFinding(Severity::warning, codes::modelIncomplete, std::string(record.message)));
-        });
+        zu::log::setSink([&messages](zu::log::Record const& record) { messages.emplace_back(record.message); });
     }
     LogListener(LogListener const&) = delete;
     LogListener& operator=(LogListener const&) = delete;
     ~LogListener() { zu::log::setSink({}); }
 };
+
+/// Findings of the model, which does not know the text: they stand at the root element.
+Findings findingsAtRoot(std::string const& text, Severity severity, char const* code,
+                        std::vector<std::string> const& messages)
+{
+    Varo::Model::PlacedFindings placed(text);
+    for (std::string const& message : messages) {
+        placed.add({}, severity, code, message);
+    }
+    return placed.take();
+}
 
 }  // namespace
 
@@ -121,13 +132,19 @@ Description readAccepted(std::string const& file)
 
 Sim::Model buildModel(Description const& description, Findings& findings)
 {
-    LogListener const listener(findings);
+    std::vector<std::string> heard;
+    LogListener const listener(heard);
     try {
-        return Sim::Model(description.text);
+        Sim::Model model(description.text);
+        if (!heard.empty()) {
+            auto const more = findingsAtRoot(description.text, Severity::warning, codes::modelIncomplete, heard);
+            findings.insert(findings.end(), more.begin(), more.end());
+        }
+        return model;
     } catch (std::exception const& reason) {
+        std::string const message = "No model can be built from it: " + withoutLineEnd(reason.what());
         throw Refused(description.file,
-                      {fileFinding(Severity::error, codes::modelNotBuilt,
-                                   "No model can be built from it: " + withoutLineEnd(reason.what()))});
+                      findingsAtRoot(description.text, Severity::error, codes::modelNotBuilt, {message}));
     }
 }
 

@@ -52,8 +52,8 @@ Varo::Model::Finding fileFinding(Varo::Model::Severity severity, std::string cod
 /// As readDescription, for commands that need a description without errors. Throws Refused.
 Description readAccepted(std::string const& file);
 
-/// Builds the model of an accepted description. What the library logs meanwhile is appended to `findings`. Throws
-/// Refused when the model cannot be built.
+/// Builds the model of an accepted description. What the library logs meanwhile is appended to `findings`, at the root
+/// element. Throws Refused when the model cannot be built.
 Sim::Model buildModel(Description const& description, Varo::Model::Findings& findings);
 
 /// A description and its model.

@@ -22,7 +22,8 @@ public:
     PlacedFindings& operator=(PlacedFindings const&) = delete;
     ~PlacedFindings();
 
-    /// What a finding is about, as the native dialect calls it, whatever that of the text.
+    /// What a finding is about, as the native dialect calls it, whatever that of the text. What the text does not have,
+    /// such as an element without a name, stands for the root element.
     struct Subject {
         /// "root", "joint", "chain", "actuator", "wheel", "sensor", "posture", or "angle" for what the posture
         /// "StandInit" says of a joint or an actuator.
