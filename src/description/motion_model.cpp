@@ -28,8 +28,11 @@ StartAngles readStartAngles(Varo::Model::Robot const& robot, std::vector<std::st
     posture::Posture standInit;
     library.getPostureFromId(library.getIdFromName("StandInit"), standInit, true);
     auto const& angles = standInit.jointValues();
+    if (angles.size() > angleNames.size()) {
+        throw std::out_of_range("MotionModel: the posture StandInit gives an angle to a name that no chain leads to.");
+    }
     for (std::size_t i = 0; i < angles.size(); ++i) {
-        startAngles.emplace_back(angleNames.at(i), angles[i]);
+        startAngles.emplace_back(angleNames[i], angles[i]);
     }
     return startAngles;
 }
