@@ -38,6 +38,18 @@ void reportScale(pugi::xml_node mesh, Diagnostics& diagnostics)
     }
 }
 
+/// What is stated of the origin, as the text has it.
+std::string statedOrigin(pugi::xml_node origin)
+{
+    std::string stated;
+    for (char const* name : {"xyz", "rpy"}) {
+        if (pugi::xml_attribute const attribute = origin.attribute(name)) {
+            stated += (stated.empty() ? "" : ", ") + std::string(name) + " " + quoted(attribute.value());
+        }
+    }
+    return stated;
+}
+
 /// The record keeps the offset, but the links of a model have their mesh at their frame.
 void readOffset(Visual const& visual, JointConfig& body, Diagnostics& diagnostics)
 {
@@ -48,9 +60,8 @@ void readOffset(Visual const& visual, JointConfig& body, Diagnostics& diagnostic
     body.meshOrientation = toPosition(rpy);
     if (xyz != nothing || rpy != nothing) {
         diagnostics.report(visual.origin, codes::meshOffsetLost,
-                           "The model shows the mesh at the link frame: the offset " +
-                               quoted(visual.origin.attribute("xyz").value()) + " and the turn " +
-                               quoted(visual.origin.attribute("rpy").value()) + " are in the record only.");
+                           "The model shows the mesh at the link frame: its offset, " + statedOrigin(visual.origin) +
+                               ", is in the record only.");
     }
 }
 
