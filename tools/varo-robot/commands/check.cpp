@@ -215,8 +215,9 @@ std::function<int()> declare(CLI::App& app)
 }  // namespace
 
 Command const checkCommand = {"check", "Report everything that is wrong or doubtful",
-                              R"(Reads each description, builds its model, applies the rules to what it says,
-and reports in one run all that is found, a line each on standard error:
+                              R"(Reads each description and, if it is free of errors, builds its model and
+applies the rules to what it says. All findings of that are reported in one
+run, a line each on standard error:
 
   FILE:LINE:COLUMN: error|warning|note: what is wrong [code]
       what to do about it

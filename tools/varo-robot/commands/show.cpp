@@ -202,7 +202,7 @@ Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
 The exit status is 1 when nothing bears the name.
 
 Examples:
-  varo-robot show HeadYaw robots/humanoid.xml
+  varo-robot show NeckTurn robots/humanoid.xml
   varo-robot show forearm_link arm.urdf)",
                              declare};
 

@@ -35,7 +35,7 @@ void checkSpeed(Facts& facts, Subject const& subject, float speed)
 template <class Driven>
 void checkSpeedInRange(Facts& facts, std::string_view element, Driven const& driven)
 {
-    if (driven.minAngle < driven.maxAngle) {
+    if (driven.minAngle != driven.maxAngle) {
         checkSpeed(facts, {element, driven.name, "@maxSpeed"}, driven.maxAngularSpeed);
     }
 }
