@@ -102,10 +102,12 @@ private:
     {
         for (pugi::xml_node const angle : node.children("angle")) {
             char const* const name = angle.attribute("of").value();
-            if (*name != 0 && (_names.kinds(name) & NameIndex::hasAngle) == 0) {
+            unsigned const kinds = _names.kinds(name);
+            if (*name != 0 && (kinds & NameIndex::hasAngle) == 0) {
+                bool const isMisspelt = kinds == 0;
                 _diagnostics.report({angle, "of"}, codes::angleOfUnknown,
                                     quoted(name) + " has no angle: it is no joint of a chain and no actuator on one.",
-                                    _names.suggestion(name, NameIndex::hasAngle));
+                                    isMisspelt ? _names.suggestion(name, NameIndex::hasAngle) : "");
             }
         }
     }
