@@ -155,11 +155,16 @@ TEST(Values, IntegersAndBooleansAndNames)
     EXPECT_FALSE(Name::parse("", name));
 }
 
+/// For streams; a named locale of theirs would not be freed by the C library.
+struct DecimalComma : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+};
+
 TEST(Values, NumbersReadTheSameUnderADecimalComma)
 {
     std::string const before = std::setlocale(LC_ALL, nullptr);
     EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "CTest says where it is";
-    std::locale const globalBefore = std::locale::global(std::locale("de_DE.UTF-8"));
+    std::locale const globalBefore = std::locale::global({std::locale::classic(), new DecimalComma});
     float value = 0.0F;
     EXPECT_TRUE(parseNumber("1.5", value));
     EXPECT_EQ(value, 1.5F);
