@@ -51,13 +51,15 @@ std::string refusal(std::string const& pathOrXml, bool isFile)
 void ModelImpl::loadModel(std::string const& pathOrXml)
 {
     bool const isFile = isExistingPath(pathOrXml);
-    std::string text = isFile ? contentOfFile(pathOrXml) : pathOrXml;
-    Varo::Model::ModelUtils::Reading reading = Varo::Model::ModelUtils::read(text);
-    if (reading.robot == nullptr) {
-        throw Varo::Model::DescriptionError(refusal(pathOrXml, isFile), std::move(reading.findings));
+    std::string content = isFile ? contentOfFile(pathOrXml) : std::string();
+    std::unique_ptr<Varo::Model::Robot> robot;
+    try {
+        robot = Varo::Model::ModelUtils::robotFromXml(isFile ? content : pathOrXml);
+    } catch (Varo::Model::DescriptionError const& error) {
+        throw Varo::Model::DescriptionError(refusal(pathOrXml, isFile), error.findings());
     }
-    _configFile = std::move(text);
-    _motionModel = boost::make_shared<MotionModel>(std::move(reading.robot));
+    _configFile = isFile ? std::move(content) : pathOrXml;
+    _motionModel = boost::make_shared<MotionModel>(std::move(robot));
 }
 
 }  // namespace Sim

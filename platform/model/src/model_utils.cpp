@@ -78,12 +78,14 @@ Reading read(std::string const& xml)
 
 std::unique_ptr<Robot> robotFromXml(std::string const& xml)
 {
-    Reading reading = read(xml);
-    if (reading.robot == nullptr) {
-        std::string const what = summary(reading.findings);
-        throw DescriptionError(what, std::move(reading.findings));
+    Diagnostics diagnostics(xml);
+    std::unique_ptr<Robot> robot = readAnyDialect(xml, diagnostics);
+    if (robot == nullptr) {
+        Findings findings = diagnostics.take();
+        std::string const what = summary(findings);
+        throw DescriptionError(what, std::move(findings));
     }
-    return std::move(reading.robot);
+    return robot;  // nobody asks where its warnings stand, which takes a walk through the text
 }
 
 std::vector<std::string> findingCodes()

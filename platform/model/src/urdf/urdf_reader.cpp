@@ -1,5 +1,7 @@
 #include "urdf/urdf_reader.hpp"
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
@@ -70,6 +72,10 @@ std::unique_ptr<Robot> Reader::read()
 
 void Reader::readElements()
 {
+    auto const isJoint = [](pugi::xml_node child) { return std::strcmp(child.name(), "joint") == 0; };
+    auto const children = _root.children();
+    auto const joints = std::count_if(children.begin(), children.end(), isJoint);
+    _description.joints.reserve(static_cast<std::size_t>(joints));
     for (pugi::xml_node child : _root.children()) {
         std::string_view const name = child.name();
         if (name == "link") {
