@@ -80,11 +80,6 @@ bool isKnownReference(std::string_view body)
     return result.ec == std::errc() && result.ptr == digits.data() + digits.size() && isXmlCharacter(codePoint);
 }
 
-bool isBlank(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(), isXmlSpace);
-}
-
 /// The offset behind a document type declaration that begins at `position`: its quoted texts, comments and brackets
 /// may hold anything.
 std::size_t endOfDocumentType(std::string_view text, std::size_t position)
@@ -118,11 +113,12 @@ XmlScanner::XmlScanner(std::string_view text, Diagnostics& diagnostics) : _text(
 void XmlScanner::scan(std::size_t end)
 {
     _text = _text.substr(0, end);
-    _nextLess = _text.find('<');
-    _nextAmpersand = _text.find('&');
+    _less = {_text, "<"};
+    _ampersand = {_text, "&"};
+    _brackets = {_text, "]]>"};
     _nextUnusual = findUnusual(_text, _start);
     while (_position < _text.size()) {
-        scanContent(std::min(findLess(_position), _text.size()));
+        scanContent(std::min(_less.from(_position), _text.size()));
         if (_position < _text.size()) {
             scanMarkup();
         }
@@ -152,20 +148,24 @@ void XmlScanner::scanContent(std::size_t end)
     if (end == _position) {
         return;
     }
-    std::string_view const content = _text.substr(_position, end - _position);
-    if (!isBlank(content)) {
-        std::size_t const wrongEnd = content.find("]]>");
-        if (_openTags.empty()) {
-            report(_position + content.find_first_not_of(" \t\r\n"), codes::contentOutsideRoot,
-                   "Text stands beside the root element.", "Only comments may stand there.");
-        } else if (wrongEnd != content.npos) {
-            report(_position + wrongEnd, codes::malformedXml, "The three characters ]]> cannot stand in a text.",
-                   "Write ]]&gt; instead.");
-        } else {
-            checkReferences(_position, end);
-        }
+    if (_openTags.empty()) {
+        checkIsBlank(end);
+    } else if (std::size_t const brackets = _brackets.from(_position); brackets < end) {
+        report(brackets, codes::malformedXml, "The three characters ]]> cannot stand in a text.",
+               "Write ]]&gt; instead.");
+    } else {
+        checkReferences(_position, end);
     }
     finishToken(end);
+}
+
+void XmlScanner::checkIsBlank(std::size_t end)
+{
+    std::size_t const content = _text.substr(0, end).find_first_not_of(" \t\r\n", _position);
+    if (content != _text.npos) {
+        report(content, codes::contentOutsideRoot, "Text stands beside the root element.",
+               "Only comments may stand there.");
+    }
 }
 
 void XmlScanner::scanStartTag()
@@ -177,7 +177,7 @@ void XmlScanner::scanStartTag()
     bool const isPlain = skipPlainAttributes(tag);
     _broken = tag.isBroken();
     std::size_t const end = tag.isBroken() ? _text.size() : tag.end();
-    if (!isPlain || findLess(start + 1) < end || findAmpersand(start) < end) {
+    if (!isPlain || _less.from(start + 1) < end || _ampersand.from(start) < end) {
         checkAttributes(start);
     }
     finishToken(end);
@@ -307,17 +307,16 @@ void XmlScanner::checkValue(std::string_view value)
 
 void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
 {
-    for (findAmpersand(begin); _nextAmpersand < end; findAmpersand(_nextAmpersand + 1)) {
-        std::size_t const length = std::min(end - _nextAmpersand - 1, longestReference);
-        std::string_view const rest = _text.substr(_nextAmpersand + 1, length);
+    for (std::size_t at = _ampersand.from(begin); at < end; at = _ampersand.from(at + 1)) {
+        std::size_t const length = std::min(end - at - 1, longestReference);
+        std::string_view const rest = _text.substr(at + 1, length);
         std::string_view const body = rest.substr(0, std::min(rest.find(';'), rest.find('&')));
         bool const closed = body.size() < rest.size() && rest[body.size()] == ';';
         if (!closed || !isKnownReference(body)) {
             if (_diagnostics.countIfFull(codes::badReference)) {
                 continue;
             }
-            report(_nextAmpersand, codes::badReference,
-                   quoted("&" + std::string(body) + (closed ? ";" : "")) + " is no reference.",
+            report(at, codes::badReference, quoted("&" + std::string(body) + (closed ? ";" : "")) + " is no reference.",
                    "Write &amp; for the character itself.");
         }
     }
@@ -338,22 +337,6 @@ void XmlScanner::checkCharacters(std::size_t end)
         }
         _nextUnusual = findUnusual(_text, _nextUnusual + std::max<std::size_t>(character.length, 1));
     }
-}
-
-std::size_t XmlScanner::findLess(std::size_t start)
-{
-    if (_nextLess < start) {
-        _nextLess = _text.find('<', start);
-    }
-    return _nextLess;
-}
-
-std::size_t XmlScanner::findAmpersand(std::size_t start)
-{
-    if (_nextAmpersand < start) {
-        _nextAmpersand = _text.find('&', start);
-    }
-    return _nextAmpersand;
 }
 
 void XmlScanner::finishToken(std::size_t end)

@@ -10,6 +10,28 @@
 
 namespace Varo::Model {
 
+/// The next place in a text of what is looked for; where that is rare, most questions cost nothing.
+class Upcoming {
+public:
+    Upcoming() = default;
+    Upcoming(std::string_view text, std::string_view wanted) : _text(text), _wanted(wanted), _place(text.find(wanted))
+    {}
+
+    /// The first one from `start` on, which must not go back; npos when there is none.
+    std::size_t from(std::size_t start)
+    {
+        if (_place < start) {
+            _place = _text.find(_wanted, start);
+        }
+        return _place;
+    }
+
+private:
+    std::string_view _text;
+    std::string_view _wanted;
+    std::size_t _place = 0;
+};
+
 /// Looks through a text for what XML forbids and the parser lets through: document type declarations, a second root,
 /// text beside the root, attributes that repeat, undefined references, characters that are none, and the like.
 ///
@@ -41,14 +63,13 @@ private:
     void checkAttributes(std::size_t start);
     void checkNamesDiffer(std::size_t tag, std::vector<std::string_view>& names);
     void checkValue(std::string_view value);
+    void checkIsBlank(std::size_t end);
     void checkReferences(std::size_t begin, std::size_t end);
     void checkCharacters(std::size_t end);
     void enterRoot(std::size_t tag);
 
     bool startsWith(std::string_view prefix) const { return _text.substr(_position, prefix.size()) == prefix; }
     std::size_t offsetOf(std::string_view part) const { return static_cast<std::size_t>(part.data() - _text.data()); }
-    std::size_t findLess(std::size_t start);
-    std::size_t findAmpersand(std::size_t start);
     void finishToken(std::size_t end);
     void report(std::size_t offset, FindingCode const& code, std::string message, std::string hint = {});
 
@@ -57,8 +78,9 @@ private:
     std::size_t _start = 0;  ///< behind the byte order mark
     std::size_t _position = 0;
     std::vector<std::size_t> _openTags;  ///< offsets of the `<` of the elements around
-    std::size_t _nextLess = 0;  ///< the next `<`, once looked for
-    std::size_t _nextAmpersand = 0;
+    Upcoming _less;
+    Upcoming _ampersand;
+    Upcoming _brackets;
     std::size_t _nextUnusual = 0;  ///< the next byte that is a control character or beyond ASCII
     bool _rootSeen = false;
     bool _encodingReported = false;
