@@ -51,14 +51,13 @@ std::string refusal(std::string const& pathOrXml, bool isFile)
 void ModelImpl::loadModel(std::string const& pathOrXml)
 {
     bool const isFile = isExistingPath(pathOrXml);
-    std::string content = isFile ? contentOfFile(pathOrXml) : std::string();
+    _configFile = isFile ? contentOfFile(pathOrXml) : pathOrXml;
     std::unique_ptr<Varo::Model::Robot> robot;
     try {
-        robot = Varo::Model::ModelUtils::robotFromXml(isFile ? content : pathOrXml);
+        robot = Varo::Model::ModelUtils::robotFromXml(_configFile);
     } catch (Varo::Model::DescriptionError const& error) {
         throw Varo::Model::DescriptionError(refusal(pathOrXml, isFile), error.findings());
     }
-    _configFile = isFile ? std::move(content) : pathOrXml;
     _motionModel = boost::make_shared<MotionModel>(std::move(robot));
 }
 

@@ -88,7 +88,7 @@ TEST_F(Tree, DeepTreesNeedNoStack)
     Outcome const outcome = runCommand("ulimit -s 1024; LC_ALL=C " VARO_ROBOT " tree snake.xml");
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_EQ(std::count(outcome.out.begin(), outcome.out.end(), '\n'), depth + 1);
-    std::string const last = std::string(40 * 3, ' ') + "... 19999 `- J19999 -> [J19999Link]\n";
+    std::string const last = std::string(120, ' ') + "... 19999 `- J19999 -> [J19999Link]\n";
     EXPECT_EQ(outcome.out.substr(outcome.out.size() - last.size()), last);
 }
 

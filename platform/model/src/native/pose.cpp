@@ -57,6 +57,7 @@ Transform compose(Position3D const& xyz, Position3D const& rpy)
 
 bool sameBits(Transform const& a, Transform const& b)
 {
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): 0 and -0 are to differ
     return std::memcmp(a.rows().data(), b.rows().data(), sizeof a.rows()) == 0;
 }
 
@@ -85,7 +86,7 @@ float roundedTo(double scale, double value)
 /// Finds angles of at most seven decimals, the fewer the better, with which `compose` gives exactly the transform.
 bool findAngles(Transform const& transform, Position3D& rpy)
 {
-    for (double scale = 1.0; scale <= 1e7; scale *= 10.0) {
+    for (double const scale : {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7}) {
         for (auto const& [roll, pitch, yaw] : anglesOf(transform)) {
             // Adding 0 keeps a rounded angle from being -0.
             rpy = {roundedTo(scale, roll) + 0.0F, roundedTo(scale, pitch) + 0.0F, roundedTo(scale, yaw) + 0.0F};
