@@ -33,7 +33,8 @@ public:
             } else if (element == "wheel") {
                 checkName(node, "parent", joints | subJoints, "The wheel's parent", "a joint");
             } else if (element == "sensor") {
-                checkName(node, "parent", carriers, "The sensor's parent", "a joint, a wheel or the root");
+                checkName(node, "parent", carriers, "The sensor's parent",
+                          "a joint, a wheel or the root, on which models therefore put it");
             } else if (element == "posture") {
                 checkPosture(node);
             }
