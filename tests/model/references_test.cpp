@@ -26,7 +26,7 @@ std::vector<std::string> placesOf(std::string const& xml)
     return places;
 }
 
-TEST(References, OddNamesAreWarnedOfAndLoopingActuatorsRefused)
+TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
 {
     std::string const angle = "<posture name='P'><angle value='0' of=";
     struct Case {
@@ -44,6 +44,10 @@ TEST(References, OddNamesAreWarnedOfAndLoopingActuatorsRefused)
              {"<actuator name='A' min='0' max='1' parent='J'/>" + angle + "'A'/></posture>", {}},
              {"<actuator name='A' min='0' max='1' parent='X'/>", {"36 dangling-reference"}},
              {"<actuator name='A' min='0' max='1' parent='J'><mirror name='X'/></actuator>", {"55 dangling-reference"}},
+             {"<actuator name='A' min='1' max='0' parent='J'/>", {"20 reversed-limits"}},
+             {"<actuator name='A' min='0' max='1' parent='J'><group><subJoint ratio='1'/></group></actuator>" + angle +
+                  "'X'/></posture>",
+              {"54 missing-attribute refused"}},
              {angle + "'J'/></posture>", {}},
              {angle + "'X'/></posture>", {"36 angle-of-unknown"}},
              {"<joint name='K' min='0' max='1'/><chain name='D' parent='K'><jointRef name='K'/></chain>",

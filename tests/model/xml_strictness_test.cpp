@@ -41,6 +41,8 @@ TEST(XmlStrictness, WhatXmlForbidsIsRefused)
              Rule{"\xFF\xFE<" + whole, "bad-encoding"},
              Rule{" <?xml version='1.0'?>" + whole, "malformed-xml"},
              Rule{start + "/><!-- a -- b -->" + end, "malformed-xml"},
+             Rule{start + "mesh='a'/>" + end, "malformed-xml"},
+             Rule{start + "/><prettyName>a]]>b</prettyName>" + end, "malformed-xml"},
              Rule{"", "malformed-xml"},
              Rule{start + ">" + end, "malformed-xml"},
              Rule{start + "/>", "malformed-xml"},
