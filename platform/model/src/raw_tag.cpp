@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "words.hpp"
+
 namespace Varo::Model {
 
 namespace {
@@ -16,16 +18,6 @@ constexpr std::array<bool, 256> makeNameEnds()
     return ends;
 }
 constexpr std::array<bool, 256> nameEnds = makeNameEnds();
-
-/// The first offset from `position` on whose character does not belong to what is being taken.
-template <class Belongs>
-std::size_t findEnd(std::string_view text, std::size_t position, Belongs const& belongs)
-{
-    while (position < text.size() && belongs(text[position])) {
-        ++position;
-    }
-    return position;
-}
 
 }  // namespace
 
@@ -67,14 +59,14 @@ bool RawTag::next(RawAttribute& attribute)
 bool RawTag::skipSpace()
 {
     std::size_t const start = _position;
-    _position = findEnd(_text, start, isXmlSpace);
+    _position = endOf(_text, start, isXmlSpace);
     return _position > start;
 }
 
 std::string_view RawTag::takeName()
 {
     std::size_t const start = _position;
-    _position = findEnd(_text, start, [](char c) { return !nameEnds[static_cast<unsigned char>(c)]; });
+    _position = endOf(_text, start, [](char c) { return !nameEnds[static_cast<unsigned char>(c)]; });
     return {_text.data() + start, _position - start};
 }
 

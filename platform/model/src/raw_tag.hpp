@@ -43,11 +43,6 @@ private:
     bool _emptyElement = false;
 };
 
-constexpr bool isXmlSpace(char c)
-{
-    return c == ' ' || c == '\n' || c == '\t' || c == '\r';
-}
-
 }  // namespace Varo::Model
 
 #endif

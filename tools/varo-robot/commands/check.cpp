@@ -103,7 +103,7 @@ std::string summary(Findings const& findings)
     return text.empty() ? "fine" : text;
 }
 
-bool isBad(Findings const& findings)
+bool hasErrors(Findings const& findings)
 {
     return std::any_of(findings.begin(), findings.end(),
                        [](Finding const& finding) { return finding.severity == Severity::error; });
@@ -146,7 +146,7 @@ int check(Options const& options)
         Description const description = readDescription(file);
         Findings findings = findingsOf(description, options.tolerances);
         obey(options, findings);
-        bad = bad || isBad(findings);
+        bad = bad || hasErrors(findings);
         if (options.json) {
             for (Finding const& finding : findings) {
                 data.push_back(toJson(description.file, finding));

@@ -50,16 +50,6 @@ int readText(std::string const& file, std::string& text)
     return std::ferror(stream.get()) != 0 ? errno : 0;
 }
 
-bool hasErrors(Findings const& findings)
-{
-    for (Finding const& finding : findings) {
-        if (finding.severity == Severity::error) {
-            return true;
-        }
-    }
-    return false;
-}
-
 std::string withoutLineEnd(std::string text)
 {
     while (!text.empty() && text.back() == '\n') {
@@ -124,7 +114,7 @@ Description readDescription(std::string const& file)
 Description readAccepted(std::string const& file)
 {
     Description description = readDescription(file);
-    if (description.reading.robot == nullptr || hasErrors(description.reading.findings)) {
+    if (description.reading.robot == nullptr) {
         throw Refused(description.file, std::move(description.reading.findings));
     }
     return description;

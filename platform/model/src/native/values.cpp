@@ -1,6 +1,5 @@
 #include "values.hpp"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -8,24 +7,15 @@
 #include "decimal_size.hpp"
 #include "short_decimal.hpp"
 #include "utf8.hpp"
+#include "words.hpp"
 
 namespace Varo::Model::Native {
 
 namespace {
 
-/// A closure, so that algorithms inline it.
-constexpr auto isWhite = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; };
-
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
-}
-
-/// How many characters the text begins with that `belong`.
-template <class Belong>
-std::size_t lengthWhere(std::string_view text, Belong const& belong)
-{
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), belong) - text.begin());
 }
 
 /// The digits, point and exponent that a finite number has behind its sign; false for the words that `from_chars`
@@ -36,15 +26,6 @@ bool startsLikeNumber(std::string_view text)
         text.remove_prefix(1);
     }
     return !text.empty() && (isDigit(text.front()) || text.front() == '.');
-}
-
-/// The plus that `from_chars` does not take.
-std::string_view withoutPlus(std::string_view text)
-{
-    if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
-        text.remove_prefix(1);
-    }
-    return text;
 }
 
 /// A number in the form of one that is out of the range of single precision: zero or its nearest neighbour when it is
@@ -95,10 +76,10 @@ bool parseBareNumber(std::string_view text, float& value)
 
 std::string_view trimmed(std::string_view text)
 {
-    while (!text.empty() && isWhite(text.front())) {
+    while (!text.empty() && isXmlSpace(text.front())) {
         text.remove_prefix(1);
     }
-    while (!text.empty() && isWhite(text.back())) {
+    while (!text.empty() && isXmlSpace(text.back())) {
         text.remove_suffix(1);
     }
     return text;
@@ -117,14 +98,13 @@ bool parseNumbers(std::string_view text, float* values, std::size_t count)
             return false;
         }
         std::size_t length = parseShortDecimal(text, values[found]);
-        if (length == 0 || (length < text.size() && !isWhite(text[length]))) {
-            length = lengthWhere(text, [](char c) { return !isWhite(c); });
+        if (length == 0 || (length < text.size() && !isXmlSpace(text[length]))) {
+            length = endOf(text, 0, isOfWord);
             if (!parseBareNumber(text.substr(0, length), values[found])) {
                 return false;
             }
         }
-        text.remove_prefix(length);
-        text.remove_prefix(lengthWhere(text, isWhite));
+        text.remove_prefix(endOf(text, length, isXmlSpace));
     }
     return found == count;
 }

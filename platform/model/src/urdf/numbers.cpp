@@ -9,27 +9,17 @@
 #include "decimal_size.hpp"
 #include "short_decimal.hpp"
 #include "urdf/urdf_codes.hpp"
+#include "words.hpp"
 
 namespace Varo::Model::Urdf {
 
 namespace {
 
-bool isSpace(char character)
-{
-    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
-}
-
 /// Cuts the first word off the text.
 std::string_view takeWord(std::string_view& text)
 {
-    std::size_t begin = 0;
-    while (begin < text.size() && isSpace(text[begin])) {
-        ++begin;
-    }
-    std::size_t end = begin;
-    while (end < text.size() && !isSpace(text[end])) {
-        ++end;
-    }
+    std::size_t const begin = endOf(text, 0, isXmlSpace);
+    std::size_t const end = endOf(text, begin, isOfWord);
     std::string_view const word = text.substr(begin, end - begin);
     text.remove_prefix(end);
     return word;
@@ -44,9 +34,7 @@ double outOfRange(std::string_view word)
 
 bool parseWord(std::string_view word, double& value)
 {
-    if (word.size() > 1 && word[0] == '+' && word[1] != '-') {
-        word.remove_prefix(1);
-    }
+    word = withoutPlus(word);
     double number = 0.0;
     if (!word.empty() && parseShortDecimal(word, number) == word.size()) {
         value = number;
