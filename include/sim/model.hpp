@@ -6,6 +6,10 @@
 
 #include "varo/export.hpp"
 
+namespace Varo::Model {
+class Robot;
+}
+
 namespace Sim {
 
 class Actuator;
@@ -71,6 +75,8 @@ public:
     std::string prettyName(int index) const;
     /// The XML text of the description, as it was read.
     std::string const& configFile() const;
+    /// The records that the model was made from; valid as long as the model.
+    Varo::Model::Robot const& robot() const;
 
     /// @name Links and joints
     /// @{

@@ -38,6 +38,9 @@ public:
     MotionModel& operator=(MotionModel const&) = delete;
     ~MotionModel();
 
+    /// The records that the answers come from; valid as long as the motion model.
+    Varo::Model::Robot const& robot() const { return *_robot; }
+
     /// @name Identity
     /// @{
 

@@ -59,6 +59,11 @@ std::string const& Model::configFile() const
     return implOf(_impl, modelErrorMsg).configFile();
 }
 
+Varo::Model::Robot const& Model::robot() const
+{
+    return implOf(_impl, modelErrorMsg).robot();
+}
+
 Joint const* Model::joint(std::string const& name) const
 {
     return implOf(_impl, modelErrorMsg).joint(name).get();

@@ -51,6 +51,7 @@ public:
     std::string const& name() const { return _motionModel->name(); }
     std::string prettyName(int index) const { return _motionModel->prettyName(index); }
     std::string const& configFile() const { return _configFile; }
+    Varo::Model::Robot const& robot() const { return _motionModel->robot(); }
 
     // Registries, in creation order.
     std::vector<boost::shared_ptr<Frame>> frames() const { return _frames; }
