@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "varo/export.hpp"
-
-namespace Varo::Model {
-class Robot;
-}
+#include "varo/model/finding.hpp"
+#include "varo/model/model_utils.hpp"
+#include "varo/model/place.hpp"
+#include "varo/model/robot.hpp"
 
 namespace Sim {
 
@@ -58,13 +58,18 @@ public:
     /// the string itself.
     ///
     /// Throws std::invalid_argument when it is neither a readable file nor a valid description; for a refused text that
-    /// is a Varo::Model::DescriptionError, which says what is wrong where. Throws std::runtime_error when the
-    /// description lacks what its elements need, and std::out_of_range when its posture "StandInit" gives an angle to
-    /// a name that no chain leads to. Takes time and memory proportional to the size of the robot.
+    /// is a Varo::Model::DescriptionError. Throws BuildError, which is a std::runtime_error, when the description lacks
+    /// what its elements need, and StartAngleError, which is a std::out_of_range, when its posture "StandInit" gives an
+    /// angle to a name that no chain leads to. All three say by their findings what is wrong where. Takes time and
+    /// memory proportional to the size of the robot.
     explicit Model(std::string const& pathOrXml);
+    /// Of a description that was read before, which is not read again. Throws as the constructor above does; for a
+    /// reading without a robot, a DescriptionError with its findings. Neither prints nor logs: what building notices is
+    /// in the findings.
+    explicit Model(Varo::Model::ModelUtils::Reading&& reading);
     /// Takes over all of `other`, which is then one that was moved from. What `other` handed out stays valid.
     Model(Model&& other) noexcept;
-    /// Swaps the two: what this model handed out stays valid as long as `other`, and the other way round.
+    /// The same; what this model handed out before ends its life.
     Model& operator=(Model&& other) noexcept;
     /// Ends the life of everything that the model handed out.
     ~Model();
@@ -75,8 +80,22 @@ public:
     std::string prettyName(int index) const;
     /// The XML text of the description, as it was read.
     std::string const& configFile() const;
-    /// The records that the model was made from; valid as long as the model.
+    /// What the model was made from; valid as long as the model.
     Varo::Model::Robot const& robot() const;
+    /// The warnings and notes of the description, and those of the building, in the order of their places. Takes a walk
+    /// through the text.
+    Varo::Model::Findings findings() const;
+
+    /// @name Places in the description
+    /// @{
+
+    /// Where the description states the element: line, column and path of the XML element that it was made from. Line 0
+    /// for an element of another model, and when the model was not made from a text.
+    Varo::Model::Place place(Link const& link) const;
+    Varo::Model::Place place(Joint const& joint) const;
+    Varo::Model::Place place(Actuator const& actuator) const;
+    Varo::Model::Place place(Sensor const& sensor) const;
+    /// @}
 
     /// @name Links and joints
     /// @{

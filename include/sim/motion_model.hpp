@@ -10,6 +10,7 @@
 
 #include "varo/export.hpp"
 #include "varo/model/configs.hpp"
+#include "varo/model/records.hpp"
 #include "varo/model/robot.hpp"
 
 namespace Sim {
@@ -28,18 +29,20 @@ VAROROBOTMODEL_API std::vector<std::string> initStateDcmKeyNames();
 class VAROROBOTMODEL_API MotionModel {
 public:
     /// From the XML text of a description (never a path), native or URDF.
-    /// Throws Varo::Model::DescriptionError when the text is refused, and std::out_of_range when its posture
-    /// "StandInit" gives an angle to a name that no chain leads to.
+    /// Throws Varo::Model::DescriptionError when the text is refused, and StartAngleError, which is a
+    /// std::out_of_range, when its posture "StandInit" gives an angle to a name that no chain leads to.
     explicit MotionModel(std::string const& xml);
-    /// From a description read already. Throws std::invalid_argument for null and when actuators hang on each other in
-    /// a loop, and std::out_of_range as above.
+    /// From a description that was read before. Throws std::invalid_argument for null and when actuators are attached
+    /// to each other in a cycle, and StartAngleError as above.
     explicit MotionModel(std::unique_ptr<Varo::Model::Robot> robot);
     MotionModel(MotionModel const&) = delete;
     MotionModel& operator=(MotionModel const&) = delete;
     ~MotionModel();
 
-    /// The records that the answers come from; valid as long as the motion model.
+    /// The robot that the answers come from; valid as long as the motion model.
     Varo::Model::Robot const& robot() const { return *_robot; }
+    /// Its records, which the motion model refers to rather than copies; valid as long as the motion model.
+    Varo::Model::Records const& records() const { return *_records; }
 
     /// @name Identity
     /// @{
@@ -49,7 +52,7 @@ public:
     /// A name for people, by index; the description's name when it has none for that index.
     std::string prettyName(int index) const;
     /// The name of the root body.
-    std::string const& rootName() const { return _root.name; }
+    std::string const& rootName() const { return _records->root.name; }
     /// The description's own version; empty when it states none.
     std::string version() const;
     /// In the description's order.
@@ -202,19 +205,8 @@ private:
     struct Index;
 
     std::unique_ptr<Varo::Model::Robot> _robot;
-    std::string _robotName;
-    Varo::Model::JointConfig _root;
-    Varo::Model::ActuatorTable _actuators;
-    Varo::Model::WheelTable _wheels;
-    Varo::Model::SensorTable _sensors;
-    Varo::Model::JointTable _joints;
-    std::vector<std::string> _chainNames;
-    Varo::Model::ChainTable _chains;
-    Varo::Model::SubActuatorTable _subActuators;
-    std::string _descriptionName;
-    std::vector<std::pair<std::string, float>> _startAngles;
-    std::vector<std::string> _reflectionForced;
-    std::unique_ptr<Index const> _index;  // what the tables above say, by the names that queries ask for
+    std::shared_ptr<Varo::Model::Records const> _records;  // the robot's own where it holds them
+    std::unique_ptr<Index const> _index;  // what the records say, by the names that queries ask for
 };
 
 }  // namespace Sim

@@ -8,7 +8,6 @@
 #include "core/joint_impl.hpp"
 #include "core/link_impl.hpp"
 #include "core/model_impl.hpp"
-#include "core/require.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Sim {
@@ -16,13 +15,13 @@ namespace Sim {
 using Varo::Math::Transform;
 using Varo::Model::ModelUtils::getJointDCMKeys;
 
-bool ModelImpl::fetchBasicActuatorInfo(std::string const& name, float& startValue, float& minValue, float& maxValue,
-                                       float& maxSpeed)
+bool ModelImpl::fetchBasicActuatorInfo(Subject subject, std::string const& name, float& startValue, float& minValue,
+                                       float& maxValue, float& maxSpeed)
 {
-    require(_motionModel->startAngle(name, startValue), "Could not get start value.");
-    require(_motionModel->minAngle(name, minValue), "Could not get min value.");
-    require(_motionModel->maxAngle(name, maxValue), "Could not get max value.");
-    require(_motionModel->maxAngleSpeed(name, maxSpeed), "Could not get max speed.");
+    require(_motionModel->startAngle(name, startValue), subject, name, "Could not get start value.");
+    require(_motionModel->minAngle(name, minValue), subject, name, "Could not get min value.");
+    require(_motionModel->maxAngle(name, maxValue), subject, name, "Could not get max value.");
+    require(_motionModel->maxAngleSpeed(name, maxSpeed), subject, name, "Could not get max speed.");
     return true;
 }
 
@@ -40,14 +39,14 @@ void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSp
     Transform end;
     _motionModel->endTransformFromJointName(name, end);
     auto const link = _index->links.find(name + "Link");
-    require(link != nullptr, "Could not find the link of joint ", name);
+    require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
     FramePtr const frame = addFrame(name, end.inverse(), link->_impl->frame());
 
     float startValue = 0.0F;
     float minValue = 0.0F;
     float maxValue = 0.0F;
     float maxSpeed = 0.0F;
-    fetchBasicActuatorInfo(name, startValue, minValue, maxValue, maxSpeed);
+    fetchBasicActuatorInfo(Subject::joint, name, startValue, minValue, maxValue, maxSpeed);
     bool reflectionForced = false;
     _motionModel->reflectionForcedFromJointName(name, reflectionForced);
 

@@ -2,7 +2,6 @@
 
 #include "core/joint_impl.hpp"
 #include "core/model_impl.hpp"
-#include "core/require.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Sim {
@@ -22,7 +21,7 @@ void ModelImpl::fetchCoupledActuator(std::string const& name)
     float minValue = 0.0F;
     float maxValue = 0.0F;
     float maxSpeed = 0.0F;
-    fetchBasicActuatorInfo(name, startValue, minValue, maxValue, maxSpeed);
+    fetchBasicActuatorInfo(Subject::actuator, name, startValue, minValue, maxValue, maxSpeed);
     auto const jointsAndRatios = jointsAndRatiosOf(name);
 
     Transform transform;
@@ -32,7 +31,7 @@ void ModelImpl::fetchCoupledActuator(std::string const& name)
     bool reflectionForced = false;
     _motionModel->reflectionForcedFromJointName(name, reflectionForced);
     auto const parentJoint = _index->joints.find(parentName);
-    require(parentJoint != nullptr, "Could not find the parent joint of actuator ", name);
+    require(parentJoint != nullptr, Subject::actuator, name, "Could not find the parent joint of actuator ", name);
     FramePtr const frame = addFrame(name, transform.inverse(), parentJoint->_impl->frame());
 
     addCoupledActuator(frame, name, Varo::Model::ModelUtils::getActuatorDCMKeys({name}, 64), startValue, minValue,
@@ -42,12 +41,12 @@ void ModelImpl::fetchCoupledActuator(std::string const& name)
 CoupledActuatorImpl::JointsAndRatios ModelImpl::jointsAndRatiosOf(std::string const& actuator) const
 {
     std::list<std::string> jointNames;
-    require(_motionModel->jointsFromActuator(actuator, jointNames),
+    require(_motionModel->jointsFromActuator(actuator, jointNames), Subject::actuator, actuator,
             "MotionModel: Problem getting joints of coupled actuator.");
     CoupledActuatorImpl::JointsAndRatios result;
     for (std::string const& joint : jointNames) {
         float ratio = 0.0F;
-        require(_motionModel->ratioFromJoint(joint, ratio),
+        require(_motionModel->ratioFromJoint(joint, ratio), Subject::actuator, actuator,
                 "MotionModel: Problem getting ratios of joints attached to coupled actuators.");
         result.emplace_back(_index->joints.find(joint), ratio);
     }

@@ -2,7 +2,6 @@
 #include "actuators/wheel_velocity_actuator_impl.hpp"
 #include "core/link_impl.hpp"
 #include "core/model_impl.hpp"
-#include "core/require.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Sim {
@@ -17,14 +16,16 @@ void ModelImpl::fetchWheelActuators()
 void ModelImpl::fetchWheelActuator(std::string const& name)
 {
     float maxTorque = 0.0F;  // has to be there, and that is all
-    require(_motionModel->maxTorqueFromWheel(name, maxTorque), "Could not get max wheel torque for wheel ", name);
+    require(_motionModel->maxTorqueFromWheel(name, maxTorque), Subject::wheel, name,
+            "Could not get max wheel torque for wheel ", name);
     float maxVelocity = 0.0F;
-    require(_motionModel->maxVelocityFromWheel(name, maxVelocity), "Could not get max wheel velocity for wheel ", name);
+    require(_motionModel->maxVelocityFromWheel(name, maxVelocity), Subject::wheel, name,
+            "Could not get max wheel velocity for wheel ", name);
 
     auto const link = _index->links.find(name + "Link");
-    require(link != nullptr, "Could not find the link of wheel ", name);
+    require(link != nullptr, Subject::wheel, name, "Could not find the link of wheel ", name);
     Joint const* const parentJoint = link->parentJoint();
-    require(parentJoint != nullptr, "Could not find the joint of wheel ", name);
+    require(parentJoint != nullptr, Subject::wheel, name, "Could not find the joint of wheel ", name);
     auto const keys = Varo::Model::ModelUtils::getWheelDCMKeys({name}, 128);
     addWheelVelocityActuator(link->_impl->frame(), name, keys, maxVelocity, _index->joints.find(parentJoint->name()));
 }

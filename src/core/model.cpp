@@ -31,11 +31,15 @@ constexpr char modelErrorMsg[] = "Could not query Model as it seems not correctl
 
 Model::Model(std::string const& pathOrXml) : _impl(new ModelImpl(pathOrXml)) {}
 
+Model::Model(Varo::Model::ModelUtils::Reading&& reading) : _impl(new ModelImpl(std::move(reading))) {}
+
 Model::Model(Model&& other) noexcept : _impl(std::exchange(other._impl, nullptr)) {}
 
 Model& Model::operator=(Model&& other) noexcept
 {
-    std::swap(_impl, other._impl);
+    if (this != &other) {
+        delete std::exchange(_impl, std::exchange(other._impl, nullptr));
+    }
     return *this;
 }
 
@@ -62,6 +66,31 @@ std::string const& Model::configFile() const
 Varo::Model::Robot const& Model::robot() const
 {
     return implOf(_impl, modelErrorMsg).robot();
+}
+
+Varo::Model::Findings Model::findings() const
+{
+    return implOf(_impl, modelErrorMsg).findings();
+}
+
+Varo::Model::Place Model::place(Link const& link) const
+{
+    return implOf(_impl, modelErrorMsg).place(link);
+}
+
+Varo::Model::Place Model::place(Joint const& joint) const
+{
+    return implOf(_impl, modelErrorMsg).place(joint);
+}
+
+Varo::Model::Place Model::place(Actuator const& actuator) const
+{
+    return implOf(_impl, modelErrorMsg).place(actuator);
+}
+
+Varo::Model::Place Model::place(Sensor const& sensor) const
+{
+    return implOf(_impl, modelErrorMsg).place(sensor);
 }
 
 Joint const* Model::joint(std::string const& name) const

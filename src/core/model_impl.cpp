@@ -25,9 +25,21 @@ bool isNamed(Joint const* joint, std::string const& name)
 
 }  // namespace
 
-ModelImpl::ModelImpl(std::string const& pathOrXml) : _index(std::make_unique<BuildIndex>())
+ModelImpl::ModelImpl(std::string const& pathOrXml) : _saysAloud(true)
 {
     loadModel(pathOrXml);
+    makeElements();
+}
+
+ModelImpl::ModelImpl(Varo::Model::ModelUtils::Reading&& reading) : _saysAloud(false)
+{
+    loadModel(std::move(reading));
+    makeElements();
+}
+
+void ModelImpl::makeElements()
+{
+    _index = std::make_unique<BuildIndex>();
     fetchSkeleton();
     pairJoints();
     defineJointGroups();

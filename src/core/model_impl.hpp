@@ -12,6 +12,7 @@
 
 #include "actuators/coupled_actuator_impl.hpp"
 #include "core/build_index.hpp"
+#include "core/build_report.hpp"
 #include "groups/actuator_group_impl.hpp"
 #include "groups/joint_group_impl.hpp"
 #include "groups/joint_symmetry_impl.hpp"
@@ -31,6 +32,7 @@
 #include "sim/visual_data.hpp"
 #include "sim/wheel_torque_actuator.hpp"
 #include "sim/wheel_velocity_actuator.hpp"
+#include "varo/model/model_utils.hpp"
 
 namespace Sim {
 
@@ -44,13 +46,19 @@ public:
     using Keys = std::vector<std::string>;
 
     explicit ModelImpl(std::string const& pathOrXml);
+    explicit ModelImpl(Varo::Model::ModelUtils::Reading&& reading);
     ModelImpl(ModelImpl const&) = delete;
     ModelImpl& operator=(ModelImpl const&) = delete;
     ~ModelImpl();
 
     std::string const& name() const { return _motionModel->name(); }
     std::string prettyName(int index) const { return _motionModel->prettyName(index); }
-    std::string const& configFile() const { return _configFile; }
+    std::string const& configFile() const;
+    Varo::Model::Findings findings() const { return _report->findings(); }
+    Varo::Model::Place place(Link const& link) const;
+    Varo::Model::Place place(Joint const& joint) const;
+    Varo::Model::Place place(Actuator const& actuator) const;
+    Varo::Model::Place place(Sensor const& sensor) const;
     Varo::Model::Robot const& robot() const { return _motionModel->robot(); }
 
     // Registries, in creation order.
@@ -148,6 +156,8 @@ private:
 
     // The steps of construction, in their order.
     void loadModel(std::string const& pathOrXml);
+    void loadModel(Varo::Model::ModelUtils::Reading&& reading);
+    void makeElements();
     void fetchSkeleton();
     void pairJoints();
     void defineJointGroups();
@@ -184,13 +194,13 @@ private:
     void fetchWheel(std::string const& name);
     boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
     boost::shared_ptr<MassData const> massOf(std::string const& name);
-    boost::shared_ptr<MassData const> requiredMassOf(std::string const& name);
+    boost::shared_ptr<MassData const> requiredMassOf(Subject subject, std::string const& name);
     boost::shared_ptr<VisualData const> visualOf(std::string const& name);
     boost::shared_ptr<VisualData const> requiredVisualOf(std::string const& name);
 
     // Actuators
-    bool fetchBasicActuatorInfo(std::string const& name, float& startValue, float& minValue, float& maxValue,
-                                float& maxSpeed);
+    bool fetchBasicActuatorInfo(Subject subject, std::string const& name, float& startValue, float& minValue,
+                                float& maxValue, float& maxSpeed);
     void fetchAngleActuator(std::string const& name, bool withTorqueAndSpeed);
     void fetchCoupledActuator(std::string const& name);
     void fetchWheelActuator(std::string const& name);
@@ -206,6 +216,8 @@ private:
 
     // Sensors
     bool fetchSensor(std::string const& name);
+    void logFromFetchSensors(int level, std::string const& message) const;
+    void reportSensorsWithoutClass();
     void addDevice(std::string const& name, FramePtr const& frame, Keys const& keys);
     void fetchLED(std::string const& name, FramePtr const& frame, Keys const& keys);
     std::pair<int, int> requiredResolutionOf(std::string const& camera) const;
@@ -262,8 +274,25 @@ private:
         return result;
     }
 
-    std::string _configFile;
+    void makeMotionModel(std::unique_ptr<Varo::Model::Robot> robot);
+
+    /// Ends the load, for want of what the subject of that name needs, unless `known`. The parts of the message make up
+    /// the text of the exception.
+    template <class... Parts>
+    void require(bool known, Subject subject, std::string const& name, Parts const&... message) const
+    {
+        if (!known) {
+            _report->fail(subject, name, (std::string() + ... + message));
+        }
+    }
+
     boost::shared_ptr<MotionModel> _motionModel;
+    std::unique_ptr<BuildReport> _report;
+    bool _saysAloud;  ///< whether the building also prints and logs what it notices
+    // The handles of these kinds leave their data to the model, which frees it after them.
+    std::vector<std::unique_ptr<JointSymmetryImpl>> _jointSymmetryImpls;
+    std::vector<std::unique_ptr<JointGroupImpl>> _jointGroupImpls;
+    std::vector<std::unique_ptr<ActuatorGroupImpl>> _actuatorGroupImpls;
     // The only owners of the elements, which refer to each other weakly.
     std::vector<boost::shared_ptr<Joint>> _joints;
     std::vector<boost::shared_ptr<Link>> _links;
@@ -273,10 +302,6 @@ private:
     std::vector<boost::shared_ptr<Actuator>> _actuators;
     std::vector<boost::shared_ptr<ActuatorGroup>> _actuatorGroups;
     std::vector<boost::shared_ptr<Sensor>> _sensors;
-    // The handles of these kinds leave their data to the model.
-    std::vector<std::unique_ptr<JointSymmetryImpl>> _jointSymmetryImpls;
-    std::vector<std::unique_ptr<JointGroupImpl>> _jointGroupImpls;
-    std::vector<std::unique_ptr<ActuatorGroupImpl>> _actuatorGroupImpls;
     std::unique_ptr<BuildIndex> _index;  // null once the model is built
 };
 

@@ -51,14 +51,35 @@ std::string refusal(std::string const& pathOrXml, bool isFile)
 void ModelImpl::loadModel(std::string const& pathOrXml)
 {
     bool const isFile = isExistingPath(pathOrXml);
-    _configFile = isFile ? contentOfFile(pathOrXml) : pathOrXml;
     std::unique_ptr<Varo::Model::Robot> robot;
     try {
-        robot = Varo::Model::ModelUtils::robotFromXml(_configFile);
+        robot = Varo::Model::ModelUtils::robotFromXml(isFile ? contentOfFile(pathOrXml) : std::string(pathOrXml));
     } catch (Varo::Model::DescriptionError const& error) {
         throw Varo::Model::DescriptionError(refusal(pathOrXml, isFile), error.findings());
     }
+    makeMotionModel(std::move(robot));
+}
+
+void ModelImpl::loadModel(Varo::Model::ModelUtils::Reading&& reading)
+{
+    if (reading.robot == nullptr) {
+        std::string const what = failure + Varo::Model::summaryOf(reading.findings);
+        throw Varo::Model::DescriptionError(what, std::move(reading.findings));
+    }
+    makeMotionModel(std::move(reading.robot));
+}
+
+void ModelImpl::makeMotionModel(std::unique_ptr<Varo::Model::Robot> robot)
+{
     _motionModel = boost::make_shared<MotionModel>(std::move(robot));
+    _report = std::make_unique<BuildReport>(_motionModel->robot(), _motionModel->records());
+}
+
+std::string const& ModelImpl::configFile() const
+{
+    static std::string const none;
+    Varo::Model::SourceText const* const source = robot().source();
+    return source == nullptr ? none : source->text();
 }
 
 }  // namespace Sim

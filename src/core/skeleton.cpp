@@ -5,7 +5,6 @@
 #include "core/link_impl.hpp"
 #include "core/mass_data_impl.hpp"
 #include "core/model_impl.hpp"
-#include "core/require.hpp"
 #include "core/visual_data_impl.hpp"
 
 namespace Sim {
@@ -26,7 +25,7 @@ void ModelImpl::fetchSkeleton()
 {
     std::string const& root = _motionModel->rootName();
     FramePtr const rootFrame = addFrame(root + "Link", Transform(), {});
-    auto const mass = requiredMassOf(root);
+    auto const mass = requiredMassOf(Subject::root, root);
     auto const visual = requiredVisualOf(root);
     std::string material;
     _motionModel->frictionMaterial(root, material);
@@ -145,27 +144,29 @@ boost::shared_ptr<MassData const> ModelImpl::massOf(std::string const& name)
     return createMass(mass, com, inertia);
 }
 
-boost::shared_ptr<MassData const> ModelImpl::requiredMassOf(std::string const& name)
+boost::shared_ptr<MassData const> ModelImpl::requiredMassOf(Subject subject, std::string const& name)
 {
     float mass = 0.0F;
     Position3D com;
     std::vector<float> inertia;
-    require(_motionModel->mass(name, mass), "Could not fetch mass for ", name);
-    require(_motionModel->CoM(name, com), "Could not fetch CoM for ", name);
-    require(_motionModel->inertiaMatrix(name, inertia), "Could not fetch inertia matrix for ", name);
+    require(_motionModel->mass(name, mass), subject, name, "Could not fetch mass for ", name);
+    require(_motionModel->CoM(name, com), subject, name, "Could not fetch CoM for ", name);
+    require(_motionModel->inertiaMatrix(name, inertia), subject, name, "Could not fetch inertia matrix for ", name);
     return createMass(mass, com, inertia);
 }
 
+/// What is missing here is missing for a reason that ends the load later on, and that its finding names.
 boost::shared_ptr<VisualData const> ModelImpl::visualOf(std::string const& name)
 {
+    auto const sayIfMissing = [&](bool known, char const* message) {
+        if (!known && _saysAloud) {
+            std::cerr << message << name << std::endl;
+        }
+    };
     std::string path;
     Transform transform;
-    if (!_motionModel->meshNameFromJointName(name, path)) {
-        std::cerr << "Could not fetch meshPath for " << name << std::endl;
-    }
-    if (!_motionModel->meshTransformFromJointName(name, transform)) {
-        std::cerr << "Could not fetch meshTransform for " << name << std::endl;
-    }
+    sayIfMissing(_motionModel->meshNameFromJointName(name, path), "Could not fetch meshPath for ");
+    sayIfMissing(_motionModel->meshTransformFromJointName(name, transform), "Could not fetch meshTransform for ");
     return createVisual(path, transform);
 }
 
@@ -173,8 +174,10 @@ boost::shared_ptr<VisualData const> ModelImpl::requiredVisualOf(std::string cons
 {
     std::string path;
     Transform transform;
-    require(_motionModel->meshNameFromJointName(name, path), "Could not fetch meshPath for ", name);
-    require(_motionModel->meshTransformFromJointName(name, transform), "Could not fetch meshTransform for ", name);
+    require(_motionModel->meshNameFromJointName(name, path), Subject::root, name, "Could not fetch meshPath for ",
+            name);
+    require(_motionModel->meshTransformFromJointName(name, transform), Subject::root, name,
+            "Could not fetch meshTransform for ", name);
     return createVisual(path, transform);
 }
 

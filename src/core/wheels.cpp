@@ -1,7 +1,6 @@
 #include "core/joint_impl.hpp"
 #include "core/link_impl.hpp"
 #include "core/model_impl.hpp"
-#include "core/require.hpp"
 
 namespace Sim {
 
@@ -18,12 +17,14 @@ void ModelImpl::fetchWheel(std::string const& name)
 {
     auto const parentLink = parentLinkOfWheel(name);
     Transform inParentLink;
-    require(_motionModel->transformFromWheel(name, inParentLink), "Could not fetch wheel transform for wheel ", name);
+    require(_motionModel->transformFromWheel(name, inParentLink), Subject::wheel, name,
+            "Could not fetch wheel transform for wheel ", name);
     auto const joint = attachJoint(name, inParentLink, parentLink);
 
-    auto const mass = requiredMassOf(name);
+    auto const mass = requiredMassOf(Subject::wheel, name);
     std::string material;
-    require(_motionModel->frictionMaterial(name, material), "Could not fetch wheel friction material for wheel ", name);
+    require(_motionModel->frictionMaterial(name, material), Subject::wheel, name,
+            "Could not fetch wheel friction material for wheel ", name);
     auto const visual = visualOf(name);
     Transform end;
     _motionModel->endTransformFromJointName(name, end);
@@ -35,17 +36,17 @@ boost::shared_ptr<Link> ModelImpl::parentLinkOfWheel(std::string const& wheel) c
 {
     static constexpr char inconsistent[] = "Model consistency error for wheel ";
     std::string parentName;
-    require(_motionModel->parentJointFromWheel(wheel, parentName), "Could not fetch wheel parent joint for wheel ",
-            wheel);
+    require(_motionModel->parentJointFromWheel(wheel, parentName), Subject::wheel, wheel,
+            "Could not fetch wheel parent joint for wheel ", wheel);
     auto const parentJoint = _index->joints.find(parentName);
-    require(parentJoint != nullptr, inconsistent, wheel);
+    require(parentJoint != nullptr, Subject::wheel, wheel, inconsistent, wheel);
     if (auto const parentLink = _index->links.find(parentName + "Link")) {
         return parentLink;
     }
     Link const* const childLink = parentJoint->childLink();
-    require(childLink != nullptr, inconsistent, wheel);
+    require(childLink != nullptr, Subject::wheel, wheel, inconsistent, wheel);
     auto const parentLink = _index->links.find(childLink->name());
-    require(parentLink != nullptr, inconsistent, wheel);
+    require(parentLink != nullptr, Subject::wheel, wheel, inconsistent, wheel);
     return parentLink;
 }
 

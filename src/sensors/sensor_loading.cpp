@@ -1,7 +1,8 @@
+#include <algorithm>
+
 #include "core/frame_impl.hpp"
 #include "core/link_impl.hpp"
 #include "core/model_impl.hpp"
-#include "core/require.hpp"
 #include "sensors/array_depth_sensor_impl.hpp"
 #include "sensors/bumper_sensor_impl.hpp"
 #include "sensors/camera_depth_sensor_impl.hpp"
@@ -22,9 +23,10 @@ namespace {
 
 constexpr char logCategory[] = "varorobotmodel";
 
-void logFromFetchSensors(int level, std::string const& message)
+bool isWithoutClass(Varo::Model::SensorConfig const& sensor)
 {
-    zu::log::log(logCategory, level, "fetchSensors", message);
+    return sensor.type == Varo::Model::battery || sensor.type == Varo::Model::temperature ||
+           sensor.type == Varo::Model::button;
 }
 
 }  // namespace
@@ -37,15 +39,39 @@ void ModelImpl::fetchSensors()
             return;  // the sensors behind one without its parent link are left out too
         }
     }
+    reportSensorsWithoutClass();
+}
+
+void ModelImpl::logFromFetchSensors(int level, std::string const& message) const
+{
+    if (_saysAloud) {
+        zu::log::log(logCategory, level, "fetchSensors", message);
+    }
+}
+
+/// All of them in one note: there is nothing to be done about it.
+void ModelImpl::reportSensorsWithoutClass()
+{
+    auto const& sensors = _motionModel->records().sensors;
+    auto const count = std::count_if(sensors.begin(), sensors.end(), isWithoutClass);
+    auto const first = std::find_if(sensors.begin(), sensors.end(), isWithoutClass);
+    if (first != sensors.end()) {
+        std::string const others = count > 1 ? ", and neither are " + std::to_string(count - 1) + " more." : ".";
+        _report->leaveOut(first->textOffset, codes::sensorWithoutClass,
+                          "The sensor " + Varo::Model::quoted(first->name) +
+                              " is not in the model, which has no class for its kind" + others);
+    }
 }
 
 bool ModelImpl::fetchSensor(std::string const& name)
 {
     Varo::Math::Transform inParent;
     std::string parent;
-    require(_motionModel->transformFromSensorName(name, inParent, parent), "Could not get ", name + " position\n");
+    require(_motionModel->transformFromSensorName(name, inParent, parent), Subject::sensor, name, "Could not get ",
+            name, " position\n");
     Keys keys;
-    require(_motionModel->dcmKeysFromSensorName(name, keys), "Could not get ", name + " DCM keys\n");
+    require(_motionModel->dcmKeysFromSensorName(name, keys), Subject::sensor, name, "Could not get ", name,
+            " DCM keys\n");
 
     boost::shared_ptr<Link> parentLink;
     if (_index->joints.contains(parent)) {
@@ -53,6 +79,9 @@ bool ModelImpl::fetchSensor(std::string const& name)
         if (parentLink == nullptr) {
             logFromFetchSensors(zu::log::error,
                                 "Could not add sensor " + name + ". Parent link " + parent + "Link" + "not found.");
+            _report->leaveOut(_motionModel->records().sensors.find(name)->textOffset, codes::modelIncomplete,
+                              "The sensor " + Varo::Model::quoted(name) + " and those after it, in order of names, " +
+                                  "are left out: the joint that it is attached to moves no link.");
             return false;
         }
     } else {
@@ -110,7 +139,7 @@ std::pair<int, int> ModelImpl::requiredResolutionOf(std::string const& camera) c
 {
     std::vector<std::pair<int, int>> resolutions;
     bool const known = _motionModel->resolutionsFromCamera(camera, resolutions) && !resolutions.empty();
-    require(known, "Could not get ", camera + " resolutions\n");
+    require(known, Subject::sensor, camera, "Could not get ", camera, " resolutions\n");
     return resolutions.front();
 }
 

@@ -14,7 +14,7 @@ class Check : public ToolFixture {};
 constexpr char doubtful[] = R"(<robotDescription name="A">
   <root name="T"/>
   <prettyName>Little A</prettyName>
-  <sensor name="S" parent="Nobody" type="button"/>
+  <sensor name="S" parent="Nobody" type="bumper"/>
 </robotDescription>
 )";
 
@@ -82,8 +82,9 @@ TEST_F(Check, BuildsTheModelToo)
     Outcome const outcome = run({"check", "-"}, text);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err,
-              "<stdin>:1:1: error: No model can be built from it: Could not get Eye resolutions"
-              " [model-not-built]\n");
+              "<stdin>:12:3: error: The sensor \"Eye\" states no resolution, so no model can be built. "
+              "[model-not-built]\n"
+              "    Add <attribute name=\"resolutions\" value=\"640 480\"/> with its own width and height.\n");
 }
 
 TEST_F(Check, PrintsFindingsAsData)

@@ -44,7 +44,7 @@ protected:
     /// "LINE CODE" of each.
     Strings findingsOf(std::string const& text, Strings const& options = {}) const
     {
-        Strings arguments = {"check", "--json", "-"};
+        Strings arguments = {"check", "--json", "--silence", "sensor-without-class", "-"};
         arguments.insert(arguments.end(), options.begin(), options.end());
         Strings findings;
         for (auto const& finding : nlohmann::json::parse(run(arguments, text).out)) {

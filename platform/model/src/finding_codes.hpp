@@ -1,21 +1,12 @@
 #ifndef VARO_MODEL_FINDING_CODES_HPP
 #define VARO_MODEL_FINDING_CODES_HPP
 
-#include <string_view>
-
 #include "varo/model/finding.hpp"
 
-/// A kind of finding: its stable code, how grave it is, and what it means. The table in the documentation is made
-/// of these lines.
 namespace Varo::Model {
 
-struct FindingCode {
-    std::string_view name;  ///< lower-case words joined by hyphens
-    Severity severity;
-    std::string_view meaning;  ///< one sentence for the documentation
-};
-
-/// The codes of what is wrong with a text of any dialect; those of a dialect stand with its reader.
+/// The kinds of findings about a text of any dialect; those of a dialect stand with its reader. The tables in the
+/// documentation are made of these lines.
 namespace codes {
 
 inline constexpr FindingCode textTooLarge{"text-too-large", Severity::error, "The text is longer than 256 MiB."};
@@ -36,14 +27,16 @@ inline constexpr FindingCode badEncoding{"bad-encoding", Severity::error,
                                          "Bytes that are not UTF-8, or a declaration of another encoding."};
 inline constexpr FindingCode unknownRoot{"unknown-root", Severity::error,
                                          "The root element is that of no dialect of robot descriptions."};
+inline constexpr FindingCode pathNotText{"path-not-text", Severity::error,
+                                         "The text is no XML but looks like the path of a file."};
 inline constexpr FindingCode tooManyFindings{
     "too-many-findings", Severity::error,
-    "There are more findings than the 1000 that are listed; as grave as the gravest of those left out."};
+    "There are more findings than the 1000 that are listed; of the highest severity among those left out."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofTexts[] = {
-    &textTooLarge, &malformedXml, &documentType, &contentOutsideRoot, &repeatedAttribute,
-    &badReference, &badCharacter, &badEncoding,  &unknownRoot,        &tooManyFindings,
+    &textTooLarge, &malformedXml, &documentType, &contentOutsideRoot, &repeatedAttribute, &badReference,
+    &badCharacter, &badEncoding,  &unknownRoot,  &pathNotText,        &tooManyFindings,
 };
 
 }  // namespace codes

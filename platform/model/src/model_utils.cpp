@@ -4,14 +4,15 @@
 #include <set>
 #include <utility>
 
-#include "diagnostics.hpp"
 #include "native/native_codes.hpp"
 #include "native/native_reader.hpp"
 #include "native/native_writer.hpp"
 #include "spelling.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
-#include "xml_text.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "xml/node_offset.hpp"
+#include "xml/parse.hpp"
 
 namespace Varo::Model::ModelUtils {
 
@@ -19,9 +20,10 @@ namespace {
 
 struct Dialect {
     std::string_view root;
-    std::unique_ptr<Robot> (*read)(pugi::xml_node root, Diagnostics& diagnostics);
+    Records (*read)(pugi::xml_node root, Diagnostics& diagnostics);
+    Range<PartPlace> const& parts;
 };
-constexpr Dialect dialects[] = {{"robotDescription", readNative}, {"robot", readUrdf}};
+constexpr Dialect dialects[] = {{"robotDescription", readNative, nativeParts}, {"robot", readUrdf, urdfParts}};
 
 void reportUnknownRoot(pugi::xml_node root, Diagnostics& diagnostics)
 {
@@ -32,60 +34,59 @@ void reportUnknownRoot(pugi::xml_node root, Diagnostics& diagnostics)
     std::string const hint = closest.word().empty()
                                  ? "A description begins with robotDescription, one in URDF with robot."
                                  : "Did you mean " + quoted(closest.word()) + "?";
-    diagnostics.report(root, codes::unknownRoot,
+    diagnostics.report(at(root), codes::unknownRoot,
                        "The root element " + quoted(root.name()) + " is that of no known kind of description.", hint);
 }
 
-std::unique_ptr<Robot> readAnyDialect(std::string_view xml, Diagnostics& diagnostics)
+/// Null when a finding is an error.
+std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& source, Diagnostics& diagnostics)
 {
     pugi::xml_document document;
-    if (!parseXml(xml, document, diagnostics)) {
+    if (!parseXml(*source, document, diagnostics)) {
         return nullptr;
     }
     pugi::xml_node const root = document.document_element();
     for (Dialect const& dialect : dialects) {
         if (dialect.root == root.name()) {
-            return dialect.read(root, diagnostics);
+            Records records = dialect.read(root, diagnostics);
+            return diagnostics.hasErrors() ? nullptr
+                                           : std::make_unique<RobotRecord>(std::move(records), source,
+                                                                           std::move(diagnostics), dialect.parts);
         }
     }
     reportUnknownRoot(root, diagnostics);
     return nullptr;
 }
 
-/// What a refused text's exception says: its first error, and how many there are beside it.
-std::string summary(Findings const& findings)
-{
-    auto const isError = [](Finding const& finding) { return finding.severity == Severity::error; };
-    auto const first = std::find_if(findings.begin(), findings.end(), isError);
-    auto const others = std::count_if(first, findings.end(), isError) - 1;
-    std::string text = std::to_string(first->line) + ":" + std::to_string(first->column) + ": " + first->message;
-    if (others > 0) {
-        text += " (and " + std::to_string(others) + " more)";
-    }
-    return text;
-}
-
 }  // namespace
 
-Reading read(std::string const& xml)
+Reading read(std::string xml)
 {
-    Diagnostics diagnostics(xml);
+    auto const source = std::make_shared<SourceText const>(std::move(xml));
+    Diagnostics diagnostics(source.get());
     Reading reading;
-    reading.robot = readAnyDialect(xml, diagnostics);
-    reading.findings = diagnostics.take();
+    reading.robot = readAnyDialect(source, diagnostics);
+    reading.findings = (reading.robot == nullptr ? diagnostics : *reading.robot->diagnostics()).findings();
+    reading.text = {source, &source->text()};
     return reading;
 }
 
 std::unique_ptr<Robot> robotFromXml(std::string const& xml)
 {
-    Diagnostics diagnostics(xml);
-    std::unique_ptr<Robot> robot = readAnyDialect(xml, diagnostics);
+    return robotFromXml(std::string(xml));
+}
+
+std::unique_ptr<Robot> robotFromXml(std::string&& xml)
+{
+    auto const source = std::make_shared<SourceText const>(std::move(xml));
+    Diagnostics diagnostics(source.get());
+    std::unique_ptr<Robot> robot = readAnyDialect(source, diagnostics);
     if (robot == nullptr) {
-        Findings findings = diagnostics.take();
-        std::string const what = summary(findings);
+        Findings findings = diagnostics.findings();
+        std::string const what = summaryOf(findings);
         throw DescriptionError(what, std::move(findings));
     }
-    return robot;  // nobody asks where its warnings stand, which takes a walk through the text
+    return robot;
 }
 
 std::vector<std::string> findingCodes()

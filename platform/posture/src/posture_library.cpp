@@ -79,18 +79,18 @@ std::string_view takePiece(std::string_view& text, char separator)
     return piece;
 }
 
-std::vector<float> layOut(Varo::Model::PostureConfig const& posture, std::vector<std::string> const& names,
+std::vector<float> layOut(Varo::Model::PostureConfig const& posture, std::size_t nameCount,
                           std::unordered_map<std::string_view, std::vector<std::size_t>> const& places)
 {
-    std::vector<float> values(names.size(), unset);
-    for (auto const& [name, angle] : posture.angles) {
-        auto const found = places.find(name);
+    std::vector<float> values(nameCount, unset);
+    for (Varo::Model::PostureAngle const& angle : posture.angles) {
+        auto const found = places.find(angle.name);
         if (found == places.end()) {
-            values.push_back(angle);
+            values.push_back(angle.value);
             continue;
         }
         for (std::size_t const place : found->second) {
-            values[place] = angle;
+            values[place] = angle.value;
         }
     }
     return values;
@@ -132,23 +132,17 @@ std::string getRobotPostureLibraryName(Varo::Model::Robot const& robot)
     if (robot.postures().empty()) {
         return {};
     }
-    std::vector<std::string> chainNames;
-    std::vector<std::string> actuatorNames;
-    Varo::Model::ChainTable chains;
-    Varo::Model::ActuatorTable actuators;
-    Varo::Model::SubActuatorTable subActuators;
-    robot.listChains(chainNames, chains);
-    robot.listActuators(actuatorNames, actuators, subActuators);
-    std::vector<std::string> const names = Varo::Model::angleNames(chainNames, chains, actuators);
+    auto const records = Varo::Model::recordsOf(robot);
+    std::vector<std::string const*> const names = Varo::Model::angleNames(*records);
     std::unordered_map<std::string_view, std::vector<std::size_t>> places;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        places[names[i]].push_back(i);
+        places[*names[i]].push_back(i);
     }
 
     std::string library(prefix);
     appendNumber(library, names.size());
     for (Varo::Model::PostureConfig const& posture : robot.postures()) {
-        appendPosture(library, posture.name, layOut(posture, names, places));
+        appendPosture(library, posture.name, layOut(posture, names.size(), places));
     }
     return library;
 }

@@ -36,22 +36,20 @@ void append(Findings& findings, Findings const& more)
     findings.insert(findings.end(), more.begin(), more.end());
 }
 
-/// What the text, the building of the model and the rules have to say.
-Findings findingsOf(Description const& description, Rules::Tolerances const& tolerances)
+/// What the text, the rules and the building of the model have to say.
+Findings findingsOf(Description description, Rules::Tolerances const& tolerances)
 {
-    Findings findings = description.reading.findings;
     if (description.reading.robot == nullptr) {
-        return findings;
+        return std::move(description.reading.findings);
     }
-    std::optional<Sim::Model> model;
+    Findings findings = Rules::apply(*description.reading.robot, tolerances);
     try {
-        Findings heard;
-        model.emplace(buildModel(description, heard));
-        append(findings, heard);
-    } catch (Refused const& refused) {
-        append(findings, refused.findings());
+        Sim::Model const model(std::move(description.reading));
+        append(findings, model.findings());
+        append(findings, Rules::applyToPoses(model, tolerances));
+    } catch (Varo::Model::WithFindings const& reason) {
+        append(findings, reason.findings());
     }
-    append(findings, Rules::apply(description.text, *description.reading.robot, model ? &*model : nullptr, tolerances));
     std::stable_sort(findings.begin(), findings.end(), [](Finding const& a, Finding const& b) {
         return std::pair(a.line, a.column) < std::pair(b.line, b.column);
     });
@@ -112,7 +110,7 @@ bool hasErrors(Findings const& findings)
 /// The codes that can be silenced.
 std::set<std::string> knownCodes()
 {
-    std::set<std::string> known = {codes::modelIncomplete};
+    std::set<std::string> known = {codes::modelIncomplete, codes::sensorWithoutClass};
     for (auto const& more : {Varo::Model::ModelUtils::findingCodes(), Rules::codes()}) {
         known.insert(more.begin(), more.end());
     }
@@ -143,17 +141,18 @@ int check(Options const& options)
     bool bad = false;
     Json data = Json::array();
     for (std::string const& file : options.files) {
-        Description const description = readDescription(file);
-        Findings findings = findingsOf(description, options.tolerances);
+        Description description = readDescription(file);
+        std::string const name = description.file;
+        Findings findings = findingsOf(std::move(description), options.tolerances);
         obey(options, findings);
         bad = bad || hasErrors(findings);
         if (options.json) {
             for (Finding const& finding : findings) {
-                data.push_back(toJson(description.file, finding));
+                data.push_back(toJson(name, finding));
             }
         } else {
-            printFindings(std::cerr, description.file, findings);
-            std::cout << description.file << ": " << summary(findings) << std::endl;  // in step with the findings
+            printFindings(std::cerr, name, findings);
+            std::cout << name << ": " << summary(findings) << std::endl;  // in step with the findings
         }
     }
     if (options.json) {

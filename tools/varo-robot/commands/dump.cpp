@@ -24,13 +24,14 @@ void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vect
 
 int dump(std::string const& file)
 {
-    auto const [description, model] = loadRobot(file);
+    Robot const robot = loadRobot(file);
+    Sim::Model const& model = robot.model;
     ElementJson json;
     {
         JsonStream dump(std::cout, '{');
         dump.add("name", model.name());
         dump.add("prettyName", model.prettyName(0));
-        dump.add("version", description.reading.robot->version());
+        dump.add("version", robot.records().version());
         dump.add("rootLink", model.rootLink()->name());
         addElements(dump, json, "links", model.links());
         addElements(dump, json, "joints", model.joints());

@@ -153,8 +153,9 @@ void printNotes(std::string const& prefix, char const* fill, std::vector<Device 
 
 int graph(Options const& options)
 {
-    auto const [description, model] = loadRobot(options.file);
-    ChainColours const colours(*description.reading.robot, model);
+    Robot const robot = loadRobot(options.file);
+    Sim::Model const& model = robot.model;
+    ChainColours const colours(robot.records(), model);
     std::cout << "digraph " << quoted(model.name()) << " {\n"
               << "  node [shape=box, style=\"filled,rounded\", fontname=\"Helvetica\", fontsize=11];\n"
               << "  edge [fontname=\"Helvetica\", fontsize=9];\n";

@@ -138,8 +138,9 @@ std::vector<std::string> summarised(Findings const& findings)
 
 int info(std::string const& file)
 {
-    auto const [description, model] = loadRobot(file);
-    Varo::Model::Robot const& robot = *description.reading.robot;
+    Robot const robot = loadRobot(file);
+    Sim::Model const& model = robot.model;
+    Varo::Model::Robot const& records = robot.records();
     Sheet sheet;
     auto const addIfAny = [&](std::string const& label, std::string const& fact) {
         if (!fact.empty()) {
@@ -147,9 +148,9 @@ int info(std::string const& file)
         }
     };
     sheet.add("name", model.name());
-    addIfAny("pretty name", prettyNames(robot));
-    addIfAny("version", robot.version());
-    sheet.add("dialect", robot.dialect());
+    addIfAny("pretty name", prettyNames(records));
+    addIfAny("version", records.version());
+    sheet.add("dialect", records.dialect());
     sheet.add("root link", model.rootLink()->name());
     sheet.add("links", linkCount(model));
     sheet.add("joints", std::to_string(model.joints().size()));
@@ -158,9 +159,9 @@ int info(std::string const& file)
     sheet.add("sensors", countByKind(model.sensors(), sensorKinds));
     sheet.add("symmetries", std::to_string(model.jointSymmetries().size()));
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
-    sheet.add("chains", chains(robot));
-    addIfAny("postures", postures(robot));
-    sheet.add(robot.dialect() == "urdf" ? "not carried" : "findings", summarised(description.reading.findings));
+    sheet.add("chains", chains(records));
+    addIfAny("postures", postures(records));
+    sheet.add(records.dialect() == "urdf" ? "not carried" : "findings", summarised(model.findings()));
     return exitStatus::fine;
 }
 

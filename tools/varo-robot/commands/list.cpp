@@ -103,7 +103,8 @@ int list(Options const& options)
                   << knownKinds() << '\n';
         return exitStatus::wrongUsage;
     }
-    auto const [description, model] = loadRobot(options.file);
+    Robot const robot = loadRobot(options.file);
+    Sim::Model const& model = robot.model;
     std::vector<Json> const elements = kind->elements(model);
     options.json ? printForPrograms(elements) : printForEyes(*kind, elements);
     return exitStatus::fine;

@@ -166,13 +166,14 @@ std::string similarNames(Sim::Model const& model, LinkNames const& linkNames, st
 
 int show(Options const& options)
 {
-    auto const [description, model] = loadRobot(options.file);
-    LinkNames const linkNames(*description.reading.robot);
+    Robot const robot = loadRobot(options.file);
+    Sim::Model const& model = robot.model;
+    LinkNames const linkNames(robot.records());
     std::vector<Sighting> const found = Search(model, linkNames, options.name).run();
     if (found.empty()) {
-        throw Refused(description.file, {fileFinding(Varo::Model::Severity::error, codes::nameNotFound,
-                                                     "Nothing in it is called \"" + options.name + "\".",
-                                                     similarNames(model, linkNames, options.name))});
+        throw Refused(robot.file, {fileFinding(Varo::Model::Severity::error, codes::nameNotFound,
+                                               "Nothing in it is called \"" + options.name + "\".",
+                                               similarNames(model, linkNames, options.name))});
     }
     Palette const palette(STDOUT_FILENO);
     for (Sighting const& sighting : found) {

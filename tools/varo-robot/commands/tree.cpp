@@ -168,8 +168,9 @@ std::string TreePainter::factsOf(Sim::Link const& link, Transform const& pose) c
 
 int tree(Options const& options)
 {
-    auto const [description, model] = loadRobot(options.file);
-    LinkNames const names(*description.reading.robot);
+    Robot const robot = loadRobot(options.file);
+    Sim::Model const& model = robot.model;
+    LinkNames const names(robot.records());
     std::vector<Line> const lines = TreePainter(options, names).paint(*model.rootLink());
 
     std::size_t widest = 0;

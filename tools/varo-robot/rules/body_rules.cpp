@@ -1,5 +1,3 @@
-#include <string_view>
-
 #include "rules/facts.hpp"
 #include "rules/inertia.hpp"
 #include "rules/rule_codes.hpp"
@@ -9,18 +7,20 @@ namespace Tool::Rules {
 
 namespace {
 
-void checkInertia(Facts& facts, Subject const& subject, Inertia const& inertia)
+template <class Body>
+void checkInertia(Facts& facts, Body const& body)
 {
-    switch (faultOf(inertia, facts.tolerances.inertia)) {
+    switch (faultOf(inertiaOf(body.inertiaMatrix), facts.tolerances.inertia)) {
     case InertiaFault::none: break;
     case InertiaFault::notSymmetric:
-        facts.warn(subject, code::inertiaNotSymmetric, "The inertia matrix is not symmetric.");
+        facts.warn(body, Part::inertia, code::inertiaNotSymmetric, "The inertia matrix is not symmetric.");
         break;
     case InertiaFault::notPositive:
-        facts.warn(subject, code::inertiaNotPositive, "The inertia matrix has a negative principal moment.");
+        facts.warn(body, Part::inertia, code::inertiaNotPositive,
+                   "The inertia matrix has a negative principal moment.");
         break;
     case InertiaFault::notPossible:
-        facts.warn(subject, code::inertiaNotPossible,
+        facts.warn(body, Part::inertia, code::inertiaNotPossible,
                    "No body has this inertia: a principal moment is greater than the two others together.");
         break;
     }
@@ -30,12 +30,11 @@ void checkInertia(Facts& facts, Subject const& subject, Inertia const& inertia)
 
 void checkBodies(Facts& facts)
 {
-    forEachBody(facts, [&](std::string_view element, auto const& body) {
+    forEachBody(facts, [&](auto const& body) {
         if (body.mass < 0.0F) {
-            facts.warn({element, body.name, "mass/@value"}, code::negativeMass,
-                       "The mass is negative: " + shortest(body.mass) + " kg.");
+            facts.warn(body, Part::mass, code::negativeMass, "The mass is negative: " + shortest(body.mass) + " kg.");
         }
-        checkInertia(facts, {element, body.name, "mass/@inertia"}, inertiaOf(body.inertiaMatrix));
+        checkInertia(facts, body);
     });
 }
 

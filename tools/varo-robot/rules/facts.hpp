@@ -1,36 +1,38 @@
 #ifndef TOOL_RULES_FACTS_HPP
 #define TOOL_RULES_FACTS_HPP
 
+#include <memory>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "rules/rules.hpp"
-#include "varo/model/placed_findings.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/records.hpp"
+#include "varo/model/robot.hpp"
 
 namespace Tool::Rules {
 
-using Subject = Varo::Model::PlacedFindings::Subject;
+using Varo::Model::Part;
+using Varo::Model::quoted;
 
 /// What the rules judge by, and where they say what they found.
 struct Facts {
-    Facts(std::string const& text, Varo::Model::Robot const& robot, Tolerances const& allowed);
+    Facts(Varo::Model::Robot const& judged, Tolerances const& allowed)
+        : robot(judged), records(recordsOf(judged)), tolerances(allowed), diagnostics(judged.source())
+    {}
 
-    void warn(Subject const& subject, char const* code, std::string message, std::string hint = {});
+    /// At the part of the record or, where the text does not state it, at the nearest element around it.
+    template <class Config>
+    void warn(Config const& record, Part part, char const* code, std::string message, std::string hint = {})
+    {
+        Varo::Model::FindingCode const kind = {code, Varo::Model::Severity::warning, {}};
+        diagnostics.report(robot.statement(record, part).offset, kind, std::move(message), std::move(hint));
+    }
 
+    Varo::Model::Robot const& robot;
+    std::shared_ptr<Varo::Model::Records const> records;
     Tolerances tolerances;
-    bool isNative;
-    Varo::Model::JointConfig root;
-    Varo::Model::JointTable joints;
-    Varo::Model::ActuatorTable actuators;
-    Varo::Model::WheelTable wheels;
-    Varo::Model::ChainTable chains;
-    // In the description's order.
-    std::vector<std::string> jointNames;
-    std::vector<std::string> actuatorNames;
-    std::vector<std::string> wheelNames;
-    std::vector<std::string> chainNames;
-    std::vector<Varo::Model::PostureConfig> postures;
-    Varo::Model::PlacedFindings findings;
+    Varo::Model::Diagnostics diagnostics;
 };
 
 // The families of rules, each for the whole robot.
@@ -40,21 +42,19 @@ void checkMirrors(Facts& facts);
 void checkMirroredBodies(Facts& facts, Sim::Model const& model);
 void checkUse(Facts& facts);
 
-/// Names of the description enter messages through this.
-std::string quoted(std::string const& name);
 /// "-1 to 0.5".
 std::string rangeText(float min, float max);
 
-/// Calls `visit(element, body)` for the records of all bodies, which share the names of their fields.
+/// Calls `visit` for the records of all bodies, which share the names of their fields.
 template <class Visit>
 void forEachBody(Facts const& facts, Visit const& visit)
 {
-    visit("root", facts.root);
-    for (std::string const& name : facts.jointNames) {
-        visit("joint", facts.joints.at(name));
+    visit(facts.records->root);
+    for (auto const& joint : facts.records->joints) {
+        visit(joint);
     }
-    for (std::string const& name : facts.wheelNames) {
-        visit("wheel", facts.wheels.at(name));
+    for (auto const& wheel : facts.records->wheels) {
+        visit(wheel);
     }
 }
 

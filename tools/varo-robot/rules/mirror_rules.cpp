@@ -12,7 +12,7 @@ using Varo::Model::ActuatorConfig;
 /// Whether the mirror that `config` names has another mirror than `config`, or none. That of a mirror whose own
 /// reference leads nowhere is not known.
 template <class Config>
-bool isOneSided(std::map<std::string, Config> const& table, Config const& config)
+bool isOneSided(Varo::Model::Table<Config> const& table, Config const& config)
 {
     Config const* const mirror = mirrorOf(table, config);
     if (mirror == nullptr) {
@@ -25,7 +25,7 @@ bool isOneSided(std::map<std::string, Config> const& table, Config const& config
 
 /// When L names R, and R one of another pair, neither L nor R is pointed back to; but only R is to blame.
 template <class Config>
-bool isToBlame(std::map<std::string, Config> const& table, Config const& config)
+bool isToBlame(Varo::Model::Table<Config> const& table, Config const& config)
 {
     auto const isWrong = [&table](Config const& each) {
         return isOneSided(table, each) && !isOneSided(table, *mirrorOf(table, each));
@@ -39,7 +39,7 @@ bool agree(float a, float b, double tolerance)
 }
 
 template <class Driven>
-void checkLimits(Facts& facts, char const* element, Driven const& first, Driven const& second)
+void checkLimits(Facts& facts, Driven const& first, Driven const& second)
 {
     bool const isReversed = first.minAngle > first.maxAngle || second.minAngle > second.maxAngle;
     if (isReversed) {
@@ -51,7 +51,7 @@ void checkLimits(Facts& facts, char const* element, Driven const& first, Driven 
     bool const maxAgrees =
         agree(second.maxAngle, isReflected ? -first.minAngle : first.maxAngle, facts.tolerances.limit);
     if (!minAgrees || !maxAgrees) {
-        facts.warn({element, second.name, minAgrees ? "@max" : "@min"}, code::limitsNotMirrored,
+        facts.warn(second, minAgrees ? Part::maximum : Part::minimum, code::limitsNotMirrored,
                    "The limits of " + namesOf(first, second) + ", " + rangeText(first.minAngle, first.maxAngle) +
                        " and " + rangeText(second.minAngle, second.maxAngle) +
                        (isReflected ? ", are not each other's opposites." : ", do not agree."),
@@ -61,21 +61,19 @@ void checkLimits(Facts& facts, char const* element, Driven const& first, Driven 
 }
 
 template <class Driven>
-void checkTable(Facts& facts, char const* element, std::vector<std::string> const& names,
-                std::map<std::string, Driven> const& table)
+void checkTable(Facts& facts, Varo::Model::Table<Driven> const& table)
 {
-    for (std::string const& name : names) {
-        Driven const& each = table.at(name);
+    for (Driven const& each : table) {
         if (isToBlame(table, each)) {
-            facts.warn({element, name, "mirror"}, code::mirrorNotMutual,
-                       "The mirror " + quoted(each.mirrorName) + " does not point back to " + quoted(name) + ".");
+            facts.warn(each, Part::mirror, code::mirrorNotMutual,
+                       "The mirror " + quoted(each.mirrorName) + " does not point back to " + quoted(each.name) + ".");
         }
     }
-    forEachPair(names, table, [&](Driven const& first, Driven const& second) {
+    forEachPair(table, [&](Driven const& first, Driven const& second) {
         if (first.mirrorKind == second.mirrorKind) {
-            checkLimits(facts, element, first, second);
+            checkLimits(facts, first, second);
         } else {
-            facts.warn({element, second.name, "mirror"}, code::mirrorKindsDiffer,
+            facts.warn(second, Part::mirror, code::mirrorKindsDiffer,
                        "Of " + namesOf(first, second) + " only one says that their mirror is reflected.");
         }
     });
@@ -84,16 +82,16 @@ void checkTable(Facts& facts, char const* element, std::vector<std::string> cons
 /// A joint that points at the other without being pointed back to has a finding of its own.
 void checkParents(Facts& facts, ActuatorConfig const& first, ActuatorConfig const& second)
 {
-    auto const one = facts.joints.find(first.parentJoint);
-    auto const other = facts.joints.find(second.parentJoint);
-    if (one == facts.joints.end() || other == facts.joints.end() || one == other) {
+    auto const& joints = facts.records->joints;
+    auto const* const one = joints.find(first.parentJoint);
+    auto const* const other = joints.find(second.parentJoint);
+    if (one == nullptr || other == nullptr || one == other) {
         return;
     }
-    if (mirrorOf(facts.joints, one->second) != &other->second &&
-        mirrorOf(facts.joints, other->second) != &one->second) {
-        facts.warn({"actuator", second.name, "@parent"}, code::actuatorsNotPaired,
+    if (mirrorOf(joints, *one) != other && mirrorOf(joints, *other) != one) {
+        facts.warn(second, Part::parent, code::actuatorsNotPaired,
                    "The actuators " + namesOf(first, second) +
-                       " mirror each other, but the joints that they hang on, " + namesOf(one->second, other->second) +
+                       " mirror each other, but the joints that they are attached to, " + namesOf(*one, *other) +
                        ", do not.");
     }
 }
@@ -102,9 +100,9 @@ void checkParents(Facts& facts, ActuatorConfig const& first, ActuatorConfig cons
 
 void checkMirrors(Facts& facts)
 {
-    checkTable(facts, "joint", facts.jointNames, facts.joints);
-    checkTable(facts, "actuator", facts.actuatorNames, facts.actuators);
-    forEachPair(facts.actuatorNames, facts.actuators,
+    checkTable(facts, facts.records->joints);
+    checkTable(facts, facts.records->actuators);
+    forEachPair(facts.records->actuators,
                 [&](ActuatorConfig const& first, ActuatorConfig const& second) { checkParents(facts, first, second); });
 }
 

@@ -49,7 +49,7 @@ private:
         auto const other = static_cast<double>(second.mass);
         bool const areMasses = one >= 0.0 && other >= 0.0;
         if (areMasses && std::abs(one - other) > _facts.tolerances.mass * std::max(one, other)) {
-            _facts.warn({"joint", second.name, "mass/@value"}, code::massNotMirrored,
+            _facts.warn(second, Part::mass, code::massNotMirrored,
                         "The masses of " + namesOf(first, second) + " differ: " + shortest(first.mass) + " kg and " +
                             shortest(second.mass) + " kg.");
         }
@@ -60,7 +60,7 @@ private:
         bool const haveCenters = first.mass != 0.0F && second.mass != 0.0F;
         Eigen::Vector3d const miss = missOf(first, second);
         if (haveCenters && isMiss(miss) && !isCarriedOn(first, second, miss)) {
-            _facts.warn({"joint", second.name, "mass/@com"}, code::comNotMirrored,
+            _facts.warn(second, Part::centerOfMass, code::comNotMirrored,
                         "The centres of mass of " + namesOf(first, second) + " miss each other's reflection by " +
                             rounded(miss.norm()) + " m.");
         }
@@ -79,7 +79,7 @@ private:
         double const greatest = std::max(reflected.cwiseAbs().maxCoeff(), present.cwiseAbs().maxCoeff());
         double const miss = (reflected - present).cwiseAbs().maxCoeff();
         if (miss > tolerance * greatest) {
-            _facts.warn({"joint", second.name, "mass/@inertia"}, code::inertiaNotMirrored,
+            _facts.warn(second, Part::inertia, code::inertiaNotMirrored,
                         "The inertias of " + namesOf(first, second) + " miss each other's reflection by " +
                             rounded(miss) + " kg*m^2.");
         }
@@ -109,13 +109,13 @@ private:
     bool isMiss(Eigen::Vector3d const& miss) const { return miss.norm() > _facts.tolerances.centerOfMass; }
 
     /// Whether the bodies before these miss by as much: then one of them is in the wrong place, and takes all that
-    /// hangs on it along.
+    /// is attached to it along.
     bool isCarriedOn(JointConfig const& first, JointConfig const& second, Eigen::Vector3d const& miss)
     {
         JointConfig const* const beforeFirst = jointBefore(first);
         JointConfig const* const beforeSecond = jointBefore(second);
         if (beforeFirst == nullptr || beforeSecond == nullptr ||
-            !areMutual(_facts.joints, *beforeFirst, *beforeSecond)) {
+            !areMutual(_facts.records->joints, *beforeFirst, *beforeSecond)) {
             return false;
         }
         Eigen::Vector3d const missBefore = missOf(*beforeFirst, *beforeSecond);
@@ -125,8 +125,7 @@ private:
     JointConfig const* jointBefore(JointConfig const& joint) const
     {
         Sim::Joint const* const before = _links.at(joint.name)->parentJoint()->parentLink()->parentJoint();
-        auto const found = before == nullptr ? _facts.joints.end() : _facts.joints.find(before->name());
-        return found == _facts.joints.end() ? nullptr : &found->second;
+        return before == nullptr ? nullptr : _facts.records->joints.find(before->name());
     }
 
     Facts& _facts;
@@ -140,7 +139,7 @@ private:
 void checkMirroredBodies(Facts& facts, Sim::Model const& model)
 {
     MirroredBodies bodies(facts, model);
-    forEachPair(facts.jointNames, facts.joints,
+    forEachPair(facts.records->joints,
                 [&](JointConfig const& first, JointConfig const& second) { bodies.check(first, second); });
 }
 

@@ -14,45 +14,46 @@ namespace Tool::Rules {
 
 namespace {
 
-/// Whether this number says so. Beside 0, a speed of 0 may stand for one that is not written down, or is infinite.
-bool isWrittenAsNotPositive(std::string text)
+/// Whether the text has such a number. Beside 0, a speed of 0 may stand for one that is not stated, or is infinite.
+bool isStatedAsNotPositive(Varo::Model::Statement const& statement)
 {
+    std::string text(statement.text);
     boost::algorithm::trim_left_if(text, boost::algorithm::is_any_of(" \t\r\n+"));
     double value = 0.0;
     auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     return error == std::errc() && value <= 0.0;
 }
 
-void checkSpeed(Facts& facts, Subject const& subject, float speed)
+template <class Driven>
+void checkSpeed(Facts& facts, Driven const& driven, float speed)
 {
-    if (speed <= 0.0F && isWrittenAsNotPositive(facts.findings.textOf(subject))) {
-        facts.warn(subject, code::speedNotPositive,
-                   "The greatest speed of " + quoted(std::string(subject.name)) + ", " + shortest(speed) +
-                       ", is not above 0.");
+    if (speed <= 0.0F && isStatedAsNotPositive(facts.robot.statement(driven, Part::velocity))) {
+        facts.warn(driven, Part::velocity, code::speedNotPositive,
+                   "The greatest speed of " + quoted(driven.name) + ", " + shortest(speed) + ", is not above 0.");
     }
 }
 
 template <class Driven>
-void checkSpeedInRange(Facts& facts, std::string_view element, Driven const& driven)
+void checkSpeedInRange(Facts& facts, Driven const& driven)
 {
     if (driven.minAngle != driven.maxAngle) {
-        checkSpeed(facts, {element, driven.name, "@maxSpeed"}, driven.maxAngularSpeed);
+        checkSpeed(facts, driven, driven.maxAngularSpeed);
     }
 }
 
 void checkSpeeds(Facts& facts)
 {
-    for (std::string const& name : facts.jointNames) {
-        checkSpeedInRange(facts, "joint", facts.joints.at(name));
+    for (auto const& joint : facts.records->joints) {
+        checkSpeedInRange(facts, joint);
     }
-    if (!facts.isNative) {
-        return;  // the actuators of couplings have the limits of a joint
+    if (!facts.records->statesActuators) {
+        return;  // they have the limits of a joint
     }
-    for (std::string const& name : facts.actuatorNames) {
-        checkSpeedInRange(facts, "actuator", facts.actuators.at(name));
+    for (auto const& actuator : facts.records->actuators) {
+        checkSpeedInRange(facts, actuator);
     }
-    for (std::string const& name : facts.wheelNames) {
-        checkSpeed(facts, {"wheel", name, "@maxVelocity"}, facts.wheels.at(name).maxVelocity);
+    for (auto const& wheel : facts.records->wheels) {
+        checkSpeed(facts, wheel, wheel.maxVelocity);
     }
 }
 
@@ -61,50 +62,55 @@ public:
     explicit StartAngles(std::vector<Varo::Model::PostureConfig> const& postures)
     {
         for (Varo::Model::PostureConfig const& posture : postures) {
-            if (posture.name == "StandInit") {
-                _stated.insert(posture.angles.begin(), posture.angles.end());
+            for (Varo::Model::PostureAngle const& angle : posture.angles) {
+                if (posture.name == "StandInit") {
+                    _stated.emplace(angle.name, &angle);
+                }
             }
         }
     }
 
     template <class Driven>
-    void check(Facts& facts, std::string_view element, Driven const& driven) const
+    void check(Facts& facts, Driven const& driven) const
     {
         auto const stated = _stated.find(driven.name);
         bool const isStated = stated != _stated.end();
-        double const angle = isStated ? static_cast<double>(stated->second) : 0.0;
+        double const angle = isStated ? static_cast<double>(stated->second->value) : 0.0;
         double const min = static_cast<double>(driven.minAngle) - facts.tolerances.limit;
         double const max = static_cast<double>(driven.maxAngle) + facts.tolerances.limit;
         bool const isReversed = driven.minAngle > driven.maxAngle;
         if (isReversed || (angle >= min && angle <= max)) {
             return;
         }
-        Subject const atStart = {"angle", driven.name, "@value"};
-        Subject const atLimit = {element, driven.name, angle < min ? "@min" : "@max"};
-        facts.warn(isStated ? atStart : atLimit, code::startOutsideLimits,
-                   "The start angle of " + quoted(driven.name) + ", " + shortest(static_cast<float>(angle)) +
-                       ", is outside its limits, " + rangeText(driven.minAngle, driven.maxAngle) + ".",
-                   isStated ? "" : "An angle that the posture StandInit does not state is 0.");
+        std::string const message = "The start angle of " + quoted(driven.name) + ", " +
+                                    shortest(static_cast<float>(angle)) + ", is outside its limits, " +
+                                    rangeText(driven.minAngle, driven.maxAngle) + ".";
+        if (isStated) {
+            facts.warn(*stated->second, Part::value, code::startOutsideLimits, message);
+        } else {
+            facts.warn(driven, angle < min ? Part::minimum : Part::maximum, code::startOutsideLimits, message,
+                       "An angle that the posture StandInit does not state is 0.");
+        }
     }
 
 private:
-    std::unordered_map<std::string_view, float> _stated;
+    std::unordered_map<std::string_view, Varo::Model::PostureAngle const*> _stated;
 };
 
 /// Of all that has a start angle.
 void checkStarts(Facts& facts)
 {
-    StartAngles const starts(facts.postures);
-    std::unordered_set<std::string> checked;
-    for (std::string const& name : Varo::Model::angleNames(facts.chainNames, facts.chains, facts.actuators)) {
-        if (!checked.insert(name).second) {
+    StartAngles const starts(facts.records->postures);
+    std::unordered_set<std::string_view> checked;
+    for (std::string const* name : angleNames(*facts.records)) {
+        if (!checked.insert(*name).second) {
             continue;
         }
         // An actuator's limits hide those of a joint of the same name.
-        if (auto const actuator = facts.actuators.find(name); actuator != facts.actuators.end()) {
-            starts.check(facts, "actuator", actuator->second);
-        } else if (auto const joint = facts.joints.find(name); joint != facts.joints.end()) {
-            starts.check(facts, "joint", joint->second);
+        if (auto const* actuator = facts.records->actuators.find(*name)) {
+            starts.check(facts, *actuator);
+        } else if (auto const* joint = facts.records->joints.find(*name)) {
+            starts.check(facts, *joint);
         }
     }
 }
@@ -114,7 +120,7 @@ void checkStarts(Facts& facts)
 void checkMotions(Facts& facts)
 {
     checkSpeeds(facts);
-    if (facts.isNative) {  // URDF states no start angles; its zero position is one of reference
+    if (facts.records->statesPostures) {  // elsewhere the zero position is but one of reference
         checkStarts(facts);
     }
 }

@@ -7,18 +7,21 @@
 
 namespace Tool::Rules {
 
-Varo::Model::Findings apply(std::string const& text, Varo::Model::Robot const& robot, Sim::Model const* model,
-                            Tolerances const& tolerances)
+Varo::Model::Findings apply(Varo::Model::Robot const& robot, Tolerances const& tolerances)
 {
-    Facts facts(text, robot, tolerances);
+    Facts facts(robot, tolerances);
     checkBodies(facts);
     checkMotions(facts);
     checkMirrors(facts);
     checkUse(facts);
-    if (model != nullptr) {
-        checkMirroredBodies(facts, *model);
-    }
-    return facts.findings.take();
+    return facts.diagnostics.findings();
+}
+
+Varo::Model::Findings applyToPoses(Sim::Model const& model, Tolerances const& tolerances)
+{
+    Facts facts(model.robot(), tolerances);
+    checkMirroredBodies(facts, model);
+    return facts.diagnostics.findings();
 }
 
 std::vector<std::string> codes()

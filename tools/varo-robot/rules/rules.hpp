@@ -19,10 +19,11 @@ struct Tolerances {
     double limit = 1e-4;  ///< rad (m for prismatic joints)
 };
 
-/// The findings of all rules about an accepted description, with their places in `text`, from which `robot` was read.
-/// All are warnings. `model` is that of the robot; when it is null, the rules that compare poses are left out.
-Varo::Model::Findings apply(std::string const& text, Varo::Model::Robot const& robot, Sim::Model const* model,
-                            Tolerances const& tolerances);
+/// The findings of the rules that look at records alone, about an accepted description. All are warnings.
+Varo::Model::Findings apply(Varo::Model::Robot const& robot, Tolerances const& tolerances);
+
+/// Those of the rules that compare poses.
+Varo::Model::Findings applyToPoses(Sim::Model const& model, Tolerances const& tolerances);
 
 /// The codes that these findings bear.
 std::vector<std::string> codes();

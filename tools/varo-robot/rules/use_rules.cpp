@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <string_view>
 
 #include "rules/facts.hpp"
 #include "rules/rule_codes.hpp"
@@ -17,17 +16,18 @@ bool movesNothing(ActuatorConfig const& actuator)
                        [](auto const& group) { return group.empty(); });
 }
 
-/// What hangs on joints that the tree lacks needs no rule: the reader reports those joints.
+/// What is attached to joints that the tree lacks needs no rule: the reader reports those joints.
 void checkActuator(Facts& facts, ActuatorConfig const& actuator)
 {
-    bool const isOnActuator =
-        facts.joints.count(actuator.parentJoint) == 0 && facts.actuators.count(actuator.parentJoint) != 0;
+    bool const isOnActuator = !facts.records->joints.contains(actuator.parentJoint) &&
+                              facts.records->actuators.contains(actuator.parentJoint);
     if (isOnActuator) {
-        facts.warn({"actuator", actuator.name, "@parent"}, code::actuatorNotReached,
-                   "The actuator " + quoted(actuator.name) + " hangs on another actuator, where no model reaches it.",
-                   "Hang it on a joint.");
+        facts.warn(
+            actuator, Part::parent, code::actuatorNotReached,
+            "The actuator " + quoted(actuator.name) + " is attached to another actuator, where no model reaches it.",
+            "Attach it to a joint.");
     } else if (movesNothing(actuator)) {
-        facts.warn({"actuator", actuator.name}, code::idleActuator,
+        facts.warn(actuator, Part::whole, code::idleActuator,
                    "The actuator " + quoted(actuator.name) + " moves no joint.");
     }
 }
@@ -36,18 +36,18 @@ void checkActuator(Facts& facts, ActuatorConfig const& actuator)
 
 void checkUse(Facts& facts)
 {
-    for (std::string const& name : facts.actuatorNames) {
-        checkActuator(facts, facts.actuators.at(name));
+    for (ActuatorConfig const& actuator : facts.records->actuators) {
+        checkActuator(facts, actuator);
     }
-    for (std::string const& name : facts.chainNames) {
-        if (facts.chains.at(name).jointNames.empty()) {
-            facts.warn({"chain", name}, code::emptyChain, "The chain " + quoted(name) + " has no joints.");
+    for (Varo::Model::ChainConfig const& chain : facts.records->chains) {
+        if (chain.jointNames.empty()) {
+            facts.warn(chain, Part::whole, code::emptyChain, "The chain " + quoted(chain.name) + " has no joints.");
         }
     }
-    forEachBody(facts, [&](std::string_view element, auto const& body) {
+    forEachBody(facts, [&](auto const& body) {
         auto const material = body.attributes.find("material");
         if (material != body.attributes.end() && !Varo::Model::isFrictionMaterial(material->second)) {
-            facts.warn({element, body.name, "attribute[@name='material']/@value"}, code::unknownMaterial,
+            facts.warn(body, Part::material, code::unknownMaterial,
                        "There is no coefficient of friction for the material " + quoted(material->second) + ".");
         }
     });

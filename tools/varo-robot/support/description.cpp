@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "support/finding_text.hpp"
-#include "varo/model/placed_findings.hpp"
 #include "zu/log.hpp"
 
 namespace Tool {
@@ -50,37 +49,6 @@ int readText(std::string const& file, std::string& text)
     return std::ferror(stream.get()) != 0 ? errno : 0;
 }
 
-std::string withoutLineEnd(std::string text)
-{
-    while (!text.empty() && text.back() == '\n') {
-        text.pop_back();
-    }
-    return text;
-}
-
-/// Hears what the library logs, as long as it lives.
-class LogListener {
-public:
-    explicit LogListener(std::vector<std::string>& messages)
-    {
-        zu::log::setSink([&messages](zu::log::Record const& record) { messages.emplace_back(record.message); });
-    }
-    LogListener(LogListener const&) = delete;
-    LogListener& operator=(LogListener const&) = delete;
-    ~LogListener() { zu::log::setSink({}); }
-};
-
-/// Findings of the model, which does not know the text: they stand at the root element.
-Findings findingsAtRoot(std::string const& text, Severity severity, char const* code,
-                        std::vector<std::string> const& messages)
-{
-    Varo::Model::PlacedFindings placed(text);
-    for (std::string const& message : messages) {
-        placed.add({}, severity, code, message);
-    }
-    return placed.take();
-}
-
 }  // namespace
 
 Finding fileFinding(Severity severity, std::string code, std::string message, std::string hint)
@@ -97,16 +65,17 @@ Description readDescription(std::string const& file)
 {
     Description description;
     description.file = file == "-" ? "<stdin>" : file;
-    int const error = readText(file, description.text);
+    std::string text;
+    int const error = readText(file, text);
     Findings& findings = description.reading.findings;
     if (error != 0) {
         std::string const reason = std::strerror(error);
         findings.push_back(fileFinding(Severity::error, codes::unreadableFile, "It cannot be read: " + reason + "."));
-    } else if (description.text.empty()) {
+    } else if (text.empty()) {
         findings.push_back(fileFinding(Severity::error, codes::emptyFile, "There is nothing in it.",
                                        "A description begins with <robotDescription> or, in URDF, with <robot>."));
     } else {
-        description.reading = Varo::Model::ModelUtils::read(description.text);
+        description.reading = Varo::Model::ModelUtils::read(std::move(text));
     }
     return description;
 }
@@ -120,31 +89,19 @@ Description readAccepted(std::string const& file)
     return description;
 }
 
-Sim::Model buildModel(Description const& description, Findings& findings)
-{
-    std::vector<std::string> heard;
-    LogListener const listener(heard);
-    try {
-        Sim::Model model(description.text);
-        if (!heard.empty()) {
-            auto const more = findingsAtRoot(description.text, Severity::warning, codes::modelIncomplete, heard);
-            findings.insert(findings.end(), more.begin(), more.end());
-        }
-        return model;
-    } catch (std::exception const& reason) {
-        std::string const message = "No model can be built from it: " + withoutLineEnd(reason.what());
-        throw Refused(description.file,
-                      findingsAtRoot(description.text, Severity::error, codes::modelNotBuilt, {message}));
-    }
-}
-
 Robot loadRobot(std::string const& file)
 {
     Description description = readAccepted(file);
-    Findings heard;
-    Sim::Model model = buildModel(description, heard);
-    printFindings(std::cerr, description.file, heard);
-    return {std::move(description), std::move(model)};
+    try {
+        Robot robot = {description.file, Sim::Model(std::move(description.reading))};
+        Findings findings = robot.model.findings();
+        auto const isOther = [](Finding const& finding) { return finding.code != codes::modelIncomplete; };
+        findings.erase(std::remove_if(findings.begin(), findings.end(), isOther), findings.end());
+        printFindings(std::cerr, robot.file, findings);
+        return robot;
+    } catch (Varo::Model::WithFindings const& reason) {
+        throw Refused(description.file, reason.findings());
+    }
 }
 
 }  // namespace Tool

@@ -14,8 +14,9 @@ namespace Tool {
 namespace codes {
 inline constexpr char unreadableFile[] = "unreadable-file";
 inline constexpr char emptyFile[] = "empty-file";
-inline constexpr char modelNotBuilt[] = "model-not-built";
+// What building a model adds to the findings of the reader.
 inline constexpr char modelIncomplete[] = "model-incomplete";
+inline constexpr char sensorWithoutClass[] = "sensor-without-class";
 inline constexpr char unwritableFile[] = "unwritable-file";
 inline constexpr char nameNotFound[] = "name-not-found";
 }  // namespace codes
@@ -23,7 +24,6 @@ inline constexpr char nameNotFound[] = "name-not-found";
 /// A description as it was read.
 struct Description {
     std::string file;  ///< as messages name it
-    std::string text;
     Varo::Model::ModelUtils::Reading reading;
 };
 
@@ -52,17 +52,15 @@ Varo::Model::Finding fileFinding(Varo::Model::Severity severity, std::string cod
 /// As readDescription, for commands that need a description without errors. Throws Refused.
 Description readAccepted(std::string const& file);
 
-/// Builds the model of an accepted description. What the library logs meanwhile is appended to `findings`, at the root
-/// element. Throws Refused when the model cannot be built.
-Sim::Model buildModel(Description const& description, Varo::Model::Findings& findings);
-
-/// A description and its model.
+/// A robot and the file that it is from, as messages name that.
 struct Robot {
-    Description description;
+    std::string file;
     Sim::Model model;
+
+    Varo::Model::Robot const& records() const { return model.robot(); }
 };
 
-/// What most commands start from: says on standard error what the library logs. Throws Refused.
+/// What most commands start from: says on standard error what the model leaves out. Throws Refused.
 Robot loadRobot(std::string const& file);
 
 }  // namespace Tool

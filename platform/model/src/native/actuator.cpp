@@ -5,6 +5,7 @@
 #include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
 
@@ -39,20 +40,16 @@ void readSubJoint(ElementReader& reader, Element const& element, pugi::xml_node 
 {
     SubActuatorConfig subJoint;
     reader.read(element, node, &subJoint);
-    if (subJoint.name.empty()) {
-        reader.loseDefinition();
-        return;
-    }
     std::string name = subJoint.name;
-    if (!reader.robot().subActuators.try_emplace(name, std::move(subJoint)).second) {
-        reader.reportDuplicate(node, "name");
-        return;
+    auto const before = reader.robot().subActuators.size();
+    reader.define(NameIndex::subJoint, reader.robot().subActuators, std::move(subJoint), node);
+    if (reader.robot().subActuators.size() > before) {
+        static_cast<Group*>(parent)->push_back(std::move(name));
     }
-    static_cast<Group*>(parent)->push_back(std::move(name));
 }
 
 /// Whether a reference to the joint of that name says it all.
-bool isFollower(SubActuatorConfig const& subJoint, RobotData const& robot)
+bool isFollower(SubActuatorConfig const& subJoint, Records const& robot)
 {
     return robot.joints.contains(subJoint.name) && subJoint.meshName.empty() && subJoint.placement == Transform();
 }
@@ -61,7 +58,7 @@ bool isFollower(SubActuatorConfig const& subJoint, RobotData const& robot)
 void writeMembers(ElementWriter& writer, Element const&, void const* parent)
 {
     for (std::string const& name : *static_cast<Group const*>(parent)) {
-        SubActuatorConfig const& subJoint = writer.robot().subActuators.at(name);
+        SubActuatorConfig const& subJoint = *writer.robot().subActuators.find(name);
         writer.write(isFollower(subJoint, writer.robot()) ? followerElement : subJointElement, &subJoint);
     }
 }
@@ -110,9 +107,9 @@ void readActuator(ElementReader& reader, Element const& element, pugi::xml_node 
     ActuatorConfig actuator;
     reader.read(element, node, &actuator);
     if (actuator.minAngle > actuator.maxAngle) {
-        reader.diagnostics().report({node, "min"}, codes::reversedLimits, "The limit min is greater than max.");
+        reader.diagnostics().report(at(node, "min"), codes::reversedLimits, "The limit min is greater than max.");
     }
-    reader.define(static_cast<RobotData*>(parent)->actuators, std::move(actuator), node);
+    reader.define(NameIndex::actuator, static_cast<Records*>(parent)->actuators, std::move(actuator), node);
 }
 
 }  // namespace Varo::Model::Native

@@ -21,7 +21,9 @@ void readJointRef(ElementReader& reader, Element const& element, pugi::xml_node 
 {
     JointRef reference;
     reader.read(element, node, &reference);
-    static_cast<ChainConfig*>(parent)->jointNames.push_back(std::move(reference.name));
+    auto& chain = *static_cast<ChainConfig*>(parent);
+    chain.jointNames.push_back(std::move(reference.name));
+    chain.jointOffsets.push_back(at(node));
 }
 
 void writeJointRefs(ElementWriter& writer, Element const& element, void const* parent)
@@ -50,7 +52,7 @@ void readChain(ElementReader& reader, Element const& element, pugi::xml_node nod
 {
     ChainConfig chain;
     reader.read(element, node, &chain);
-    reader.define(static_cast<RobotData*>(parent)->chains, std::move(chain), node);
+    reader.define(NameIndex::chain, static_cast<Records*>(parent)->chains, std::move(chain), node);
 }
 
 }  // namespace Varo::Model::Native

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "spelling.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
 
@@ -89,7 +90,7 @@ void ElementReader::readAttributes(Element const& element, pugi::xml_node node, 
         Bits const bit = 1U << index;
         // The second of two like-named attributes is a fault of the text itself and found there.
         if ((seen & bit) == 0 && !element.attributes[index].store(attribute.value(), record)) {
-            reportWrongValue({node, attribute}, element.attributes[index], attribute.value());
+            reportWrongValue(at(node, attribute), element.attributes[index], attribute.value());
         }
         seen |= bit;
     }
@@ -104,11 +105,18 @@ void ElementReader::readContent(Element const& element, pugi::xml_node node, voi
             seen |= readChild(element, child, seen, record);
         } else if (isText(child) && element.text == nullptr && !trimmed(child.value()).empty()) {
             _diagnostics.report(
-                child, codes::unexpectedText,
+                startOfText(child), codes::unexpectedText,
                 std::string(element.name) + " holds no text, but here stands " + quoted(trimmed(child.value())) + ".");
         }
     }
     reportMissingChildren(element, node, seen);
+}
+
+/// Where a text says something: the white space before that is looked at in the source, which has it as it was written.
+TextOffset ElementReader::startOfText(pugi::xml_node text) const
+{
+    std::string const& source = _diagnostics.source()->text();
+    return TextOffset(source.find_first_not_of(" \t\r\n", at(text).value()));
 }
 
 void ElementReader::readText(Element const& element, pugi::xml_node node, void* record)
@@ -120,7 +128,7 @@ void ElementReader::readText(Element const& element, pugi::xml_node node, void* 
         }
     }
     if (!element.text->store(text, record)) {
-        reportWrongValue(node, *element.text, text);
+        reportWrongValue(at(node), *element.text, text);
     }
 }
 
@@ -133,7 +141,7 @@ ElementReader::Bits ElementReader::readChild(Element const& element, pugi::xml_n
     Child const& row = element.children[index];
     Bits const bit = 1U << index;
     if (row.occurrence != Occurrence::any && (seen & bit) != 0) {
-        _diagnostics.report(child, codes::repeatedElement,
+        _diagnostics.report(at(child), codes::repeatedElement,
                             std::string(element.name) + " may hold only one " + child.name() + ".",
                             "Leave one of them out; only the first is read.");
         return 0;
@@ -149,7 +157,7 @@ ElementReader::Bits ElementReader::reportUnknownAttribute(Element const& element
         return 0;
     }
     auto [hint, bit] = suggest(element.attributes, attribute.name());
-    _diagnostics.report({node, attribute}, codes::unknownAttribute,
+    _diagnostics.report(at(node, attribute), codes::unknownAttribute,
                         std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ".",
                         std::move(hint));
     return bit;
@@ -162,7 +170,7 @@ ElementReader::Bits ElementReader::reportUnknownChild(Element const& element, pu
         return 0;
     }
     auto [hint, bit] = suggest(element.children, child.name());
-    _diagnostics.report(child, codes::unknownElement,
+    _diagnostics.report(at(child), codes::unknownElement,
                         std::string(element.name) + " holds no element " + quoted(child.name()) + ".", std::move(hint));
     return bit;
 }
@@ -172,7 +180,7 @@ void ElementReader::reportMissingAttributes(Element const& element, pugi::xml_no
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         Attribute const& attribute = element.attributes[i];
         if (attribute.required && (seen & (1U << i)) == 0) {
-            _diagnostics.report(node, codes::missingAttribute,
+            _diagnostics.report(at(node), codes::missingAttribute,
                                 std::string(element.name) + " lacks its attribute " + quoted(attribute.name) + ".",
                                 "Add it: " + std::string(attribute.meaning) + ".");
         }
@@ -184,14 +192,14 @@ void ElementReader::reportMissingChildren(Element const& element, pugi::xml_node
     for (std::size_t i = 0; i < element.children.size(); ++i) {
         Child const& child = element.children[i];
         if (child.occurrence == Occurrence::once && (seen & (1U << i)) == 0) {
-            _diagnostics.report(node, codes::missingElement,
+            _diagnostics.report(at(node), codes::missingElement,
                                 std::string(element.name) + " lacks its element " + quoted(child.element->name) + ".",
                                 "Add it: " + std::string(child.element->meaning));
         }
     }
 }
 
-void ElementReader::reportWrongValue(Place const& place, Attribute const& attribute, std::string_view value)
+void ElementReader::reportWrongValue(TextOffset place, Attribute const& attribute, std::string_view value)
 {
     if (_diagnostics.countIfFull(codes::wrongValue)) {
         return;
@@ -214,7 +222,7 @@ void ElementReader::reportWrongValue(Place const& place, Attribute const& attrib
 
 void ElementReader::reportDuplicate(pugi::xml_node node, char const* attribute)
 {
-    _diagnostics.report({node, attribute}, codes::duplicateName,
+    _diagnostics.report(at(node, attribute), codes::duplicateName,
                         "Another " + std::string(node.name()) + " already has the " + attribute + " " +
                             quoted(node.attribute(attribute).value()) + ".",
                         "Give each its own; the first one counts.");

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "native/schema.hpp"
-#include "robot_record.hpp"
+#include "varo/model/records.hpp"
 
 namespace Varo::Model::Native {
 
@@ -15,14 +15,14 @@ namespace Varo::Model::Native {
 class ElementWriter {
 public:
     /// The robot must outlive the writer.
-    explicit ElementWriter(RobotData const& robot) : _robot(robot) {}
+    explicit ElementWriter(Records const& robot) : _robot(robot) {}
 
     /// Writes an element of `record`, whose type is the one that the tables of `element` name.
     void write(Element const& element, void const* record);
     /// The same, unless the attributes say no more than those of a new record.
     void writeUnlessDefault(Element const& element, void const* record);
 
-    RobotData const& robot() const { return _robot; }
+    Records const& robot() const { return _robot; }
 
     /// All that was written.
     std::string const& text() const { return _text; }
@@ -33,7 +33,7 @@ private:
     void closeTag(std::string_view name);
     void indent() { _text.append(2 * _depth, ' '); }
 
-    RobotData const& _robot;
+    Records const& _robot;
     std::string _text;
     std::size_t _depth = 0;
     bool _isTagOpen = false;  ///< the last start tag still lacks its end

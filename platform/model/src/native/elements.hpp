@@ -6,10 +6,10 @@
 /// The elements of the native dialect; each family of them stands in a source of its own.
 namespace Varo::Model::Native {
 
-/// The root element; reads into a RobotData.
+/// The root element; reads into a Records.
 extern Element const robotDescriptionElement;
 
-// What stands in it, and the functions that read it into the RobotData that `parent` points to.
+// What stands in it, and the functions that read it into the Records that `parent` points to.
 extern Element const rootElement;
 extern Element const jointElement;
 extern Element const chainElement;

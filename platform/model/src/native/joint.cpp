@@ -7,6 +7,7 @@
 #include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
 
@@ -70,19 +71,22 @@ void readJoint(ElementReader& reader, Element const& element, pugi::xml_node nod
     JointReading joint;
     reader.read(element, node, static_cast<JointConfig*>(&joint));
     if (joint.minAngle > joint.maxAngle) {
-        reader.diagnostics().report({node, "min"}, codes::reversedLimits, "The limit min is greater than max.");
+        reader.diagnostics().report(at(node, "min"), codes::reversedLimits, "The limit min is greater than max.");
     }
-    auto& robot = *static_cast<RobotData*>(parent);
+    auto& robot = *static_cast<Records*>(parent);
     if (joint.reflectionForced) {
         robot.reflectionForced.push_back(joint.name);
     }
-    reader.define(robot.joints, static_cast<JointConfig&&>(joint), node);
+    joint.bodyOffset = at(node);
+    reader.define(NameIndex::joint, robot.joints, static_cast<JointConfig&&>(joint), node);
 }
 
 void readRoot(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
 {
-    auto& root = static_cast<RobotData*>(parent)->root;
+    auto& root = static_cast<Records*>(parent)->root;
     reader.read(element, node, &root);
+    root.textOffset = at(node);
+    root.bodyOffset = at(node);
     if (root.name.empty()) {
         reader.loseDefinition();
     }
@@ -90,17 +94,17 @@ void readRoot(ElementReader& reader, Element const& element, pugi::xml_node node
 
 void writeJoints(ElementWriter& writer, Element const& element, void const* parent)
 {
-    auto const& robot = *static_cast<RobotData const*>(parent);
+    auto const& robot = *static_cast<Records const*>(parent);
     std::set<std::string_view> const forced(robot.reflectionForced.begin(), robot.reflectionForced.end());
-    for (std::string const& name : robot.joints.names) {
-        JointReading const joint = {robot.joints.byName.at(name), forced.find(name) != forced.end()};
+    for (JointConfig const& config : robot.joints) {
+        JointReading const joint = {config, forced.find(config.name) != forced.end()};
         writer.write(element, static_cast<JointConfig const*>(&joint));
     }
 }
 
 void writeRoot(ElementWriter& writer, Element const& element, void const* parent)
 {
-    writer.write(element, &static_cast<RobotData const*>(parent)->root);
+    writer.write(element, &static_cast<Records const*>(parent)->root);
 }
 
 }  // namespace Varo::Model::Native

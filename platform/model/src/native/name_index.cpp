@@ -1,28 +1,9 @@
 #include "native/name_index.hpp"
 
-#include "diagnostics.hpp"
 #include "spelling.hpp"
+#include "varo/model/diagnostics.hpp"
 
 namespace Varo::Model::Native {
-
-NameIndex::NameIndex(RobotData const& robot) : _rootLink(robot.root.name + "Link")
-{
-    _kinds.reserve(robot.joints.names.size() + robot.subActuators.size() + robot.actuators.names.size());
-    mark(robot.root.name, root);
-    mark(_rootLink, rootLink);
-    for (auto const& entry : robot.joints.byName) {
-        mark(entry.first, joint);
-    }
-    for (auto const& entry : robot.subActuators) {
-        mark(entry.first, subJoint);
-    }
-    for (auto const& entry : robot.wheels.byName) {
-        mark(entry.first, wheel);
-    }
-    for (auto const& entry : robot.actuators.byName) {
-        mark(entry.first, actuator);
-    }
-}
 
 unsigned NameIndex::kinds(std::string_view name) const
 {

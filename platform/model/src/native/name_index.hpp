@@ -5,7 +5,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "robot_record.hpp"
+#include "varo/model/records.hpp"
 
 namespace Varo::Model::Native {
 
@@ -20,12 +20,11 @@ public:
         wheel = 8,
         root = 16,
         rootLink = 32,
+        chain = 256,
+        sensor = 512,
         inChain = 64,  ///< a joint or a mere name that a chain lists
         hasAngle = 128,  ///< stands in a chain, or is an actuator that hangs on what does
     };
-
-    /// `robot` must outlive the index and stay as it is. What chains list has to be marked afterwards.
-    explicit NameIndex(RobotData const& robot);
 
     unsigned kinds(std::string_view name) const;
 
@@ -37,7 +36,6 @@ public:
     std::string suggestion(std::string_view written, unsigned kinds);
 
 private:
-    std::string _rootLink;
     std::unordered_map<std::string_view, unsigned> _kinds;
     std::size_t _comparisonsLeft = 1000000;
 };

@@ -1,25 +1,54 @@
 #include "native/native_reader.hpp"
 
-#include <utility>
+#include <iterator>
 
 #include "native/element_reader.hpp"
 #include "native/elements.hpp"
 #include "native/references.hpp"
-#include "robot_record.hpp"
 
 namespace Varo::Model {
 
-std::unique_ptr<Robot> readNative(pugi::xml_node root, Diagnostics& diagnostics)
+namespace {
+
+constexpr PartPlace parts[] = {
+    {Part::name, "of", {}, "angle"},
+    {Part::name, "name"},
+    {Part::parent, "parent"},
+    {Part::mirror, {}, "mirror"},
+    {Part::minimum, "min"},
+    {Part::maximum, "max"},
+    {Part::effort, "maxTorque"},
+    {Part::velocity, "maxVelocity", {}, "wheel"},
+    {Part::velocity, "maxSpeed"},
+    {Part::mass, "value", "mass"},
+    {Part::centerOfMass, "com", "mass"},
+    {Part::inertia, "inertia", "mass"},
+    {Part::material, "value", "attribute", {}, "material"},
+    {Part::value, "value"},
+};
+
+template <class Config>
+void reserve(Table<Config>& table, pugi::xml_node root, char const* element)
 {
-    RobotData robot;
+    auto const elements = root.children(element);
+    table.reserve(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
+}
+
+}  // namespace
+
+Range<PartPlace> const nativeParts = parts;
+
+Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
+{
+    Records robot;
     robot.dialect = "native";
+    reserve(robot.joints, root, "joint");
+    reserve(robot.chains, root, "chain");
+    reserve(robot.sensors, root, "sensor");
     Native::ElementReader reader(diagnostics, robot);
     reader.read(Native::robotDescriptionElement, root, &robot);
     Native::checkReferences(root, reader);
-    if (diagnostics.hasErrors()) {
-        return nullptr;
-    }
-    return std::make_unique<RobotRecord>(std::move(robot));
+    return robot;
 }
 
 }  // namespace Varo::Model

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "xml/node_offset.hpp"
+
 namespace Varo::Model::Native {
 
 namespace {
@@ -108,7 +110,7 @@ Transform readPose(ElementReader& reader, Element const& element, pugi::xml_node
         return compose(pose.xyz, pose.rpy);
     }
     if (node.attribute("xyz") || node.attribute("rpy")) {
-        reader.diagnostics().report({node, "matrix"}, codes::conflictingAttributes,
+        reader.diagnostics().report(at(node, "matrix"), codes::conflictingAttributes,
                                     "A matrix says the whole pose, so that xyz and rpy cannot stand beside it.",
                                     "Write either the matrix or the other two.");
     }

@@ -8,28 +8,23 @@ namespace Varo::Model::Native {
 
 namespace {
 
-struct Angle {
-    std::string of;
-    float value = 0.0F;
-};
-
 constexpr Attribute angleAttributes[] = {
-    required<&Angle::of, Name>("of", "", "a joint of a chain, or an actuator that hangs on one"),
-    required<&Angle::value>("value", "rad (m)", "where it stands in this posture"),
+    required<&PostureAngle::name, Name>("of", "", "a joint of a chain, or an actuator that hangs on one"),
+    required<&PostureAngle::value>("value", "rad (m)", "where it stands in this posture"),
 };
 constexpr Element angleElement{"angle", "the value of one joint or actuator", angleAttributes};
 
 void readAngle(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
 {
-    Angle angle;
+    PostureAngle angle;
     reader.read(element, node, &angle);
-    static_cast<PostureConfig*>(parent)->angles.emplace_back(std::move(angle.of), angle.value);
+    angle.textOffset = at(node);
+    static_cast<PostureConfig*>(parent)->angles.push_back(std::move(angle));
 }
 
 void writeAngles(ElementWriter& writer, Element const& element, void const* parent)
 {
-    for (auto const& [of, value] : static_cast<PostureConfig const*>(parent)->angles) {
-        Angle const angle = {of, value};
+    for (PostureAngle const& angle : static_cast<PostureConfig const*>(parent)->angles) {
         writer.write(element, &angle);
     }
 }
@@ -49,12 +44,13 @@ void readPosture(ElementReader& reader, Element const& element, pugi::xml_node n
 {
     PostureConfig posture;
     reader.read(element, node, &posture);
-    static_cast<RobotData*>(parent)->postures.push_back(std::move(posture));
+    posture.textOffset = at(node);
+    static_cast<Records*>(parent)->postures.push_back(std::move(posture));
 }
 
 void writePostures(ElementWriter& writer, Element const& element, void const* parent)
 {
-    for (PostureConfig const& posture : static_cast<RobotData const*>(parent)->postures) {
+    for (PostureConfig const& posture : static_cast<Records const*>(parent)->postures) {
         writer.write(element, &posture);
     }
 }

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "xml/node_offset.hpp"
+
 namespace Varo::Model::Native {
 
 namespace {
@@ -71,7 +73,7 @@ void checkActuatorLoops(pugi::xml_node root, ElementReader& reader)
     }
     for (pugi::xml_node const actuator : findCircles(hangOnParents(std::move(actuators), byName))) {
         reader.diagnostics().report(
-            {actuator, "parent"}, codes::actuatorLoop,
+            at(actuator, "parent"), codes::actuatorLoop,
             "The parents of the actuator " + quoted(actuator.attribute("name").value()) + " lead back to it.",
             "Hang one of them on a joint.");
     }
@@ -94,7 +96,7 @@ void checkChainLoops(pugi::xml_node root, ElementReader& reader)
         }
     }
     for (pugi::xml_node const chain : findCircles(hangOnParents(std::move(chains), byJoint))) {
-        reader.diagnostics().report({chain, "parent"}, codes::chainLoop,
+        reader.diagnostics().report(at(chain, "parent"), codes::chainLoop,
                                     "The parents of the chain " + quoted(chain.attribute("name").value()) +
                                         " lead back to it, so that it does not hang on the root.");
     }

@@ -6,6 +6,7 @@
 
 #include "native/name_index.hpp"
 #include "native/reference_loops.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
 
@@ -15,8 +16,14 @@ namespace {
 class ReferenceCheck {
 public:
     explicit ReferenceCheck(ElementReader& reader)
-        : _diagnostics(reader.diagnostics()), _robot(reader.robot()), _names(_robot)
-    {}
+        : _diagnostics(reader.diagnostics()),
+          _robot(reader.robot()),
+          _names(reader.names()),
+          _rootLink(_robot.root.name + "Link")
+    {
+        _names.mark(_robot.root.name, NameIndex::root);
+        _names.mark(_rootLink, NameIndex::rootLink);
+    }
 
     void check(pugi::xml_node root)
     {
@@ -59,7 +66,7 @@ private:
                 reportDangling(reference, "name", joints, "The chain's joint", "a joint");
             }
             if ((before & NameIndex::inChain) != 0) {
-                _diagnostics.report({reference, "name"}, codes::jointInTwoChains,
+                _diagnostics.report(at(reference, "name"), codes::jointInTwoChains,
                                     "The joint " + quoted(name) + " already stands in a chain.");
             } else if ((before & joints) != 0) {
                 ++_jointsInChains;
@@ -69,19 +76,19 @@ private:
 
     void markActuatorsOnChains()
     {
-        for (auto const& [name, actuator] : _robot.actuators.byName) {
+        for (ActuatorConfig const& actuator : _robot.actuators) {
             if ((_names.kinds(actuator.parentJoint) & NameIndex::inChain) != 0) {
-                _names.mark(name, NameIndex::hasAngle);
+                _names.mark(actuator.name, NameIndex::hasAngle);
             }
         }
     }
 
     void checkJoint(pugi::xml_node node)
     {
-        bool const allInChains = _jointsInChains == _robot.joints.names.size();
+        bool const allInChains = _jointsInChains == _robot.joints.size();
         char const* const name = node.attribute("name").value();
         if (!allInChains && (_names.kinds(name) & (joints | NameIndex::inChain)) == joints) {
-            _diagnostics.report(node, codes::jointInNoChain,
+            _diagnostics.report(at(node), codes::jointInNoChain,
                                 "The joint " + quoted(name) + " stands in no chain, so that no model will contain it.",
                                 "Add a jointRef to a chain.");
         }
@@ -106,7 +113,7 @@ private:
             unsigned const kinds = _names.kinds(name);
             if (*name != 0 && (kinds & NameIndex::hasAngle) == 0) {
                 bool const isMisspelt = kinds == 0;
-                _diagnostics.report({angle, "of"}, codes::angleOfUnknown,
+                _diagnostics.report(at(angle, "of"), codes::angleOfUnknown,
                                     quoted(name) + " has no angle: it is no joint of a chain and no actuator on one.",
                                     isMisspelt ? _names.suggestion(name, NameIndex::hasAngle) : "");
             }
@@ -125,14 +132,15 @@ private:
                         char const* wanted)
     {
         char const* const name = node.attribute(attribute).value();
-        _diagnostics.report({node, attribute}, codes::danglingReference,
+        _diagnostics.report(at(node, attribute), codes::danglingReference,
                             std::string(subject) + ", " + quoted(name) + ", is not the name of " + wanted + ".",
                             _names.suggestion(name, kinds));
     }
 
     Diagnostics& _diagnostics;
-    RobotData const& _robot;
-    NameIndex _names;
+    Records const& _robot;
+    NameIndex& _names;
+    std::string _rootLink;
     std::size_t _jointsInChains = 0;  ///< of those that the robot has, each counted once
 };
 

@@ -23,7 +23,7 @@ void readPrettyName(ElementReader& reader, Element const& element, pugi::xml_nod
 {
     PrettyName name;
     reader.read(element, node, &name);
-    auto& names = static_cast<RobotData*>(parent)->prettyNames;
+    auto& names = static_cast<Records*>(parent)->prettyNames;
     if (!names.try_emplace(name.index, std::move(name.text)).second) {
         reader.reportDuplicate(node, "index");
     }
@@ -31,7 +31,7 @@ void readPrettyName(ElementReader& reader, Element const& element, pugi::xml_nod
 
 void writePrettyNames(ElementWriter& writer, Element const& element, void const* parent)
 {
-    for (auto const& [index, text] : static_cast<RobotData const*>(parent)->prettyNames) {
+    for (auto const& [index, text] : static_cast<Records const*>(parent)->prettyNames) {
         PrettyName const name = {index, text};
         writer.write(element, &name);
     }
@@ -40,24 +40,23 @@ void writePrettyNames(ElementWriter& writer, Element const& element, void const*
 template <auto table>
 void writeTable(ElementWriter& writer, Element const& element, void const* parent)
 {
-    auto const& records = static_cast<RobotData const*>(parent)->*table;
-    for (std::string const& name : records.names) {
-        writer.write(element, &records.byName.at(name));
+    for (auto const& record : static_cast<Records const*>(parent)->*table) {
+        writer.write(element, &record);
     }
 }
 
 constexpr Attribute attributes[] = {
-    required<&RobotData::name, Name>("name", "", "what the robot is called"),
-    optional<&RobotData::version>("version", "", "", "the description's own version"),
+    required<&Records::name, Name>("name", "", "what the robot is called"),
+    optional<&Records::version>("version", "", "", "the description's own version"),
 };
 constexpr Child children[] = {
     {&prettyNameElement, Occurrence::any, readPrettyName, writePrettyNames},
     {&rootElement, Occurrence::once, readRoot, writeRoot},
     {&jointElement, Occurrence::any, readJoint, writeJoints},
-    {&chainElement, Occurrence::any, readChain, writeTable<&RobotData::chains>},
-    {&actuatorElement, Occurrence::any, readActuator, writeTable<&RobotData::actuators>},
-    {&wheelElement, Occurrence::any, readWheel, writeTable<&RobotData::wheels>},
-    {&sensorElement, Occurrence::any, readSensor, writeTable<&RobotData::sensors>},
+    {&chainElement, Occurrence::any, readChain, writeTable<&Records::chains>},
+    {&actuatorElement, Occurrence::any, readActuator, writeTable<&Records::actuators>},
+    {&wheelElement, Occurrence::any, readWheel, writeTable<&Records::wheels>},
+    {&sensorElement, Occurrence::any, readSensor, writeTable<&Records::sensors>},
     {&postureElement, Occurrence::any, readPosture, writePostures},
 };
 constexpr Unique uniques[] = {

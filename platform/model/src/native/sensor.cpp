@@ -60,7 +60,7 @@ void readSensor(ElementReader& reader, Element const& element, pugi::xml_node no
 {
     SensorConfig sensor;
     reader.read(element, node, &sensor);
-    reader.define(static_cast<RobotData*>(parent)->sensors, std::move(sensor), node);
+    reader.define(NameIndex::sensor, static_cast<Records*>(parent)->sensors, std::move(sensor), node);
 }
 
 }  // namespace Varo::Model::Native

@@ -6,8 +6,8 @@
 
 #include "decimal_size.hpp"
 #include "short_decimal.hpp"
-#include "utf8.hpp"
-#include "words.hpp"
+#include "xml/utf8.hpp"
+#include "xml/words.hpp"
 
 namespace Varo::Model::Native {
 

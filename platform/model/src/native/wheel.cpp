@@ -5,6 +5,7 @@
 #include "native/element_writer.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
 
@@ -33,11 +34,11 @@ void readWheel(ElementReader& reader, Element const& element, pugi::xml_node nod
     WheelConfig wheel;
     reader.read(element, node, &wheel);
     if (wheel.attributes.find("material") == wheel.attributes.end()) {
-        reader.diagnostics().report(node, codes::missingMaterial,
+        reader.diagnostics().report(at(node), codes::missingMaterial,
                                     "The wheel says no material, without which no model can be built.",
                                     "Add <attribute name=\"material\" value=\"rubber\"/> or the like.");
     }
-    reader.define(static_cast<RobotData*>(parent)->wheels, std::move(wheel), node);
+    reader.define(NameIndex::wheel, static_cast<Records*>(parent)->wheels, std::move(wheel), node);
 }
 
 }  // namespace Varo::Model::Native

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "urdf/numbers.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -27,7 +28,7 @@ void readInertial(pugi::xml_node inertial, JointConfig& body, Report const& repo
     bool const hasMass = mass.attribute("value");
     if (!hasMass || !inertia) {
         std::string const missing = hasMass ? "inertia" : inertia ? "mass" : "mass and no inertia";
-        report.diagnostics.report(inertial, codes::incompleteInertial,
+        report.diagnostics.report(at(inertial), codes::incompleteInertial,
                                   "This inertial states no " + missing + "; what is missing counts as 0.");
     }
     Pose const frame = readOrigin(origin, report.diagnostics);
@@ -43,6 +44,7 @@ void readInertial(pugi::xml_node inertial, JointConfig& body, Report const& repo
 
 void readBody(pugi::xml_node link, JointConfig& body, Report const& report)
 {
+    body.bodyOffset = at(link);
     body.attributes[linkNameAttribute] = link.attribute("name").value();
     pugi::xml_node inertial;
     std::vector<pugi::xml_node> visuals;
@@ -53,7 +55,7 @@ void readBody(pugi::xml_node link, JointConfig& body, Report const& report)
         } else if (name == "inertial" && !inertial) {
             inertial = child;
         } else if (name == "inertial") {
-            report.diagnostics.report(child, codes::surplusElement,
+            report.diagnostics.report(at(child), codes::surplusElement,
                                       "This is a further \"inertial\"; the first one counts.");
         } else if (child.type() == pugi::node_element) {
             report.uncarried.add(child);

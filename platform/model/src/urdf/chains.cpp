@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "xml/node_offset.hpp"
+
 namespace Varo::Model::Urdf {
 
 namespace {
@@ -59,14 +61,14 @@ Offspring sortOffspring(Description const& description)
     return offspring;
 }
 
-NamedTable<ChainConfig> makeChains(Description const& description, Offspring const& offspring,
-                                   std::string const& rootName)
+Table<ChainConfig> makeChains(Description const& description, Offspring const& offspring, std::string const& rootName)
 {
-    NamedTable<ChainConfig> chains;
+    Table<ChainConfig> chains;
     Indices starts;
     pushReversed(starts, offspring[description.root].begin(), offspring[description.root].end());
     while (!starts.empty()) {
-        std::size_t joint = starts.back();
+        std::size_t const first = starts.back();
+        std::size_t joint = first;
         starts.pop_back();
         std::size_t const before = description.links[description.joints[joint].parentLink].parentJoint;
         ChainConfig chain;
@@ -75,6 +77,7 @@ NamedTable<ChainConfig> makeChains(Description const& description, Offspring con
         Indices branches;
         while (joint != none) {
             chain.jointNames.push_back(description.joints[joint].config.name);
+            chain.jointOffsets.push_back(at(description.joints[joint].node));
             Indices const& next = offspring[description.joints[joint].childLink];
             joint = next.empty() ? none : next.front();
             if (next.size() > 1) {
@@ -82,6 +85,7 @@ NamedTable<ChainConfig> makeChains(Description const& description, Offspring con
             }
         }
         pushReversed(starts, branches.begin(), branches.end());
+        chain.textOffset = at(description.joints[first].node);
         chains.add(std::move(chain));
     }
     return chains;

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "robot_record.hpp"
 #include "urdf/description.hpp"
 #include "urdf/tree.hpp"
+#include "varo/model/records.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -18,8 +18,7 @@ using Offspring = std::vector<std::vector<std::size_t>>;
 Offspring sortOffspring(Description const& description);
 
 /// The tree of joints as serial chains, each after the one that it hangs on.
-NamedTable<ChainConfig> makeChains(Description const& description, Offspring const& offspring,
-                                   std::string const& rootName);
+Table<ChainConfig> makeChains(Description const& description, Offspring const& offspring, std::string const& rootName);
 
 /// All joints in the order in which a model builds them from those chains: depth first.
 std::vector<std::size_t> buildingOrder(Description const& description, Offspring const& offspring);

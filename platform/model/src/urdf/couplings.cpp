@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "urdf/numbers.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -45,7 +46,7 @@ void MimicReader::read(std::size_t index)
         return;
     }
     if (joint.isFixed()) {
-        _diagnostics.report(joint.mimic, codes::frozenMimic, "This joint does not move: its mimic means nothing.");
+        _diagnostics.report(at(joint.mimic), codes::frozenMimic, "This joint does not move: its mimic means nothing.");
         return;
     }
     double const multiplier = readNumber(joint.mimic, "multiplier", 1.0, _diagnostics);
@@ -53,17 +54,17 @@ void MimicReader::read(std::size_t index)
     std::string_view const name = joint.mimic.attribute("joint").value();
     std::size_t const leader = find(_description.jointByName, name);
     if (leader == none) {
-        _diagnostics.report({joint.mimic, "joint"}, codes::unknownLeader,
+        _diagnostics.report(at(joint.mimic, "joint"), codes::unknownLeader,
                             name.empty() ? "This mimic does not say which joint it follows."
                                          : "There is no joint " + quoted(name) + ".");
         return;
     }
     if (_description.joints[leader].isFixed()) {
-        _diagnostics.report(joint.mimic, codes::frozenLeader,
+        _diagnostics.report(at(joint.mimic), codes::frozenLeader,
                             "The joint " + quoted(name) + " does not move, and so neither does this one.");
     }
     if (offset != 0.0) {
-        _diagnostics.report({joint.mimic, "offset"}, codes::mimicOffset,
+        _diagnostics.report(at(joint.mimic, "offset"), codes::mimicOffset,
                             "This offset is in the record only: the model knows ratios, not offsets.");
     }
     _followings[index] = {leader, multiplier, offset};
@@ -101,14 +102,14 @@ void MimicReader::settle(std::size_t start)
 
 void MimicReader::reportCircle(std::size_t joint)
 {
-    _diagnostics.report(_description.joints[joint].mimic, codes::mimicCircle,
+    _diagnostics.report(at(_description.joints[joint].mimic), codes::mimicCircle,
                         "This joint mimics itself, or a joint that follows it.");
     _followings[joint] = {};
 }
 
 void MimicReader::reportOverflow(std::size_t joint)
 {
-    _diagnostics.report(_description.joints[joint].mimic, codes::notANumber,
+    _diagnostics.report(at(_description.joints[joint].mimic), codes::notANumber,
                         "The multipliers of this mimic and of those that it leads to exceed all bounds together.");
     _followings[joint] = {};
 }
@@ -127,6 +128,7 @@ SubActuatorConfig makeSubActuator(Joint const& joint, Following const& following
     config.name = joint.config.name;
     config.ratio = static_cast<float>(following.ratio);
     config.offset = static_cast<float>(following.offset);
+    config.textOffset = joint.config.textOffset;
     return config;
 }
 
@@ -137,6 +139,7 @@ ActuatorConfig makeActuator(Joint const& leader)
     actuator.maxAngle = leader.config.maxAngle;
     actuator.maxTorque = leader.config.maxTorque;
     actuator.maxAngularSpeed = leader.config.maxAngularSpeed;
+    actuator.textOffset = leader.config.textOffset;
     return actuator;
 }
 
@@ -161,7 +164,7 @@ std::vector<Following> followMimics(Description const& description, Diagnostics&
 }
 
 void makeCouplings(Description const& description, std::vector<Following> const& followings,
-                   std::vector<std::size_t> const& buildingOrder, UniqueNames& names, RobotData& robot,
+                   std::vector<std::size_t> const& buildingOrder, UniqueNames& names, Records& robot,
                    Diagnostics& diagnostics)
 {
     std::vector<std::size_t> placeOf(buildingOrder.size());
@@ -178,7 +181,7 @@ void makeCouplings(Description const& description, std::vector<Following> const&
         for (std::size_t const member : members) {
             SubActuatorConfig subActuator = makeSubActuator(description.joints[member], followings[member]);
             actuator.jointGroups.push_back({subActuator.name});
-            robot.subActuators.emplace(subActuator.name, std::move(subActuator));
+            robot.subActuators.add(std::move(subActuator));
         }
         robot.actuators.add(std::move(actuator));
     }

@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <vector>
 
-#include "robot_record.hpp"
 #include "urdf/description.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/names.hpp"
+#include "varo/model/records.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -26,7 +26,7 @@ std::vector<Following> followMimics(Description const& description, Diagnostics&
 /// Such an actuator would make a tree hang its members on the joint that it is attached to, unless they have been built
 /// by then: every member is a group of its own, and the actuator is attached to the member that is built last.
 void makeCouplings(Description const& description, std::vector<Following> const& followings,
-                   std::vector<std::size_t> const& buildingOrder, UniqueNames& names, RobotData& robot,
+                   std::vector<std::size_t> const& buildingOrder, UniqueNames& names, Records& robot,
                    Diagnostics& diagnostics);
 
 }  // namespace Varo::Model::Urdf

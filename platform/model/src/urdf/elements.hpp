@@ -7,9 +7,10 @@
 
 #include <pugixml.hpp>
 
-#include "diagnostics.hpp"
 #include "urdf/uncarried.hpp"
 #include "urdf/urdf_codes.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -39,7 +40,7 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
         } else if (!children[place]) {
             children[place] = child;
         } else {
-            report.diagnostics.report(child, codes::surplusElement,
+            report.diagnostics.report(at(child), codes::surplusElement,
                                       "This is a further " + quoted(child.name()) + "; the first one counts.");
         }
     }

@@ -7,6 +7,7 @@
 
 #include "urdf/names.hpp"
 #include "urdf/numbers.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -34,7 +35,7 @@ Kind readKind(pugi::xml_node node, Diagnostics& diagnostics)
             return kind;
         }
     }
-    diagnostics.report({node, type}, codes::unknownJointType,
+    diagnostics.report(at(node, type), codes::unknownJointType,
                        type ? "There is no joint type " + quoted(type.value()) + "." : "This joint has no type.",
                        "The types are revolute, continuous, prismatic, fixed, planar and floating.");
     return {"fixed", fixed, Motion::none};
@@ -44,7 +45,7 @@ void readAxis(pugi::xml_node node, pugi::xml_node element, Matrix& axis, Diagnos
 {
     Vector const direction = readVector(element, "xyz", {1.0, 0.0, 0.0}, diagnostics);
     if (direction == Vector{0.0, 0.0, 0.0}) {
-        diagnostics.report({element ? element : node, "xyz"}, codes::zeroAxis,
+        diagnostics.report(at(element ? element : node, "xyz"), codes::zeroAxis,
                            "The axis of a moving joint cannot be zero.");
         return;
     }
@@ -56,7 +57,7 @@ float readCapacity(pugi::xml_node limit, char const* attribute, Diagnostics& dia
 {
     double const value = readLimit(limit, attribute, 1, diagnostics);
     if (std::isinf(value)) {
-        diagnostics.report({limit, attribute}, codes::unlimited,
+        diagnostics.report(at(limit, attribute), codes::unlimited,
                            "An infinite " + std::string(attribute) + " is kept as 0, which stands for not stated.");
         return 0.0F;
     }
@@ -75,11 +76,11 @@ void readLimits(pugi::xml_node node, pugi::xml_node limit, Motion motion, JointC
         return;
     }
     if (!limit) {
-        diagnostics.report(node, codes::missingLimit, "This joint states no limits; it stays at 0.",
+        diagnostics.report(at(node), codes::missingLimit, "This joint states no limits; it stays at 0.",
                            "Give it a limit element, or the type continuous.");
     }
     if (config.minAngle > config.maxAngle) {
-        diagnostics.report(limit, codes::reversedLimits, "The lower limit is above the upper one.");
+        diagnostics.report(at(limit), codes::reversedLimits, "The lower limit is above the upper one.");
     }
 }
 
@@ -99,8 +100,9 @@ Joint readJoint(pugi::xml_node node, Report const& report)
     joint.origin = readOrigin(origin, diagnostics);
     joint.config.name = readName(node, diagnostics);
     joint.config.jointType = kind.type;
+    joint.config.textOffset = at(node);
     if (kind.motion == Motion::lost) {
-        diagnostics.report({node, "type"}, codes::jointFrozen,
+        diagnostics.report(at(node, "type"), codes::jointFrozen,
                            "A " + std::string(kind.name) + " joint cannot be modelled; it is held where it is.");
     }
     if (!joint.isFixed()) {

@@ -1,6 +1,7 @@
 #include "urdf/names.hpp"
 
 #include "urdf/urdf_codes.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -14,12 +15,12 @@ std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics)
 {
     std::string_view const name = node.attribute("name").value();
     if (name.empty()) {
-        diagnostics.report(node, codes::missingName, "This " + std::string(node.name()) + " has no name.",
+        diagnostics.report(at(node), codes::missingName, "This " + std::string(node.name()) + " has no name.",
                            "Give it an attribute \"name\".");
         return {};
     }
     if (name.size() > longestName) {
-        diagnostics.report({node, "name"}, codes::nameTooLong,
+        diagnostics.report(at(node, "name"), codes::nameTooLong,
                            "This name has more than " + std::to_string(longestName) + " bytes.");
         return {};
     }
@@ -37,7 +38,7 @@ std::string UniqueNames::claim(std::string name, std::string_view owner, pugi::x
         free = name + "_" + std::to_string(++entry->second);
     } while (_taken.find(free) != _taken.end());
     diagnostics.report(
-        node, codes::renamed,
+        at(node), codes::renamed,
         "The name " + quoted(name) + " is taken; " + std::string(owner) + " is called " + quoted(free) + " instead.");
     _taken.emplace(free, 1);
     return free;

@@ -9,7 +9,8 @@
 #include "decimal_size.hpp"
 #include "short_decimal.hpp"
 #include "urdf/urdf_codes.hpp"
-#include "words.hpp"
+#include "xml/node_offset.hpp"
+#include "xml/words.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -48,7 +49,7 @@ bool parseWord(std::string_view word, double& value)
     return true;
 }
 
-void reportNotANumber(Place const& place, std::string_view text, Diagnostics& diagnostics)
+void reportNotANumber(TextOffset place, std::string_view text, Diagnostics& diagnostics)
 {
     diagnostics.report(place, codes::notANumber, quoted(text) + " is not a number that can be used here.",
                        "Write a finite decimal number, such as 0.5 or -2e-3.");
@@ -70,7 +71,7 @@ double readNumber(pugi::xml_node node, char const* attribute, double fallback, D
     }
     double value = 0.0;
     if (!parseNumber(found.value(), value) || std::abs(value) > largestNumber) {
-        reportNotANumber({node, found}, found.value(), diagnostics);
+        reportNotANumber(at(node, found), found.value(), diagnostics);
         return fallback;
     }
     return value;
@@ -91,7 +92,7 @@ bool readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* val
     for (std::string_view word = takeWord(text); !word.empty(); word = takeWord(text)) {
         double value = 0.0;
         if (!parseWord(word, value) || std::abs(value) > largestNumber) {
-            reportNotANumber({node, attribute}, word, diagnostics);
+            reportNotANumber(at(node, attribute), word, diagnostics);
             return false;
         }
         if (found < count) {
@@ -100,7 +101,7 @@ bool readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* val
         ++found;
     }
     if (found != count) {
-        diagnostics.report({node, attribute}, codes::wrongCount,
+        diagnostics.report(at(node, attribute), codes::wrongCount,
                            "The list has " + std::to_string(found) + " numbers where " + std::to_string(count) +
                                " belong; missing ones are read as 0, surplus ones are ignored.");
     }

@@ -6,8 +6,8 @@
 
 #include <pugixml.hpp>
 
-#include "diagnostics.hpp"
 #include "urdf/pose.hpp"
+#include "varo/model/diagnostics.hpp"
 
 /// The numbers of a URDF text, which are looser than our own: lists may be too short, too long or padded. What is no
 /// number at all is reported, and read as the default.

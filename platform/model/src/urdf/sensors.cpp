@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "urdf/numbers.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -94,7 +95,7 @@ Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
         std::string_view const frame = pose.attribute(attribute).value();
         if (!frame.empty() && frame != carrier) {
             _report.diagnostics.report(
-                {pose, attribute}, codes::sensorFrameLost,
+                at(pose, attribute), codes::sensorFrameLost,
                 "This pose is read in the frame of the link that carries the sensor, not in " + quoted(frame) + ".");
         }
     }
@@ -108,8 +109,9 @@ void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xm
     Diagnostics& diagnostics = _report.diagnostics;
     std::string_view const carrierName = owner.attribute(carrier).value();
     SensorConfig sensor;
+    sensor.textOffset = at(node);
     if (!findParent(carrierName, sensor.parent)) {
-        diagnostics.report(node, codes::sensorLost,
+        diagnostics.report(at(node), codes::sensorLost,
                            carrierName.empty()
                                ? "This sensor is left out: nothing says which link carries it."
                                : "This sensor is left out: there is no link " + quoted(carrierName) + ".");
@@ -121,7 +123,7 @@ void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xm
     if (SensorKind const* const kind = findSensorKind(kindName)) {
         fill(node, *kind, sensor);
     } else {
-        diagnostics.report(node, codes::sensorKindLost,
+        diagnostics.report(at(node), codes::sensorKindLost,
                            "The model has no class for sensors of the kind " + quoted(kindName) + ".");
         sensor.attributes["urdfType"] = kindName;
     }
@@ -141,7 +143,7 @@ void SensorReader::fill(pugi::xml_node node, SensorKind const& kind, SensorConfi
     SensorSize size = readSensorSize(node, kind.type);
     if (!size.isUsable()) {
         size = defaultSensorSize(kind.type);
-        _report.diagnostics.report(node, codes::sensorSize,
+        _report.diagnostics.report(at(node), codes::sensorSize,
                                    "This sensor states no usable size; " + std::to_string(size.width) + " by " +
                                        std::to_string(size.height) + " is assumed.");
     }

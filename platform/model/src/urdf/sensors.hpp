@@ -6,18 +6,18 @@
 
 #include <pugixml.hpp>
 
-#include "robot_record.hpp"
 #include "urdf/description.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/names.hpp"
 #include "urdf/sensor_kinds.hpp"
+#include "varo/model/records.hpp"
 
 namespace Varo::Model::Urdf {
 
 /// Adds the sensors of a description to the robot, whose root must have its name by then.
 class SensorReader {
 public:
-    SensorReader(Description const& description, RobotData& robot, Report const& report)
+    SensorReader(Description const& description, Records& robot, Report const& report)
         : _description(description), _robot(robot), _report(report)
     {}
 
@@ -34,7 +34,7 @@ private:
     Pose readPose(pugi::xml_node node, std::string_view carrier);
 
     Description const& _description;
-    RobotData& _robot;
+    Records& _robot;
     Report const& _report;
     UniqueNames _names;
 };

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "urdf/urdf_codes.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -39,7 +40,7 @@ void Connector::add(std::unordered_map<std::string_view, std::size_t>& table, st
     if (name.empty()) {  // reported where it was read
         _whole = false;
     } else if (!table.try_emplace(name, place).second) {
-        _diagnostics.report({node, "name"}, codes::duplicateName,
+        _diagnostics.report(at(node, "name"), codes::duplicateName,
                             "There is another " + std::string(node.name()) + " " + quoted(name) + " before this one.");
         _whole = false;
     }
@@ -62,14 +63,14 @@ std::size_t Connector::linkOf(Joint const& joint, pugi::xml_node element, char c
 {
     pugi::xml_attribute const name = element.attribute("link");
     if (!name) {
-        _diagnostics.report(element ? element : joint.node, codes::unattachedJoint,
+        _diagnostics.report(at(element ? element : joint.node), codes::unattachedJoint,
                             "This joint does not say which link is its " + std::string(role) + ".",
                             "Write <" + std::string(role) + " link=\"...\"/>.");
         return none;
     }
     std::size_t const link = find(_description.linkByName, name.value());
     if (link == none) {
-        _diagnostics.report({element, name}, codes::unknownLink, "There is no link " + quoted(name.value()) + ".");
+        _diagnostics.report(at(element, name), codes::unknownLink, "There is no link " + quoted(name.value()) + ".");
     }
     return link;
 }
@@ -90,7 +91,7 @@ void Connector::attach(std::size_t index)
         child.parentJoint = index;
         return;
     }
-    _diagnostics.report({joint.child, "link"}, codes::twoParents,
+    _diagnostics.report(at(joint.child, "link"), codes::twoParents,
                         "The link " + quoted(child.name) + " is already the child of the joint " +
                             quoted(_description.joints[child.parentJoint].config.name) + ".");
     _whole = false;
@@ -108,7 +109,7 @@ bool Connector::connectAll()
 void Connector::findRoot(pugi::xml_node robot)
 {
     if (_description.links.empty()) {
-        _diagnostics.report(robot, codes::noLink, "This robot has no link.");
+        _diagnostics.report(at(robot), codes::noLink, "This robot has no link.");
         return;
     }
     for (std::size_t i = 0; i < _description.links.size(); ++i) {
@@ -119,7 +120,7 @@ void Connector::findRoot(pugi::xml_node robot)
         if (_description.root == none) {
             _description.root = i;
         } else {
-            _diagnostics.report(link.node, codes::severalRoots,
+            _diagnostics.report(at(link.node), codes::severalRoots,
                                 "Neither this link nor the link " + quoted(_description.links[_description.root].name) +
                                     " is the child of a joint.",
                                 "Let a joint attach it to the robot.");
@@ -159,7 +160,7 @@ void Connector::reportCycle(std::size_t link)
         step = linkAbove(step);
     } while (step != link);
     Joint const& joint = _description.joints[last];
-    _diagnostics.report(joint.node, codes::jointCycle,
+    _diagnostics.report(at(joint.node), codes::jointCycle,
                         "This joint closes a cycle: it hangs on the link " +
                             quoted(_description.links[joint.parentLink].name) + ", which itself hangs on this joint.");
 }

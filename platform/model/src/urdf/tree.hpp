@@ -6,8 +6,8 @@
 
 #include <pugixml.hpp>
 
-#include "diagnostics.hpp"
 #include "urdf/description.hpp"
+#include "varo/model/diagnostics.hpp"
 
 namespace Varo::Model::Urdf {
 

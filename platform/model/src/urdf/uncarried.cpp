@@ -3,6 +3,7 @@
 #include <string>
 
 #include "urdf/urdf_codes.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -21,7 +22,7 @@ void Uncarried::report(Diagnostics& diagnostics) const
         auto const& [parent, element] = names;
         std::string message = "What " + quoted(element) + " in " + quoted(parent) + " says is not carried over";
         message += kind.count > 1 ? ", here and in " + std::to_string(kind.count - 1) + " more places." : ".";
-        diagnostics.report(kind.first, codes::notCarried, std::move(message));
+        diagnostics.report(at(kind.first), codes::notCarried, std::move(message));
     }
 }
 

@@ -8,7 +8,7 @@
 
 #include <pugixml.hpp>
 
-#include "diagnostics.hpp"
+#include "varo/model/diagnostics.hpp"
 
 namespace Varo::Model::Urdf {
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "robot_record.hpp"
+#include "robot/robot_record.hpp"
 #include "urdf/bodies.hpp"
 #include "urdf/chains.hpp"
 #include "urdf/couplings.hpp"
@@ -16,6 +16,7 @@
 #include "urdf/names.hpp"
 #include "urdf/sensors.hpp"
 #include "urdf/tree.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model {
 
@@ -23,11 +24,23 @@ namespace Urdf {
 
 namespace {
 
+constexpr PartPlace parts[] = {
+    {Part::name, "name"},
+    {Part::parent, "link", "parent"},
+    {Part::minimum, "lower", "limit"},
+    {Part::maximum, "upper", "limit"},
+    {Part::effort, "effort", "limit"},
+    {Part::velocity, "velocity", "limit"},
+    {Part::mass, "value", "inertial/mass"},
+    {Part::centerOfMass, "xyz", "inertial/origin"},
+    {Part::inertia, {}, "inertial/inertia"},
+};
+
 class Reader {
 public:
     Reader(pugi::xml_node root, Diagnostics& diagnostics) : _root(root), _diagnostics(diagnostics) {}
 
-    std::unique_ptr<Robot> read();
+    Records read();
 
 private:
     void readElements();
@@ -45,12 +58,12 @@ private:
     std::vector<pugi::xml_node> _extensions;
     std::vector<pugi::xml_node> _sensors;
     UniqueNames _names;
-    RobotData _robot;
+    Records _robot;
 };
 
 /// Every step reads on after errors, so that one reading finds them all; records that hang together are made only of a
 /// description without any.
-std::unique_ptr<Robot> Reader::read()
+Records Reader::read()
 {
     readElements();
     connect(_description, _root, _diagnostics);
@@ -60,14 +73,14 @@ std::unique_ptr<Robot> Reader::read()
     std::vector<Following> const followings = followMimics(_description, _diagnostics);
     _uncarried.report(_diagnostics);
     if (_diagnostics.hasErrors()) {
-        return nullptr;
+        return {};
     }
     Offspring const offspring = sortOffspring(_description);
     _robot.chains = makeChains(_description, offspring, _robot.root.name);
     makeCouplings(_description, followings, buildingOrder(_description, offspring), _names, _robot, _diagnostics);
     placeJoints();
     addJoints();
-    return std::make_unique<RobotRecord>(std::move(_robot));
+    return std::move(_robot);
 }
 
 void Reader::readElements()
@@ -95,10 +108,12 @@ void Reader::readElements()
 void Reader::readIdentity()
 {
     _robot.dialect = "urdf";
+    _robot.statesActuators = false;
+    _robot.statesPostures = false;
     _robot.name = _root.attribute("name").value();
     _robot.version = _root.attribute("version").value();
     if (_robot.name.empty()) {
-        _diagnostics.report(_root, codes::unnamedRobot, "This robot has no name; it is called \"robot\".");
+        _diagnostics.report(at(_root), codes::unnamedRobot, "This robot has no name; it is called \"robot\".");
         _robot.name = "robot";
     }
     if (_description.root == none) {
@@ -109,6 +124,7 @@ void Reader::readIdentity()
         _names.claim(joint.config.name, "this joint", joint.node, _diagnostics);
     }
     Link const& root = _description.links[_description.root];
+    _robot.root.textOffset = at(root.node);
     _robot.root.name = _names.claim(std::string(root.name), "the root of the records", root.node, _diagnostics);
 }
 
@@ -146,6 +162,7 @@ void Reader::placeJoints()
 
 void Reader::addJoints()
 {
+    _robot.joints.reserve(_description.joints.size());
     for (Joint& joint : _description.joints) {
         _robot.joints.add(std::move(joint.config));
     }
@@ -155,7 +172,9 @@ void Reader::addJoints()
 
 }  // namespace Urdf
 
-std::unique_ptr<Robot> readUrdf(pugi::xml_node root, Diagnostics& diagnostics)
+Range<PartPlace> const urdfParts = Urdf::parts;
+
+Records readUrdf(pugi::xml_node root, Diagnostics& diagnostics)
 {
     return Urdf::Reader(root, diagnostics).read();
 }

@@ -1,17 +1,20 @@
 #ifndef VARO_MODEL_URDF_URDF_READER_HPP
 #define VARO_MODEL_URDF_URDF_READER_HPP
 
-#include <memory>
-
 #include <pugixml.hpp>
 
-#include "diagnostics.hpp"
-#include "varo/model/robot.hpp"
+#include "range.hpp"
+#include "robot/robot_record.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/records.hpp"
 
 namespace Varo::Model {
 
-/// Reads the `robot` element of a URDF text. Null when a finding is an error.
-std::unique_ptr<Robot> readUrdf(pugi::xml_node root, Diagnostics& diagnostics);
+/// Reads the `robot` element of a URDF text. Of no use when a finding is an error.
+Records readUrdf(pugi::xml_node root, Diagnostics& diagnostics);
+
+/// Where URDF writes what.
+extern Range<PartPlace> const urdfParts;
 
 }  // namespace Varo::Model
 

@@ -2,6 +2,7 @@
 
 #include "urdf/bodies.hpp"
 #include "urdf/numbers.hpp"
+#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -33,7 +34,7 @@ bool isScaled(pugi::xml_node mesh, Diagnostics& diagnostics)
 void reportScale(pugi::xml_node mesh, Diagnostics& diagnostics)
 {
     if (isScaled(mesh, diagnostics)) {
-        diagnostics.report({mesh, "scale"}, codes::meshScaleLost,
+        diagnostics.report(at(mesh, "scale"), codes::meshScaleLost,
                            "The scale " + quoted(mesh.attribute("scale").value()) + " of the mesh is not kept.");
     }
 }
@@ -59,7 +60,7 @@ void readOffset(Visual const& visual, JointConfig& body, Diagnostics& diagnostic
     body.meshPosition = toPosition(xyz);
     body.meshOrientation = toPosition(rpy);
     if (xyz != nothing || rpy != nothing) {
-        diagnostics.report(visual.origin, codes::meshOffsetLost,
+        diagnostics.report(at(visual.origin), codes::meshOffsetLost,
                            "The model shows the mesh at the link frame: its offset, " + statedOrigin(visual.origin) +
                                ", is in the record only.");
     }
@@ -77,7 +78,7 @@ void readVisuals(std::vector<pugi::xml_node> const& visuals, JointConfig& body, 
         }
     }
     if (visuals.size() > 1) {
-        report.diagnostics.report(visuals[1], codes::visualsLost,
+        report.diagnostics.report(at(visuals[1]), codes::visualsLost,
                                   "The link has " + std::to_string(visuals.size()) + " visuals; " +
                                       (shown.mesh ? "only its first mesh is kept." : "none of them is kept."));
     }

@@ -8,6 +8,7 @@
 
 #include "varo/math/position3d.hpp"
 #include "varo/math/transform.hpp"
+#include "varo/model/place.hpp"
 
 /// The records of a robot description: what the file says of each element, converted to nothing.
 ///
@@ -69,6 +70,8 @@ struct JointConfig {
     float damping = 0.0F;  ///< N*m*s/rad (N*s/m)
     float friction = 0.0F;  ///< N*m (N), Coulomb friction of the joint
     Attributes attributes;  ///< free texts; "material" names the body's surface
+    TextOffset textOffset = {};  ///< of the joint's element, or the root's
+    TextOffset bodyOffset = {};  ///< of the element of the body, which is another one in URDF
 };
 
 /// A motor that drives the sub-joints of its groups together (a hand's fingers, say).
@@ -83,6 +86,7 @@ struct ActuatorConfig {
     std::vector<std::vector<std::string>> jointGroups;  ///< names of sub-joints, each group from the parent outward
     std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
     std::string mirrorName;  ///< the symmetric actuator, when mirrorKind is not noMirror
+    TextOffset textOffset = {};  ///< of its element
 };
 
 /// A device on the robot that measures, or a light.
@@ -93,6 +97,7 @@ struct SensorConfig {
     Transform placement;  ///< in the frame of the link that the parent joint moves (of the root link otherwise)
     Attributes attributes;  ///< free texts; what each kind reads of them stands at MotionModel's queries of devices
     std::vector<std::string> keys;  ///< device keys
+    TextOffset textOffset = {};  ///< of its element
 };
 
 /// A driven wheel.
@@ -107,6 +112,7 @@ struct WheelConfig {
     std::string parentJoint;  ///< the joint that it hangs on
     Transform placement;  ///< in the frame of the parent joint
     Attributes attributes;  ///< as JointConfig::attributes
+    TextOffset textOffset = {};  ///< of its element
 };
 
 /// A joint that has no motor of its own and follows its actuator.
@@ -116,6 +122,7 @@ struct SubActuatorConfig {
     float offset = 0.0F;  ///< rad, the sub-joint's angle when the actuator stands at 0; carried
     float ratio = 0.0F;  ///< sub-joint angle per actuator angle
     Transform placement;  ///< in the frame of the element before it
+    TextOffset textOffset = {};  ///< of its element
 };
 
 /// A serial chain of joints.
@@ -126,13 +133,36 @@ struct ChainConfig {
     Transform placement;  ///< the chain's base frame in the frame of the parent joint
     Transform tipTransform;  ///< the chain's tool frame in the link frame of its last joint; carried
     std::string tipName;  ///< carried
+    TextOffset textOffset = {};  ///< of its element
+    std::vector<TextOffset> jointOffsets = {};  ///< of the elements that name its joints, one for one; may be empty
+};
+
+/// The value of one joint or actuator in a posture.
+struct PostureAngle {
+    std::string name;  ///< of the joint or actuator
+    float value = 0.0F;  ///< rad (m)
+    TextOffset textOffset = {};  ///< of its element
 };
 
 /// Joint values of one named posture, in the order of the description.
 struct PostureConfig {
     std::string name;  ///< "StandInit" gives the start values of the actuators
-    std::vector<std::pair<std::string, float>> angles;  ///< joint or actuator name, value in rad (m)
+    std::vector<PostureAngle> angles = {};
+    TextOffset textOffset = {};  ///< of its element
 };
+
+/// Where to look for what a text says of a part of a record.
+template <class Config>
+TextOffset offsetOf(Config const& record, Part /*part*/)
+{
+    return record.textOffset;
+}
+inline TextOffset offsetOf(JointConfig const& joint, Part part)
+{
+    bool const isOfBody =
+        part == Part::mass || part == Part::centerOfMass || part == Part::inertia || part == Part::material;
+    return isOfBody ? joint.bodyOffset : joint.textOffset;
+}
 
 /// Joints by their names.
 using JointTable = std::map<std::string, JointConfig>;

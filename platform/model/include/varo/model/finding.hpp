@@ -4,6 +4,8 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "varo/export.hpp"
@@ -18,7 +20,7 @@ enum class Severity { note, warning, error };
 struct Finding {
     Severity severity = Severity::error;  ///< whether the description is refused for it
     std::string code;  ///< stable, for programs: lower-case words joined by hyphens
-    int line = 0;  ///< from 1
+    int line = 0;  ///< from 1; 0 when it is about no place in the text
     int column = 0;  ///< from 1, in characters (code points) of the line
     std::string path;  ///< of the element: /robotDescription/joint[@name="HeadYaw"]/placement
     std::string message;  ///< one sentence that says what is wrong
@@ -28,19 +30,46 @@ struct Finding {
 /// In the order of their places in the text.
 using Findings = std::vector<Finding>;
 
-/// Thrown for a description text that is refused. Copies share the findings; never empty of errors.
-class VAROROBOTMODEL_API DescriptionError : public std::invalid_argument {
-public:
-    /// `findings` should hold an error.
-    DescriptionError(std::string const& what, Findings findings)
-        : std::invalid_argument(what), _findings(std::make_shared<Findings const>(std::move(findings)))
-    {}
+/// The first error with its place, and how many there are beside it: "3:5: There is no link "arm". (and 2 more)". For
+/// findings that hold an error.
+VAROROBOTMODEL_API std::string summaryOf(Findings const& findings);
 
-    /// All findings of the text, warnings and notes included; the reference lives as long as any copy of the error.
+/// A kind of finding.
+struct FindingCode {
+    std::string_view name;  ///< lower-case words joined by hyphens; a string literal, which lives for ever
+    Severity severity;
+    std::string_view meaning;  ///< one sentence for the documentation
+};
+
+/// What every exception has that a description caused, beside its type of the standard library:
+///
+///     catch (std::exception const& error) {
+///         if (auto const* caused = dynamic_cast<Varo::Model::WithFindings const*>(&error)) ...
+class VAROROBOTMODEL_API WithFindings {
+public:
+    /// All findings of the text, warnings and notes included; the reference lives as long as any copy of the exception.
     Findings const& findings() const noexcept { return *_findings; }
+
+protected:
+    explicit WithFindings(Findings findings) : _findings(std::make_shared<Findings const>(std::move(findings))) {}
+    WithFindings(WithFindings const&) = default;
+    WithFindings& operator=(WithFindings const&) = default;
+    virtual ~WithFindings();
 
 private:
     std::shared_ptr<Findings const> _findings;
+};
+
+/// Thrown for a description text that is refused. Copies share the findings, of which at least one is an error.
+class VAROROBOTMODEL_API DescriptionError : public std::invalid_argument, public WithFindings {
+public:
+    /// `findings` should hold an error.
+    DescriptionError(std::string const& what, Findings findings)
+        : std::invalid_argument(what), WithFindings(std::move(findings))
+    {}
+    DescriptionError(DescriptionError const&) = default;
+    DescriptionError& operator=(DescriptionError const&) = default;
+    ~DescriptionError() override;
 };
 
 }  // namespace Varo::Model

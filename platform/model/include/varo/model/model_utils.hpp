@@ -18,17 +18,20 @@ namespace Varo::Model::ModelUtils {
 /// The longest text that is read, in bytes; longer ones are refused.
 inline constexpr std::size_t maxTextSize = std::size_t{256} * 1024 * 1024;
 
-/// What became of a text: the robot, null when a finding is an error, and all findings.
+/// What became of a text: the robot, null when a finding is an error, all findings, and the text itself.
 struct Reading {
     std::unique_ptr<Robot> robot;  ///< null when the text is refused
     Findings findings;  ///< in the order of their places
+    std::shared_ptr<std::string const> text;  ///< null for a reading that `read` did not make
 };
 
 /// Reads the XML text of a description of either dialect. Never throws for what the text says.
-VAROROBOTMODEL_API Reading read(std::string const& xml);
+VAROROBOTMODEL_API Reading read(std::string xml);
 
 /// As `read`, for those who only want a robot: throws DescriptionError when the text is refused. Never null.
 VAROROBOTMODEL_API std::unique_ptr<Robot> robotFromXml(std::string const& xml);
+/// The same without a copy of the text.
+VAROROBOTMODEL_API std::unique_ptr<Robot> robotFromXml(std::string&& xml);
 
 /// True when `robotFromXml` would accept the text.
 VAROROBOTMODEL_API bool checkXml(std::string const& xml);
@@ -40,8 +43,7 @@ VAROROBOTMODEL_API Findings diagnose(std::string const& xml);
 VAROROBOTMODEL_API std::vector<std::string> findingCodes();
 
 /// The robot as a text of the native dialect, whatever the dialect it was read from. Reading that text gives a robot
-/// that holds the same, bit by bit, and whose text is the same. Throws std::out_of_range for a robot, not made by
-/// `read`, whose tables lack a listed name.
+/// that holds the same, bit by bit, and whose text is the same.
 VAROROBOTMODEL_API std::string toXml(Robot const& robot);
 
 /// The kinds of device keys: bits, to be combined at will.

@@ -7,6 +7,11 @@
 
 #include "varo/export.hpp"
 #include "varo/model/configs.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/finding.hpp"
+#include "varo/model/place.hpp"
+#include "varo/model/records.hpp"
+#include "varo/model/source_text.hpp"
 
 namespace Varo::Model {
 
@@ -47,12 +52,41 @@ public:
     virtual std::map<int, std::string> const& prettyNames() const = 0;
     /// The dialect of the text: "native" or "urdf".
     virtual std::string const& dialect() const = 0;
+
+    /// @name What a robot that was read from a text knows beside its records
+    /// A robot of another make need not know any of it.
+    /// @{
+
+    /// The records as the robot holds them; null when it only lists them.
+    virtual Records const* records() const { return nullptr; }
+    /// The text that it was read from; null without one.
+    virtual SourceText const* source() const { return nullptr; }
+    /// The warnings and notes of the text; null without one.
+    virtual Diagnostics const* diagnostics() const { return nullptr; }
+    /// Where the text states the part of the record whose element stands at `record` (see JointConfig::textOffset).
+    virtual Statement locate(TextOffset record, Part part) const;
+    /// @}
+
+    /// Line, column and path of an offset in the text; line 0 without a text.
+    Place place(TextOffset offset) const;
+    /// The same of a part of a record, or of the nearest element around it that the text has.
+    template <class Config>
+    Place place(Config const& record, Part part = Part::whole) const
+    {
+        return place(locate(offsetOf(record, part), part).offset);
+    }
+    /// Where the text states the part of a record.
+    template <class Config>
+    Statement statement(Config const& record, Part part) const
+    {
+        return locate(offsetOf(record, part), part);
+    }
 };
 
 /// The names that have a joint value, in the order in which postures lay them out: chain by chain, each joint followed
-/// by the actuators that hang on it in ascending order of their names. A name stands as often as chains list it.
-VAROROBOTMODEL_API std::vector<std::string> angleNames(std::vector<std::string> const& chainNames,
-                                                       ChainTable const& chains, ActuatorTable const& actuators);
+/// by the actuators that are attached to it in ascending order of their names. A name stands as often as chains list
+/// it. Refers into the records.
+VAROROBOTMODEL_API std::vector<std::string const*> angleNames(Records const& records);
 
 }  // namespace Varo::Model
 

@@ -1,8 +1,8 @@
-#include "raw_tag.hpp"
+#include "xml/raw_tag.hpp"
 
 #include <array>
 
-#include "words.hpp"
+#include "xml/words.hpp"
 
 namespace Varo::Model {
 

@@ -2,18 +2,19 @@
 #define SIM_MOTION_MODEL_INDEX_HPP
 
 #include <cstddef>
-#include <map>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "motion_model/start_angles.hpp"
 #include "sim/motion_model.hpp"
 
 namespace Sim {
 
-/// What the tables of a motion model say of one name. Everything pointed to belongs to the tables.
+/// What the records say of one name. Everything pointed to belongs to them.
 struct NameEntry {
     /// Where a chain lists the joint: the first place, if it does so twice.
     struct ChainPlace {
@@ -22,9 +23,9 @@ struct NameEntry {
     };
     /// How one chain goes on from the joint.
     struct Branch {
-        std::string const* chain = nullptr;  ///< its name in the list of chains
+        std::uint32_t const* chain = nullptr;  ///< its place in the list of chains
         std::string const* next = nullptr;  ///< null at the chain's end
-        bool listsJoint = false;  ///< true when the chain runs through the joint, false when it hangs on it
+        bool listsJoint = false;  ///< true when the chain runs through the joint, false when it is attached to it
     };
     /// Where a group of an actuator holds the sub-joint: the first place, if it does so twice.
     struct GroupPlace {
@@ -45,26 +46,26 @@ struct NameEntry {
     std::string const* firstChain = nullptr;  ///< name of the first chain, in the description's order, that lists it
     ChainPlace lastPlace;  ///< in the last chain, in order of name, that lists it
     std::vector<Branch> branches;  ///< in the description's order of chains
-    std::vector<Varo::Model::ActuatorTable::value_type const*> actuators;  ///< that hang on it, in order of name
+    std::vector<std::uint32_t> actuators;  ///< indices of those that are attached to it, in order of name
     std::vector<GroupPlace> groupPlaces;  ///< actuators in order of name, their groups in order
     std::optional<float> startAngle;
     bool reflectionForced = false;
 };
 
-/// The entries of all names, found in constant time. Refers into the model that it was made of, whose tables must
-/// neither change nor move.
+/// The entries of all names, found in constant time. Refers into the records that it was made of, which must neither
+/// change nor move.
 struct MotionModel::Index {
-    explicit Index(MotionModel const& model);
+    Index(Varo::Model::Records const& records, StartAngles const& startAngles);
 
     /// An empty entry for a name that nothing is known of.
     NameEntry const& of(std::string const& name) const;
 
 private:
     template <typename Record>
-    void addRecords(std::map<std::string, Record> const& table, Record const* NameEntry::*record);
-    void addListedChain(std::string const& name, Varo::Model::ChainConfig const& chain);
+    void addRecords(Varo::Model::Table<Record> const& table, Record const* NameEntry::*record);
+    void addListedChain(std::uint32_t const& listed, Varo::Model::Table<Varo::Model::ChainConfig> const& chains);
     void addChainPlaces(Varo::Model::ChainConfig const& chain);
-    void addGroups(Varo::Model::ActuatorTable::value_type const& actuator);
+    void addGroups(Varo::Model::ActuatorConfig const& actuator, std::uint32_t index);
 
     std::unordered_map<std::string_view, NameEntry> _entries;
 };

@@ -1,20 +1,18 @@
-#include "xml_scanner.hpp"
+#include "xml/scanner.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <utility>
 
-#include "raw_tag.hpp"
-#include "utf8.hpp"
+#include "finding_codes.hpp"
+#include "xml/raw_tag.hpp"
+#include "xml/utf8.hpp"
 
 namespace Varo::Model {
 
 namespace {
 
-constexpr std::size_t deepestPath = 16;  // steps
 constexpr std::size_t longestReference = 32;  // bytes
-constexpr std::size_t longestTagForPath = 4096;  // bytes, beyond which no name is looked for
 
 /// Without branches, so that compilers make it look at many bytes at a time.
 constexpr bool isUnusual(char c)
@@ -62,51 +60,11 @@ bool skipPlainAttributes(RawTag& tag)
     return isPlain;
 }
 
-/// Whether `&` and `;` may stand around `body`.
-bool isKnownReference(std::string_view body)
-{
-    for (std::string_view const name : {"amp", "lt", "gt", "quot", "apos"}) {
-        if (body == name) {
-            return true;
-        }
-    }
-    if (body.size() < 2 || body[0] != '#') {
-        return false;
-    }
-    int const base = body[1] == 'x' ? 16 : 10;
-    std::string_view const digits = body.substr(base == 16 ? 2 : 1);
-    std::uint32_t codePoint = 0;
-    auto const result = std::from_chars(digits.data(), digits.data() + digits.size(), codePoint, base);
-    return result.ec == std::errc() && result.ptr == digits.data() + digits.size() && isXmlCharacter(codePoint);
-}
-
-/// The offset behind a document type declaration that begins at `position`: its quoted texts, comments and brackets
-/// may hold anything.
-std::size_t endOfDocumentType(std::string_view text, std::size_t position)
-{
-    int brackets = 0;
-    while (position < text.size()) {
-        char const c = text[position];
-        if (c == '>' && brackets == 0) {
-            return position + 1;
-        }
-        if (text.substr(position, 4) == "<!--") {
-            position = text.find("-->", position + 4);
-        } else if (c == '"' || c == '\'') {
-            position = text.find(c, position + 1);
-        }
-        brackets += c == '[' ? 1 : c == ']' ? -1 : 0;
-        position = position == text.npos ? position : position + 1;
-    }
-    return text.npos;
-}
-
 }  // namespace
 
 XmlScanner::XmlScanner(std::string_view text, Diagnostics& diagnostics) : _text(text), _diagnostics(diagnostics)
 {
-    std::string_view const byteOrderMark = "\xEF\xBB\xBF";
-    _start = startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
+    _start = byteOrderMarkSize(text);
     _position = _start;
 }
 
@@ -127,19 +85,13 @@ void XmlScanner::scan(std::size_t end)
 
 void XmlScanner::scanMarkup()
 {
-    char const next = _position + 1 < _text.size() ? _text[_position + 1] : '\0';
-    if (next == '/') {
-        scanEndTag();
-    } else if (next == '?') {
-        scanInstruction();
-    } else if (next != '!') {
-        scanStartTag();
-    } else if (startsWith("<!--")) {
-        scanComment();
-    } else if (startsWith("<![CDATA[")) {
-        scanCharacterData();
-    } else {
-        scanDocumentType();
+    switch (markupAt(_text, _position)) {
+    case Markup::startTag: scanStartTag(); break;
+    case Markup::endTag: scanEndTag(); break;
+    case Markup::comment: scanComment(); break;
+    case Markup::characterData: scanCharacterData(); break;
+    case Markup::instruction: scanInstruction(); break;
+    case Markup::documentType: scanDocumentType(); break;
     }
 }
 
@@ -197,9 +149,9 @@ void XmlScanner::enterRoot(std::size_t tag)
 
 void XmlScanner::scanEndTag()
 {
-    std::size_t const close = _text.find('>', _position);
-    finishToken(close == _text.npos ? close : close + 1);
-    if (!_openTags.empty() && close != _text.npos) {
+    std::size_t const end = endOf(Markup::endTag);
+    finishToken(end);
+    if (!_openTags.empty() && end != _text.npos) {
         _openTags.pop_back();
     }
 }
@@ -210,8 +162,7 @@ void XmlScanner::scanComment()
     if (hyphens != _text.npos && hyphens + 2 < _text.size() && _text[hyphens + 2] != '>') {
         report(hyphens, codes::malformedXml, "Two hyphens in a row cannot stand in a comment.");
     }
-    std::size_t const close = _text.find("-->", hyphens);
-    finishToken(close == _text.npos ? close : close + 3);
+    finishToken(endOf(Markup::comment));
 }
 
 void XmlScanner::scanCharacterData()
@@ -219,52 +170,77 @@ void XmlScanner::scanCharacterData()
     if (_openTags.empty()) {
         report(_position, codes::contentOutsideRoot, "Text stands beside the root element.");
     }
-    std::size_t const close = _text.find("]]>", _position);
-    finishToken(close == _text.npos ? close : close + 3);
+    finishToken(endOf(Markup::characterData));
 }
 
 void XmlScanner::scanInstruction()
 {
-    std::size_t const close = _text.find("?>", _position + 2);
-    if (close != _text.npos) {
-        checkDeclaration(_text.substr(_position, close - _position));
+    std::size_t const end = endOf(Markup::instruction);
+    if (end != _text.npos) {
+        checkInstruction(_text.substr(_position, end - 2 - _position));
     }
-    finishToken(close == _text.npos ? close : close + 2);
+    finishToken(end);
 }
 
-void XmlScanner::checkDeclaration(std::string_view instruction)
+void XmlScanner::checkInstruction(std::string_view instruction)
 {
     // A declaration reads like a start tag of the name "?xml"; other instructions hold what they like.
-    RawTag declaration(instruction, 0);
-    std::string target(declaration.name());
+    std::string target(RawTag(instruction, 0).name());
+    bool const isDeclaration = target == "?xml";
     std::transform(target.begin(), target.end(), target.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
     if (target != "?xml") {
         return;
     }
-    if (_position != _start || declaration.name() != "?xml") {
+    if (_position != _start || !isDeclaration) {
         report(_position, codes::malformedXml, "An XML declaration stands elsewhere than at the start of the text.",
                "Leave it out, or what is before it.");
     }
-    for (RawAttribute attribute; declaration.next(attribute);) {
+    checkDeclaration(instruction);
+}
+
+void XmlScanner::checkDeclaration(std::string_view declaration)
+{
+    char const* const known[] = {"version", "encoding", "standalone"};  // in the order in which they may stand
+    auto const* next = std::begin(known);
+    bool hasVersion = false;
+    RawTag tag(declaration, 0);
+    for (RawAttribute attribute; tag.next(attribute);) {
         std::string_view const value = attribute.value;
-        bool const isEncoding = attribute.name == "encoding";
-        if (isEncoding && value != "UTF-8" && value != "utf-8" && value != "US-ASCII" && value != "us-ascii") {
+        auto const* const found = std::find(next, std::end(known), attribute.name);
+        hasVersion = hasVersion || attribute.name == "version";
+        next = found == std::end(known) ? next : found + 1;
+        bool const isAscii = value == "US-ASCII" || value == "us-ascii";
+        if (found == std::end(known)) {
+            report(offsetOf(attribute.name), codes::malformedXml,
+                   quoted(attribute.name) + " has no place here in an XML declaration.",
+                   "It states version, encoding and standalone, in this order.");
+        } else if (attribute.name == "encoding" && value != "UTF-8" && value != "utf-8" && !isAscii) {
             report(_position, codes::badEncoding, "The text is declared to be in " + quoted(value) + ".",
                    "Save it as UTF-8, and declare that or nothing.");
+        } else if (attribute.name == "standalone" && value != "yes" && value != "no") {
+            report(offsetOf(attribute.name), codes::malformedXml,
+                   "The declaration's standalone is " + quoted(value) + ", neither yes nor no.");
+        } else if (attribute.name == "version" && value.substr(0, 2) != "1.") {
+            report(offsetOf(attribute.name), codes::malformedXml,
+                   "The text is declared to be in version " + quoted(value) + " of XML.", "Declare version 1.0.");
         }
+    }
+    if (!hasVersion) {
+        report(_position, codes::malformedXml, "The XML declaration states no version.",
+               "Write <?xml version=\"1.0\"?>.");
     }
 }
 
 void XmlScanner::scanDocumentType()
 {
-    if (!startsWith("<!DOCTYPE")) {
-        finishToken(_text.size());
+    if (_text.substr(_position, 9) != "<!DOCTYPE") {
+        finishToken(_text.npos);
         return;
     }
     report(_position, codes::documentType, "The text has a document type declaration.",
            "Leave it out: descriptions need none, and entities of one's own are not read.");
-    finishToken(endOfDocumentType(_text, _position + 2));
+    finishToken(endOf(Markup::documentType));
 }
 
 /// All attributes of the tag that begins at `start`, one by one.
@@ -312,7 +288,7 @@ void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
         std::string_view const rest = _text.substr(at + 1, length);
         std::string_view const body = rest.substr(0, std::min(rest.find(';'), rest.find('&')));
         bool const closed = body.size() < rest.size() && rest[body.size()] == ';';
-        if (!closed || !isKnownReference(body)) {
+        if (!closed || !referencedCharacter(body)) {
             if (_diagnostics.countIfFull(codes::badReference)) {
                 continue;
             }
@@ -341,36 +317,14 @@ void XmlScanner::checkCharacters(std::size_t end)
 
 void XmlScanner::finishToken(std::size_t end)
 {
+    _unclosed = end == _text.npos ? _position : _unclosed;
     _position = std::min(end, _text.size());
     checkCharacters(_position);
 }
 
 void XmlScanner::report(std::size_t offset, FindingCode const& code, std::string message, std::string hint)
 {
-    if (_diagnostics.countIfFull(code)) {
-        return;
-    }
-    _diagnostics.report({offset, path()}, code, std::move(message), std::move(hint));
-}
-
-std::string XmlScanner::path() const
-{
-    std::size_t const first = _openTags.size() > deepestPath ? _openTags.size() - deepestPath : 0;
-    std::string path = first > 0 ? "/..." : "";
-    for (std::size_t i = first; i < _openTags.size(); ++i) {
-        RawTag tag(_text.substr(0, _openTags[i] + longestTagForPath), _openTags[i]);
-        std::string_view name;
-        for (RawAttribute attribute; i > 0 && name.empty() && tag.next(attribute);) {
-            name = attribute.name == "name" ? attribute.value : "";
-        }
-        path += tag.name().empty() ? "" : "/" + pathStep(tag.name(), name);
-    }
-    return path;
-}
-
-std::string_view XmlScanner::openElement() const
-{
-    return _openTags.empty() ? std::string_view() : RawTag(_text, _openTags.back()).name();
+    _diagnostics.report(TextOffset(offset), code, std::move(message), std::move(hint));
 }
 
 }  // namespace Varo::Model

@@ -6,8 +6,8 @@
 #include <boost/algorithm/string/split.hpp>
 #include <boost/algorithm/string/trim.hpp>
 
-#include "description/motion_model_index.hpp"
-#include "description/table_lookup.hpp"
+#include "motion_model/motion_model_index.hpp"
+#include "motion_model/table_lookup.hpp"
 #include "sim/motion_model.hpp"
 
 namespace Sim {
@@ -73,7 +73,7 @@ std::vector<std::string> const MotionModel::k_stateDcmKeyNames = initStateDcmKey
 
 std::list<std::string> MotionModel::sensorNames() const
 {
-    return namesIn(_sensors);
+    return namesIn(_records->sensors);
 }
 
 std::int32_t MotionModel::sensorType(std::string const& name) const

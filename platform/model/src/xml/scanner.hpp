@@ -6,7 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "diagnostics.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "xml/markup.hpp"
 
 namespace Varo::Model {
 
@@ -35,7 +36,9 @@ private:
 /// Looks through a text for what XML forbids and the parser lets through: document type declarations, a second root,
 /// text beside the root, attributes that repeat, undefined references, characters that are none, and the like.
 ///
-/// One pass whose time is linear in the text; it runs beside every load, hence the care for bytes.
+/// It stands beside the parser (pugixml) because no parser that we found does all of it: those that check everything
+/// are several times slower or expand entities, the fast ones take nearly any text. One pass whose time is linear in
+/// the text; it runs beside every load, hence the care for bytes.
 class XmlScanner {
 public:
     XmlScanner(std::string_view text, Diagnostics& diagnostics);
@@ -46,9 +49,11 @@ public:
     /// Whether the scan ended early, in something that is no tag.
     bool isBroken() const { return _broken; }
 
-    /// The path of the element that `scan` ended in, and that element's name; empty outside the root.
-    std::string path() const;
-    std::string_view openElement() const;
+    /// The offset of the start tag of the element that `scan` ended in; npos outside the root.
+    std::size_t openElement() const { return _openTags.empty() ? std::string_view::npos : _openTags.back(); }
+
+    /// The offset of the markup that `scan` found no end of; npos without one.
+    std::size_t unclosedMarkup() const { return _unclosed; }
 
 private:
     void scanMarkup();
@@ -59,7 +64,8 @@ private:
     void scanCharacterData();
     void scanInstruction();
     void scanDocumentType();
-    void checkDeclaration(std::string_view instruction);
+    void checkInstruction(std::string_view instruction);
+    void checkDeclaration(std::string_view declaration);
     void checkAttributes(std::size_t start);
     void checkNamesDiffer(std::size_t tag, std::vector<std::string_view>& names);
     void checkValue(std::string_view value);
@@ -68,8 +74,8 @@ private:
     void checkCharacters(std::size_t end);
     void enterRoot(std::size_t tag);
 
-    bool startsWith(std::string_view prefix) const { return _text.substr(_position, prefix.size()) == prefix; }
     std::size_t offsetOf(std::string_view part) const { return static_cast<std::size_t>(part.data() - _text.data()); }
+    std::size_t endOf(Markup markup) const { return endOfMarkup(_text, _position, markup); }
     void finishToken(std::size_t end);
     void report(std::size_t offset, FindingCode const& code, std::string message, std::string hint = {});
 
@@ -85,6 +91,7 @@ private:
     bool _rootSeen = false;
     bool _encodingReported = false;
     bool _broken = false;
+    std::size_t _unclosed = std::string_view::npos;
 };
 
 }  // namespace Varo::Model

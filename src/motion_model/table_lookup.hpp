@@ -1,9 +1,12 @@
 #ifndef SIM_TABLE_LOOKUP_HPP
 #define SIM_TABLE_LOOKUP_HPP
 
+#include <cstdint>
 #include <list>
 #include <map>
 #include <string>
+
+#include "varo/model/table.hpp"
 
 namespace Sim {
 
@@ -28,11 +31,11 @@ bool readField(Record const* record, Value Record::*field, Value& value)
 
 /// In ascending order.
 template <typename Record>
-std::list<std::string> namesIn(std::map<std::string, Record> const& table)
+std::list<std::string> namesIn(Varo::Model::Table<Record> const& table)
 {
     std::list<std::string> names;
-    for (auto const& entry : table) {
-        names.push_back(entry.first);
+    for (std::uint32_t const index : table.nameOrder()) {
+        names.push_back(table.nameOf(index));
     }
     return names;
 }

@@ -1,4 +1,4 @@
-#include "description/name_merge.hpp"
+#include "motion_model/name_merge.hpp"
 
 namespace Sim {
 

@@ -2,6 +2,7 @@
 #define VARO_MODEL_UTF8_HPP
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace Varo::Model {
@@ -13,6 +14,9 @@ struct Utf8Character {
 
 /// The first character of a text that is not empty. Overlong forms and surrogates are no UTF-8.
 Utf8Character decodeUtf8(std::string_view text);
+
+/// Appends the character, which must be one that Unicode has.
+void appendUtf8(std::string& text, char32_t character);
 
 /// Whether XML allows the character, literally or as a character reference.
 bool isXmlCharacter(char32_t codePoint);

@@ -1,6 +1,6 @@
-#include "description/motion_model_index.hpp"
-#include "description/name_merge.hpp"
-#include "description/table_lookup.hpp"
+#include "motion_model/motion_model_index.hpp"
+#include "motion_model/name_merge.hpp"
+#include "motion_model/table_lookup.hpp"
 #include "sim/motion_model.hpp"
 
 namespace Sim {
@@ -11,7 +11,7 @@ using Varo::Model::ActuatorConfig;
 
 /// The lists that `namesOf` gives for the chains, chain after chain.
 template <typename NamesOf>
-std::list<std::string> concatenated(std::vector<std::string> const& chains, NamesOf namesOf)
+std::list<std::string> concatenated(std::list<std::string> const& chains, NamesOf namesOf)
 {
     std::list<std::string> all;
     for (auto const& chain : chains) {
@@ -21,7 +21,7 @@ std::list<std::string> concatenated(std::vector<std::string> const& chains, Name
 }
 
 template <typename NamesOf>
-std::list<std::string> merged(std::vector<std::string> const& chains, NamesOf namesOf)
+std::list<std::string> merged(std::list<std::string> const& chains, NamesOf namesOf)
 {
     NameMerge merge;
     for (auto const& chain : chains) {
@@ -65,14 +65,14 @@ bool readMirror(Record const& record, std::string& mirror, bool& reflected)
 
 std::list<std::string> MotionModel::jointNames(std::string const& chain) const
 {
-    auto const* record = find(_chains, chain);
+    auto const* record = _records->chains.find(chain);
     return record == nullptr ? std::list<std::string>()
                              : std::list<std::string>(record->jointNames.begin(), record->jointNames.end());
 }
 
 std::list<std::string> MotionModel::jointNames() const
 {
-    return merged(_chainNames, [this](std::string const& chain) { return jointNames(chain); });
+    return merged(chainNames(), [this](std::string const& chain) { return jointNames(chain); });
 }
 
 std::list<std::string> MotionModel::angleActuatorNames(std::string const& chain) const
@@ -82,15 +82,15 @@ std::list<std::string> MotionModel::angleActuatorNames(std::string const& chain)
 
 std::list<std::string> MotionModel::angleActuatorNames() const
 {
-    return concatenated(_chainNames, [this](std::string const& chain) { return angleActuatorNames(chain); });
+    return concatenated(chainNames(), [this](std::string const& chain) { return angleActuatorNames(chain); });
 }
 
 std::list<std::string> MotionModel::actuatorNames(std::string const& chain) const
 {
     auto names = jointNames(chain);
     for (auto const& name : names) {  // reaches the names appended on the way, too
-        for (auto const* actuator : _index->of(name).actuators) {
-            names.push_back(actuator->first);
+        for (auto const actuator : _index->of(name).actuators) {
+            names.push_back(_records->actuators.nameOf(actuator));
         }
     }
     return names;
@@ -98,15 +98,15 @@ std::list<std::string> MotionModel::actuatorNames(std::string const& chain) cons
 
 std::list<std::string> MotionModel::actuatorNames() const
 {
-    return merged(_chainNames, [this](std::string const& chain) { return actuatorNames(chain); });
+    return merged(chainNames(), [this](std::string const& chain) { return actuatorNames(chain); });
 }
 
 std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chain) const
 {
     std::list<std::string> names;
     for (auto const& joint : angleActuatorNames(chain)) {
-        for (auto const* actuator : _index->of(joint).actuators) {
-            names.push_back(actuator->first);
+        for (auto const actuator : _index->of(joint).actuators) {
+            names.push_back(_records->actuators.nameOf(actuator));
         }
     }
     return names;
@@ -114,7 +114,7 @@ std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chai
 
 std::list<std::string> MotionModel::coupledActuatorNames() const
 {
-    return concatenated(_chainNames, [this](std::string const& chain) { return coupledActuatorNames(chain); });
+    return concatenated(chainNames(), [this](std::string const& chain) { return coupledActuatorNames(chain); });
 }
 
 // Callers must expect an insertion into the chain table here, for a chain that is listed without a record. Since the
@@ -144,8 +144,8 @@ std::vector<std::string> MotionModel::followingJoints(std::string const& joint) 
 std::vector<std::string> MotionModel::chainAnchorJoints(std::string const& joint) const
 {
     std::vector<std::string> anchors;
-    for (auto const* actuator : _index->of(joint).actuators) {
-        for (auto const& group : actuator->second.jointGroups) {
+    for (auto const actuator : _index->of(joint).actuators) {
+        for (auto const& group : _records->actuators[actuator].jointGroups) {
             if (!group.empty()) {
                 anchors.push_back(group.front());
             }
@@ -180,8 +180,8 @@ bool MotionModel::coupledJointGroupFromParentJoint(std::string const& joint, std
     if (attached.empty()) {
         return false;
     }
-    actuator = attached.front()->first;
-    appendSubJoints(attached.front()->second, joints);
+    actuator = _records->actuators.nameOf(attached.front());
+    appendSubJoints(_records->actuators[attached.front()], joints);
     return true;
 }
 

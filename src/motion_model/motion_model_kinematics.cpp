@@ -1,5 +1,5 @@
-#include "description/motion_model_index.hpp"
-#include "description/table_lookup.hpp"
+#include "motion_model/motion_model_index.hpp"
+#include "motion_model/table_lookup.hpp"
 #include "sim/motion_model.hpp"
 
 namespace Sim {

@@ -1,4 +1,4 @@
-#include "utf8.hpp"
+#include "xml/utf8.hpp"
 
 #include <algorithm>
 
@@ -46,6 +46,16 @@ Utf8Character decodeUtf8(std::string_view text)
         return {};
     }
     return {codePoint, length};
+}
+
+void appendUtf8(std::string& text, char32_t character)
+{
+    int const followers = character < 0x80 ? 0 : character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+    static constexpr unsigned leads[] = {0x00, 0xC0, 0xE0, 0xF0};
+    text += static_cast<char>(leads[followers] | (character >> (6 * followers)));
+    for (int follower = followers - 1; follower >= 0; --follower) {
+        text += static_cast<char>(0x80U | ((character >> (6 * follower)) & 0x3FU));
+    }
 }
 
 bool isXmlCharacter(char32_t codePoint)

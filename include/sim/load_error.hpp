@@ -1,0 +1,40 @@
+#ifndef SIM_LOAD_ERROR_HPP
+#define SIM_LOAD_ERROR_HPP
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "varo/export.hpp"
+#include "varo/model/finding.hpp"
+
+namespace Sim {
+
+/// Thrown when a description that reads well lacks what the elements of a model need. Its findings say what is at
+/// fault, and where in the text that stands.
+class VAROROBOTMODEL_API BuildError : public std::runtime_error, public Varo::Model::WithFindings {
+public:
+    /// `findings` should hold an error.
+    BuildError(std::string const& what, Varo::Model::Findings findings)
+        : std::runtime_error(what), WithFindings(std::move(findings))
+    {}
+    BuildError(BuildError const&) = default;
+    BuildError& operator=(BuildError const&) = default;
+    ~BuildError() override;
+};
+
+/// Thrown when the posture "StandInit" gives an angle to a name that no chain leads to. Its findings say which.
+class VAROROBOTMODEL_API StartAngleError : public std::out_of_range, public Varo::Model::WithFindings {
+public:
+    /// `findings` should hold an error.
+    StartAngleError(std::string const& what, Varo::Model::Findings findings)
+        : std::out_of_range(what), WithFindings(std::move(findings))
+    {}
+    StartAngleError(StartAngleError const&) = default;
+    StartAngleError& operator=(StartAngleError const&) = default;
+    ~StartAngleError() override;
+};
+
+}  // namespace Sim
+
+#endif

@@ -1,0 +1,95 @@
+#include "varo/model/robot.hpp"
+
+#include <unordered_map>
+
+namespace Varo::Model {
+
+namespace {
+
+/// As many indices of `names` as there are names.
+std::vector<std::uint32_t> orderOf(std::vector<std::string> const& names, Table<ChainConfig> const& chains)
+{
+    std::vector<std::uint32_t> order;
+    order.reserve(names.size());
+    for (std::string const& name : names) {
+        order.push_back(static_cast<std::uint32_t>(chains.find(name) - &chains[0]));
+    }
+    return order;
+}
+
+Records copyOfListings(Robot const& robot)
+{
+    Records records;
+    std::vector<std::string> chainNames;
+    ChainTable chains;
+    robot.listChains(chainNames, chains);
+    for (std::string const& name : chainNames) {
+        chains[name];  // a chain that is listed without a record is an empty one
+    }
+    records.chains = Table<ChainConfig>(chainNames, std::move(chains));
+    records.chainOrder = orderOf(chainNames, records.chains);
+
+    std::vector<std::string> names;
+    ActuatorTable actuators;
+    SubActuatorTable subActuators;
+    robot.listActuators(names, actuators, subActuators);
+    records.actuators = Table<ActuatorConfig>(names, std::move(actuators));
+    records.subActuators = Table<SubActuatorConfig>({}, std::move(subActuators));
+    JointTable joints;
+    robot.listJoints(records.name, records.root, joints, names, records.reflectionForced);
+    records.joints = Table<JointConfig>(names, std::move(joints));
+    SensorTable sensors;
+    robot.listSensors(names, sensors);
+    records.sensors = Table<SensorConfig>(names, std::move(sensors));
+    WheelTable wheels;
+    robot.listWheels(names, wheels);
+    records.wheels = Table<WheelConfig>(names, std::move(wheels));
+
+    records.dialect = robot.dialect();
+    records.version = robot.version();
+    records.prettyNames = robot.prettyNames();
+    records.postures = robot.postures();
+    return records;
+}
+
+}  // namespace
+
+Statement Robot::locate(TextOffset /*record*/, Part /*part*/) const
+{
+    return {};
+}
+
+Place Robot::place(TextOffset offset) const
+{
+    SourceText const* const text = source();
+    return text == nullptr ? Place() : text->place(offset);
+}
+
+std::shared_ptr<Records const> recordsOf(Robot const& robot)
+{
+    if (Records const* const own = robot.records()) {
+        return {std::shared_ptr<Records const>(), own};  // shares no ownership: the robot outlives it
+    }
+    return std::make_shared<Records const>(copyOfListings(robot));
+}
+
+std::vector<std::string const*> angleNames(Records const& records)
+{
+    std::unordered_map<std::string_view, std::vector<std::string const*>> actuatorsOfJoint;
+    for (std::uint32_t const index : records.actuators.nameOrder()) {
+        ActuatorConfig const& actuator = records.actuators[index];
+        actuatorsOfJoint[actuator.parentJoint].push_back(&actuator.name);
+    }
+    std::vector<std::string const*> names;
+    for (std::uint32_t const chain : records.chainOrder) {
+        for (std::string const& joint : records.chains[chain].jointNames) {
+            names.push_back(&joint);
+            if (auto const found = actuatorsOfJoint.find(joint); found != actuatorsOfJoint.end()) {
+                names.insert(names.end(), found->second.begin(), found->second.end());
+            }
+        }
+    }
+    return names;
+}
+
+}  // namespace Varo::Model
