@@ -110,7 +110,7 @@ bool hasErrors(Findings const& findings)
 /// The codes that can be silenced.
 std::set<std::string> knownCodes()
 {
-    std::set<std::string> known = {codes::modelIncomplete, codes::sensorWithoutClass};
+    std::set<std::string> known = {codes::modelNotBuilt, codes::modelIncomplete, codes::sensorWithoutClass};
     for (auto const& more : {Varo::Model::ModelUtils::findingCodes(), Rules::codes()}) {
         known.insert(more.begin(), more.end());
     }
@@ -204,7 +204,7 @@ std::function<int()> declare(CLI::App& app)
     app.add_flag("--strict", options->strict, "Take warnings for errors");
     app.add_option("--silence", options->silenced, "Leave out warnings and notes of this code; may be repeated")
         ->type_name("CODE")
-        ->expected(1)
+        ->allow_extra_args(false)
         ->take_all();
     declareTolerances(app, options->tolerances);
     app.add_flag("--json", options->json, "Print the findings on standard output, as a JSON array");

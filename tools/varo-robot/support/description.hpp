@@ -15,6 +15,7 @@ namespace codes {
 inline constexpr char unreadableFile[] = "unreadable-file";
 inline constexpr char emptyFile[] = "empty-file";
 // What building a model adds to the findings of the reader.
+inline constexpr char modelNotBuilt[] = "model-not-built";
 inline constexpr char modelIncomplete[] = "model-incomplete";
 inline constexpr char sensorWithoutClass[] = "sensor-without-class";
 inline constexpr char unwritableFile[] = "unwritable-file";
