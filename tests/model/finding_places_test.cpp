@@ -88,6 +88,43 @@ TEST(FindingPlaces, ColumnsCountCharactersAndNotTheByteOrderMark)
     EXPECT_EQ(findings[0].column, 29);
 }
 
+TEST(FindingPlaces, AreTheSameWithAnyLineEnds)
+{
+    std::string text = readData("unexpected_text");
+    for (std::size_t at = text.find('\n'); at != text.npos; at = text.find('\n', at + 2)) {
+        text.insert(at, 1, '\r');
+    }
+    Findings const findings = ModelUtils::diagnose(text);
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].line, 5);
+    EXPECT_EQ(findings[0].column, 3);
+}
+
+TEST(FindingPlaces, SayWhereWhatIsNotClosedBegins)
+{
+    struct Broken {
+        char const* text;
+        int line;
+        int column;
+        char const* said;
+    };
+    for (Broken const& broken : {
+             Broken{"<a>\n <b name='x'>\n</a>", 3, 1, "\"b\", opened at 2:2"},
+             Broken{"<a>\n <b>\n", 2, 5, "before \"b\", opened at 2:2, is closed"},
+             Broken{"<a>\n <!-- never\nclosed </a>", 2, 2, "comment"},
+             Broken{"<?xml version='1.0' standalone='maybe'?><a/>", 1, 21, "neither yes nor no"},
+             Broken{"<?xml encoding='UTF-8'?><a/>", 1, 1, "no version"},
+             Broken{"<?xml version='1.0' charset='UTF-8'?><a/>", 1, 21, "charset"},
+             Broken{"robots/no_such_file.xml", 1, 1, "looks like a path"},
+         }) {
+        SCOPED_TRACE(broken.text);
+        Finding const finding = ModelUtils::diagnose(broken.text).at(0);
+        EXPECT_EQ(finding.line, broken.line);
+        EXPECT_EQ(finding.column, broken.column);
+        EXPECT_THAT(finding.message, testing::HasSubstr(broken.said));
+    }
+}
+
 TEST(FindingPlaces, ExceptionSaysFirstErrorAndCarriesAll)
 {
     try {
