@@ -53,7 +53,7 @@ struct NameEntry {
 
 /// The entries of all names, found in constant time. Refers into the model that it was made of, whose tables must
 /// neither change nor move.
-struct MotionModel::Index {
+struct __attribute__((visibility("hidden"))) MotionModel::Index {
     explicit Index(MotionModel const& model);
 
     /// An empty entry for a name that nothing is known of.
