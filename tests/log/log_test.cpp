@@ -110,6 +110,7 @@ TEST_F(LogTest, ThreadsMayLogAndChangeLevelsAndSinksAtOnce)
     auto const listen = [heard] { zu::log::setSink([heard](zu::log::Record const&) { ++*heard; }); };
     listen();
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int i = 0; i < threadCount; ++i) {
         threads.emplace_back([i, &listen] {
             std::string const category = "thread" + std::to_string(i % 2);

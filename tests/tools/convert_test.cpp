@@ -172,8 +172,9 @@ TEST_F(ConvertOutput, AFileThatCannotBeWrittenStaysAsItWas)
     std::string const asAnyone = "setpriv --bounding-set=-dac_override,-dac_read_search ";
     std::string const prefix = runCommand(asAnyone + "true").status == 0 ? asAnyone : "";
     if (runCommand(prefix + "touch closed/new").status != 0) {
+        std::string const convertForbidden = prefix + convertLong;
         for (std::string const file : {"read-only.xml", "closed/new.xml", "closed/legs.xml"}) {
-            expectRefusal(prefix + convertLong + file, file + ": error: It cannot be written: Permission denied.");
+            expectRefusal(convertForbidden + file, file + ": error: It cannot be written: Permission denied.");
         }
     }
     EXPECT_EQ(readFile(folder() / "closed/legs.xml"), legs);
