@@ -2,6 +2,7 @@
 #define SIM_ANGLE_SPEED_ACTUATOR_HPP
 
 #include "sim/dcm_actuator.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

@@ -2,6 +2,7 @@
 #define SIM_BASE_CAMERA_HPP
 
 #include "sim/sensor.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

@@ -2,6 +2,7 @@
 #define SIM_CAMERA_DEPTH_SENSOR_HPP
 
 #include "sim/base_camera.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

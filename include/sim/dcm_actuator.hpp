@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "sim/actuator.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "sim/sensor.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

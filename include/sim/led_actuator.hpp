@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "sim/dcm_actuator.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

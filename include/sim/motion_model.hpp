@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "varo/export.hpp"
+#include "varo/math/position3d.hpp"
+#include "varo/math/transform.hpp"
 #include "varo/model/configs.hpp"
 #include "varo/model/records.hpp"
 #include "varo/model/robot.hpp"

@@ -2,6 +2,7 @@
 #define SIM_SONAR_SENSOR_HPP
 
 #include "sim/dcm_sensor.hpp"
+#include "varo/export.hpp"
 
 namespace Sim {
 

@@ -54,7 +54,7 @@ struct NameEntry {
 
 /// The entries of all names, found in constant time. Refers into the records that it was made of, which must neither
 /// change nor move.
-struct MotionModel::Index {
+struct __attribute__((visibility("hidden"))) MotionModel::Index {
     Index(Varo::Model::Records const& records, StartAngles const& startAngles);
 
     /// An empty entry for a name that nothing is known of.

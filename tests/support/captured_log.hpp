@@ -1,6 +1,7 @@
 #ifndef VARO_TESTS_CAPTURED_LOG_HPP
 #define VARO_TESTS_CAPTURED_LOG_HPP
 
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ public:
     CapturedLog()
     {
         zu::log::setSink([this](zu::log::Record const& record) {
+            std::lock_guard const lock(_mutex);
             lines.push_back(std::string(record.category) + '|' + std::to_string(record.level) + '|' +
                             std::string(record.origin) + '|' + std::string(record.message));
         });
@@ -21,6 +23,9 @@ public:
     ~CapturedLog() { zu::log::setSink({}); }
 
     std::vector<std::string> lines;
+
+private:
+    std::mutex _mutex;  // several threads may log at once
 };
 
 }  // namespace Tests

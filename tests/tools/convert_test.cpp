@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "run_tool.hpp"
 
 namespace ToolTest {
@@ -10,8 +12,8 @@ protected:
     void expectRoundTrip(std::string const& file) const
     {
         SCOPED_TRACE(file);
-        ASSERT_EQ(run({"convert", file, "-o", "once.xml"}).status, 0);
-        ASSERT_EQ(run({"convert", "once.xml", "-o", "twice.xml"}).status, 0);
+        ASSERT_EQ(run({"convert", file, "--force", "-o", "once.xml"}).status, 0);
+        ASSERT_EQ(run({"convert", "once.xml", "--force", "-o", "twice.xml"}).status, 0);
         EXPECT_EQ(readFile(folder() / "once.xml"), readFile(folder() / "twice.xml"));
         Outcome const original = run({"dump", file});
         ASSERT_EQ(original.status, 0) << original.err;
@@ -92,6 +94,101 @@ TEST_F(Convert, RefusesWhatIsBad)
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err.rfind("<stdin>:1:", 0), 0U) << outcome.err;
     EXPECT_FALSE(std::filesystem::exists(folder() / "out.xml"));
+}
+
+/// What becomes of the file that -o names.
+class ConvertOutput : public ToolFixture {
+protected:
+    ConvertOutput()
+    {
+        write("legs.xml", legs);
+        write("long.xml", serialChain(100));
+        converted = run({"convert", "legs.xml"}).out;
+    }
+
+    /// The command must fail, say so, and leave all files as they are.
+    void expectRefusal(std::string const& command, std::string const& message) const
+    {
+        SCOPED_TRACE(command);
+        std::vector<std::string> const before = names();
+        Outcome const outcome = runCommand(command);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_NE(outcome.err.find(message), std::string::npos) << outcome.err;
+        EXPECT_EQ(readFile(folder() / "legs.xml"), legs);
+        EXPECT_EQ(names(), before);
+    }
+
+    std::string converted;
+
+private:
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> found;
+        for (auto const& entry : std::filesystem::recursive_directory_iterator(folder())) {
+            found.push_back(entry.path().string());
+        }
+        std::sort(found.begin(), found.end());
+        return found;
+    }
+};
+
+TEST_F(ConvertOutput, ReplacesAnotherFileOnlyWhenToldTo)
+{
+    expectRefusal(VARO_ROBOT " convert long.xml -o legs.xml", "legs.xml: error: It is there already. [existing-file]");
+    expectRefusal(VARO_ROBOT " convert - <legs.xml -o legs.xml", "--force");
+    EXPECT_EQ(run({"convert", "long.xml", "--force", "-o", "legs.xml"}).status, 0);
+    EXPECT_EQ(readFile(folder() / "legs.xml"), run({"convert", "long.xml"}).out);
+}
+
+TEST_F(ConvertOutput, KeepsPermissionsAndLinksOfWhatItReplaces)
+{
+    using std::filesystem::perms;
+    perms const mode = perms::owner_read | perms::owner_write | perms::group_read;
+    std::filesystem::permissions(folder() / "legs.xml", mode);
+    std::filesystem::create_symlink("legs.xml", folder() / "link.xml");
+    ASSERT_EQ(run({"convert", "./legs.xml", "-o", "link.xml"}).status, 0);  // onto itself
+    EXPECT_TRUE(std::filesystem::is_symlink(folder() / "link.xml"));
+    EXPECT_EQ(readFile(folder() / "legs.xml"), converted);
+    EXPECT_EQ(std::filesystem::status(folder() / "legs.xml").permissions(), mode);
+
+    std::filesystem::create_symlink("new.xml", folder() / "dangling.xml");
+    ASSERT_EQ(runCommand("umask 027; " VARO_ROBOT " convert legs.xml -o dangling.xml").status, 0);
+    EXPECT_EQ(readFile(folder() / "new.xml"), converted);
+    EXPECT_EQ(std::filesystem::status(folder() / "new.xml").permissions(), mode);
+}
+
+TEST_F(ConvertOutput, AFileThatCannotBeWrittenStaysAsItWas)
+{
+    std::filesystem::create_directory(folder() / "closed");
+    write("closed/legs.xml", legs);
+    std::filesystem::permissions(folder() / "closed", std::filesystem::perms(0555));
+    write("read-only.xml", legs);
+    std::filesystem::permissions(folder() / "read-only.xml", std::filesystem::perms(0444));
+
+    std::string const convertLong = VARO_ROBOT " convert long.xml --force -o ";
+    expectRefusal("ulimit -f 1; " + convertLong + "legs.xml", "legs.xml: error: It cannot be written: File too large.");
+    expectRefusal(convertLong + "closed", "closed: error: It cannot be written: Is a directory.");
+    // Root may write where permissions forbid it, unless it gives that up.
+    std::string const asAnyone = "setpriv --bounding-set=-dac_override,-dac_read_search ";
+    std::string const prefix = runCommand(asAnyone + "true").status == 0 ? asAnyone : "";
+    if (runCommand(prefix + "touch closed/new").status != 0) {
+        std::string const convertForbidden = prefix + convertLong;
+        for (std::string const file : {"read-only.xml", "closed/new.xml", "closed/legs.xml"}) {
+            expectRefusal(convertForbidden + file, file + ": error: It cannot be written: Permission denied.");
+        }
+    }
+    EXPECT_EQ(readFile(folder() / "closed/legs.xml"), legs);
+    EXPECT_EQ(readFile(folder() / "read-only.xml"), legs);
+    std::filesystem::permissions(folder() / "closed", std::filesystem::perms(0755));  // so that it can go
+}
+
+TEST_F(ConvertOutput, DevicesAndPipesAreWrittenAsTheyAre)
+{
+    expectRefusal(VARO_ROBOT " convert legs.xml -o /dev/full", "It cannot be written: No space left on device.");
+    EXPECT_EQ(runCommand(VARO_ROBOT " convert legs.xml -o /dev/stdout").out, converted);
+    EXPECT_EQ(runCommand("echo before; " VARO_ROBOT " convert legs.xml -o /dev/stdout | cat").out,
+              "before\n" + converted);
+    EXPECT_EQ(runCommand("mkfifo pipe; cat pipe & " VARO_ROBOT " convert legs.xml -o pipe; wait").out, converted);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <array>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -86,6 +87,7 @@ int run(int argumentCount, char** arguments)
 
 int main(int argumentCount, char** arguments)
 {
+    std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
     try {
         return Tool::run(argumentCount, arguments);
     } catch (std::exception const& error) {  // want of memory, say

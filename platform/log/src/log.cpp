@@ -1,45 +1,43 @@
 #include "zu/log.hpp"
 
+#include <cstdio>
 #include <map>
+#include <memory>
 #include <mutex>
-
-#include <spdlog/sinks/stdout_sinks.h>
-#include <spdlog/spdlog.h>
+#include <utility>
 
 namespace zu::log {
 
 namespace {
 
-spdlog::level::level_enum severityOf(int level)
+char const* wordFor(int level)
 {
     if (level <= fatal) {
-        return spdlog::level::critical;
+        return "critical";
     }
     switch (level) {
-    case error: return spdlog::level::err;
-    case warning: return spdlog::level::warn;
-    case info: return spdlog::level::info;
-    case verbose: return spdlog::level::debug;
-    default: return spdlog::level::trace;
+    case error: return "error";
+    case warning: return "warning";
+    case info: return "info";
+    case verbose: return "debug";
+    default: return "trace";
     }
 }
 
-/// A line on standard error. The logger is kept out of spdlog's registry: it is nobody else's.
-Sink standardErrorSink()
+/// One call for the whole line, so that lines of several threads or processes do not mix.
+void writeToStandardError(Record const& record)
 {
-    auto const logger =
-        std::make_shared<spdlog::logger>("varorobotmodel", std::make_shared<spdlog::sinks::stderr_sink_mt>());
-    logger->set_pattern("[%l] %v");
-    logger->set_level(spdlog::level::trace);
-    return [logger](Record const& record) {
-        logger->log(severityOf(record.level), "{}: {}: {}", record.category, record.origin, record.message);
-    };
+    std::string line;
+    line.append("[").append(wordFor(record.level)).append("] ");
+    line.append(record.category).append(": ").append(record.origin).append(": ").append(record.message).append("\n");
+    std::fwrite(line.data(), 1, line.size(), stderr);
+    std::fflush(stderr);
 }
 
 struct State {
     std::mutex mutex;
     std::map<std::string, int> levels;
-    Sink sink = standardErrorSink();
+    std::shared_ptr<Sink const> sink = std::make_shared<Sink const>(writeToStandardError);
 };
 
 State& state()
@@ -53,6 +51,24 @@ int levelOf(State const& state, std::string const& category)
     auto const found = state.levels.find(category);
     return found == state.levels.end() ? error : found->second;
 }
+
+/// Where a line of that level goes now; null when nobody wants it.
+std::shared_ptr<Sink const> sinkFor(std::string const& category, int lineLevel)
+{
+    State& shared = state();
+    std::lock_guard const lock(shared.mutex);
+    return levelOf(shared, category) >= lineLevel ? shared.sink : nullptr;
+}
+
+thread_local bool isInsideSink = false;
+
+/// Marks this thread as being inside a sink, as long as it lives.
+struct SinkCall {
+    SinkCall() { isInsideSink = true; }
+    SinkCall(SinkCall const&) = delete;
+    SinkCall& operator=(SinkCall const&) = delete;
+    ~SinkCall() { isInsideSink = false; }
+};
 
 }  // namespace
 
@@ -79,21 +95,27 @@ void setLevel(std::string const& category, int level)
 
 void log(std::string const& category, int lineLevel, std::string_view origin, std::string_view message)
 {
-    State& shared = state();
-    std::lock_guard const lock(shared.mutex);
-    if (levelOf(shared, category) >= lineLevel) {
-        shared.sink({category, lineLevel, origin, message});
+    // The sink is called without the lock, since it may do whatever its owner likes, and held, since it may be replaced
+    // meanwhile.
+    std::shared_ptr<Sink const> const sink = sinkFor(category, lineLevel);
+    if (sink == nullptr) {
+        return;
+    }
+    Record const record = {category, lineLevel, origin, message};
+    if (isInsideSink) {
+        writeToStandardError(record);
+    } else {
+        SinkCall const call;
+        (*sink)(record);
     }
 }
 
 void setSink(Sink sink)
 {
-    if (!sink) {
-        sink = standardErrorSink();
-    }
+    auto next = std::make_shared<Sink const>(sink ? std::move(sink) : Sink(writeToStandardError));
     State& shared = state();
     std::lock_guard const lock(shared.mutex);
-    shared.sink.swap(sink);  // what the old one holds goes once the lock is released
+    shared.sink.swap(next);  // what the old one holds goes once the lock is released
 }
 
 }  // namespace zu::log

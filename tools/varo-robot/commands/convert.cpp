@@ -1,6 +1,3 @@
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <iostream>
 #include <memory>
 
@@ -8,6 +5,7 @@
 
 #include "commands/commands.hpp"
 #include "support/description.hpp"
+#include "support/output_file.hpp"
 
 namespace Tool {
 
@@ -16,17 +14,14 @@ namespace {
 struct Options {
     std::string file;
     std::string output;
+    bool force = false;
 };
 
-void writeFile(std::string const& file, std::string const& text)
+/// A file that is converted onto itself need not be named twice.
+Existing whatBecomesOfOutput(Options const& options)
 {
-    std::ofstream stream(file, std::ios::binary);
-    stream << text;
-    if (!stream.flush()) {
-        std::string const reason = std::strerror(errno);
-        throw Refused(file, {fileFinding(Varo::Model::Severity::error, codes::unwritableFile,
-                                         "It cannot be written: " + reason + ".")});
-    }
+    bool const isInput = options.file != "-" && isSameFile(options.file, options.output);
+    return options.force || isInput ? Existing::isReplaced : Existing::isKept;
 }
 
 int convert(Options const& options)
@@ -36,7 +31,7 @@ int convert(Options const& options)
     if (options.output.empty() || options.output == "-") {
         std::cout << text;
     } else {
-        writeFile(options.output, text);
+        writeFile(options.output, text, whatBecomesOfOutput(options));
     }
     return exitStatus::fine;
 }
@@ -46,6 +41,7 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
     app.add_option("-o,--output", options->output, "File to write instead of standard output")->type_name("OUT");
+    app.add_flag("-f,--force", options->force, "Replace OUT when it is another file than FILE and there already");
     return [options] { return convert(*options); };
 }
 
@@ -60,6 +56,9 @@ the original to the last bit, and converting it again changes nothing.
 What the reader of a URDF description could not carry over is not written;
 `varo-robot check` says what that is. The names of links in a URDF description
 are kept as attributes "urdfLink".
+
+OUT may be FILE itself; any other file that is there already is replaced with
+--force only. OUT is the old file until the new one is whole and on the disk.
 
 Examples:
   varo-robot convert arm.urdf -o arm.xml

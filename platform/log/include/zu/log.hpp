@@ -39,8 +39,16 @@ VAROROBOTMODEL_API void setLevel(std::string const& category, int level);
 VAROROBOTMODEL_API void log(std::string const& category, int lineLevel, std::string_view origin,
                             std::string_view message);
 
-/// Replaces where lines go; an empty function restores the default, a line each on standard error. The sink is called
-/// by one thread at a time and must not call back into this namespace. What it throws reaches the caller of `log`.
+/// Replaces where lines go; an empty function restores the default, a line each on standard error.
+///
+/// The sink is called on the thread that logs, by several threads at once when several log, so what it shares it has to
+/// guard. It may do what it likes: call this namespace, setSink included, or build models. A line that is logged while
+/// the sink runs, by the sink's own thread, does not come back to it but goes to standard error. What the sink throws
+/// reaches the caller of `log`.
+///
+/// `setSink` does not wait: lines that other threads are about to log may still reach the old sink after it returned.
+/// The old sink itself, with what it holds by value, lives until the last of them is through; what it only refers to
+/// has to outlive them, or the threads that log have to be done.
 VAROROBOTMODEL_API void setSink(Sink sink);
 
 }  // namespace zu::log

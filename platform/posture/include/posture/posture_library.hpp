@@ -1,7 +1,9 @@
 #ifndef POSTURE_POSTURE_LIBRARY_HPP
 #define POSTURE_POSTURE_LIBRARY_HPP
 
+#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "varo/export.hpp"

@@ -1,8 +1,12 @@
 #ifndef VARO_MATH_EIGEN_HPP
 #define VARO_MATH_EIGEN_HPP
 
+#include <array>
+
+#include <Eigen/Core>
 #include <Eigen/Geometry>
 
+#include "varo/math/position3d.hpp"
 #include "varo/math/transform.hpp"
 
 /// For programs that compute with Eigen: the one public header that needs it. Nothing else includes it.
