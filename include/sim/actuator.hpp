@@ -2,13 +2,22 @@
 #define SIM_ACTUATOR_HPP
 
 #include <string>
+#include <tuple>
 
+#include "sim/device_kind.hpp"
 #include "varo/export.hpp"
 
 namespace Sim {
 
 class ActuatorImpl;
+class AngleActuator;
+class AngleSpeedActuator;
+class CoupledActuator;
 class Frame;
+class LEDActuator;
+class TorqueActuator;
+class WheelTorqueActuator;
+class WheelVelocityActuator;
 
 /// A device of the robot that takes commands; its concrete class, which nothing derives from, says which kind.
 ///
@@ -51,6 +60,21 @@ protected:
 
 private:
     friend class ModelImpl;
+};
+
+/// The row of a class of actuators.
+template <class Device>
+using ActuatorKind = DeviceKind<Device, Actuator::Type>;
+
+/// All kinds of actuators, one row for each value of Actuator::Type, those of a sort beside each other.
+inline constexpr std::tuple actuatorKinds{
+    ActuatorKind<AngleActuator>{Actuator::Angle, "Angle", "angle-actuator"},
+    ActuatorKind<AngleSpeedActuator>{Actuator::AngleSpeed, "AngleSpeed", "angle-speed-actuator"},
+    ActuatorKind<TorqueActuator>{Actuator::Torque, "Torque", "torque-actuator"},
+    ActuatorKind<CoupledActuator>{Actuator::Coupled, "Coupled", "coupled-actuator"},
+    ActuatorKind<WheelVelocityActuator>{Actuator::WheelVelocity, "WheelVelocity", "wheel-velocity-actuator"},
+    ActuatorKind<WheelTorqueActuator>{Actuator::WheelTorque, "WheelTorque", "wheel-torque-actuator"},
+    ActuatorKind<LEDActuator>{Actuator::LED, "LED", "led"},
 };
 
 }  // namespace Sim

@@ -4,6 +4,38 @@
 #include <string>
 #include <vector>
 
+#include "sim/actuator.hpp"
+#include "sim/actuator_group.hpp"
+#include "sim/angle_actuator.hpp"
+#include "sim/angle_sensor.hpp"
+#include "sim/angle_speed_actuator.hpp"
+#include "sim/angle_speed_sensor.hpp"
+#include "sim/array_depth_sensor.hpp"
+#include "sim/bumper_sensor.hpp"
+#include "sim/camera_depth_sensor.hpp"
+#include "sim/camera_sensor.hpp"
+#include "sim/coupled_actuator.hpp"
+#include "sim/coupled_sensor.hpp"
+#include "sim/frame.hpp"
+#include "sim/fsr_sensor.hpp"
+#include "sim/inertial_sensor.hpp"
+#include "sim/joint.hpp"
+#include "sim/joint_group.hpp"
+#include "sim/joint_symmetry.hpp"
+#include "sim/led_actuator.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+#include "sim/microphone_sensor.hpp"
+#include "sim/sensor.hpp"
+#include "sim/single_depth_sensor.hpp"
+#include "sim/sonar_sensor.hpp"
+#include "sim/tactile_sensor.hpp"
+#include "sim/torque_actuator.hpp"
+#include "sim/torque_sensor.hpp"
+#include "sim/visual_data.hpp"
+#include "sim/wheel_torque_actuator.hpp"
+#include "sim/wheel_velocity_actuator.hpp"
+#include "sim/wheel_velocity_sensor.hpp"
 #include "varo/export.hpp"
 
 namespace Varo::Model {
@@ -12,36 +44,7 @@ class Robot;
 
 namespace Sim {
 
-class Actuator;
-class ActuatorGroup;
-class AngleActuator;
-class AngleSensor;
-class AngleSpeedActuator;
-class AngleSpeedSensor;
-class ArrayDepthSensor;
-class BumperSensor;
-class CameraDepthSensor;
-class CameraSensor;
-class CoupledActuator;
-class CoupledSensor;
-class FSRSensor;
-class InertialSensor;
-class Joint;
-class JointGroup;
-class JointSymmetry;
-class LEDActuator;
-class Link;
-class MicrophoneSensor;
 class ModelImpl;
-class Sensor;
-class SingleDepthSensor;
-class SonarSensor;
-class TactileSensor;
-class TorqueActuator;
-class TorqueSensor;
-class WheelTorqueActuator;
-class WheelVelocityActuator;
-class WheelVelocitySensor;
 
 /// A robot: its tree of links and joints, its sensors and actuators, its groups and symmetries.
 ///
