@@ -16,23 +16,12 @@
 #include "groups/joint_group_impl.hpp"
 #include "groups/joint_symmetry_impl.hpp"
 #include "sensors/sonar_sensor_impl.hpp"
-#include "sim/angle_actuator.hpp"
-#include "sim/angle_speed_actuator.hpp"
-#include "sim/array_depth_sensor.hpp"
-#include "sim/camera_depth_sensor.hpp"
-#include "sim/camera_sensor.hpp"
-#include "sim/led_actuator.hpp"
-#include "sim/link.hpp"
-#include "sim/mass_data.hpp"
-#include "sim/microphone_sensor.hpp"
+#include "sim/model.hpp"
 #include "sim/motion_model.hpp"
-#include "sim/sonar_sensor.hpp"
-#include "sim/torque_actuator.hpp"
-#include "sim/visual_data.hpp"
-#include "sim/wheel_torque_actuator.hpp"
-#include "sim/wheel_velocity_actuator.hpp"
 
 namespace Sim {
+
+inline constexpr char modelErrorMsg[] = "Could not query Model as it seems not correctly constructed.";
 
 /// Builds the element graph of a robot, owns it, and finds elements in it.
 ///
@@ -195,7 +184,7 @@ private:
     void fetchCoupledActuator(std::string const& name);
     void fetchWheelActuator(std::string const& name);
     CoupledActuatorImpl::JointsAndRatios jointsAndRatiosOf(std::string const& actuator) const;
-    template <class T, class Impl>
+    template <class Impl>
     void pairActuatorsOfKind();
 
     // Groups
@@ -220,19 +209,19 @@ private:
         return handle;
     }
 
-    template <class Handle, class Impl, class... Arguments>
-    boost::shared_ptr<Handle> addSensor(Arguments&&... arguments)
+    template <class Impl, class... Arguments>
+    boost::shared_ptr<typename Impl::Handle> addSensor(Arguments&&... arguments)
     {
-        auto const sensor = makeElement<Handle, Impl>(std::forward<Arguments>(arguments)...);
+        auto const sensor = makeElement<typename Impl::Handle, Impl>(std::forward<Arguments>(arguments)...);
         _sensors.push_back(sensor);
         return sensor;
     }
 
-    template <class Handle, class Impl, class... Arguments>
-    boost::shared_ptr<Handle> addActuator(Arguments&&... arguments)
+    template <class Impl, class... Arguments>
+    boost::shared_ptr<typename Impl::Handle> addActuator(Arguments&&... arguments)
     {
         auto impl = std::make_unique<Impl>(std::forward<Arguments>(arguments)...);
-        auto const actuator = boost::make_shared<Handle>(impl.get());
+        auto const actuator = boost::make_shared<typename Impl::Handle>(impl.get());
         static_cast<void>(impl.release());  // the handle has it
         _actuators.push_back(actuator);
         return actuator;
