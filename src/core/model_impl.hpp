@@ -12,6 +12,7 @@
 
 #include "actuators/coupled_actuator_impl.hpp"
 #include "core/build_index.hpp"
+#include "core/kind_of.hpp"
 #include "groups/actuator_group_impl.hpp"
 #include "groups/joint_group_impl.hpp"
 #include "groups/joint_symmetry_impl.hpp"
@@ -227,13 +228,14 @@ private:
         return actuator;
     }
 
+    // The dynamic type decides what is of a kind. It is asked last: name and type settle most elements for less.
     template <class T, class Base>
     static boost::shared_ptr<T> firstOfKind(std::vector<boost::shared_ptr<Base>> const& elements,
                                             std::string const& name)
     {
         for (auto const& element : elements) {
-            if (auto const typed = boost::dynamic_pointer_cast<T>(element); typed && typed->name() == name) {
-                return typed;
+            if (T* const typed = element->name() == name ? dynamic_cast<T*>(element.get()) : nullptr) {
+                return boost::shared_ptr<T>(element, typed);
             }
         }
         return {};
@@ -244,8 +246,8 @@ private:
     {
         std::vector<boost::shared_ptr<T>> result;
         for (auto const& element : elements) {
-            if (auto const typed = boost::dynamic_pointer_cast<T>(element)) {
-                result.push_back(typed);
+            if (T* const typed = element->type() == kindOf<T>().type ? dynamic_cast<T*>(element.get()) : nullptr) {
+                result.emplace_back(element, typed);
             }
         }
         return result;
