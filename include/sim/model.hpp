@@ -48,13 +48,16 @@ class ModelImpl;
 
 /// A robot: its tree of links and joints, its sensors and actuators, its groups and symmetries.
 ///
-/// All the work is done by the constructor; a model is immutable from then on, and any number of threads may ask it at
-/// once. Every pointer that it returns, directly or through an element, is borrowed and stays valid as long as the
-/// model; moving the model keeps them valid.
+/// All the work is done by the constructor; a model and its elements are immutable from then on, and any number of
+/// threads may ask them at once. Every pointer that it returns, directly or through an element, is borrowed and stays
+/// valid as long as the model; moving the model keeps them valid.
 ///
 /// Look-ups by name are exact and case-sensitive. Where several elements bear a name the first one made answers, and
 /// where none does the answer is null. Lists are in the order in which the elements were made. Every query on a model
-/// that was moved from throws std::runtime_error.
+/// that was moved from throws std::runtime_error, and so does every getter of an element that no model made, such as a
+/// default-constructed Joint.
+///
+/// This header brings those of all elements with it.
 class VAROROBOTMODEL_API Model {
 public:
     /// Loads the description, native or URDF, that stands in the file of this path or, when there is no such file, in

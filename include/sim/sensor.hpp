@@ -29,17 +29,15 @@ class WheelVelocitySensor;
 
 /// A device of the robot that measures: an encoder in a joint, a force sensor under a foot, a camera in the head.
 ///
-/// A model knows what one has to know to read the device, not what it reads: what it is called, where it sits, how
-/// large one reading is and, for a DCMSensor, under which keys the device layer delivers it. What it measures is the
-/// matter of its concrete class, from which nothing derives; type() says the same as a number.
+/// A model holds what a program has to know to read the device, never a reading: what it is called, where it sits, how
+/// many bytes a reading has and, for a DCMSensor, under which keys the device layer delivers it. What is measured, and
+/// in which unit, the concrete class says, from which nothing derives; type() says the same as a number.
 ///
-/// Descriptions place most sensors themselves, each in the frame of the link that carries it. Those that come with an
-/// actuator (AngleSensor, AngleSpeedSensor, TorqueSensor, CoupledSensor) have its name and its frame. Several sensors
-/// may therefore bear one name; the look-ups of Model by kind tell them apart.
+/// A sensor that the description places has a frame of its own, posed in the frame of the link that carries it. One
+/// that comes with an actuator (AngleSensor, AngleSpeedSensor, TorqueSensor, CoupledSensor) has the actuator's name and
+/// frame; several sensors may therefore bear one name, and the look-ups of Model by kind tell them apart.
 ///
-/// Model hands sensors out as borrowed pointers. They and all that they return are valid as long as the model, never
-/// change, and may be asked by any number of threads at once. Every getter of this class and of those derived from it
-/// throws std::runtime_error on a sensor that no model made.
+/// An element of a Model, which says how long it lives and who may ask it at once. That holds for all sensors.
 class VAROROBOTMODEL_API Sensor {
 public:
     /// The kinds of sensors. The numbers are binding for every consumer, the gap at 11 included.

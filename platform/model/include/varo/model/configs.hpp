@@ -50,8 +50,8 @@ enum SensorType : std::int32_t {
 
 /// The word that descriptions use for a value of a record.
 struct ValueWord {
-    std::string_view word;
-    std::int32_t value;
+    std::string_view word;  ///< as descriptions spell it
+    std::int32_t value;  ///< as records hold it
 };
 
 /// The words for all values of SensorType.
