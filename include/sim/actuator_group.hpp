@@ -11,10 +11,12 @@ namespace Sim {
 class Actuator;
 class ActuatorGroupImpl;
 
-/// The actuators of a kinematic chain.
+/// The motors of one kinematic chain. The groups form a tree as the chains do: that of an arm has the torso's as its
+/// parent.
 ///
-/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
-/// and safe to ask from several threads. Every getter throws std::runtime_error on a group that no model made.
+/// Of the actuators that share a joint's name a group holds the angle actuator only; wheels and lights are in no group.
+///
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API ActuatorGroup {
 public:
     ActuatorGroup();
@@ -25,10 +27,10 @@ public:
 
     /// The name of the chain.
     std::string const& name() const;
-    /// The group of the chain that this one hangs on; null when it hangs on the root, or when the description lists
-    /// that chain later than this one.
+    /// The group of the chain that this one is attached to; null when it is attached to the root, or when the
+    /// description lists that chain later than this one.
     ActuatorGroup const* parent() const;
-    /// The angle actuators of the chain's joints, then the coupled actuators that hang on them; null for a name that
+    /// The angle actuators of the chain's joints, then the coupled actuators attached to them; null for a name that
     /// the model has no actuator for.
     std::vector<Actuator const*> actuators() const;
 

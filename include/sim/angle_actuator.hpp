@@ -9,7 +9,10 @@ namespace Sim {
 class AngleActuatorImpl;
 class Joint;
 
-/// Drives a joint to an angle (rad; m for a sliding joint).
+/// The motor of a joint, commanded by angle (rad; m for a sliding joint).
+///
+/// It bears the name of the joint. Its frame lies where the joint's frame does, but is fixed to the link that the joint
+/// moves.
 class VAROROBOTMODEL_API AngleActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
@@ -20,21 +23,21 @@ public:
 
     /// 4: one single-precision value.
     int bufferSize() const override;
-    /// In the posture "StandInit".
+    /// The angle in the posture "StandInit"; 0 when the description has no postures.
     float startValue() const;
-    /// Minus infinity when unlimited.
+    /// The smallest angle; minus infinity when unlimited.
     float minValue() const;
-    /// Infinity when unlimited.
+    /// The greatest angle; infinity when unlimited.
     float maxValue() const;
-    /// rad/s (m/s for a sliding joint)
+    /// The greatest speed, rad/s (m/s for a sliding joint); 0 when the description states none.
     float maxSpeed() const;
-    /// Null when its model is gone.
+    /// The joint that it drives; null when its model is gone.
     Joint const* controlledJoint() const;
     /// The actuator of the mirrored joint; null without one.
     AngleActuator const* reflectedSymmetric() const;
     /// Whether the partner mirrors this one at the opposite value.
     bool reflectedSymmetricReversed() const;
-    /// As the description states it.
+    /// Whether a symmetric motion reflects the joint whatever its mirror says, as the description states it.
     bool reflectionForced() const;
 };
 

@@ -6,7 +6,10 @@
 
 namespace Sim {
 
-/// Measures the angle of a joint (rad; m for a sliding joint).
+/// The encoder of a joint: measures its angle (rad; its displacement in m for a sliding joint), which is zero in the
+/// position that the model's frames show.
+///
+/// Every AngleActuator has one, of its name and at its frame.
 class VAROROBOTMODEL_API AngleSensor final : public DCMSensor {
 public:
     AngleSensor();

@@ -9,8 +9,10 @@ namespace Sim {
 class AngleSpeedActuatorImpl;
 class Joint;
 
-/// Drives a joint at an angular speed (rad/s). Only models whose name contains "SpecialSimulation" or "Helvo" have
-/// any.
+/// The motor of a joint, commanded by speed (rad/s; m/s for a sliding joint).
+///
+/// Where a model has any, it has one beside each AngleActuator, of the same name and frame: that is in models whose
+/// name contains "SpecialSimulation" or "Helvo".
 class VAROROBOTMODEL_API AngleSpeedActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
@@ -27,7 +29,7 @@ public:
     float minValue() const;
     /// rad/s; always 10, as descriptions state none.
     float maxValue() const;
-    /// Null when its model is gone.
+    /// The joint that it drives; null when its model is gone.
     Joint const* controlledJoint() const;
     /// The actuator of the mirrored joint; null without one.
     AngleSpeedActuator const* reflectedSymmetric() const;

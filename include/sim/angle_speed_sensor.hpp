@@ -6,7 +6,10 @@
 
 namespace Sim {
 
-/// Measures the angular speed of a joint or wheel (rad/s).
+/// Measures how fast a joint turns (rad/s; m/s for a sliding joint) or a wheel does.
+///
+/// A model has them when its name contains "SpecialSimulation": one for each AngleActuator, of its name and at its
+/// frame.
 class VAROROBOTMODEL_API AngleSpeedSensor final : public DCMSensor {
 public:
     AngleSpeedSensor();

@@ -6,7 +6,11 @@
 
 namespace Sim {
 
-/// Measures distances along many rays, arranged in a grid (m).
+/// A device that measures the distances (m) along many rays at once, which are arranged in rows and columns: a laser
+/// scanner has one row.
+///
+/// Unlike a depth camera it delivers its values under device keys. width() and height() are the first resolution that
+/// the description states; without one they are a single row with a point for each key.
 class VAROROBOTMODEL_API ArrayDepthSensor final : public DCMSensor {
 public:
     ArrayDepthSensor();

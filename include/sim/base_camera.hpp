@@ -6,7 +6,9 @@
 
 namespace Sim {
 
-/// A sensor that takes pictures.
+/// A sensor that takes pictures, looking along the x axis of its frame.
+///
+/// It has no device keys; those that a description gives a camera are not used.
 class VAROROBOTMODEL_API BaseCamera : public Sensor {
 public:
     int bufferSize() const override = 0;

@@ -6,7 +6,7 @@
 
 namespace Sim {
 
-/// Feels whether something is pushed against it.
+/// A contact switch: feels whether the robot pushes against something, or something against the robot.
 class VAROROBOTMODEL_API BumperSensor final : public DCMSensor {
 public:
     BumperSensor();

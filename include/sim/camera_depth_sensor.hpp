@@ -6,7 +6,9 @@
 
 namespace Sim {
 
-/// Takes pictures whose pixels are distances (m).
+/// A depth camera: the value of each pixel is a distance in metres.
+///
+/// The picture's size is the first resolution that the description states; without one, no model can be built.
 class VAROROBOTMODEL_API CameraDepthSensor final : public BaseCamera {
 public:
     CameraDepthSensor();

@@ -6,7 +6,9 @@
 
 namespace Sim {
 
-/// Takes colour pictures.
+/// A camera whose pictures are coloured.
+///
+/// The picture's size is the first resolution that the description states; without one, no model can be built.
 class VAROROBOTMODEL_API CameraSensor final : public BaseCamera {
 public:
     CameraSensor();

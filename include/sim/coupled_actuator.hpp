@@ -12,7 +12,10 @@ namespace Sim {
 class CoupledActuatorImpl;
 class Joint;
 
-/// One motor that drives several joints at once, each to the motor's angle (rad) times a ratio of its own.
+/// One motor that moves several joints together, as a tendon closes the fingers of a hand: it is commanded by an angle
+/// (rad), and each joint follows with that angle times a ratio of its own.
+///
+/// Its frame is posed in the frame of the joint that it is attached to.
 class VAROROBOTMODEL_API CoupledActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
@@ -23,19 +26,19 @@ public:
 
     /// 4: one single-precision value.
     int bufferSize() const override;
-    /// In the posture "StandInit".
+    /// The motor's angle in the posture "StandInit"; 0 when the description has no postures.
     float startValue() const;
-    /// Minus infinity when unlimited.
+    /// The motor's smallest angle; minus infinity when unlimited.
     float minValue() const;
-    /// Infinity when unlimited.
+    /// The motor's greatest angle; infinity when unlimited.
     float maxValue() const;
-    /// rad/s
+    /// The motor's greatest speed, rad/s; 0 when the description states none.
     float maxSpeed() const;
     /// The mirrored actuator; null without one.
     CoupledActuator const* reflectedSymmetric() const;
     /// Whether the partner mirrors this one at the opposite value.
     bool reflectedSymmetricReversed() const;
-    /// As the description states it.
+    /// As AngleActuator::reflectionForced, of the joint that bears the actuator's name; false when none does.
     bool reflectionForced() const;
     /// The driven joints that the model has, in the description's order, never null inside, each with its ratio.
     std::vector<std::pair<Joint const*, float>> controlledJointAndRatios() const;

@@ -6,7 +6,10 @@
 
 namespace Sim {
 
-/// Measures the angle of a coupled actuator (rad).
+/// The encoder of a coupled actuator: measures the angle (rad) of the motor, from which those of the joints that it
+/// drives follow by their ratios.
+///
+/// Every CoupledActuator has one, of its name and at its frame.
 class VAROROBOTMODEL_API CoupledSensor final : public DCMSensor {
 public:
     CoupledSensor();

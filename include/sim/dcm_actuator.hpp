@@ -11,11 +11,14 @@ namespace Sim {
 
 class DCMActuatorImpl;
 
-/// An actuator that the robot's device layer knows by device keys.
+/// An actuator that the robot's device layer commands under device keys, as it does all kinds.
+///
+/// A key is the name of one value, such as "Elbow/Angle/Actuator". The keys of a motor follow from its name and from
+/// what it is commanded by; those of a light are the ones that the description gives it, in its order.
 class VAROROBOTMODEL_API DCMActuator : public Actuator {
 public:
     int bufferSize() const override = 0;
-    /// The keys under which commands are written.
+    /// The keys under which commands are written; empty for a light that the description gives none.
     std::vector<std::string> const& dcmKeys() const;
 
 protected:

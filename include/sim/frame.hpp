@@ -10,11 +10,17 @@ namespace Sim {
 
 class FrameImpl;
 
-/// A coordinate frame of the robot, posed in its parent frame with every joint at zero.
+/// A coordinate frame of the robot, right-handed and in metres, posed in its parent frame with every joint at zero.
 ///
-/// Every link, joint, sensor and actuator sits at one. Handed out by Model as a borrowed pointer that lives as long as
-/// the model; immutable, so that any number of threads may ask it at once. Every getter throws std::runtime_error on a
-/// frame that no model made.
+/// Frames are the skeleton on which everything else sits. A joint has one of its name, posed in the frame of its parent
+/// link; the link that it moves has one of the joint's name with "Link" appended, posed in the joint's frame. Sensors
+/// and actuators sit at one of these, or at one of their own that is posed in one of these. Going from parent to parent
+/// one comes to the frame of the root link, which has no parent.
+///
+/// Poses never change: a model says where things are while all joints stand at zero. A program that moves them puts the
+/// motion of a joint, about or along its z axis, between the joint's frame and that of the link.
+///
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API Frame {
 public:
     Frame();

@@ -6,7 +6,10 @@
 
 namespace Sim {
 
-/// Measures the force on a patch of the robot by a force-sensing resistor, mostly under a foot (N).
+/// A force-sensing resistor: measures the force (N) on a patch of the robot, mostly one of several under a foot, from
+/// which the load on the foot and its centre of pressure follow.
+///
+/// Its frame tells where the patch is.
 class VAROROBOTMODEL_API FSRSensor final : public DCMSensor {
 public:
     FSRSensor();

@@ -11,10 +11,13 @@ class Frame;
 class JointImpl;
 class Link;
 
-/// A joint between two links. It turns about, or slides along, the z axis of its frame.
+/// What connects two links: it turns about the z axis of its frame, counter-clockwise as seen from the tip of z, or
+/// slides along it. A fixed joint does neither.
 ///
-/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
-/// and safe to ask from several threads. Every getter throws std::runtime_error on a joint that no model made.
+/// A joint is geometry only. What drives it, and within which limits, its actuators say (Model::angleActuator of its
+/// name); which joint mirrors it, Model::jointSymmetry.
+///
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API Joint {
 public:
     Joint();
@@ -26,7 +29,7 @@ public:
     Frame const* frame() const;
     /// As in the description; Model::joint finds the joint by it.
     std::string const& name() const;
-    /// The link that the joint hangs on. Null only when its model is gone.
+    /// The link that the joint is attached to. Null only when its model is gone.
     Link const* parentLink() const;
     /// The link that the joint moves; null when it moves none.
     Link const* childLink() const;

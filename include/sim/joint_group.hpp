@@ -11,10 +11,11 @@ namespace Sim {
 class Joint;
 class JointGroupImpl;
 
-/// The joints of a kinematic chain, or those that one coupled actuator moves.
+/// Joints that belong together: those of one kinematic chain, or those that one coupled actuator moves.
 ///
-/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
-/// and safe to ask from several threads. Every getter throws std::runtime_error on a group that no model made.
+/// The groups of chains are how a program addresses a limb as a whole. Wheels are in no group.
+///
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API JointGroup {
 public:
     JointGroup();

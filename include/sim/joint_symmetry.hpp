@@ -10,10 +10,13 @@ namespace Sim {
 class Joint;
 class JointSymmetryImpl;
 
-/// A pair of joints that are each other's mirror image, left and right.
+/// A pair of joints that are each other's mirror image, such as the two elbows: what the left one does, the right one
+/// does for a motion that is symmetric about the plane between left and right.
 ///
-/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
-/// and safe to ask from several threads. Every getter throws std::runtime_error on a symmetry that no model made.
+/// Each pair is there once, whichever of its joints is asked for. The mirror partner of an actuator stands at the
+/// actuator itself.
+///
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API JointSymmetry {
 public:
     /// Which values of the two joints mirror each other.

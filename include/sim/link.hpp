@@ -14,10 +14,13 @@ class LinkImpl;
 class MassData;
 class VisualData;
 
-/// A rigid body of the robot: the root body, or what a joint or wheel moves.
+/// A rigid body of the robot, between its joints: the root body, or what one joint or wheel moves.
 ///
-/// Handed out by Model as a borrowed pointer, as is everything that it returns: valid as long as the model, immutable,
-/// and safe to ask from several threads. Every getter throws std::runtime_error on a link that no model made.
+/// Links and joints alternate in a tree whose root is Model::rootLink(): a link has one joint that moves it, but for
+/// the root link, and any number of joints attached to it that move others. What belongs to the body as a body is here:
+/// its frame, its mass, what it looks like and what its surface is made of.
+///
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API Link {
 public:
     /// The kinds of links.
@@ -31,21 +34,24 @@ public:
     Link& operator=(Link const&) = delete;
     virtual ~Link();
 
-    /// Where the link sits. Null only when its model is gone.
+    /// Where the link sits, posed in the frame of the joint that moves it; a root frame for the root link. Null only
+    /// when its model is gone.
     Frame const* frame() const;
     /// The name of the joint that moves it (of the root for the root link), with "Link" appended.
     std::string const& name() const;
     /// The joint that moves it; null for the root link.
     Joint const* parentJoint() const;
-    /// Null when the link has none.
+    /// The mass properties; null when the link was made without. Loading makes none without: what the description
+    /// leaves out is zero.
     MassData const* mass() const;
     /// The material of its surface, as frictionCoeff takes it; "gum" when the description names none.
     std::string const& frictionMaterial() const;
     /// Whether it is a wheel.
     LinkType type() const;
-    /// Null when the link has none.
+    /// What it looks like; null when the link was made without. Loading makes none without: what the description
+    /// leaves out is empty.
     VisualData const* visual() const;
-    /// The joints that hang on it, in building order; never null inside.
+    /// The joints attached to it, in building order; never null inside.
     std::vector<Joint const*> childrenJoints() const;
 
 private:

@@ -10,10 +10,10 @@ namespace Sim {
 
 class MassDataImpl;
 
-/// The mass properties of a link, as the description states them.
+/// What a link weighs and how its mass is spread, as the description states it: SI units, single precision. Nothing
+/// checks that a body could have such values; `varo-robot check` does.
 ///
-/// Borrowed from its link: valid as long as the model, immutable, and safe to ask from several threads. Every getter
-/// throws std::runtime_error on mass data that no model made.
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API MassData {
 public:
     MassData();

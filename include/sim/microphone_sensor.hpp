@@ -6,7 +6,7 @@
 
 namespace Sim {
 
-/// Listens.
+/// A microphone. It has no device keys; those that a description gives it are not used.
 class VAROROBOTMODEL_API MicrophoneSensor final : public Sensor {
 public:
     MicrophoneSensor();

@@ -4,6 +4,38 @@
 #include <string>
 #include <vector>
 
+#include "sim/actuator.hpp"
+#include "sim/actuator_group.hpp"
+#include "sim/angle_actuator.hpp"
+#include "sim/angle_sensor.hpp"
+#include "sim/angle_speed_actuator.hpp"
+#include "sim/angle_speed_sensor.hpp"
+#include "sim/array_depth_sensor.hpp"
+#include "sim/bumper_sensor.hpp"
+#include "sim/camera_depth_sensor.hpp"
+#include "sim/camera_sensor.hpp"
+#include "sim/coupled_actuator.hpp"
+#include "sim/coupled_sensor.hpp"
+#include "sim/frame.hpp"
+#include "sim/fsr_sensor.hpp"
+#include "sim/inertial_sensor.hpp"
+#include "sim/joint.hpp"
+#include "sim/joint_group.hpp"
+#include "sim/joint_symmetry.hpp"
+#include "sim/led_actuator.hpp"
+#include "sim/link.hpp"
+#include "sim/mass_data.hpp"
+#include "sim/microphone_sensor.hpp"
+#include "sim/sensor.hpp"
+#include "sim/single_depth_sensor.hpp"
+#include "sim/sonar_sensor.hpp"
+#include "sim/tactile_sensor.hpp"
+#include "sim/torque_actuator.hpp"
+#include "sim/torque_sensor.hpp"
+#include "sim/visual_data.hpp"
+#include "sim/wheel_torque_actuator.hpp"
+#include "sim/wheel_velocity_actuator.hpp"
+#include "sim/wheel_velocity_sensor.hpp"
 #include "varo/export.hpp"
 #include "varo/model/finding.hpp"
 #include "varo/model/model_utils.hpp"
@@ -12,46 +44,20 @@
 
 namespace Sim {
 
-class Actuator;
-class ActuatorGroup;
-class AngleActuator;
-class AngleSensor;
-class AngleSpeedActuator;
-class AngleSpeedSensor;
-class ArrayDepthSensor;
-class BumperSensor;
-class CameraDepthSensor;
-class CameraSensor;
-class CoupledActuator;
-class CoupledSensor;
-class FSRSensor;
-class InertialSensor;
-class Joint;
-class JointGroup;
-class JointSymmetry;
-class LEDActuator;
-class Link;
-class MicrophoneSensor;
 class ModelImpl;
-class Sensor;
-class SingleDepthSensor;
-class SonarSensor;
-class TactileSensor;
-class TorqueActuator;
-class TorqueSensor;
-class WheelTorqueActuator;
-class WheelVelocityActuator;
-class WheelVelocitySensor;
 
 /// A robot: its tree of links and joints, its sensors and actuators, its groups and symmetries.
 ///
-/// All the work is done by the constructor; a model is immutable from then on, and any number of threads may ask it at
-/// once. Every pointer that it returns, directly or through an element, is borrowed and stays valid as long as the
-/// model; moving the model keeps them valid.
+/// All the work is done by the constructor; a model and its elements are immutable from then on, and any number of
+/// threads may ask them at once. Every pointer that it returns, directly or through an element, is borrowed and stays
+/// valid as long as the model; moving the model keeps them valid.
 ///
 /// Look-ups by name are exact and case-sensitive. Where several elements bear a name the first one made answers, and
 /// where none does the answer is null. Lists are in the order in which the elements were made. Every query on a model
-/// that was moved from throws std::runtime_error.
+/// that was moved from throws std::runtime_error, and so does every getter of an element that no model made, such as a
+/// default-constructed Joint.
+///
+/// This header brings those of all elements with it.
 class VAROROBOTMODEL_API Model {
 public:
     /// Loads the description, native or URDF, that stands in the file of this path or, when there is no such file, in

@@ -6,7 +6,9 @@
 
 namespace Sim {
 
-/// Measures the distance along one ray (m). Loading never makes one.
+/// A range finder: measures the distance (m) along one ray, as an infrared sensor does.
+///
+/// No description has such a sensor, so that a loaded model has none; the kind is there for the look-ups of Model.
 class VAROROBOTMODEL_API SingleDepthSensor final : public DCMSensor {
 public:
     SingleDepthSensor();

@@ -6,7 +6,9 @@
 
 namespace Sim {
 
-/// Measures distances by ultrasound (m).
+/// Measures distances (m) by ultrasound; a reading has one distance or ten.
+///
+/// It has a device key for each. A sonar that the description gives another number of keys is left out of the model.
 class VAROROBOTMODEL_API SonarSensor final : public DCMSensor {
 public:
     SonarSensor();

@@ -6,7 +6,7 @@
 
 namespace Sim {
 
-/// Feels whether it is touched.
+/// A patch of the robot's skin that feels whether it is touched.
 class VAROROBOTMODEL_API TactileSensor final : public DCMSensor {
 public:
     TactileSensor();

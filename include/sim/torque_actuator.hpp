@@ -9,7 +9,10 @@ namespace Sim {
 class Joint;
 class TorqueActuatorImpl;
 
-/// Drives a joint by torque (N*m). Only models whose name contains "SpecialSimulation" or "Helvo" have any.
+/// The motor of a joint, commanded by torque (N*m; by force in N for a sliding joint).
+///
+/// Where a model has any, it has one beside each AngleActuator, of the same name and frame: that is in models whose
+/// name contains "SpecialSimulation" or "Helvo".
 class VAROROBOTMODEL_API TorqueActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
@@ -26,7 +29,7 @@ public:
     float minValue() const;
     /// N*m; always 100, as descriptions state none.
     float maxValue() const;
-    /// Null when its model is gone.
+    /// The joint that it drives; null when its model is gone.
     Joint const* controlledJoint() const;
     /// The actuator of the mirrored joint; null without one.
     TorqueActuator const* reflectedSymmetric() const;

@@ -6,7 +6,10 @@
 
 namespace Sim {
 
-/// Measures the torque at a joint or wheel (N*m).
+/// Measures the torque (N*m; the force in N for a sliding joint) that acts at a joint or a wheel.
+///
+/// A model has them when its name contains "SpecialSimulation": one for each AngleActuator, of its name and at its
+/// frame.
 class VAROROBOTMODEL_API TorqueSensor final : public DCMSensor {
 public:
     TorqueSensor();

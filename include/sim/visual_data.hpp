@@ -10,10 +10,9 @@ namespace Sim {
 
 class VisualDataImpl;
 
-/// What a link looks like.
+/// What a link looks like: a mesh file and where the mesh lies. The file is never opened.
 ///
-/// Borrowed from its link: valid as long as the model, immutable, and safe to ask from several threads. Every getter
-/// throws std::runtime_error on visual data that no model made.
+/// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API VisualData {
 public:
     VisualData();
@@ -21,7 +20,7 @@ public:
     VisualData& operator=(VisualData const&) = delete;
     virtual ~VisualData();
 
-    /// The mesh file, exactly as the description states it; may be empty.
+    /// The mesh file, exactly as the description states it, be it a path or a URI; empty when it states none.
     std::string const& meshPath() const;
     /// The pose of the mesh in the link's frame (m).
     Varo::Math::Transform const& meshTransform() const;

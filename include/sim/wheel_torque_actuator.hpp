@@ -9,7 +9,9 @@ namespace Sim {
 class Joint;
 class WheelTorqueActuatorImpl;
 
-/// Drives a wheel by torque. Loading never makes one.
+/// The motor of a wheel, commanded by torque (N*m).
+///
+/// Loading makes none, so that a loaded model has none; the kind is there for the look-ups of Model.
 class VAROROBOTMODEL_API WheelTorqueActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
@@ -20,7 +22,7 @@ public:
 
     /// 4: one single-precision value.
     int bufferSize() const override;
-    /// N*m
+    /// The greatest torque, N*m.
     float maxTorque() const;
     /// The joint about which the wheel turns; null when its model is gone.
     Joint const* controlledJoint() const;

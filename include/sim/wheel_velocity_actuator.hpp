@@ -9,7 +9,10 @@ namespace Sim {
 class Joint;
 class WheelVelocityActuatorImpl;
 
-/// Drives a wheel at an angular speed.
+/// The motor of a wheel, commanded by speed (rad/s).
+///
+/// Every wheel has one, of its name. It sits at the frame of the wheel's link and turns it about -x of that frame,
+/// which is the z axis of the wheel's joint.
 class VAROROBOTMODEL_API WheelVelocityActuator final : public DCMActuator {
 public:
     /// Takes ownership; without implementation, every getter throws.
@@ -20,7 +23,7 @@ public:
 
     /// 4: one single-precision value.
     int bufferSize() const override;
-    /// rad/s
+    /// The greatest speed, rad/s.
     float maxVelocity() const;
     /// The joint about which the wheel turns; null when its model is gone.
     Joint const* controlledJoint() const;

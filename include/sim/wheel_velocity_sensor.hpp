@@ -6,7 +6,9 @@
 
 namespace Sim {
 
-/// Measures the angular speed of a wheel (rad/s). Loading never makes one.
+/// Measures how fast a wheel turns (rad/s).
+///
+/// Loading makes none, so that a loaded model has none; the kind is there for the look-ups of Model.
 class VAROROBOTMODEL_API WheelVelocitySensor final : public DCMSensor {
 public:
     WheelVelocitySensor();

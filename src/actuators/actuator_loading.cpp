@@ -2,8 +2,7 @@
 #include <vector>
 
 #include "actuators/angle_actuator_impl.hpp"
-#include "actuators/angle_speed_actuator_impl.hpp"
-#include "actuators/torque_actuator_impl.hpp"
+#include "actuators/joint_actuator_impl.hpp"
 #include "core/frame_impl.hpp"
 #include "core/joint_impl.hpp"
 #include "core/link_impl.hpp"
@@ -65,8 +64,8 @@ boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& fra
                                                              boost::shared_ptr<Joint const> const& joint,
                                                              bool reflectionForced)
 {
-    return addActuator<AngleActuator, AngleActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed,
-                                                         joint, reflectionForced);
+    return addActuator<AngleActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed, joint,
+                                          reflectionForced);
 }
 
 boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& frame, std::string const& name,
@@ -74,7 +73,7 @@ boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& f
                                                                float maxValue,
                                                                boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<TorqueActuator, TorqueActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
+    return addActuator<TorqueActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
 }
 
 boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr const& frame, std::string const& name,
@@ -82,8 +81,7 @@ boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr 
                                                                        float minValue, float maxValue,
                                                                        boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<AngleSpeedActuator, AngleSpeedActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue,
-                                                                   joint);
+    return addActuator<AngleSpeedActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
 }
 
 }  // namespace Sim

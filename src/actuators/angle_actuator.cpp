@@ -3,6 +3,7 @@
 #include "actuators/actuator_handle.hpp"
 #include "actuators/angle_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
 
@@ -61,6 +62,16 @@ bool AngleActuator::reflectedSymmetricReversed() const
 bool AngleActuator::reflectionForced() const
 {
     return implOf<AngleActuatorImpl>(_impl, angleActuatorErrorMsg).reflectionForced();
+}
+
+AngleActuator const* Model::angleActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<AngleActuator>(name).get();
+}
+
+std::vector<AngleActuator const*> Model::angleActuators() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).actuators<AngleActuator>());
 }
 
 }  // namespace Sim

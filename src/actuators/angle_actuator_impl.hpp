@@ -11,7 +11,7 @@ namespace Sim {
 
 inline constexpr char angleActuatorErrorMsg[] = "Could not query AngleActuator as it seems not correctly constructed.";
 
-class AngleActuatorImpl : public JointActuatorImpl<AngleActuator, Actuator::Angle> {
+class AngleActuatorImpl : public JointActuatorImpl<AngleActuator> {
 public:
     AngleActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                       std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,

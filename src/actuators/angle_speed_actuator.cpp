@@ -1,10 +1,14 @@
 #include "sim/angle_speed_actuator.hpp"
 
 #include "actuators/actuator_handle.hpp"
-#include "actuators/angle_speed_actuator_impl.hpp"
+#include "actuators/joint_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
+
+constexpr char angleSpeedActuatorErrorMsg[] =
+    "Could not query AngleSpeedActuator as it seems not correctly constructed.";
 
 AngleSpeedActuator::AngleSpeedActuator(AngleSpeedActuatorImpl* impl) : DCMActuator(impl) {}
 
@@ -51,6 +55,16 @@ AngleSpeedActuator const* AngleSpeedActuator::reflectedSymmetric() const
 bool AngleSpeedActuator::reflectedSymmetricReversed() const
 {
     return implOf<AngleSpeedActuatorImpl>(_impl, angleSpeedActuatorErrorMsg).reflectedSymmetricReversed();
+}
+
+AngleSpeedActuator const* Model::angleSpeedActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<AngleSpeedActuator>(name).get();
+}
+
+std::vector<AngleSpeedActuator const*> Model::angleSpeedActuators() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).actuators<AngleSpeedActuator>());
 }
 
 }  // namespace Sim

@@ -3,6 +3,7 @@
 #include "actuators/actuator_handle.hpp"
 #include "actuators/coupled_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
 
@@ -66,6 +67,16 @@ std::vector<std::pair<Joint const*, float>> CoupledActuator::controlledJointAndR
         result.emplace_back(joint.get(), ratio);
     }
     return result;
+}
+
+CoupledActuator const* Model::coupledActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<CoupledActuator>(name).get();
+}
+
+std::vector<CoupledActuator const*> Model::coupledActuators() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).actuators<CoupledActuator>());
 }
 
 }  // namespace Sim

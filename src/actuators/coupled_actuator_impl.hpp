@@ -14,7 +14,7 @@ namespace Sim {
 inline constexpr char coupledActuatorErrorMsg[] =
     "Could not query CoupledActuator as it seems not correctly constructed.";
 
-class CoupledActuatorImpl : public MirroredActuatorImpl<CoupledActuator, Actuator::Coupled> {
+class CoupledActuatorImpl : public MirroredActuatorImpl<CoupledActuator> {
 public:
     using JointsAndRatios = std::vector<std::pair<boost::shared_ptr<Joint const>, float>>;
 

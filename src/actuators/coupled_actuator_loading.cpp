@@ -59,8 +59,8 @@ boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr const&
                                                                  CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                                  bool reflectionForced)
 {
-    return addActuator<CoupledActuator, CoupledActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue,
-                                                             maxSpeed, std::move(jointsAndRatios), reflectionForced);
+    return addActuator<CoupledActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed,
+                                            std::move(jointsAndRatios), reflectionForced);
 }
 
 }  // namespace Sim

@@ -10,20 +10,31 @@
 namespace Sim {
 
 /// A mirrored actuator that drives one joint.
-template <class Handle, Actuator::Type kind>
-class JointActuatorImpl : public MirroredActuatorImpl<Handle, kind> {
+template <class Device>
+class JointActuatorImpl : public MirroredActuatorImpl<Device> {
 public:
     JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                       std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
                       boost::shared_ptr<Joint const> const& joint)
-        : MirroredActuatorImpl<Handle, kind>(frame, name, dcmKeys, startValue, minValue, maxValue),
-          _controlledJoint(joint)
+        : MirroredActuatorImpl<Device>(frame, name, dcmKeys, startValue, minValue, maxValue), _controlledJoint(joint)
     {}
 
     boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }
 
 private:
     boost::weak_ptr<Joint const> _controlledJoint;
+};
+
+// The kinds that are just that.
+
+class AngleSpeedActuatorImpl : public JointActuatorImpl<AngleSpeedActuator> {
+public:
+    using JointActuatorImpl::JointActuatorImpl;
+};
+
+class TorqueActuatorImpl : public JointActuatorImpl<TorqueActuator> {
+public:
+    using JointActuatorImpl::JointActuatorImpl;
 };
 
 }  // namespace Sim

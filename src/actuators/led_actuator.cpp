@@ -3,6 +3,7 @@
 #include "actuators/actuator_handle.hpp"
 #include "actuators/led_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
 
@@ -36,6 +37,16 @@ std::vector<std::string> const& LEDActuator::groups() const
 LEDActuator::Color LEDActuator::color() const
 {
     return implOf<LEDActuatorImpl>(_impl, ledActuatorErrMsg).color();
+}
+
+LEDActuator const* Model::ledActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<LEDActuator>(name).get();
+}
+
+std::vector<LEDActuator const*> Model::ledActuators(std::string const& group) const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).ledActuators(group));
 }
 
 }  // namespace Sim

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "actuators/dcm_actuator_impl.hpp"
+#include "core/kind_of.hpp"
 #include "sim/led_actuator.hpp"
 
 namespace Sim {
@@ -14,10 +15,15 @@ inline constexpr char ledActuatorErrMsg[] = "Could not query LEDActuator as it s
 
 class LEDActuatorImpl : public DCMActuatorImpl {
 public:
+    using Handle = LEDActuator;
+
     LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                     std::vector<std::string> const& dcmKeys, std::string const& shortname,
                     std::vector<std::string> const& groups, LEDActuator::Color color)
-        : DCMActuatorImpl(frame, name, Actuator::LED, dcmKeys), _shortname(shortname), _groups(groups), _color(color)
+        : DCMActuatorImpl(frame, name, kindOf<LEDActuator>().type, dcmKeys),
+          _shortname(shortname),
+          _groups(groups),
+          _color(color)
     {}
 
     std::string const& shortname() const { return _shortname; }

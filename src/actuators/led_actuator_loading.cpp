@@ -10,7 +10,7 @@ boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr const& frame, 
                                                          std::vector<std::string> const& groups,
                                                          LEDActuator::Color color)
 {
-    return addActuator<LEDActuator, LEDActuatorImpl>(frame, name, dcmKeys, shortname, groups, color);
+    return addActuator<LEDActuatorImpl>(frame, name, dcmKeys, shortname, groups, color);
 }
 
 std::vector<boost::shared_ptr<LEDActuator>> ModelImpl::ledActuators(std::string const& group) const

@@ -8,24 +8,30 @@
 #include <boost/weak_ptr.hpp>
 
 #include "actuators/dcm_actuator_impl.hpp"
+#include "core/kind_of.hpp"
 
 namespace Sim {
 
-/// An actuator with a range of values that may have a mirror partner of its own kind (Handle is its public class).
-template <class Handle, Actuator::Type kind>
+/// An actuator with a range of values that may have a mirror partner of its own kind (Device is its public class).
+template <class Device>
 class MirroredActuatorImpl : public DCMActuatorImpl {
 public:
+    using Handle = Device;
+
     MirroredActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                          std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue)
-        : DCMActuatorImpl(frame, name, kind, dcmKeys), _startValue(startValue), _minValue(minValue), _maxValue(maxValue)
+        : DCMActuatorImpl(frame, name, kindOf<Device>().type, dcmKeys),
+          _startValue(startValue),
+          _minValue(minValue),
+          _maxValue(maxValue)
     {}
 
     float startValue() const { return _startValue; }
     float minValue() const { return _minValue; }
     float maxValue() const { return _maxValue; }
 
-    boost::shared_ptr<Handle const> reflectedSymmetric() const { return _reflectedSymmetric.lock(); }
-    void setReflectedSymmetric(boost::shared_ptr<Handle const> const& partner) { _reflectedSymmetric = partner; }
+    boost::shared_ptr<Device const> reflectedSymmetric() const { return _reflectedSymmetric.lock(); }
+    void setReflectedSymmetric(boost::shared_ptr<Device const> const& partner) { _reflectedSymmetric = partner; }
     bool reflectedSymmetricReversed() const { return _reflectedSymmetricReversed; }
     void setReflectedSymmetricReversed(bool reversed) { _reflectedSymmetricReversed = reversed; }
 
@@ -33,7 +39,7 @@ private:
     float _startValue;
     float _minValue;
     float _maxValue;
-    boost::weak_ptr<Handle const> _reflectedSymmetric;
+    boost::weak_ptr<Device const> _reflectedSymmetric;
     bool _reflectedSymmetricReversed = false;
 };
 

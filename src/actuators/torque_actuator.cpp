@@ -1,10 +1,13 @@
 #include "sim/torque_actuator.hpp"
 
 #include "actuators/actuator_handle.hpp"
-#include "actuators/torque_actuator_impl.hpp"
+#include "actuators/joint_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
+
+constexpr char torqueActuatorErrorMsg[] = "Could not query TorqueActuator as it seems not correctly constructed.";
 
 TorqueActuator::TorqueActuator(TorqueActuatorImpl* impl) : DCMActuator(impl) {}
 
@@ -51,6 +54,16 @@ TorqueActuator const* TorqueActuator::reflectedSymmetric() const
 bool TorqueActuator::reflectedSymmetricReversed() const
 {
     return implOf<TorqueActuatorImpl>(_impl, torqueActuatorErrorMsg).reflectedSymmetricReversed();
+}
+
+TorqueActuator const* Model::torqueActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<TorqueActuator>(name).get();
+}
+
+std::vector<TorqueActuator const*> Model::torqueActuators() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).actuators<TorqueActuator>());
 }
 
 }  // namespace Sim

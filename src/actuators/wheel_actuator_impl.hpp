@@ -8,17 +8,20 @@
 #include <boost/weak_ptr.hpp>
 
 #include "actuators/dcm_actuator_impl.hpp"
+#include "core/kind_of.hpp"
 #include "sim/joint.hpp"
 
 namespace Sim {
 
 /// An actuator that turns a wheel, up to a limit.
-template <Actuator::Type kind>
+template <class Device>
 class WheelActuatorImpl : public DCMActuatorImpl {
 public:
+    using Handle = Device;
+
     WheelActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                       std::vector<std::string> const& dcmKeys, float limit, boost::shared_ptr<Joint const> const& joint)
-        : DCMActuatorImpl(frame, name, kind, dcmKeys), _limit(limit), _controlledJoint(joint)
+        : DCMActuatorImpl(frame, name, kindOf<Device>().type, dcmKeys), _limit(limit), _controlledJoint(joint)
     {}
 
     boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }

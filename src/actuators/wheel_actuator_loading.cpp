@@ -34,14 +34,14 @@ boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePt
                                                                          Keys const& dcmKeys, float maxTorque,
                                                                          boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<WheelTorqueActuator, WheelTorqueActuatorImpl>(frame, name, dcmKeys, maxTorque, joint);
+    return addActuator<WheelTorqueActuatorImpl>(frame, name, dcmKeys, maxTorque, joint);
 }
 
 boost::shared_ptr<WheelVelocityActuator> ModelImpl::addWheelVelocityActuator(
     FramePtr const& frame, std::string const& name, Keys const& dcmKeys, float maxVelocity,
     boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<WheelVelocityActuator, WheelVelocityActuatorImpl>(frame, name, dcmKeys, maxVelocity, joint);
+    return addActuator<WheelVelocityActuatorImpl>(frame, name, dcmKeys, maxVelocity, joint);
 }
 
 }  // namespace Sim

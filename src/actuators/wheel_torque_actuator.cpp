@@ -3,6 +3,7 @@
 #include "actuators/actuator_handle.hpp"
 #include "actuators/wheel_torque_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
 
@@ -31,6 +32,16 @@ float WheelTorqueActuator::maxTorque() const
 Joint const* WheelTorqueActuator::controlledJoint() const
 {
     return implOf<WheelTorqueActuatorImpl>(_impl, wheelTorqueActuatorErrorMsg).controlledJoint().get();
+}
+
+WheelTorqueActuator const* Model::wheelTorqueActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<WheelTorqueActuator>(name).get();
+}
+
+std::vector<WheelTorqueActuator const*> Model::wheelTorqueActuators() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).actuators<WheelTorqueActuator>());
 }
 
 }  // namespace Sim

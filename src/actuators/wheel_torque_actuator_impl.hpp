@@ -9,7 +9,7 @@ namespace Sim {
 inline constexpr char wheelTorqueActuatorErrorMsg[] =
     "Could not query WheelTorqueActuator as it seems not correctly constructed.";
 
-class WheelTorqueActuatorImpl : public WheelActuatorImpl<Actuator::WheelTorque> {
+class WheelTorqueActuatorImpl : public WheelActuatorImpl<WheelTorqueActuator> {
 public:
     using WheelActuatorImpl::WheelActuatorImpl;
 

@@ -3,6 +3,7 @@
 #include "actuators/actuator_handle.hpp"
 #include "actuators/wheel_velocity_actuator_impl.hpp"
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 
 namespace Sim {
 
@@ -31,6 +32,16 @@ float WheelVelocityActuator::maxVelocity() const
 Joint const* WheelVelocityActuator::controlledJoint() const
 {
     return implOf<WheelVelocityActuatorImpl>(_impl, wheelVelocityActuatorErrorMsg).controlledJoint().get();
+}
+
+WheelVelocityActuator const* Model::wheelVelocityActuator(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).actuator<WheelVelocityActuator>(name).get();
+}
+
+std::vector<WheelVelocityActuator const*> Model::wheelVelocityActuators() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).actuators<WheelVelocityActuator>());
 }
 
 }  // namespace Sim

@@ -9,7 +9,7 @@ namespace Sim {
 inline constexpr char wheelVelocityActuatorErrorMsg[] =
     "Could not query WheelVelocityActuator as it seems not correctly constructed.";
 
-class WheelVelocityActuatorImpl : public WheelActuatorImpl<Actuator::WheelVelocity> {
+class WheelVelocityActuatorImpl : public WheelActuatorImpl<WheelVelocityActuator> {
 public:
     using WheelActuatorImpl::WheelActuatorImpl;
 

@@ -13,28 +13,18 @@
 #include "actuators/coupled_actuator_impl.hpp"
 #include "core/build_index.hpp"
 #include "core/build_report.hpp"
+#include "core/kind_of.hpp"
 #include "groups/actuator_group_impl.hpp"
 #include "groups/joint_group_impl.hpp"
 #include "groups/joint_symmetry_impl.hpp"
 #include "sensors/sonar_sensor_impl.hpp"
-#include "sim/angle_actuator.hpp"
-#include "sim/angle_speed_actuator.hpp"
-#include "sim/array_depth_sensor.hpp"
-#include "sim/camera_depth_sensor.hpp"
-#include "sim/camera_sensor.hpp"
-#include "sim/led_actuator.hpp"
-#include "sim/link.hpp"
-#include "sim/mass_data.hpp"
-#include "sim/microphone_sensor.hpp"
+#include "sim/model.hpp"
 #include "sim/motion_model.hpp"
-#include "sim/sonar_sensor.hpp"
-#include "sim/torque_actuator.hpp"
-#include "sim/visual_data.hpp"
-#include "sim/wheel_torque_actuator.hpp"
-#include "sim/wheel_velocity_actuator.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Sim {
+
+inline constexpr char modelErrorMsg[] = "Could not query Model as it seems not correctly constructed.";
 
 /// Builds the element graph of a robot, owns it, and finds elements in it.
 ///
@@ -205,7 +195,7 @@ private:
     void fetchCoupledActuator(std::string const& name);
     void fetchWheelActuator(std::string const& name);
     CoupledActuatorImpl::JointsAndRatios jointsAndRatiosOf(std::string const& actuator) const;
-    template <class T, class Impl>
+    template <class Impl>
     void pairActuatorsOfKind();
 
     // Groups
@@ -232,31 +222,32 @@ private:
         return handle;
     }
 
-    template <class Handle, class Impl, class... Arguments>
-    boost::shared_ptr<Handle> addSensor(Arguments&&... arguments)
+    template <class Impl, class... Arguments>
+    boost::shared_ptr<typename Impl::Handle> addSensor(Arguments&&... arguments)
     {
-        auto const sensor = makeElement<Handle, Impl>(std::forward<Arguments>(arguments)...);
+        auto const sensor = makeElement<typename Impl::Handle, Impl>(std::forward<Arguments>(arguments)...);
         _sensors.push_back(sensor);
         return sensor;
     }
 
-    template <class Handle, class Impl, class... Arguments>
-    boost::shared_ptr<Handle> addActuator(Arguments&&... arguments)
+    template <class Impl, class... Arguments>
+    boost::shared_ptr<typename Impl::Handle> addActuator(Arguments&&... arguments)
     {
         auto impl = std::make_unique<Impl>(std::forward<Arguments>(arguments)...);
-        auto const actuator = boost::make_shared<Handle>(impl.get());
+        auto const actuator = boost::make_shared<typename Impl::Handle>(impl.get());
         static_cast<void>(impl.release());  // the handle has it
         _actuators.push_back(actuator);
         return actuator;
     }
 
+    // The dynamic type decides what is of a kind. It is asked last: name and type settle most elements for less.
     template <class T, class Base>
     static boost::shared_ptr<T> firstOfKind(std::vector<boost::shared_ptr<Base>> const& elements,
                                             std::string const& name)
     {
         for (auto const& element : elements) {
-            if (auto const typed = boost::dynamic_pointer_cast<T>(element); typed && typed->name() == name) {
-                return typed;
+            if (T* const typed = element->name() == name ? dynamic_cast<T*>(element.get()) : nullptr) {
+                return boost::shared_ptr<T>(element, typed);
             }
         }
         return {};
@@ -267,8 +258,8 @@ private:
     {
         std::vector<boost::shared_ptr<T>> result;
         for (auto const& element : elements) {
-            if (auto const typed = boost::dynamic_pointer_cast<T>(element)) {
-                result.push_back(typed);
+            if (T* const typed = element->type() == kindOf<T>().type ? dynamic_cast<T*>(element.get()) : nullptr) {
+                result.emplace_back(element, typed);
             }
         }
         return result;

@@ -2,9 +2,8 @@
 #include <unordered_set>
 
 #include "actuators/angle_actuator_impl.hpp"
-#include "actuators/angle_speed_actuator_impl.hpp"
 #include "actuators/coupled_actuator_impl.hpp"
-#include "actuators/torque_actuator_impl.hpp"
+#include "actuators/joint_actuator_impl.hpp"
 #include "core/model_impl.hpp"
 
 namespace Sim {
@@ -34,17 +33,17 @@ void ModelImpl::pairJoints()
 
 void ModelImpl::pairActuators()
 {
-    pairActuatorsOfKind<AngleActuator, AngleActuatorImpl>();
-    pairActuatorsOfKind<AngleSpeedActuator, AngleSpeedActuatorImpl>();
-    pairActuatorsOfKind<CoupledActuator, CoupledActuatorImpl>();
-    pairActuatorsOfKind<TorqueActuator, TorqueActuatorImpl>();
+    pairActuatorsOfKind<AngleActuatorImpl>();
+    pairActuatorsOfKind<AngleSpeedActuatorImpl>();
+    pairActuatorsOfKind<CoupledActuatorImpl>();
+    pairActuatorsOfKind<TorqueActuatorImpl>();
 }
 
-template <class T, class Impl>
+template <class Impl>
 void ModelImpl::pairActuatorsOfKind()
 {
-    auto const ofKind = actuators<T>();
-    FirstByName<T> const byName(ofKind);
+    auto const ofKind = actuators<typename Impl::Handle>();
+    FirstByName<typename Impl::Handle> const byName(ofKind);
     for (auto const& actuator : ofKind) {
         std::string mirror;
         bool reversed = false;

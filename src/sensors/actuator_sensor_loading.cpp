@@ -1,13 +1,6 @@
 #include "actuators/actuator_impl.hpp"
 #include "core/model_impl.hpp"
-#include "sensors/angle_sensor_impl.hpp"
-#include "sensors/angle_speed_sensor_impl.hpp"
-#include "sensors/coupled_sensor_impl.hpp"
-#include "sensors/torque_sensor_impl.hpp"
-#include "sim/angle_sensor.hpp"
-#include "sim/angle_speed_sensor.hpp"
-#include "sim/coupled_sensor.hpp"
-#include "sim/torque_sensor.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 #include "varo/model/model_utils.hpp"
 
 // The sensors that nobody describes: those that come with an actuator, under its name and at its frame.
@@ -24,14 +17,14 @@ void ModelImpl::fetchAngleSensors()
         std::string const& name = actuator->name();
         FramePtr const frame = actuator->_impl->frame();
         if (actuator->type() == Actuator::Angle) {
-            addSensor<AngleSensor, AngleSensorImpl>(frame, name, getJointDCMKeys({name}, 1));
+            addSensor<AngleSensorImpl>(frame, name, getJointDCMKeys({name}, 1));
             if (withTorqueAndSpeed) {
-                addSensor<TorqueSensor, TorqueSensorImpl>(frame, name, getJointDCMKeys({name}, 32));
-                addSensor<AngleSpeedSensor, AngleSpeedSensorImpl>(frame, name, getJointDCMKeys({name}, 2));
+                addSensor<TorqueSensorImpl>(frame, name, getJointDCMKeys({name}, 32));
+                addSensor<AngleSpeedSensorImpl>(frame, name, getJointDCMKeys({name}, 2));
             }
         } else if (actuator->type() == Actuator::WheelTorque) {
-            addSensor<TorqueSensor, TorqueSensorImpl>(frame, name, getWheelDCMKeys({name}, 32));
-            addSensor<AngleSpeedSensor, AngleSpeedSensorImpl>(frame, name, getWheelDCMKeys({name}, 2));
+            addSensor<TorqueSensorImpl>(frame, name, getWheelDCMKeys({name}, 32));
+            addSensor<AngleSpeedSensorImpl>(frame, name, getWheelDCMKeys({name}, 2));
         }
     }
 }
@@ -41,7 +34,7 @@ void ModelImpl::fetchCoupledSensors()
     for (auto const& actuator : _actuators) {
         if (actuator->type() == Actuator::Coupled) {
             std::string const& name = actuator->name();
-            addSensor<CoupledSensor, CoupledSensorImpl>(actuator->_impl->frame(), name, getActuatorDCMKeys({name}, 1));
+            addSensor<CoupledSensorImpl>(actuator->_impl->frame(), name, getActuatorDCMKeys({name}, 1));
         }
     }
 }

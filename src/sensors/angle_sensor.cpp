@@ -1,9 +1,12 @@
 #include "sim/angle_sensor.hpp"
 
 #include "core/handle.hpp"
-#include "sensors/angle_sensor_impl.hpp"
+#include "core/model_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 
 namespace Sim {
+
+constexpr char angleSensorErrMsg[] = "Could not query AngleSensor as it seems not correctly constructed.";
 
 AngleSensor::AngleSensor() = default;
 
@@ -15,6 +18,16 @@ AngleSensor::~AngleSensor()
 int AngleSensor::bufferSize() const
 {
     return implOf<AngleSensorImpl>(_impl, angleSensorErrMsg).bufferSize();
+}
+
+AngleSensor const* Model::angleSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<AngleSensor>(name).get();
+}
+
+std::vector<AngleSensor const*> Model::angleSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<AngleSensor>());
 }
 
 }  // namespace Sim

@@ -1,6 +1,7 @@
 #include "sim/array_depth_sensor.hpp"
 
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 #include "sensors/array_depth_sensor_impl.hpp"
 
 namespace Sim {
@@ -25,6 +26,16 @@ int ArrayDepthSensor::width() const
 int ArrayDepthSensor::height() const
 {
     return implOf<ArrayDepthSensorImpl>(_impl, arrayDepthSensorErrMsg).height();
+}
+
+ArrayDepthSensor const* Model::arrayDepthSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<ArrayDepthSensor>(name).get();
+}
+
+std::vector<ArrayDepthSensor const*> Model::arrayDepthSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<ArrayDepthSensor>());
 }
 
 }  // namespace Sim

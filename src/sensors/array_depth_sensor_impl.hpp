@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "core/kind_of.hpp"
 #include "sensors/dcm_sensor_impl.hpp"
+#include "sim/array_depth_sensor.hpp"
 
 namespace Sim {
 
@@ -13,10 +15,12 @@ inline constexpr char arrayDepthSensorErrMsg[] =
 
 class ArrayDepthSensorImpl : public DCMSensorImpl {
 public:
+    using Handle = ArrayDepthSensor;
+
     ArrayDepthSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                          std::vector<std::string> const& dcmKeys, int width, int height,
                          std::vector<std::string> const& dcmStateKeys, std::vector<std::string> const& dcmCommandKeys)
-        : DCMSensorImpl(frame, name, Sensor::ArrayDepth, dcmKeys, dcmStateKeys, dcmCommandKeys),
+        : DCMSensorImpl(frame, name, kindOf<ArrayDepthSensor>().type, dcmKeys, dcmStateKeys, dcmCommandKeys),
           _width(width),
           _height(height)
     {}

@@ -1,9 +1,12 @@
 #include "sim/camera_sensor.hpp"
 
 #include "core/handle.hpp"
-#include "sensors/camera_sensor_impl.hpp"
+#include "core/model_impl.hpp"
+#include "sensors/picture_camera_impl.hpp"
 
 namespace Sim {
+
+constexpr char cameraSensorErrMsg[] = "Could not query CameraSensor as it seems not correctly constructed.";
 
 CameraSensor::CameraSensor() = default;
 
@@ -25,6 +28,16 @@ int CameraSensor::width() const
 int CameraSensor::height() const
 {
     return implOf<CameraSensorImpl>(_impl, cameraSensorErrMsg).height();
+}
+
+CameraSensor const* Model::cameraSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<CameraSensor>(name).get();
+}
+
+std::vector<CameraSensor const*> Model::cameraSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<CameraSensor>());
 }
 
 }  // namespace Sim

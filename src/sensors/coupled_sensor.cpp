@@ -1,9 +1,12 @@
 #include "sim/coupled_sensor.hpp"
 
 #include "core/handle.hpp"
-#include "sensors/coupled_sensor_impl.hpp"
+#include "core/model_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 
 namespace Sim {
+
+constexpr char coupledSensorErrMsg[] = "Could not query CoupledSensor as it seems not correctly constructed.";
 
 CoupledSensor::CoupledSensor() = default;
 
@@ -15,6 +18,16 @@ CoupledSensor::~CoupledSensor()
 int CoupledSensor::bufferSize() const
 {
     return implOf<CoupledSensorImpl>(_impl, coupledSensorErrMsg).bufferSize();
+}
+
+CoupledSensor const* Model::coupledSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<CoupledSensor>(name).get();
+}
+
+std::vector<CoupledSensor const*> Model::coupledSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<CoupledSensor>());
 }
 
 }  // namespace Sim

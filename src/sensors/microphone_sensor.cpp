@@ -1,6 +1,7 @@
 #include "sim/microphone_sensor.hpp"
 
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 #include "sensors/microphone_sensor_impl.hpp"
 
 namespace Sim {
@@ -15,6 +16,16 @@ MicrophoneSensor::~MicrophoneSensor()
 int MicrophoneSensor::bufferSize() const
 {
     return implOf<MicrophoneSensorImpl>(_impl, microphoneSensorErrMsg).bufferSize();
+}
+
+MicrophoneSensor const* Model::microphoneSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<MicrophoneSensor>(name).get();
+}
+
+std::vector<MicrophoneSensor const*> Model::microphoneSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<MicrophoneSensor>());
 }
 
 }  // namespace Sim

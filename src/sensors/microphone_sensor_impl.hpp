@@ -3,7 +3,9 @@
 
 #include <string>
 
+#include "core/kind_of.hpp"
 #include "sensors/sensor_impl.hpp"
+#include "sim/microphone_sensor.hpp"
 
 namespace Sim {
 
@@ -12,8 +14,10 @@ inline constexpr char microphoneSensorErrMsg[] =
 
 class MicrophoneSensorImpl : public SensorImpl {
 public:
+    using Handle = MicrophoneSensor;
+
     MicrophoneSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name)
-        : SensorImpl(frame, name, Sensor::Microphone)
+        : SensorImpl(frame, name, kindOf<MicrophoneSensor>().type)
     {}
 
     int bufferSize() const { return 4; }

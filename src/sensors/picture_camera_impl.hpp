@@ -3,16 +3,19 @@
 
 #include <string>
 
+#include "core/kind_of.hpp"
 #include "sensors/base_camera_impl.hpp"
 
 namespace Sim {
 
 /// A camera whose pictures are width by height pixels of so many bytes each.
-template <Sensor::Type kind, unsigned bytesPerPixel>
+template <class Device, unsigned bytesPerPixel>
 class PictureCameraImpl : public BaseCameraImpl {
 public:
+    using Handle = Device;
+
     PictureCameraImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, int width, int height)
-        : BaseCameraImpl(frame, name, kind), _width(width), _height(height)
+        : BaseCameraImpl(frame, name, kindOf<Device>().type), _width(width), _height(height)
     {}
 
     int width() const { return _width; }
@@ -28,6 +31,10 @@ private:
     int _width;
     int _height;
 };
+
+// Three single-precision values a pixel, and one.
+using CameraSensorImpl = PictureCameraImpl<CameraSensor, 12>;
+using CameraDepthSensorImpl = PictureCameraImpl<CameraDepthSensor, 4>;
 
 }  // namespace Sim
 

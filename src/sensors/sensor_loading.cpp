@@ -4,17 +4,9 @@
 #include "core/link_impl.hpp"
 #include "core/model_impl.hpp"
 #include "sensors/array_depth_sensor_impl.hpp"
-#include "sensors/bumper_sensor_impl.hpp"
-#include "sensors/camera_depth_sensor_impl.hpp"
-#include "sensors/camera_sensor_impl.hpp"
-#include "sensors/fsr_sensor_impl.hpp"
-#include "sensors/inertial_sensor_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 #include "sensors/microphone_sensor_impl.hpp"
-#include "sensors/tactile_sensor_impl.hpp"
-#include "sim/bumper_sensor.hpp"
-#include "sim/fsr_sensor.hpp"
-#include "sim/inertial_sensor.hpp"
-#include "sim/tactile_sensor.hpp"
+#include "sensors/picture_camera_impl.hpp"
 #include "zu/log.hpp"
 
 namespace Sim {
@@ -95,7 +87,7 @@ void ModelImpl::addDevice(std::string const& name, FramePtr const& frame, Keys c
 {
     switch (_motionModel->sensorType(name)) {
     case Varo::Model::led: fetchLED(name, frame, keys); break;
-    case Varo::Model::tactile: addSensor<TactileSensor, TactileSensorImpl>(frame, name, keys); break;
+    case Varo::Model::tactile: addSensor<TactileSensorImpl>(frame, name, keys); break;
     case Varo::Model::camera: {
         auto const [width, height] = requiredResolutionOf(name);
         addCameraSensor(frame, name, width, height);
@@ -106,12 +98,12 @@ void ModelImpl::addDevice(std::string const& name, FramePtr const& frame, Keys c
         addCameraDepthSensor(frame, name, width, height);
         break;
     }
-    case Varo::Model::bumper: addSensor<BumperSensor, BumperSensorImpl>(frame, name, keys); break;
+    case Varo::Model::bumper: addSensor<BumperSensorImpl>(frame, name, keys); break;
     case Varo::Model::microphone: addMicrophoneSensor(frame, name); break;
     case Varo::Model::arrayDepth: fetchArrayDepthSensor(name, frame, keys); break;
     case Varo::Model::sonar: fetchSonarSensor(name, frame, keys); break;
-    case Varo::Model::fsr: addSensor<FSRSensor, FSRSensorImpl>(frame, name, keys); break;
-    case Varo::Model::inertial: addSensor<InertialSensor, InertialSensorImpl>(frame, name + "/Gyrometer", keys); break;
+    case Varo::Model::fsr: addSensor<FSRSensorImpl>(frame, name, keys); break;
+    case Varo::Model::inertial: addSensor<InertialSensorImpl>(frame, name + "/Gyrometer", keys); break;
     case Varo::Model::unknownSensor:
     case Varo::Model::battery:
     case Varo::Model::temperature:
@@ -167,32 +159,31 @@ void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr const& frame,
 boost::shared_ptr<CameraSensor> ModelImpl::addCameraSensor(FramePtr const& frame, std::string const& name, int width,
                                                            int height)
 {
-    return addSensor<CameraSensor, CameraSensorImpl>(frame, name, width, height);
+    return addSensor<CameraSensorImpl>(frame, name, width, height);
 }
 
 boost::shared_ptr<CameraDepthSensor> ModelImpl::addCameraDepthSensor(FramePtr const& frame, std::string const& name,
                                                                      int width, int height)
 {
-    return addSensor<CameraDepthSensor, CameraDepthSensorImpl>(frame, name, width, height);
+    return addSensor<CameraDepthSensorImpl>(frame, name, width, height);
 }
 
 boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr const& frame, std::string const& name)
 {
-    return addSensor<MicrophoneSensor, MicrophoneSensorImpl>(frame, name);
+    return addSensor<MicrophoneSensorImpl>(frame, name);
 }
 
 boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, std::string const& name,
                                                          Keys const& dcmKeys, SonarSensorImpl::SonarType sonarType)
 {
-    return addSensor<SonarSensor, SonarSensorImpl>(frame, name, dcmKeys, sonarType);
+    return addSensor<SonarSensorImpl>(frame, name, dcmKeys, sonarType);
 }
 
 boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr const& frame, std::string const& name,
                                                                    Keys const& dcmKeys, int width, int height,
                                                                    Keys const& dcmStateKeys, Keys const& dcmCommandKeys)
 {
-    return addSensor<ArrayDepthSensor, ArrayDepthSensorImpl>(frame, name, dcmKeys, width, height, dcmStateKeys,
-                                                             dcmCommandKeys);
+    return addSensor<ArrayDepthSensorImpl>(frame, name, dcmKeys, width, height, dcmStateKeys, dcmCommandKeys);
 }
 
 }  // namespace Sim

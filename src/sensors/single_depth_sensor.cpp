@@ -1,9 +1,12 @@
 #include "sim/single_depth_sensor.hpp"
 
 #include "core/handle.hpp"
-#include "sensors/single_depth_sensor_impl.hpp"
+#include "core/model_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 
 namespace Sim {
+
+constexpr char singleDepthSensorErrMsg[] = "Could not query SingleDepthSensor as it seems not correctly constructed.";
 
 SingleDepthSensor::SingleDepthSensor() = default;
 
@@ -15,6 +18,16 @@ SingleDepthSensor::~SingleDepthSensor()
 int SingleDepthSensor::bufferSize() const
 {
     return implOf<SingleDepthSensorImpl>(_impl, singleDepthSensorErrMsg).bufferSize();
+}
+
+SingleDepthSensor const* Model::singleDepthSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<SingleDepthSensor>(name).get();
+}
+
+std::vector<SingleDepthSensor const*> Model::singleDepthSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<SingleDepthSensor>());
 }
 
 }  // namespace Sim

@@ -1,6 +1,7 @@
 #include "sim/sonar_sensor.hpp"
 
 #include "core/handle.hpp"
+#include "core/model_impl.hpp"
 #include "sensors/sonar_sensor_impl.hpp"
 
 namespace Sim {
@@ -15,6 +16,16 @@ SonarSensor::~SonarSensor()
 int SonarSensor::bufferSize() const
 {
     return implOf<SonarSensorImpl>(_impl, sonarSensorErrMsg).bufferSize();
+}
+
+SonarSensor const* Model::sonarSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<SonarSensor>(name).get();
+}
+
+std::vector<SonarSensor const*> Model::sonarSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<SonarSensor>());
 }
 
 }  // namespace Sim

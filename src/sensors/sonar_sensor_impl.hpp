@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "core/kind_of.hpp"
 #include "sensors/dcm_sensor_impl.hpp"
+#include "sim/sonar_sensor.hpp"
 
 namespace Sim {
 
@@ -12,6 +14,8 @@ inline constexpr char sonarSensorErrMsg[] = "Could not query SonarSensor as it s
 
 class SonarSensorImpl : public DCMSensorImpl {
 public:
+    using Handle = SonarSensor;
+
     enum SonarType {
         SingleValue = 0,
         TenValues = 1,
@@ -19,7 +23,7 @@ public:
 
     SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
                     std::vector<std::string> const& dcmKeys, SonarType sonarType)
-        : DCMSensorImpl(frame, name, Sensor::Sonar, dcmKeys, {}, {}), _sonarType(sonarType)
+        : DCMSensorImpl(frame, name, kindOf<SonarSensor>().type, dcmKeys, {}, {}), _sonarType(sonarType)
     {}
 
     int bufferSize() const { return _sonarType == TenValues ? 40 : 4; }

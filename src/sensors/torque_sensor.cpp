@@ -1,9 +1,12 @@
 #include "sim/torque_sensor.hpp"
 
 #include "core/handle.hpp"
-#include "sensors/torque_sensor_impl.hpp"
+#include "core/model_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 
 namespace Sim {
+
+constexpr char torqueSensorErrMsg[] = "Could not query TorqueSensor as it seems not correctly constructed.";
 
 TorqueSensor::TorqueSensor() = default;
 
@@ -15,6 +18,16 @@ TorqueSensor::~TorqueSensor()
 int TorqueSensor::bufferSize() const
 {
     return implOf<TorqueSensorImpl>(_impl, torqueSensorErrMsg).bufferSize();
+}
+
+TorqueSensor const* Model::torqueSensor(std::string const& name) const
+{
+    return implOf(_impl, modelErrorMsg).sensor<TorqueSensor>(name).get();
+}
+
+std::vector<TorqueSensor const*> Model::torqueSensors() const
+{
+    return rawPointers(implOf(_impl, modelErrorMsg).sensors<TorqueSensor>());
 }
 
 }  // namespace Sim

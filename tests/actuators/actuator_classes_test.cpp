@@ -4,10 +4,9 @@
 #include <gmock/gmock.h>
 
 #include "actuators/angle_actuator_impl.hpp"
-#include "actuators/angle_speed_actuator_impl.hpp"
 #include "actuators/coupled_actuator_impl.hpp"
+#include "actuators/joint_actuator_impl.hpp"
 #include "actuators/led_actuator_impl.hpp"
-#include "actuators/torque_actuator_impl.hpp"
 #include "actuators/wheel_torque_actuator_impl.hpp"
 #include "actuators/wheel_velocity_actuator_impl.hpp"
 

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "descriptions.hpp"
-#include "elements.hpp"
 #include "sim/friction.hpp"
 #include "throws.hpp"
 
@@ -11,6 +10,8 @@ namespace {
 
 using namespace Tests;
 using Sim::Model;
+using testing::ElementsAre;
+using testing::Pair;
 
 /// Of every kind that loading makes, one or more; all kinds on the joint "J" bear its name.
 std::string const everything = robot(
@@ -97,6 +98,21 @@ TEST(Model, FindsElementsOfEveryKindByName)
     expectKind(model, 1, &Model::inertialSensor, &Model::inertialSensors);
     EXPECT_EQ(model.sensor("J")->type(), Sim::Sensor::Angle) << "the first of that name, whatever its kind";
     EXPECT_EQ(model.actuator("J")->type(), Sim::Actuator::Angle);
+}
+
+TEST(Model, GivesEveryKindOfDeviceTheNumberThatConsumersCountOn)
+{
+    std::map<int, std::string> sensors;
+    std::apply([&](auto const&... kind) { (sensors.emplace(kind.type, kind.name), ...); }, Sim::sensorKinds);
+    EXPECT_THAT(sensors,
+                ElementsAre(Pair(0, "Angle"), Pair(1, "Coupled"), Pair(2, "Sonar"), Pair(3, "Camera"), Pair(4, "FSR"),
+                            Pair(5, "Inertial"), Pair(6, "Bumper"), Pair(7, "Torque"), Pair(8, "AngleSpeed"),
+                            Pair(9, "WheelVelocity"), Pair(10, "Tactile"), Pair(12, "SingleDepth"),
+                            Pair(13, "ArrayDepth"), Pair(14, "CameraDepth"), Pair(15, "Microphone")));
+    std::map<int, std::string> actuators;
+    std::apply([&](auto const&... kind) { (actuators.emplace(kind.type, kind.name), ...); }, Sim::actuatorKinds);
+    EXPECT_THAT(actuators, ElementsAre(Pair(0, "Angle"), Pair(1, "Coupled"), Pair(2, "Torque"), Pair(3, "AngleSpeed"),
+                                       Pair(4, "WheelTorque"), Pair(5, "WheelVelocity"), Pair(6, "LED")));
 }
 
 TEST(Model, AnswersUnknownNamesWithNullOrNothing)

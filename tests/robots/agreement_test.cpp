@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "descriptions.hpp"
-#include "elements.hpp"
 #include "example_robots.hpp"
+#include "sim/model.hpp"
 #include "sim/motion_model.hpp"
 #include "varo/model/model_utils.hpp"
 

@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "elements.hpp"
 #include "example_robots.hpp"
+#include "sim/model.hpp"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

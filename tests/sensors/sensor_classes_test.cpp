@@ -4,10 +4,8 @@
 #include "core/model_impl.hpp"
 #include "descriptions.hpp"
 #include "sensors/array_depth_sensor_impl.hpp"
-#include "sensors/camera_depth_sensor_impl.hpp"
-#include "sensors/camera_sensor_impl.hpp"
-#include "sensors/single_depth_sensor_impl.hpp"
-#include "sensors/wheel_velocity_sensor_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
+#include "sensors/picture_camera_impl.hpp"
 
 namespace {
 

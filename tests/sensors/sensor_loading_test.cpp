@@ -3,11 +3,7 @@
 #include "captured_log.hpp"
 #include "core/model_impl.hpp"
 #include "descriptions.hpp"
-#include "sim/angle_speed_sensor.hpp"
-#include "sim/array_depth_sensor.hpp"
-#include "sim/inertial_sensor.hpp"
 #include "sim/model.hpp"
-#include "sim/torque_sensor.hpp"
 #include "throws.hpp"
 
 namespace {

@@ -66,15 +66,15 @@ std::string linkCount(Sim::Model const& model)
 template <class Device, class Kinds>
 std::string countByKind(std::vector<Device const*> const& devices, Kinds const& kinds)
 {
+    std::map<typename Device::Type, std::size_t> counts;
+    for (Device const* device : devices) {
+        ++counts[device->type()];
+    }
     std::string text = std::to_string(devices.size());
     char const* separator = ": ";
-    for (DeviceKind const& kind : kinds) {
-        auto const count = std::count_if(devices.begin(), devices.end(),
-                                         [&](Device const* device) { return device->type() == kind.type; });
-        if (count > 0) {
-            text += separator + std::to_string(count) + " " + kind.name;
-            separator = ", ";
-        }
+    for (auto const& [type, count] : counts) {
+        text += separator + std::to_string(count) + " " + nameOfType(kinds, type);
+        separator = ", ";
     }
     return text;
 }
@@ -155,8 +155,8 @@ int info(std::string const& file)
     sheet.add("links", linkCount(model));
     sheet.add("joints", std::to_string(model.joints().size()));
     sheet.add("total mass", rounded(totalMass(model)) + " kg");
-    sheet.add("actuators", countByKind(model.actuators(), actuatorKinds));
-    sheet.add("sensors", countByKind(model.sensors(), sensorKinds));
+    sheet.add("actuators", countByKind(model.actuators(), Sim::actuatorKinds));
+    sheet.add("sensors", countByKind(model.sensors(), Sim::sensorKinds));
     sheet.add("symmetries", std::to_string(model.jointSymmetries().size()));
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
     sheet.add("chains", chains(records));

@@ -1,15 +1,6 @@
-#include "sim/angle_actuator.hpp"
-#include "sim/angle_speed_actuator.hpp"
-#include "sim/array_depth_sensor.hpp"
-#include "sim/camera_depth_sensor.hpp"
-#include "sim/camera_sensor.hpp"
-#include "sim/coupled_actuator.hpp"
-#include "sim/frame.hpp"
-#include "sim/joint.hpp"
-#include "sim/led_actuator.hpp"
-#include "sim/torque_actuator.hpp"
-#include "sim/wheel_torque_actuator.hpp"
-#include "sim/wheel_velocity_actuator.hpp"
+#include <type_traits>
+
+#include "sim/model.hpp"
 #include "support/device_kinds.hpp"
 #include "support/element_json.hpp"
 #include "support/json_parts.hpp"
@@ -18,18 +9,30 @@ namespace Tool {
 
 namespace {
 
-Json ratiosOf(Sim::CoupledActuator const& actuator)
+template <class Value>
+Json jsonOf(Value const& value)
+{
+    return value;
+}
+
+template <class Element>
+Json jsonOf(Element const* element)
+{
+    return nameOrNull(element);
+}
+
+Json jsonOf(std::vector<std::pair<Sim::Joint const*, float>> const& jointsAndRatios)
 {
     Json ratios = Json::array();
-    for (auto const& [joint, ratio] : actuator.controlledJointAndRatios()) {
+    for (auto const& [joint, ratio] : jointsAndRatios) {
         ratios.push_back(Json::array({nameOrNull(joint), ratio}));
     }
     return ratios;
 }
 
-char const* colorOf(Sim::LEDActuator const& led)
+Json jsonOf(Sim::LEDActuator::Color color)
 {
-    switch (led.color()) {
+    switch (color) {
     case Sim::LEDActuator::Red: return "Red";
     case Sim::LEDActuator::Green: return "Green";
     case Sim::LEDActuator::Blue: break;
@@ -37,138 +40,67 @@ char const* colorOf(Sim::LEDActuator const& led)
     return "Blue";
 }
 
-template <class Motor>
-void addRange(Json& json, Motor const& motor)
+/// Adds, under its name, what each getter answers that the device has and others lack.
+template <class Device>
+void addOwn(Json& json, Device const& device)
 {
-    json["startValue"] = motor.startValue();
-    json["minValue"] = motor.minValue();
-    json["maxValue"] = motor.maxValue();
-}
-
-template <class Motor>
-void addMirror(Json& json, Motor const& motor)
-{
-    json["reflectedSymmetric"] = nameOrNull(motor.reflectedSymmetric());
-    json["reflectedSymmetricReversed"] = motor.reflectedSymmetricReversed();
-}
-
-// What is peculiar to each kind of actuator.
-
-void addOwn(Json& json, Sim::AngleActuator const& motor)
-{
-    addRange(json, motor);
-    json["maxSpeed"] = motor.maxSpeed();
-    json["controlledJoint"] = nameOrNull(motor.controlledJoint());
-    addMirror(json, motor);
-    json["reflectionForced"] = motor.reflectionForced();
-}
-
-void addOwn(Json& json, Sim::CoupledActuator const& motor)
-{
-    addRange(json, motor);
-    json["maxSpeed"] = motor.maxSpeed();
-    addMirror(json, motor);
-    json["reflectionForced"] = motor.reflectionForced();
-    json["controlledJointAndRatios"] = ratiosOf(motor);
-}
-
-template <class Motor>
-void addJointMotor(Json& json, Motor const& motor)
-{
-    addRange(json, motor);
-    json["controlledJoint"] = nameOrNull(motor.controlledJoint());
-    addMirror(json, motor);
-}
-
-void addOwn(Json& json, Sim::TorqueActuator const& motor)
-{
-    addJointMotor(json, motor);
-}
-
-void addOwn(Json& json, Sim::AngleSpeedActuator const& motor)
-{
-    addJointMotor(json, motor);
-}
-
-void addOwn(Json& json, Sim::WheelTorqueActuator const& motor)
-{
-    json["maxTorque"] = motor.maxTorque();
-    json["controlledJoint"] = nameOrNull(motor.controlledJoint());
-}
-
-void addOwn(Json& json, Sim::WheelVelocityActuator const& motor)
-{
-    json["maxVelocity"] = motor.maxVelocity();
-    json["controlledJoint"] = nameOrNull(motor.controlledJoint());
-}
-
-void addOwn(Json& json, Sim::LEDActuator const& led)
-{
-    json["shortname"] = led.shortname();
-    json["groups"] = led.groups();
-    json["color"] = colorOf(led);
-}
-
-/// Adds what is peculiar to the first of the `Kinds` that the actuator is of.
-template <class... Kinds>
-void addOwnAsOneOf(Json& json, Sim::Actuator const& actuator)
-{
-    auto const tryKind = [&](auto const* concrete) {
-        if (concrete != nullptr) {
-            addOwn(json, *concrete);
+    auto const add = [&](char const* name, auto const& get) {
+        if constexpr (std::is_invocable_v<decltype(get), Device const&>) {
+            json[name] = jsonOf(get(device));
         }
-        return concrete != nullptr;
     };
-    (tryKind(dynamic_cast<Kinds const*>(&actuator)) || ...);
-}
-
-template <class Pictured>
-bool addSize(Json& json, Sim::Sensor const& sensor)
-{
-    auto const* const pictured = dynamic_cast<Pictured const*>(&sensor);
-    if (pictured != nullptr) {
-        json["width"] = pictured->width();
-        json["height"] = pictured->height();
-    }
-    return pictured != nullptr;
+    add("dcmKeys", [](auto& of) -> decltype(of.dcmKeys()) { return of.dcmKeys(); });
+    add("dcmStateKeys", [](auto& of) -> decltype(of.dcmStateKeys()) { return of.dcmStateKeys(); });
+    add("dcmCommandKeys", [](auto& of) -> decltype(of.dcmCommandKeys()) { return of.dcmCommandKeys(); });
+    add("startValue", [](auto& of) -> decltype(of.startValue()) { return of.startValue(); });
+    add("minValue", [](auto& of) -> decltype(of.minValue()) { return of.minValue(); });
+    add("maxValue", [](auto& of) -> decltype(of.maxValue()) { return of.maxValue(); });
+    add("maxSpeed", [](auto& of) -> decltype(of.maxSpeed()) { return of.maxSpeed(); });
+    add("maxTorque", [](auto& of) -> decltype(of.maxTorque()) { return of.maxTorque(); });
+    add("maxVelocity", [](auto& of) -> decltype(of.maxVelocity()) { return of.maxVelocity(); });
+    add("controlledJoint", [](auto& of) -> decltype(of.controlledJoint()) { return of.controlledJoint(); });
+    add("reflectedSymmetric", [](auto& of) -> decltype(of.reflectedSymmetric()) { return of.reflectedSymmetric(); });
+    add("reflectedSymmetricReversed",
+        [](auto& of) -> decltype(of.reflectedSymmetricReversed()) { return of.reflectedSymmetricReversed(); });
+    add("reflectionForced", [](auto& of) -> decltype(of.reflectionForced()) { return of.reflectionForced(); });
+    add("controlledJointAndRatios",
+        [](auto& of) -> decltype(of.controlledJointAndRatios()) { return of.controlledJointAndRatios(); });
+    add("shortname", [](auto& of) -> decltype(of.shortname()) { return of.shortname(); });
+    add("groups", [](auto& of) -> decltype(of.groups()) { return of.groups(); });
+    add("color", [](auto& of) -> decltype(of.color()) { return of.color(); });
+    add("width", [](auto& of) -> decltype(of.width()) { return of.width(); });
+    add("height", [](auto& of) -> decltype(of.height()) { return of.height(); });
 }
 
 }  // namespace
 
-template <class Device>
-Json ElementJson::deviceJson(Device const& device)
+template <class Device, class Kinds>
+Json ElementJson::deviceJson(Device const& device, Kinds const& kinds)
 {
-    return {
+    Json json = {
         {"name", device.name()},
         {"type", typeName(device)},
         {"frame", nameOrNull(device.frame())},
         {"globalPosition", globalPosition(device.frame())},
         {"bufferSize", device.bufferSize()},
     };
+    forEachKind(kinds, [&](auto const& kind) {
+        using Class = typename std::decay_t<decltype(kind)>::Class;
+        if (kind.type == device.type()) {
+            addOwn(json, static_cast<Class const&>(device));
+        }
+    });
+    return json;
 }
 
 Json ElementJson::of(Sim::Actuator const& actuator)
 {
-    Json json = deviceJson(actuator);
-    if (auto const* const keyed = dynamic_cast<Sim::DCMActuator const*>(&actuator)) {
-        json["dcmKeys"] = keyed->dcmKeys();
-    }
-    addOwnAsOneOf<Sim::AngleActuator, Sim::CoupledActuator, Sim::TorqueActuator, Sim::AngleSpeedActuator,
-                  Sim::WheelTorqueActuator, Sim::WheelVelocityActuator, Sim::LEDActuator>(json, actuator);
-    return json;
+    return deviceJson(actuator, Sim::actuatorKinds);
 }
 
 Json ElementJson::of(Sim::Sensor const& sensor)
 {
-    Json json = deviceJson(sensor);
-    if (auto const* const keyed = dynamic_cast<Sim::DCMSensor const*>(&sensor)) {
-        json["dcmKeys"] = keyed->dcmKeys();
-        json["dcmStateKeys"] = keyed->dcmStateKeys();
-        json["dcmCommandKeys"] = keyed->dcmCommandKeys();
-    }
-    addSize<Sim::CameraSensor>(json, sensor) || addSize<Sim::CameraDepthSensor>(json, sensor) ||
-        addSize<Sim::ArrayDepthSensor>(json, sensor);
-    return json;
+    return deviceJson(sensor, Sim::sensorKinds);
 }
 
 }  // namespace Tool

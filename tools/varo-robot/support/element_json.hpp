@@ -29,9 +29,8 @@ public:
     Json of(Sim::Sensor const& sensor);
 
 private:
-    /// What actuators and sensors have in common.
-    template <class Device>
-    Json deviceJson(Device const& device);
+    template <class Device, class Kinds>
+    Json deviceJson(Device const& device, Kinds const& kinds);
     Json globalPosition(Sim::Frame const* frame);
 
     GlobalPoses _poses;

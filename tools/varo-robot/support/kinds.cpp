@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <type_traits>
 
-#include "sim/actuator.hpp"
-#include "sim/link.hpp"
-#include "sim/sensor.hpp"
+#include "support/device_kinds.hpp"
 #include "support/element_json.hpp"
 
 namespace Tool {
@@ -30,14 +29,22 @@ std::vector<Json> all(Sim::Model const& model)
     return dataOf((model.*list)());
 }
 
-/// Those elements of a list whose type is the given one.
-template <auto list, auto type>
-std::vector<Json> ofType(Sim::Model const& model)
+/// Those elements of a list that are of the class.
+template <auto list, class Class>
+std::vector<Json> ofClass(Sim::Model const& model)
 {
     auto elements = (model.*list)();
-    auto const isOther = [](auto const* element) { return element->type() != type; };
+    auto const isOther = [](auto const* element) { return dynamic_cast<Class const*>(element) == nullptr; };
     elements.erase(std::remove_if(elements.begin(), elements.end(), isOther), elements.end());
     return dataOf(elements);
+}
+
+std::vector<Json> wheels(Sim::Model const& model)
+{
+    std::vector<Sim::Link const*> links = model.links();
+    auto const isOther = [](Sim::Link const* link) { return link->type() != Sim::Link::Wheel; };
+    links.erase(std::remove_if(links.begin(), links.end(), isOther), links.end());
+    return dataOf(links);
 }
 
 std::vector<Json> groups(Sim::Model const& model)
@@ -49,77 +56,83 @@ std::vector<Json> groups(Sim::Model const& model)
     return data;
 }
 
-}  // namespace
+using Columns = std::vector<Column>;
 
-std::vector<Kind> const& kinds()
+namespace columns {
+constexpr Column name = {"NAME", "/name"};
+constexpr Column type = {"TYPE", "/type"};
+constexpr Column position = {"POSITION", "/globalPosition"};
+constexpr Column bytes = {"BYTES", "/bufferSize"};
+constexpr Column keys = {"KEYS", "/dcmKeys"};
+constexpr Column joint = {"JOINT", "/controlledJoint"};
+constexpr Column minimum = {"MIN", "/minValue"};
+constexpr Column maximum = {"MAX", "/maxValue"};
+}  // namespace columns
+
+template <class Class, class... Others>
+constexpr bool isOneOf = (std::is_same_v<Class, Others> || ...);
+
+/// What to show of the devices of a class.
+template <class Class>
+Columns columnsOf()
 {
-    using Sim::Actuator;
-    using Sim::Model;
-    using Sim::Sensor;
-
-    using Columns = std::vector<Column>;
-    Column const name = {"NAME", "/name"};
-    Column const type = {"TYPE", "/type"};
-    Column const position = {"POSITION", "/globalPosition"};
-    Column const keys = {"KEYS", "/dcmKeys"};
-    Columns const links = {name, type, {"JOINT", "/parentJoint"}, {"MASS", "/mass/mass"}, position};
-    Columns const motors = {name,
-                            {"JOINT", "/controlledJoint"},
-                            {"MIN", "/minValue"},
-                            {"MAX", "/maxValue"},
-                            {"MIRROR", "/reflectedSymmetric"},
-                            keys};
-    Columns const wheelMotors = {
-        name, {"JOINT", "/controlledJoint"}, {"TORQUE", "/maxTorque"}, {"VELOCITY", "/maxVelocity"}, keys};
-    Columns const leds = {name, {"COLOR", "/color"}, {"GROUPS", "/groups"}, {"SHORT", "/shortname"}, position, keys};
-    Columns const sensors = {name, type, position, {"BYTES", "/bufferSize"}, keys};
-    Columns const pictured = {name, {"WIDTH", "/width"}, {"HEIGHT", "/height"}, position, {"BYTES", "/bufferSize"}};
-
-    static std::vector<Kind> const table = {
-        {"link", "links", links, all<&Model::links>},
-        {"wheel", "wheels", links, ofType<&Model::links, Sim::Link::Wheel>},
-        {"joint", "joints", {name, {"FROM", "/parentLink"}, {"TO", "/childLink"}, position}, all<&Model::joints>},
-        {"symmetry", "symmetries", {{"JOINTS", "/joints"}, type}, all<&Model::jointSymmetries>},
-        {"group", "groups", {name, {"JOINTS", "/joints"}, {"ACTUATORS", "/actuators"}}, groups},
-        {"joint-group", "joint-groups", {name, {"JOINTS", "/joints"}}, all<&Model::jointGroups>},
-        {"actuator-group",
-         "actuator-groups",
-         {name, {"PARENT", "/parent"}, {"ACTUATORS", "/actuators"}},
-         all<&Model::actuatorGroups>},
-        {"actuator", "actuators", {name, type, position, keys}, all<&Model::actuators>},
-        {"angle-actuator", "angle-actuators", motors, ofType<&Model::actuators, Actuator::Angle>},
-        {"angle-speed-actuator", "angle-speed-actuators", motors, ofType<&Model::actuators, Actuator::AngleSpeed>},
-        {"torque-actuator", "torque-actuators", motors, ofType<&Model::actuators, Actuator::Torque>},
-        {"coupled-actuator",
-         "coupled-actuators",
-         {name, {"MIN", "/minValue"}, {"MAX", "/maxValue"}, {"JOINTS AND RATIOS", "/controlledJointAndRatios"}},
-         ofType<&Model::actuators, Actuator::Coupled>},
-        {"wheel-velocity-actuator", "wheel-velocity-actuators", wheelMotors,
-         ofType<&Model::actuators, Actuator::WheelVelocity>},
-        {"wheel-torque-actuator", "wheel-torque-actuators", wheelMotors,
-         ofType<&Model::actuators, Actuator::WheelTorque>},
-        {"led", "leds", leds, ofType<&Model::actuators, Actuator::LED>},
-        {"sensor", "sensors", sensors, all<&Model::sensors>},
-        {"angle-sensor", "angle-sensors", sensors, ofType<&Model::sensors, Sensor::Angle>},
-        {"angle-speed-sensor", "angle-speed-sensors", sensors, ofType<&Model::sensors, Sensor::AngleSpeed>},
-        {"torque-sensor", "torque-sensors", sensors, ofType<&Model::sensors, Sensor::Torque>},
-        {"coupled-sensor", "coupled-sensors", sensors, ofType<&Model::sensors, Sensor::Coupled>},
-        {"wheel-velocity-sensor", "wheel-velocity-sensors", sensors, ofType<&Model::sensors, Sensor::WheelVelocity>},
-        {"camera", "cameras", pictured, ofType<&Model::sensors, Sensor::Camera>},
-        {"depth-camera", "depth-cameras", pictured, ofType<&Model::sensors, Sensor::CameraDepth>},
-        {"array-depth-sensor", "array-depth-sensors", pictured, ofType<&Model::sensors, Sensor::ArrayDepth>},
-        {"single-depth-sensor", "single-depth-sensors", sensors, ofType<&Model::sensors, Sensor::SingleDepth>},
-        {"sonar", "sonars", sensors, ofType<&Model::sensors, Sensor::Sonar>},
-        {"bumper", "bumpers", sensors, ofType<&Model::sensors, Sensor::Bumper>},
-        {"tactile-sensor", "tactile-sensors", sensors, ofType<&Model::sensors, Sensor::Tactile>},
-        {"fsr", "fsrs", sensors, ofType<&Model::sensors, Sensor::FSR>},
-        {"inertial-sensor", "inertial-sensors", sensors, ofType<&Model::sensors, Sensor::Inertial>},
-        {"microphone", "microphones", sensors, ofType<&Model::sensors, Sensor::Microphone>},
-    };
-    return table;
+    using namespace Sim;
+    using namespace columns;
+    if constexpr (isOneOf<Class, AngleActuator, AngleSpeedActuator, TorqueActuator>) {
+        return {name, joint, minimum, maximum, {"MIRROR", "/reflectedSymmetric"}, keys};
+    } else if constexpr (isOneOf<Class, CoupledActuator>) {
+        return {name, minimum, maximum, {"JOINTS AND RATIOS", "/controlledJointAndRatios"}};
+    } else if constexpr (isOneOf<Class, WheelTorqueActuator, WheelVelocityActuator>) {
+        return {name, joint, {"TORQUE", "/maxTorque"}, {"VELOCITY", "/maxVelocity"}, keys};
+    } else if constexpr (isOneOf<Class, LEDActuator>) {
+        return {name, {"COLOR", "/color"}, {"GROUPS", "/groups"}, {"SHORT", "/shortname"}, position, keys};
+    } else if constexpr (isOneOf<Class, CameraSensor, CameraDepthSensor, ArrayDepthSensor>) {
+        return {name, {"WIDTH", "/width"}, {"HEIGHT", "/height"}, position, bytes};
+    } else if constexpr (std::is_base_of_v<Sensor, Class>) {
+        return {name, type, position, bytes, keys};
+    } else {
+        return {name, type, position, keys};
+    }
 }
 
-namespace {
+/// Adds the kinds of a table of the library; `family` ends the names of their classes.
+template <auto list, class DeviceKinds>
+void addDevices(std::vector<Kind>& kinds, DeviceKinds const& deviceKinds, std::string const& family)
+{
+    forEachKind(deviceKinds, [&](auto const& kind) {
+        using Class = typename std::decay_t<decltype(kind)>::Class;
+        std::string const word = kind.word;
+        std::string const className = kind.name + family;
+        kinds.push_back({word + "s", {word, className, className + "s"}, columnsOf<Class>(), ofClass<list, Class>});
+    });
+}
+
+std::vector<Kind> makeKinds()
+{
+    using namespace columns;
+    using Sim::Model;
+    Column const joints = {"JOINTS", "/joints"};
+    Column const actuators = {"ACTUATORS", "/actuators"};
+    Columns const ofLinks = {name, type, {"JOINT", "/parentJoint"}, {"MASS", "/mass/mass"}, position};
+
+    std::vector<Kind> kinds = {
+        {"links", {"link"}, ofLinks, all<&Model::links>},
+        {"wheels", {"wheel"}, ofLinks, wheels},
+        {"joints", {"joint"}, {name, {"FROM", "/parentLink"}, {"TO", "/childLink"}, position}, all<&Model::joints>},
+        {"symmetries",
+         {"symmetry", "joint-symmetry", "joint-symmetries"},
+         {joints, type},
+         all<&Model::jointSymmetries>},
+        {"groups", {"group"}, {name, joints, actuators}, groups},
+        {"joint-groups", {"joint-group"}, {name, joints}, all<&Model::jointGroups>},
+        {"actuator-groups", {"actuator-group"}, {name, {"PARENT", "/parent"}, actuators}, all<&Model::actuatorGroups>},
+        {"actuators", {"actuator"}, columnsOf<Sim::Actuator>(), all<&Model::actuators>},
+    };
+    addDevices<&Model::actuators>(kinds, Sim::actuatorKinds, "Actuator");
+    kinds.push_back({"sensors", {"sensor"}, columnsOf<Sim::Sensor>(), all<&Model::sensors>});
+    addDevices<&Model::sensors>(kinds, Sim::sensorKinds, "Sensor");
+    return kinds;
+}
 
 std::string plain(std::string const& name)
 {
@@ -132,41 +145,20 @@ std::string plain(std::string const& name)
     return text;
 }
 
-/// What the library calls some kinds, beside the names in the table.
-struct Alias {
-    char const* alias;
-    char const* kind;
-};
-constexpr Alias aliases[] = {
-    {"ledactuator", "led"},
-    {"camerasensor", "camera"},
-    {"cameradepthsensor", "depthcamera"},
-    {"sonarsensor", "sonar"},
-    {"bumpersensor", "bumper"},
-    {"fsrsensor", "fsr"},
-    {"microphonesensor", "microphone"},
-    {"jointsymmetry", "symmetry"},
-    {"jointsymmetries", "symmetry"},
-};
-
-/// The name of a kind that goes by another one, with or without a plural s.
-std::string unaliased(std::string const& name)
-{
-    for (auto const& [alias, kind] : aliases) {
-        if (name == alias || name == alias + std::string("s")) {
-            return kind;
-        }
-    }
-    return name;
-}
-
 }  // namespace
+
+std::vector<Kind> const& kinds()
+{
+    static std::vector<Kind> const table = makeKinds();
+    return table;
+}
 
 Kind const* findKind(std::string const& name)
 {
-    std::string const wanted = unaliased(plain(name));
+    std::string const wanted = plain(name);
     for (Kind const& kind : kinds()) {
-        if (wanted == plain(kind.singular) || wanted == plain(kind.plural)) {
+        auto const isMeant = [&](std::string const& known) { return plain(known) == wanted; };
+        if (isMeant(kind.plural) || std::any_of(kind.otherNames.begin(), kind.otherNames.end(), isMeant)) {
             return &kind;
         }
     }

@@ -17,15 +17,15 @@ struct Column {
 
 /// A kind of elements that users can ask for.
 struct Kind {
-    char const* singular;
-    char const* plural;
+    std::string plural;
+    std::vector<std::string> otherNames;  ///< that it goes by, too: the singular, and what the library calls it
     std::vector<Column> columns;
     std::vector<Json> (*elements)(Sim::Model const& model);
 };
 
 std::vector<Kind> const& kinds();
 
-/// The kind of that name, singular or plural, whatever its case and its hyphens; null when there is none.
+/// The kind that goes by the name, whatever its case and its hyphens; null when there is none.
 Kind const* findKind(std::string const& name);
 
 }  // namespace Tool

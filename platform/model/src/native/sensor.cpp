@@ -11,12 +11,7 @@ namespace Varo::Model::Native {
 namespace {
 
 struct SensorTypes : OneOf<SensorTypes> {
-    static constexpr Word words[] = {
-        {"led", led},       {"tactile", tactile},       {"camera", camera},         {"depthCamera", depthCamera},
-        {"bumper", bumper}, {"microphone", microphone}, {"arrayDepth", arrayDepth}, {"sonar", sonar},
-        {"fsr", fsr},       {"inertial", inertial},     {"battery", battery},       {"temperature", temperature},
-        {"button", button}, {"unknown", unknownSensor},
-    };
+    static constexpr auto& words = sensorTypeWords;
     static constexpr ValueType type{"sensorType", "a type of sensor", words};
 };
 

@@ -18,10 +18,7 @@ namespace Varo::Model::Native {
 constexpr std::size_t longestName = 1024;
 
 /// A word that stands for a number in the records.
-struct Word {
-    std::string_view word;
-    std::int32_t value;
-};
+using Word = ValueWord;
 
 struct ValueType {
     std::string_view name;  ///< in the documentation and the schema

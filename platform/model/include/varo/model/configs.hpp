@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -46,6 +47,20 @@ enum SensorType : std::int32_t {
     battery = 11,
     temperature = 12,
     button = 13,
+};
+
+/// The word that descriptions use for a value of a record.
+struct ValueWord {
+    std::string_view word;  ///< as descriptions spell it
+    std::int32_t value;  ///< as records hold it
+};
+
+/// The words for all values of SensorType.
+inline constexpr ValueWord sensorTypeWords[] = {
+    {"led", led},       {"tactile", tactile},       {"camera", camera},         {"depthCamera", depthCamera},
+    {"bumper", bumper}, {"microphone", microphone}, {"arrayDepth", arrayDepth}, {"sonar", sonar},
+    {"fsr", fsr},       {"inertial", inertial},     {"battery", battery},       {"temperature", temperature},
+    {"button", button}, {"unknown", unknownSensor},
 };
 
 /// A joint together with the body (link) that it moves; the robot's root is one too, of which only name, mesh, mass
