@@ -6,6 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include "core/shared_name.hpp"
 #include "sim/actuator.hpp"
 #include "sim/frame.hpp"
 
@@ -15,7 +16,7 @@ inline constexpr char actuatorErrMsg[] = "Could not query Actuator as it seems n
 
 class ActuatorImpl {
 public:
-    ActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Actuator::Type type)
+    ActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Actuator::Type type)
         : _frame(frame), _name(name), _type(type)
     {}
     ActuatorImpl(ActuatorImpl const&) = default;
@@ -24,11 +25,12 @@ public:
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
     std::string const& name() const { return _name; }
+    SharedName const& sharedName() const { return _name; }
     Actuator::Type type() const { return _type; }
 
 private:
     boost::weak_ptr<Frame const> _frame;
-    std::string _name;
+    SharedName _name;
     Actuator::Type _type;
 };
 

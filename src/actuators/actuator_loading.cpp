@@ -39,7 +39,9 @@ void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSp
     _motionModel->endTransformFromJointName(name, end);
     auto const link = _index->links.find(name + "Link");
     require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
-    FramePtr const frame = addFrame(name, end.inverse(), link->_impl->frame());
+    auto const joint = _index->joints.find(name);
+    SharedName const sharedName = joint == nullptr ? SharedName(name) : joint->_impl->sharedName();
+    FramePtr const frame = addFrame(sharedName, end.inverse(), link->_impl->frame());
 
     float startValue = 0.0F;
     float minValue = 0.0F;
@@ -49,39 +51,38 @@ void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSp
     bool reflectionForced = false;
     _motionModel->reflectionForcedFromJointName(name, reflectionForced);
 
-    auto const joint = _index->joints.find(name);
-    addAngleActuator(frame, name, getJointDCMKeys({name}, 64), startValue, minValue, maxValue, maxSpeed, joint,
+    addAngleActuator(frame, sharedName, getJointDCMKeys({name}, 64), startValue, minValue, maxValue, maxSpeed, joint,
                      reflectionForced);
     if (withTorqueAndSpeed) {
-        addTorqueActuator(frame, name, getJointDCMKeys({name}, 256), 0.0F, -100.0F, 100.0F, joint);
-        addAngleSpeedActuator(frame, name, getJointDCMKeys({name}, 128), 0.0F, -10.0F, 10.0F, joint);
+        addTorqueActuator(frame, sharedName, getJointDCMKeys({name}, 256), 0.0F, -100.0F, 100.0F, joint);
+        addAngleSpeedActuator(frame, sharedName, getJointDCMKeys({name}, 128), 0.0F, -10.0F, 10.0F, joint);
     }
 }
 
-boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& frame, std::string const& name,
-                                                             Keys const& dcmKeys, float startValue, float minValue,
+boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& frame, SharedName const& name,
+                                                             Keys dcmKeys, float startValue, float minValue,
                                                              float maxValue, float maxSpeed,
                                                              boost::shared_ptr<Joint const> const& joint,
                                                              bool reflectionForced)
 {
-    return addActuator<AngleActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed, joint,
+    return addActuator<AngleActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, maxSpeed, joint,
                                           reflectionForced);
 }
 
-boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& frame, std::string const& name,
-                                                               Keys const& dcmKeys, float startValue, float minValue,
+boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& frame, SharedName const& name,
+                                                               Keys dcmKeys, float startValue, float minValue,
                                                                float maxValue,
                                                                boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<TorqueActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
+    return addActuator<TorqueActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, joint);
 }
 
-boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr const& frame, std::string const& name,
-                                                                       Keys const& dcmKeys, float startValue,
+boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr const& frame, SharedName const& name,
+                                                                       Keys dcmKeys, float startValue,
                                                                        float minValue, float maxValue,
                                                                        boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<AngleSpeedActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, joint);
+    return addActuator<AngleSpeedActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, joint);
 }
 
 }  // namespace Sim

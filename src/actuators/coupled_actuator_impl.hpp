@@ -18,10 +18,10 @@ class CoupledActuatorImpl : public MirroredActuatorImpl<CoupledActuator> {
 public:
     using JointsAndRatios = std::vector<std::pair<boost::shared_ptr<Joint const>, float>>;
 
-    CoupledActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
-                        std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
+    CoupledActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
+                        std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue,
                         float maxSpeed, JointsAndRatios jointsAndRatios, bool reflectionForced)
-        : MirroredActuatorImpl(frame, name, dcmKeys, startValue, minValue, maxValue),
+        : MirroredActuatorImpl(frame, name, std::move(dcmKeys), startValue, minValue, maxValue),
           _maxSpeed(maxSpeed),
           _controlledJointAndRatios(jointsAndRatios.begin(), jointsAndRatios.end()),
           _reflectionForced(reflectionForced)

@@ -32,9 +32,10 @@ void ModelImpl::fetchCoupledActuator(std::string const& name)
     _motionModel->reflectionForcedFromJointName(name, reflectionForced);
     auto const parentJoint = _index->joints.find(parentName);
     require(parentJoint != nullptr, Subject::actuator, name, "Could not find the parent joint of actuator ", name);
-    FramePtr const frame = addFrame(name, transform.inverse(), parentJoint->_impl->frame());
+    SharedName const sharedName(name);
+    FramePtr const frame = addFrame(sharedName, transform.inverse(), parentJoint->_impl->frame());
 
-    addCoupledActuator(frame, name, Varo::Model::ModelUtils::getActuatorDCMKeys({name}, 64), startValue, minValue,
+    addCoupledActuator(frame, sharedName, Varo::Model::ModelUtils::getActuatorDCMKeys({name}, 64), startValue, minValue,
                        maxValue, maxSpeed, jointsAndRatios, reflectionForced);
 }
 
@@ -53,13 +54,13 @@ CoupledActuatorImpl::JointsAndRatios ModelImpl::jointsAndRatiosOf(std::string co
     return result;
 }
 
-boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr const& frame, std::string const& name,
-                                                                 Keys const& dcmKeys, float startValue, float minValue,
+boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr const& frame, SharedName const& name,
+                                                                 Keys dcmKeys, float startValue, float minValue,
                                                                  float maxValue, float maxSpeed,
                                                                  CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                                  bool reflectionForced)
 {
-    return addActuator<CoupledActuatorImpl>(frame, name, dcmKeys, startValue, minValue, maxValue, maxSpeed,
+    return addActuator<CoupledActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, maxSpeed,
                                             std::move(jointsAndRatios), reflectionForced);
 }
 

@@ -13,9 +13,9 @@ inline constexpr char dcmActuatorMsg[] = "Could not query DCMActuator as it seem
 
 class DCMActuatorImpl : public ActuatorImpl {
 public:
-    DCMActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Actuator::Type type,
-                    std::vector<std::string> const& dcmKeys)
-        : ActuatorImpl(frame, name, type), _dcmKeys(dcmKeys)
+    DCMActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Actuator::Type type,
+                    std::vector<std::string> dcmKeys)
+        : ActuatorImpl(frame, name, type), _dcmKeys(std::move(dcmKeys))
     {}
 
     std::vector<std::string> const& dcmKeys() const { return _dcmKeys; }

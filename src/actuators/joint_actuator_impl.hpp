@@ -13,10 +13,10 @@ namespace Sim {
 template <class Device>
 class JointActuatorImpl : public MirroredActuatorImpl<Device> {
 public:
-    JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
-                      std::vector<std::string> const& dcmKeys, float startValue, float minValue, float maxValue,
+    JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
+                      std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue,
                       boost::shared_ptr<Joint const> const& joint)
-        : MirroredActuatorImpl<Device>(frame, name, dcmKeys, startValue, minValue, maxValue), _controlledJoint(joint)
+        : MirroredActuatorImpl<Device>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue), _controlledJoint(joint)
     {}
 
     boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }

@@ -17,8 +17,8 @@ class LEDActuatorImpl : public DCMActuatorImpl {
 public:
     using Handle = LEDActuator;
 
-    LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
-                    std::vector<std::string> const& dcmKeys, std::string const& shortname,
+    LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
+                    std::vector<std::string> dcmKeys, std::string const& shortname,
                     std::vector<std::string> const& groups, LEDActuator::Color color)
         : DCMActuatorImpl(frame, name, kindOf<LEDActuator>().type, dcmKeys),
           _shortname(shortname),

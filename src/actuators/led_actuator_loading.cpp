@@ -5,12 +5,12 @@
 
 namespace Sim {
 
-boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr const& frame, std::string const& name,
-                                                         Keys const& dcmKeys, std::string const& shortname,
+boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr const& frame, SharedName const& name,
+                                                         Keys dcmKeys, std::string const& shortname,
                                                          std::vector<std::string> const& groups,
                                                          LEDActuator::Color color)
 {
-    return addActuator<LEDActuatorImpl>(frame, name, dcmKeys, shortname, groups, color);
+    return addActuator<LEDActuatorImpl>(frame, name, std::move(dcmKeys), shortname, groups, color);
 }
 
 std::vector<boost::shared_ptr<LEDActuator>> ModelImpl::ledActuators(std::string const& group) const

@@ -30,18 +30,18 @@ void ModelImpl::fetchWheelActuator(std::string const& name)
     addWheelVelocityActuator(link->_impl->frame(), name, keys, maxVelocity, _index->joints.find(parentJoint->name()));
 }
 
-boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePtr const& frame, std::string const& name,
-                                                                         Keys const& dcmKeys, float maxTorque,
+boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePtr const& frame, SharedName const& name,
+                                                                         Keys dcmKeys, float maxTorque,
                                                                          boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<WheelTorqueActuatorImpl>(frame, name, dcmKeys, maxTorque, joint);
+    return addActuator<WheelTorqueActuatorImpl>(frame, name, std::move(dcmKeys), maxTorque, joint);
 }
 
 boost::shared_ptr<WheelVelocityActuator> ModelImpl::addWheelVelocityActuator(
-    FramePtr const& frame, std::string const& name, Keys const& dcmKeys, float maxVelocity,
+    FramePtr const& frame, SharedName const& name, Keys dcmKeys, float maxVelocity,
     boost::shared_ptr<Joint const> const& joint)
 {
-    return addActuator<WheelVelocityActuatorImpl>(frame, name, dcmKeys, maxVelocity, joint);
+    return addActuator<WheelVelocityActuatorImpl>(frame, name, std::move(dcmKeys), maxVelocity, joint);
 }
 
 }  // namespace Sim

@@ -6,6 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include "core/shared_name.hpp"
 #include "sim/frame.hpp"
 
 namespace Sim {
@@ -14,18 +15,19 @@ inline constexpr char frameErrorMsg[] = "Could not query Frame as it seems not c
 
 class FrameImpl {
 public:
-    FrameImpl(std::string const& name, Varo::Math::Transform const& position,
+    FrameImpl(SharedName const& name, Varo::Math::Transform const& position,
               boost::shared_ptr<Frame const> const& parent)
         : _name(name), _parentFrame(parent), _position(position)
     {}
     virtual ~FrameImpl() = default;
 
     std::string const& name() const { return _name; }
+    SharedName const& sharedName() const { return _name; }
     virtual Varo::Math::Transform const& position() const { return _position; }
     boost::shared_ptr<Frame const> parentFrame() const { return _parentFrame.lock(); }
 
 private:
-    std::string _name;
+    SharedName _name;
     boost::weak_ptr<Frame const> _parentFrame;
     Varo::Math::Transform _position;
 };

@@ -6,6 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include "core/shared_name.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
@@ -16,7 +17,7 @@ inline constexpr char jointErrorMsg[] = "Could not query Joint as it seems not c
 
 class JointImpl {
 public:
-    JointImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
+    JointImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
               boost::shared_ptr<Link> const& parentLink)
         : _frame(frame), _name(name), _parentLink(parentLink)
     {}
@@ -25,12 +26,13 @@ public:
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
     std::string const& name() const { return _name; }
+    SharedName const& sharedName() const { return _name; }
     boost::shared_ptr<Link> parentLink() const { return _parentLink.lock(); }
     boost::shared_ptr<Link> childLink() const { return _childLink.lock(); }
 
 private:
     boost::weak_ptr<Frame const> _frame;
-    std::string _name;
+    SharedName _name;
     boost::weak_ptr<Link> _parentLink;
     boost::weak_ptr<Link> _childLink;
 };

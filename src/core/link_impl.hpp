@@ -7,6 +7,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include "core/shared_name.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
@@ -19,7 +20,7 @@ inline constexpr char linkErrorMsg[] = "Could not query Link as it seems not cor
 
 class LinkImpl {
 public:
-    LinkImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
+    LinkImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
              boost::shared_ptr<Joint> const& parentJoint, boost::shared_ptr<MassData const> const& massData,
              std::string const& frictionMaterial, Link::LinkType type,
              boost::shared_ptr<VisualData const> const& visualData);
@@ -29,6 +30,7 @@ public:
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
     std::string const& name() const { return _name; }
+    SharedName const& sharedName() const { return _name; }
     boost::shared_ptr<Joint> parentJoint() const { return _parentJoint.lock(); }
     boost::shared_ptr<MassData const> massData() const { return _massData; }
     std::string const& frictionMaterial() const { return _frictionMaterial; }
@@ -39,7 +41,7 @@ public:
 
 private:
     boost::weak_ptr<Frame const> _frame;
-    std::string _name;
+    SharedName _name;
     boost::weak_ptr<Joint> _parentJoint;
     std::vector<boost::weak_ptr<Joint>> _childrenJoints;
     boost::shared_ptr<MassData const> _massData;

@@ -108,7 +108,7 @@ boost::shared_ptr<Link> ModelImpl::rootLink() const
     return link(_motionModel->rootName() + "Link");
 }
 
-ModelImpl::FramePtr ModelImpl::addFrame(std::string const& name, Varo::Math::Transform const& position,
+ModelImpl::FramePtr ModelImpl::addFrame(SharedName const& name, Varo::Math::Transform const& position,
                                         FramePtr const& parent)
 {
     _frames.push_back(makeElement<Frame, FrameImpl>(name, position, parent));
@@ -116,9 +116,9 @@ ModelImpl::FramePtr ModelImpl::addFrame(std::string const& name, Varo::Math::Tra
 }
 
 boost::shared_ptr<MassData const> ModelImpl::createMass(float mass, Varo::Math::Position3D const& CoM,
-                                                        std::vector<float> const& inertiaMatrix)
+                                                        std::vector<float> inertiaMatrix)
 {
-    return makeElement<MassData, MassDataImpl>(mass, CoM, inertiaMatrix);
+    return makeElement<MassData, MassDataImpl>(mass, CoM, std::move(inertiaMatrix));
 }
 
 boost::shared_ptr<VisualData const> ModelImpl::createVisual(std::string const& meshPath,

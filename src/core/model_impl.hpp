@@ -14,6 +14,7 @@
 #include "core/build_index.hpp"
 #include "core/build_report.hpp"
 #include "core/kind_of.hpp"
+#include "core/shared_name.hpp"
 #include "groups/actuator_group_impl.hpp"
 #include "groups/joint_group_impl.hpp"
 #include "groups/joint_symmetry_impl.hpp"
@@ -99,46 +100,46 @@ public:
     std::vector<boost::shared_ptr<ActuatorGroup>> actuatorGroupsOfJoint(std::string const& jointName) const;
 
     // Factories: make one element and register it, unchecked.
-    FramePtr addFrame(std::string const& name, Varo::Math::Transform const& position, FramePtr const& parent);
+    FramePtr addFrame(SharedName const& name, Varo::Math::Transform const& position, FramePtr const& parent);
     boost::shared_ptr<MassData const> createMass(float mass, Varo::Math::Position3D const& CoM,
-                                                 std::vector<float> const& inertiaMatrix);
+                                                 std::vector<float> inertiaMatrix);
     boost::shared_ptr<VisualData const> createVisual(std::string const& meshPath,
                                                      Varo::Math::Transform const& meshTransform);
-    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, std::string const& name,
-                                                      Keys const& dcmKeys, float startValue, float minValue,
+    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, SharedName const& name,
+                                                      Keys dcmKeys, float startValue, float minValue,
                                                       float maxValue, float maxSpeed,
                                                       boost::shared_ptr<Joint const> const& joint,
                                                       bool reflectionForced);
-    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, std::string const& name,
-                                                        Keys const& dcmKeys, float startValue, float minValue,
+    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, SharedName const& name,
+                                                        Keys dcmKeys, float startValue, float minValue,
                                                         float maxValue, boost::shared_ptr<Joint const> const& joint);
-    boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr const& frame, std::string const& name,
-                                                                Keys const& dcmKeys, float startValue, float minValue,
+    boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr const& frame, SharedName const& name,
+                                                                Keys dcmKeys, float startValue, float minValue,
                                                                 float maxValue,
                                                                 boost::shared_ptr<Joint const> const& joint);
-    boost::shared_ptr<WheelTorqueActuator> addWheelTorqueActuator(FramePtr const& frame, std::string const& name,
-                                                                  Keys const& dcmKeys, float maxTorque,
+    boost::shared_ptr<WheelTorqueActuator> addWheelTorqueActuator(FramePtr const& frame, SharedName const& name,
+                                                                  Keys dcmKeys, float maxTorque,
                                                                   boost::shared_ptr<Joint const> const& joint);
-    boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr const& frame, std::string const& name,
-                                                                      Keys const& dcmKeys, float maxVelocity,
+    boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr const& frame, SharedName const& name,
+                                                                      Keys dcmKeys, float maxVelocity,
                                                                       boost::shared_ptr<Joint const> const& joint);
-    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, std::string const& name,
-                                                          Keys const& dcmKeys, float startValue, float minValue,
+    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, SharedName const& name,
+                                                          Keys dcmKeys, float startValue, float minValue,
                                                           float maxValue, float maxSpeed,
                                                           CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                           bool reflectionForced);
-    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr const& frame, std::string const& name, Keys const& dcmKeys,
+    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
                                                   std::string const& shortname, std::vector<std::string> const& groups,
                                                   LEDActuator::Color color);
-    boost::shared_ptr<CameraSensor> addCameraSensor(FramePtr const& frame, std::string const& name, int width,
+    boost::shared_ptr<CameraSensor> addCameraSensor(FramePtr const& frame, SharedName const& name, int width,
                                                     int height);
-    boost::shared_ptr<CameraDepthSensor> addCameraDepthSensor(FramePtr const& frame, std::string const& name, int width,
+    boost::shared_ptr<CameraDepthSensor> addCameraDepthSensor(FramePtr const& frame, SharedName const& name, int width,
                                                               int height);
-    boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr const& frame, std::string const& name);
-    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr const& frame, std::string const& name, Keys const& dcmKeys,
+    boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr const& frame, SharedName const& name);
+    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
                                                   SonarSensorImpl::SonarType sonarType);
-    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, std::string const& name,
-                                                            Keys const& dcmKeys, int width, int height,
+    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, SharedName const& name,
+                                                            Keys dcmKeys, int width, int height,
                                                             Keys const& dcmStateKeys, Keys const& dcmCommandKeys);
 
 private:
@@ -162,22 +163,22 @@ private:
     void fetchSensors();
 
     // Skeleton
-    boost::shared_ptr<Joint> addJoint(FramePtr const& frame, std::string const& name,
+    boost::shared_ptr<Joint> addJoint(FramePtr const& frame, SharedName const& name,
                                       boost::shared_ptr<Link> const& parentLink);
-    boost::shared_ptr<Link> addLink(FramePtr const& frame, std::string const& name,
+    boost::shared_ptr<Link> addLink(FramePtr const& frame, SharedName const& name,
                                     boost::shared_ptr<Joint> const& parentJoint,
                                     boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
                                     boost::shared_ptr<VisualData const> const& visual);
-    boost::shared_ptr<Link> addWheel(FramePtr const& frame, std::string const& name,
+    boost::shared_ptr<Link> addWheel(FramePtr const& frame, SharedName const& name,
                                      boost::shared_ptr<Joint> const& parentJoint,
                                      boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
                                      boost::shared_ptr<VisualData const> const& visual);
-    boost::shared_ptr<Link> addLinkOfType(Link::LinkType type, FramePtr const& frame, std::string const& name,
+    boost::shared_ptr<Link> addLinkOfType(Link::LinkType type, FramePtr const& frame, SharedName const& name,
                                           boost::shared_ptr<Joint> const& parentJoint,
                                           boost::shared_ptr<MassData const> const& mass,
                                           std::string const& frictionMaterial,
                                           boost::shared_ptr<VisualData const> const& visual);
-    boost::shared_ptr<Joint> attachJoint(std::string const& name, Varo::Math::Transform const& inParentLink,
+    boost::shared_ptr<Joint> attachJoint(SharedName const& name, Varo::Math::Transform const& inParentLink,
                                          boost::shared_ptr<Link> const& parentLink);
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
     Branch openBranch(boost::shared_ptr<Joint> const& joint);
@@ -208,7 +209,7 @@ private:
     bool fetchSensor(std::string const& name);
     void logFromFetchSensors(int level, std::string const& message) const;
     void reportSensorsWithoutClass();
-    void addDevice(std::string const& name, FramePtr const& frame, Keys const& keys);
+    void addDevice(SharedName const& sharedName, FramePtr const& frame, Keys const& keys);
     void fetchLED(std::string const& name, FramePtr const& frame, Keys const& keys);
     std::pair<int, int> requiredResolutionOf(std::string const& camera) const;
     void fetchArrayDepthSensor(std::string const& name, FramePtr const& frame, Keys const& keys);

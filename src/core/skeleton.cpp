@@ -24,12 +24,13 @@ struct ModelImpl::Branch {
 void ModelImpl::fetchSkeleton()
 {
     std::string const& root = _motionModel->rootName();
-    FramePtr const rootFrame = addFrame(root + "Link", Transform(), {});
+    SharedName const linkName(root + "Link");
+    FramePtr const rootFrame = addFrame(linkName, Transform(), {});
     auto const mass = requiredMassOf(Subject::root, root);
     auto const visual = requiredVisualOf(root);
     std::string material;
     _motionModel->frictionMaterial(root, material);
-    auto const rootLink = addLink(rootFrame, root + "Link", {}, mass, material, visual);
+    auto const rootLink = addLink(rootFrame, linkName, {}, mass, material, visual);
 
     for (std::string const& name : _motionModel->followingJoints(root)) {
         Transform inRoot;
@@ -66,15 +67,16 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
 {
     Branch branch;
     branch.jointName = joint->name();
-    std::string const linkName = branch.jointName + "Link";
-    if (_index->links.contains(linkName)) {
+    std::string link = branch.jointName + "Link";
+    if (_index->links.contains(link)) {
         return branch;
     }
     branch.children = _motionModel->followingJoints(branch.jointName);
 
     // A second frame of the joint's name, unconnected: look-ups find the joint's own, which precedes it.
-    addFrame(branch.jointName, Transform(), {});
+    addFrame(joint->_impl->sharedName(), Transform(), {});
     _motionModel->endTransformFromJointName(branch.jointName, branch.end);
+    SharedName const linkName(std::move(link));
     FramePtr const linkFrame = addFrame(linkName, branch.end, joint->_impl->frame());
     auto const mass = massOf(branch.jointName);
     auto const visual = visualOf(branch.jointName);
@@ -85,7 +87,7 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
     return branch;
 }
 
-boost::shared_ptr<Joint> ModelImpl::attachJoint(std::string const& name, Transform const& inParentLink,
+boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,
                                                 boost::shared_ptr<Link> const& parentLink)
 {
     FramePtr const frame = addFrame(name, inParentLink, parentLink->_impl->frame());
@@ -94,7 +96,7 @@ boost::shared_ptr<Joint> ModelImpl::attachJoint(std::string const& name, Transfo
     return joint;
 }
 
-boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr const& frame, std::string const& name,
+boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr const& frame, SharedName const& name,
                                              boost::shared_ptr<Link> const& parentLink)
 {
     auto const joint = makeElement<Joint, JointImpl>(frame, name, parentLink);
@@ -103,7 +105,7 @@ boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr const& frame, std::string 
     return joint;
 }
 
-boost::shared_ptr<Link> ModelImpl::addLink(FramePtr const& frame, std::string const& name,
+boost::shared_ptr<Link> ModelImpl::addLink(FramePtr const& frame, SharedName const& name,
                                            boost::shared_ptr<Joint> const& parentJoint,
                                            boost::shared_ptr<MassData const> const& mass,
                                            std::string const& frictionMaterial,
@@ -112,7 +114,7 @@ boost::shared_ptr<Link> ModelImpl::addLink(FramePtr const& frame, std::string co
     return addLinkOfType(Link::Regular, frame, name, parentJoint, mass, frictionMaterial, visual);
 }
 
-boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr const& frame, std::string const& name,
+boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr const& frame, SharedName const& name,
                                             boost::shared_ptr<Joint> const& parentJoint,
                                             boost::shared_ptr<MassData const> const& mass,
                                             std::string const& frictionMaterial,
@@ -121,7 +123,7 @@ boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr const& frame, std::string c
     return addLinkOfType(Link::Wheel, frame, name, parentJoint, mass, frictionMaterial, visual);
 }
 
-boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr const& frame, std::string const& name,
+boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr const& frame, SharedName const& name,
                                                  boost::shared_ptr<Joint> const& parentJoint,
                                                  boost::shared_ptr<MassData const> const& mass,
                                                  std::string const& frictionMaterial,
@@ -141,7 +143,7 @@ boost::shared_ptr<MassData const> ModelImpl::massOf(std::string const& name)
     _motionModel->mass(name, mass);
     _motionModel->CoM(name, com);
     _motionModel->inertiaMatrix(name, inertia);
-    return createMass(mass, com, inertia);
+    return createMass(mass, com, std::move(inertia));
 }
 
 boost::shared_ptr<MassData const> ModelImpl::requiredMassOf(Subject subject, std::string const& name)
@@ -152,7 +154,7 @@ boost::shared_ptr<MassData const> ModelImpl::requiredMassOf(Subject subject, std
     require(_motionModel->mass(name, mass), subject, name, "Could not fetch mass for ", name);
     require(_motionModel->CoM(name, com), subject, name, "Could not fetch CoM for ", name);
     require(_motionModel->inertiaMatrix(name, inertia), subject, name, "Could not fetch inertia matrix for ", name);
-    return createMass(mass, com, inertia);
+    return createMass(mass, com, std::move(inertia));
 }
 
 /// What is missing here is missing for a reason that ends the load later on, and that its finding names.

@@ -28,8 +28,9 @@ void ModelImpl::fetchWheel(std::string const& name)
     auto const visual = visualOf(name);
     Transform end;
     _motionModel->endTransformFromJointName(name, end);
-    FramePtr const linkFrame = addFrame(name + "Link", end, joint->_impl->frame());
-    joint->_impl->setChildLink(addWheel(linkFrame, name + "Link", joint, mass, material, visual));
+    SharedName const linkName(name + "Link");
+    FramePtr const linkFrame = addFrame(linkName, end, joint->_impl->frame());
+    joint->_impl->setChildLink(addWheel(linkFrame, linkName, joint, mass, material, visual));
 }
 
 boost::shared_ptr<Link> ModelImpl::parentLinkOfWheel(std::string const& wheel) const

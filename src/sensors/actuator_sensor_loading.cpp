@@ -14,17 +14,18 @@ void ModelImpl::fetchAngleSensors()
 {
     bool const withTorqueAndSpeed = name().find("SpecialSimulation") != std::string::npos;
     for (auto const& actuator : _actuators) {
-        std::string const& name = actuator->name();
+        SharedName const& sharedName = actuator->_impl->sharedName();
+        std::string const& name = sharedName;
         FramePtr const frame = actuator->_impl->frame();
         if (actuator->type() == Actuator::Angle) {
-            addSensor<AngleSensorImpl>(frame, name, getJointDCMKeys({name}, 1));
+            addSensor<AngleSensorImpl>(frame, sharedName, getJointDCMKeys({name}, 1));
             if (withTorqueAndSpeed) {
-                addSensor<TorqueSensorImpl>(frame, name, getJointDCMKeys({name}, 32));
-                addSensor<AngleSpeedSensorImpl>(frame, name, getJointDCMKeys({name}, 2));
+                addSensor<TorqueSensorImpl>(frame, sharedName, getJointDCMKeys({name}, 32));
+                addSensor<AngleSpeedSensorImpl>(frame, sharedName, getJointDCMKeys({name}, 2));
             }
         } else if (actuator->type() == Actuator::WheelTorque) {
-            addSensor<TorqueSensorImpl>(frame, name, getWheelDCMKeys({name}, 32));
-            addSensor<AngleSpeedSensorImpl>(frame, name, getWheelDCMKeys({name}, 2));
+            addSensor<TorqueSensorImpl>(frame, sharedName, getWheelDCMKeys({name}, 32));
+            addSensor<AngleSpeedSensorImpl>(frame, sharedName, getWheelDCMKeys({name}, 2));
         }
     }
 }
@@ -33,8 +34,8 @@ void ModelImpl::fetchCoupledSensors()
 {
     for (auto const& actuator : _actuators) {
         if (actuator->type() == Actuator::Coupled) {
-            std::string const& name = actuator->name();
-            addSensor<CoupledSensorImpl>(actuator->_impl->frame(), name, getActuatorDCMKeys({name}, 1));
+            SharedName const& sharedName = actuator->_impl->sharedName();
+            addSensor<CoupledSensorImpl>(actuator->_impl->frame(), sharedName, getActuatorDCMKeys({sharedName}, 1));
         }
     }
 }

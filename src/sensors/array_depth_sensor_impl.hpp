@@ -17,8 +17,8 @@ class ArrayDepthSensorImpl : public DCMSensorImpl {
 public:
     using Handle = ArrayDepthSensor;
 
-    ArrayDepthSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
-                         std::vector<std::string> const& dcmKeys, int width, int height,
+    ArrayDepthSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
+                         std::vector<std::string> dcmKeys, int width, int height,
                          std::vector<std::string> const& dcmStateKeys, std::vector<std::string> const& dcmCommandKeys)
         : DCMSensorImpl(frame, name, kindOf<ArrayDepthSensor>().type, dcmKeys, dcmStateKeys, dcmCommandKeys),
           _width(width),

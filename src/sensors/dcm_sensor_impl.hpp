@@ -12,10 +12,10 @@ inline constexpr char dcmSensorErrMsg[] = "Could not query DCMSensor as it seems
 
 class DCMSensorImpl : public SensorImpl {
 public:
-    DCMSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, Sensor::Type type,
-                  std::vector<std::string> const& dcmKeys, std::vector<std::string> const& dcmStateKeys,
+    DCMSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Sensor::Type type,
+                  std::vector<std::string> dcmKeys, std::vector<std::string> const& dcmStateKeys,
                   std::vector<std::string> const& dcmCommandKeys)
-        : SensorImpl(frame, name, type), _dcmKeys(dcmKeys), _dcmStateKeys(dcmStateKeys), _dcmCommandKeys(dcmCommandKeys)
+        : SensorImpl(frame, name, type), _dcmKeys(std::move(dcmKeys)), _dcmStateKeys(dcmStateKeys), _dcmCommandKeys(dcmCommandKeys)
     {}
 
     std::vector<std::string> const& dcmKeys() const { return _dcmKeys; }

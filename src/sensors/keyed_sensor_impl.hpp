@@ -15,8 +15,8 @@ class KeyedSensorImpl : public DCMSensorImpl {
 public:
     using Handle = Device;
 
-    KeyedSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
-                    std::vector<std::string> const& dcmKeys)
+    KeyedSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
+                    std::vector<std::string> dcmKeys)
         : DCMSensorImpl(frame, name, kindOf<Device>().type, dcmKeys, {}, {})
     {}
 

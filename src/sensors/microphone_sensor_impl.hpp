@@ -16,7 +16,7 @@ class MicrophoneSensorImpl : public SensorImpl {
 public:
     using Handle = MicrophoneSensor;
 
-    MicrophoneSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name)
+    MicrophoneSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name)
         : SensorImpl(frame, name, kindOf<MicrophoneSensor>().type)
     {}
 

@@ -14,7 +14,7 @@ class PictureCameraImpl : public BaseCameraImpl {
 public:
     using Handle = Device;
 
-    PictureCameraImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name, int width, int height)
+    PictureCameraImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, int width, int height)
         : BaseCameraImpl(frame, name, kindOf<Device>().type), _width(width), _height(height)
     {}
 

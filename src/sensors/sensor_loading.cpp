@@ -79,31 +79,33 @@ bool ModelImpl::fetchSensor(std::string const& name)
     } else {
         parentLink = _index->links.find(_motionModel->rootName() + "Link");
     }
-    addDevice(name, addFrame(name, inParent, parentLink->_impl->frame()), keys);
+    SharedName const sharedName(name);
+    addDevice(sharedName, addFrame(sharedName, inParent, parentLink->_impl->frame()), keys);
     return true;
 }
 
-void ModelImpl::addDevice(std::string const& name, FramePtr const& frame, Keys const& keys)
+void ModelImpl::addDevice(SharedName const& sharedName, FramePtr const& frame, Keys const& keys)
 {
+    std::string const& name = sharedName;
     switch (_motionModel->sensorType(name)) {
     case Varo::Model::led: fetchLED(name, frame, keys); break;
-    case Varo::Model::tactile: addSensor<TactileSensorImpl>(frame, name, keys); break;
+    case Varo::Model::tactile: addSensor<TactileSensorImpl>(frame, sharedName, keys); break;
     case Varo::Model::camera: {
         auto const [width, height] = requiredResolutionOf(name);
-        addCameraSensor(frame, name, width, height);
+        addCameraSensor(frame, sharedName, width, height);
         break;
     }
     case Varo::Model::depthCamera: {
         auto const [width, height] = requiredResolutionOf(name);
-        addCameraDepthSensor(frame, name, width, height);
+        addCameraDepthSensor(frame, sharedName, width, height);
         break;
     }
-    case Varo::Model::bumper: addSensor<BumperSensorImpl>(frame, name, keys); break;
-    case Varo::Model::microphone: addMicrophoneSensor(frame, name); break;
+    case Varo::Model::bumper: addSensor<BumperSensorImpl>(frame, sharedName, keys); break;
+    case Varo::Model::microphone: addMicrophoneSensor(frame, sharedName); break;
     case Varo::Model::arrayDepth: fetchArrayDepthSensor(name, frame, keys); break;
     case Varo::Model::sonar: fetchSonarSensor(name, frame, keys); break;
-    case Varo::Model::fsr: addSensor<FSRSensorImpl>(frame, name, keys); break;
-    case Varo::Model::inertial: addSensor<InertialSensorImpl>(frame, name + "/Gyrometer", keys); break;
+    case Varo::Model::fsr: addSensor<FSRSensorImpl>(frame, sharedName, keys); break;
+    case Varo::Model::inertial: addSensor<InertialSensorImpl>(frame, SharedName(name + "/Gyrometer"), keys); break;
     case Varo::Model::unknownSensor:
     case Varo::Model::battery:
     case Varo::Model::temperature:
@@ -156,34 +158,34 @@ void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr const& frame,
     }
 }
 
-boost::shared_ptr<CameraSensor> ModelImpl::addCameraSensor(FramePtr const& frame, std::string const& name, int width,
+boost::shared_ptr<CameraSensor> ModelImpl::addCameraSensor(FramePtr const& frame, SharedName const& name, int width,
                                                            int height)
 {
     return addSensor<CameraSensorImpl>(frame, name, width, height);
 }
 
-boost::shared_ptr<CameraDepthSensor> ModelImpl::addCameraDepthSensor(FramePtr const& frame, std::string const& name,
+boost::shared_ptr<CameraDepthSensor> ModelImpl::addCameraDepthSensor(FramePtr const& frame, SharedName const& name,
                                                                      int width, int height)
 {
     return addSensor<CameraDepthSensorImpl>(frame, name, width, height);
 }
 
-boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr const& frame, std::string const& name)
+boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr const& frame, SharedName const& name)
 {
     return addSensor<MicrophoneSensorImpl>(frame, name);
 }
 
-boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, std::string const& name,
-                                                         Keys const& dcmKeys, SonarSensorImpl::SonarType sonarType)
+boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, SharedName const& name,
+                                                         Keys dcmKeys, SonarSensorImpl::SonarType sonarType)
 {
-    return addSensor<SonarSensorImpl>(frame, name, dcmKeys, sonarType);
+    return addSensor<SonarSensorImpl>(frame, name, std::move(dcmKeys), sonarType);
 }
 
-boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr const& frame, std::string const& name,
-                                                                   Keys const& dcmKeys, int width, int height,
+boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr const& frame, SharedName const& name,
+                                                                   Keys dcmKeys, int width, int height,
                                                                    Keys const& dcmStateKeys, Keys const& dcmCommandKeys)
 {
-    return addSensor<ArrayDepthSensorImpl>(frame, name, dcmKeys, width, height, dcmStateKeys, dcmCommandKeys);
+    return addSensor<ArrayDepthSensorImpl>(frame, name, std::move(dcmKeys), width, height, dcmStateKeys, dcmCommandKeys);
 }
 
 }  // namespace Sim

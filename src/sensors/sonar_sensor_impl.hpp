@@ -21,8 +21,8 @@ public:
         TenValues = 1,
     };
 
-    SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, std::string const& name,
-                    std::vector<std::string> const& dcmKeys, SonarType sonarType)
+    SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
+                    std::vector<std::string> dcmKeys, SonarType sonarType)
         : DCMSensorImpl(frame, name, kindOf<SonarSensor>().type, dcmKeys, {}, {}), _sonarType(sonarType)
     {}
 
