@@ -65,8 +65,8 @@ boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& fra
                                                              boost::shared_ptr<Joint const> const& joint,
                                                              bool reflectionForced)
 {
-    return addActuator<AngleActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, maxSpeed, joint,
-                                          reflectionForced);
+    return addActuator<AngleActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, maxSpeed,
+                                          joint, reflectionForced);
 }
 
 boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& frame, SharedName const& name,
@@ -78,8 +78,8 @@ boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& f
 }
 
 boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr const& frame, SharedName const& name,
-                                                                       Keys dcmKeys, float startValue,
-                                                                       float minValue, float maxValue,
+                                                                       Keys dcmKeys, float startValue, float minValue,
+                                                                       float maxValue,
                                                                        boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<AngleSpeedActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, joint);

@@ -2,6 +2,7 @@
 #define VARO_ACTUATORS_ANGLE_ACTUATOR_IMPL_HPP
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "actuators/joint_actuator_impl.hpp"

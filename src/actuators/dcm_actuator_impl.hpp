@@ -2,6 +2,7 @@
 #define VARO_ACTUATORS_DCM_ACTUATOR_IMPL_HPP
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "actuators/actuator_impl.hpp"

@@ -2,6 +2,7 @@
 #define VARO_ACTUATORS_JOINT_ACTUATOR_IMPL_HPP
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "actuators/mirrored_actuator_impl.hpp"
@@ -16,7 +17,8 @@ public:
     JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                       std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue,
                       boost::shared_ptr<Joint const> const& joint)
-        : MirroredActuatorImpl<Device>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue), _controlledJoint(joint)
+        : MirroredActuatorImpl<Device>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue),
+          _controlledJoint(joint)
     {}
 
     boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }

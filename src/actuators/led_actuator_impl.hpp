@@ -20,7 +20,7 @@ public:
     LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                     std::vector<std::string> dcmKeys, std::string const& shortname,
                     std::vector<std::string> const& groups, LEDActuator::Color color)
-        : DCMActuatorImpl(frame, name, kindOf<LEDActuator>().type, dcmKeys),
+        : DCMActuatorImpl(frame, name, kindOf<LEDActuator>().type, std::move(dcmKeys)),
           _shortname(shortname),
           _groups(groups),
           _color(color)

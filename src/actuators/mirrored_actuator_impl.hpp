@@ -20,7 +20,7 @@ public:
 
     MirroredActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                          std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue)
-        : DCMActuatorImpl(frame, name, kindOf<Device>().type, dcmKeys),
+        : DCMActuatorImpl(frame, name, kindOf<Device>().type, std::move(dcmKeys)),
           _startValue(startValue),
           _minValue(minValue),
           _maxValue(maxValue)

@@ -21,7 +21,9 @@ public:
 
     WheelActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                       std::vector<std::string> dcmKeys, float limit, boost::shared_ptr<Joint const> const& joint)
-        : DCMActuatorImpl(frame, name, kindOf<Device>().type, dcmKeys), _limit(limit), _controlledJoint(joint)
+        : DCMActuatorImpl(frame, name, kindOf<Device>().type, std::move(dcmKeys)),
+          _limit(limit),
+          _controlledJoint(joint)
     {}
 
     boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }

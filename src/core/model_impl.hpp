@@ -105,14 +105,13 @@ public:
                                                  std::vector<float> inertiaMatrix);
     boost::shared_ptr<VisualData const> createVisual(std::string const& meshPath,
                                                      Varo::Math::Transform const& meshTransform);
-    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, SharedName const& name,
-                                                      Keys dcmKeys, float startValue, float minValue,
-                                                      float maxValue, float maxSpeed,
+    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+                                                      float startValue, float minValue, float maxValue, float maxSpeed,
                                                       boost::shared_ptr<Joint const> const& joint,
                                                       bool reflectionForced);
-    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, SharedName const& name,
-                                                        Keys dcmKeys, float startValue, float minValue,
-                                                        float maxValue, boost::shared_ptr<Joint const> const& joint);
+    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+                                                        float startValue, float minValue, float maxValue,
+                                                        boost::shared_ptr<Joint const> const& joint);
     boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr const& frame, SharedName const& name,
                                                                 Keys dcmKeys, float startValue, float minValue,
                                                                 float maxValue,
@@ -123,9 +122,9 @@ public:
     boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr const& frame, SharedName const& name,
                                                                       Keys dcmKeys, float maxVelocity,
                                                                       boost::shared_ptr<Joint const> const& joint);
-    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, SharedName const& name,
-                                                          Keys dcmKeys, float startValue, float minValue,
-                                                          float maxValue, float maxSpeed,
+    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+                                                          float startValue, float minValue, float maxValue,
+                                                          float maxSpeed,
                                                           CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                           bool reflectionForced);
     boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
@@ -138,9 +137,9 @@ public:
     boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr const& frame, SharedName const& name);
     boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
                                                   SonarSensorImpl::SonarType sonarType);
-    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, SharedName const& name,
-                                                            Keys dcmKeys, int width, int height,
-                                                            Keys const& dcmStateKeys, Keys const& dcmCommandKeys);
+    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+                                                            int width, int height, Keys const& dcmStateKeys,
+                                                            Keys const& dcmCommandKeys);
 
 private:
     struct Branch;

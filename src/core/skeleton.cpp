@@ -15,7 +15,7 @@ using Varo::Math::Transform;
 /// A link whose children are still being made.
 struct ModelImpl::Branch {
     boost::shared_ptr<Link> link;
-    std::string jointName;
+    std::string const& jointName;  ///< the joint's own
     Transform end;
     std::vector<std::string> children;
     std::size_t nextChild = 0;
@@ -65,8 +65,7 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
 /// Makes the link that the joint moves. Without children when there is one already.
 ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
 {
-    Branch branch;
-    branch.jointName = joint->name();
+    Branch branch = {{}, joint->name(), {}, {}};
     std::string link = branch.jointName + "Link";
     if (_index->links.contains(link)) {
         return branch;

@@ -13,6 +13,7 @@ MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const
     addRecords(records.sensors, &NameEntry::sensor);
     _entries[records.root.name].root = &records.root;
 
+    _branches.reserve(records.joints.size() + records.chains.size());
     for (std::uint32_t const& listed : records.chainOrder) {
         addListedChain(listed, records.chains);
     }
@@ -53,17 +54,25 @@ void MotionModel::Index::addListedChain(std::uint32_t const& listed,
     auto const& joints = chain.jointNames;
     for (std::size_t position = 0; position < joints.size(); ++position) {
         auto& joint = _entries[joints[position]];
-        if (!joint.branches.empty() && joint.branches.back().chain == &listed) {
+        if (joint.lastBranch != NameEntry::none && _branches[joint.lastBranch].chain == &listed) {
             continue;  // listed twice
         }
         if (joint.firstChain == nullptr) {
             joint.firstChain = &chains.nameOf(listed);
         }
-        joint.branches.push_back({&listed, position + 1 < joints.size() ? &joints[position + 1] : nullptr, true});
+        addBranch(joint, {&listed, position + 1 < joints.size() ? &joints[position + 1] : nullptr, true});
     }
     if (!joints.empty()) {
-        _entries[chain.parentJoint].branches.push_back({&listed, &joints.front(), false});
+        addBranch(_entries[chain.parentJoint], {&listed, &joints.front(), false});
     }
+}
+
+void MotionModel::Index::addBranch(NameEntry& joint, NameEntry::Branch const& branch)
+{
+    auto const index = static_cast<std::uint32_t>(_branches.size());
+    (joint.lastBranch == NameEntry::none ? joint.firstBranch : _branches[joint.lastBranch].following) = index;
+    joint.lastBranch = index;
+    _branches.push_back(branch);
 }
 
 void MotionModel::Index::addChainPlaces(Varo::Model::ChainConfig const& chain)

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,10 +23,12 @@ struct NameEntry {
         std::size_t position = 0;
     };
     /// How one chain goes on from the joint.
+    static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
     struct Branch {
         std::uint32_t const* chain = nullptr;  ///< its place in the list of chains
         std::string const* next = nullptr;  ///< null at the chain's end
         bool listsJoint = false;  ///< true when the chain runs through the joint, false when it is attached to it
+        std::uint32_t following = none;  ///< the joint's next branch, as an index of all of them
     };
     /// Where a group of an actuator holds the sub-joint: the first place, if it does so twice.
     struct GroupPlace {
@@ -45,7 +48,8 @@ struct NameEntry {
     // What records of other names say of it.
     std::string const* firstChain = nullptr;  ///< name of the first chain, in the description's order, that lists it
     ChainPlace lastPlace;  ///< in the last chain, in order of name, that lists it
-    std::vector<Branch> branches;  ///< in the description's order of chains
+    std::uint32_t firstBranch = none;  ///< in the description's order of chains; mostly there is just this one
+    std::uint32_t lastBranch = none;
     std::vector<std::uint32_t> actuators;  ///< indices of those that are attached to it, in order of name
     std::vector<GroupPlace> groupPlaces;  ///< actuators in order of name, their groups in order
     std::optional<float> startAngle;
@@ -60,7 +64,17 @@ struct __attribute__((visibility("hidden"))) MotionModel::Index {
     /// An empty entry for a name that nothing is known of.
     NameEntry const& of(std::string const& name) const;
 
+    /// Calls `visit` for each way in which a chain goes on from a joint.
+    template <typename Visit>
+    void forEachBranch(NameEntry const& joint, Visit visit) const
+    {
+        for (auto branch = joint.firstBranch; branch != NameEntry::none; branch = _branches[branch].following) {
+            visit(_branches[branch]);
+        }
+    }
+
 private:
+    void addBranch(NameEntry& joint, NameEntry::Branch const& branch);
     template <typename Record>
     void addRecords(Varo::Model::Table<Record> const& table, Record const* NameEntry::*record);
     void addListedChain(std::uint32_t const& listed, Varo::Model::Table<Varo::Model::ChainConfig> const& chains);
@@ -68,6 +82,7 @@ private:
     void addGroups(Varo::Model::ActuatorConfig const& actuator, std::uint32_t index);
 
     std::unordered_map<std::string_view, NameEntry> _entries;
+    std::vector<NameEntry::Branch> _branches;  ///< of all joints
 };
 
 }  // namespace Sim

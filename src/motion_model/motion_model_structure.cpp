@@ -104,9 +104,11 @@ std::list<std::string> MotionModel::actuatorNames() const
 std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chain) const
 {
     std::list<std::string> names;
-    for (auto const& joint : angleActuatorNames(chain)) {
-        for (auto const actuator : _index->of(joint).actuators) {
-            names.push_back(_records->actuators.nameOf(actuator));
+    if (auto const* record = _records->chains.find(chain)) {
+        for (auto const& joint : record->jointNames) {
+            for (auto const actuator : _index->of(joint).actuators) {
+                names.push_back(_records->actuators.nameOf(actuator));
+            }
         }
     }
     return names;
@@ -129,14 +131,14 @@ std::vector<std::string> MotionModel::followingJoints(std::string const& joint) 
 {
     std::vector<std::string> following;
     auto const anchors = chainAnchorJoints(joint);
-    for (auto const& branch : _index->of(joint).branches) {
+    _index->forEachBranch(_index->of(joint), [&](NameEntry::Branch const& branch) {
         if (branch.next != nullptr) {
             following.push_back(*branch.next);
         }
         if (branch.listsJoint) {
             following.insert(following.end(), anchors.begin(), anchors.end());
         }
-    }
+    });
     followingJointsFromSubactuators(joint, following);
     return following;
 }

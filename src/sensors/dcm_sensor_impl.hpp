@@ -2,6 +2,7 @@
 #define VARO_SENSORS_DCM_SENSOR_IMPL_HPP
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "sensors/sensor_impl.hpp"
@@ -13,19 +14,23 @@ inline constexpr char dcmSensorErrMsg[] = "Could not query DCMSensor as it seems
 class DCMSensorImpl : public SensorImpl {
 public:
     DCMSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Sensor::Type type,
-                  std::vector<std::string> dcmKeys, std::vector<std::string> const& dcmStateKeys,
-                  std::vector<std::string> const& dcmCommandKeys)
-        : SensorImpl(frame, name, type), _dcmKeys(std::move(dcmKeys)), _dcmStateKeys(dcmStateKeys), _dcmCommandKeys(dcmCommandKeys)
+                  std::vector<std::string> dcmKeys)
+        : SensorImpl(frame, name, type), _dcmKeys(std::move(dcmKeys))
     {}
 
     std::vector<std::string> const& dcmKeys() const { return _dcmKeys; }
-    std::vector<std::string> const& dcmStateKeys() const { return _dcmStateKeys; }
-    std::vector<std::string> const& dcmCommandKeys() const { return _dcmCommandKeys; }
+    /// Of the few kinds that have a mode of operation.
+    virtual std::vector<std::string> const& dcmStateKeys() const { return noKeys(); }
+    virtual std::vector<std::string> const& dcmCommandKeys() const { return noKeys(); }
 
 private:
+    static std::vector<std::string> const& noKeys()
+    {
+        static std::vector<std::string> const none;
+        return none;
+    }
+
     std::vector<std::string> _dcmKeys;
-    std::vector<std::string> _dcmStateKeys;
-    std::vector<std::string> _dcmCommandKeys;
 };
 
 }  // namespace Sim

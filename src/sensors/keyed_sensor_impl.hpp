@@ -2,6 +2,7 @@
 #define VARO_SENSORS_KEYED_SENSOR_IMPL_HPP
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/kind_of.hpp"
@@ -17,7 +18,7 @@ public:
 
     KeyedSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                     std::vector<std::string> dcmKeys)
-        : DCMSensorImpl(frame, name, kindOf<Device>().type, dcmKeys, {}, {})
+        : DCMSensorImpl(frame, name, kindOf<Device>().type, std::move(dcmKeys))
     {}
 
     int bufferSize() const { return bytes; }

@@ -175,8 +175,8 @@ boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr cons
     return addSensor<MicrophoneSensorImpl>(frame, name);
 }
 
-boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, SharedName const& name,
-                                                         Keys dcmKeys, SonarSensorImpl::SonarType sonarType)
+boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+                                                         SonarSensorImpl::SonarType sonarType)
 {
     return addSensor<SonarSensorImpl>(frame, name, std::move(dcmKeys), sonarType);
 }
@@ -185,7 +185,8 @@ boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr cons
                                                                    Keys dcmKeys, int width, int height,
                                                                    Keys const& dcmStateKeys, Keys const& dcmCommandKeys)
 {
-    return addSensor<ArrayDepthSensorImpl>(frame, name, std::move(dcmKeys), width, height, dcmStateKeys, dcmCommandKeys);
+    return addSensor<ArrayDepthSensorImpl>(frame, name, std::move(dcmKeys), width, height, dcmStateKeys,
+                                           dcmCommandKeys);
 }
 
 }  // namespace Sim

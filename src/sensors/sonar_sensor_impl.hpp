@@ -2,6 +2,7 @@
 #define VARO_SENSORS_SONAR_SENSOR_IMPL_HPP
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/kind_of.hpp"
@@ -23,7 +24,7 @@ public:
 
     SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                     std::vector<std::string> dcmKeys, SonarType sonarType)
-        : DCMSensorImpl(frame, name, kindOf<SonarSensor>().type, dcmKeys, {}, {}), _sonarType(sonarType)
+        : DCMSensorImpl(frame, name, kindOf<SonarSensor>().type, std::move(dcmKeys)), _sonarType(sonarType)
     {}
 
     int bufferSize() const { return _sonarType == TenValues ? 40 : 4; }
