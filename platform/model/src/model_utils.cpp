@@ -7,6 +7,7 @@
 #include "native/native_codes.hpp"
 #include "native/native_reader.hpp"
 #include "native/native_writer.hpp"
+#include "robot/link_tree_codes.hpp"
 #include "spelling.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
@@ -98,6 +99,7 @@ std::vector<std::string> findingCodes()
         }
     };
     add(codes::ofTexts);
+    add(codes::ofLinkTrees);
     add(Native::codes::ofDialect);
     add(Urdf::codes::ofDialect);
     return {names.begin(), names.end()};

@@ -10,9 +10,6 @@
 
 namespace Varo::Model::Urdf {
 
-/// The attribute under which a record keeps the name that the link has in the URDF text.
-constexpr char const* linkNameAttribute = "urdfLink";
-
 /// Writes what a `link` element says of the body into the record of the joint that moves it, or of the root.
 void readBody(pugi::xml_node link, JointConfig& body, Report const& report);
 

@@ -7,7 +7,7 @@
 
 #include <pugixml.hpp>
 
-#include "urdf/uncarried.hpp"
+#include "robot/unsupported.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "xml/node_offset.hpp"
@@ -17,8 +17,16 @@ namespace Varo::Model::Urdf {
 /// What all readers of elements report to.
 struct Report {
     Diagnostics& diagnostics;
-    Uncarried& uncarried;
+    Unsupported& unsupported;
+
+    void passOver(pugi::xml_node element) const
+    {
+        unsupported.add(element.parent().name(), element.name(), at(element));
+    }
 };
+
+/// The element's name; empty, and reported, when it has none or one that is too long.
+std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics);
 
 /// The children of an element that have the given names, which may stand once each; null where there is none. All
 /// others are passed over.
@@ -36,7 +44,7 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
             ++place;
         }
         if (place == count) {
-            report.uncarried.add(child);
+            report.passOver(child);
         } else if (!children[place]) {
             children[place] = child;
         } else {

@@ -3,7 +3,7 @@
 
 #include <pugixml.hpp>
 
-#include "urdf/description.hpp"
+#include "robot/link_tree.hpp"
 #include "urdf/elements.hpp"
 
 namespace Varo::Model::Urdf {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "varo/math/position3d.hpp"
@@ -162,6 +163,17 @@ inline TextOffset offsetOf(JointConfig const& joint, Part part)
     bool const isOfBody =
         part == Part::mass || part == Part::centerOfMass || part == Part::inertia || part == Part::material;
     return isOfBody ? joint.bodyOffset : joint.textOffset;
+}
+
+/// The attribute under which the record of a joint or root keeps the name that the text gives the link, where the
+/// dialect names links beside joints. Models call a link after its joint.
+inline constexpr char const* linkNameAttribute = "urdfLink";
+
+/// The name that the text gives the link of a joint or root; empty when it gives none. Refers into the record.
+inline std::string_view statedLinkName(JointConfig const& body)
+{
+    auto const found = body.attributes.find(linkNameAttribute);
+    return found == body.attributes.end() ? std::string_view() : found->second;
 }
 
 /// Joints by their names.
