@@ -161,7 +161,7 @@ int info(std::string const& file)
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
     sheet.add("chains", chains(records));
     addIfAny("postures", postures(records));
-    sheet.add(records.dialect() == "urdf" ? "not carried" : "findings", summarised(model.findings()));
+    sheet.add(recordsOf(records)->holdsAllStated ? "findings" : "not carried", summarised(model.findings()));
     return exitStatus::fine;
 }
 

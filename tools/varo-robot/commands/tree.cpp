@@ -139,9 +139,9 @@ std::string TreePainter::labelOf(Sim::Link const& link, Palette const& palette) 
     if (link.type() == Sim::Link::Wheel) {
         label += palette.paint(Ink::faint, " wheel");
     }
-    std::string const urdfName = _names.urdfNameOf(link.name());
-    if (!urdfName.empty()) {
-        label += palette.paint(Ink::faint, " urdf:" + urdfName);
+    std::string const statedName = _names.statedNameOf(link.name());
+    if (!statedName.empty()) {
+        label += palette.paint(Ink::faint, " urdf:" + statedName);
     }
     return label;
 }
