@@ -133,7 +133,7 @@ TEST(Actuators, AppendTheSubJointsTheyMove)
     EXPECT_THAT(group, ElementsAre("kept", "A1", "A2", "A3", "A2", "A4"));
 }
 
-TEST(Actuators, AreRefusedWhenTheyHangOnThemselves)
+TEST(Actuators, AreRefusedWhenTheyAreAttachedToThemselves)
 {
     auto const self = [] { modelOf([](FakeRobot& robot) { robot.addActuator("A", "A"); }); };
     auto const loop = [] {

@@ -1,8 +1,6 @@
-#include "urdf/bodies.hpp"
-
 #include <string>
 
-#include "robot/pose.hpp"
+#include "urdf/elements.hpp"
 #include "urdf/numbers.hpp"
 #include "xml/node_offset.hpp"
 

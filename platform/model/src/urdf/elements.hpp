@@ -4,9 +4,11 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 #include <pugixml.hpp>
 
+#include "robot/link_tree.hpp"
 #include "robot/unsupported.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -54,6 +56,15 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
     }
     return children;
 }
+
+/// What a `joint` element says of the joint itself. Without a name when that cannot be used.
+Joint readJoint(pugi::xml_node node, Report const& report);
+
+/// Writes what a `link` element says of the body into the record of the joint that moves it, or of the root.
+void readBody(pugi::xml_node link, JointConfig& body, Report const& report);
+
+/// The same of its `visual` elements alone.
+void readVisuals(std::vector<pugi::xml_node> const& visuals, JointConfig& body, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

@@ -1,10 +1,9 @@
-#include "urdf/joints.hpp"
-
 #include <cmath>
 #include <limits>
 #include <string>
 #include <utility>
 
+#include "urdf/elements.hpp"
 #include "urdf/numbers.hpp"
 #include "xml/node_offset.hpp"
 

@@ -11,9 +11,7 @@
 #include "robot/tree_records.hpp"
 #include "robot/unique_names.hpp"
 #include "robot/unsupported.hpp"
-#include "urdf/bodies.hpp"
 #include "urdf/elements.hpp"
-#include "urdf/joints.hpp"
 #include "urdf/sensors.hpp"
 #include "xml/node_offset.hpp"
 
