@@ -136,7 +136,7 @@ TEST(Actuators, AppendTheSubJointsTheyMove)
 TEST(Actuators, AreRefusedWhenTheyAreAttachedToThemselves)
 {
     auto const self = [] { modelOf([](FakeRobot& robot) { robot.addActuator("A", "A"); }); };
-    auto const loop = [] {
+    auto const cycle = [] {
         modelOf([](FakeRobot& robot) {
             robot.addChain("Chain", "Torso", {"B"});
             robot.addActuator("A", "C");
@@ -146,7 +146,7 @@ TEST(Actuators, AreRefusedWhenTheyAreAttachedToThemselves)
         });
     };
     EXPECT_THROW(self(), std::invalid_argument);
-    EXPECT_THROW(loop(), std::invalid_argument);
+    EXPECT_THROW(cycle(), std::invalid_argument);
 }
 
 }  // namespace

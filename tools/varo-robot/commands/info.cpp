@@ -118,7 +118,7 @@ std::string postures(Varo::Model::Robot const& robot)
     return text;
 }
 
-/// A line for each code that findings bear: how many there are, and the first of them.
+/// A line for each code that findings have: how many there are, and the first of them.
 std::vector<std::string> summarised(Findings const& findings)
 {
     std::map<std::string, std::pair<std::size_t, Finding const*>> byCode;

@@ -35,7 +35,7 @@ struct Sighting {
     Json facts;
 };
 
-/// Collects what bears a name.
+/// Collects what has a name.
 class Search {
 public:
     Search(Sim::Model const& model, LinkNames const& linkNames, std::string name)
@@ -193,14 +193,14 @@ std::function<int()> declare(CLI::App& app)
 
 }  // namespace
 
-Command const showCommand = {"show", "Show everything that bears a name",
+Command const showCommand = {"show", "Show everything of a name",
                              R"(Prints all that the model knows under the name, whatever its kind: links, joints
 with their groups and symmetries, groups, actuators and sensors, one after the
-other when several bear the name. A link of a URDF description is found by the
-name that it has there, too.
+other when several have it. A link is found, too, by the name that a description
+in URDF gives it.
 
 Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
-The exit status is 1 when nothing bears the name.
+The exit status is 1 when nothing has the name.
 
 Examples:
   varo-robot show NeckTurn robots/humanoid.xml

@@ -1,6 +1,5 @@
 #include "robot/couplings.hpp"
 
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
@@ -143,17 +142,16 @@ void followMimics(LinkTree& tree, Diagnostics& diagnostics)
 void addCouplings(LinkTree const& tree, std::vector<std::size_t> const& buildingOrder, UniqueNames& names,
                   Records& robot, Diagnostics& diagnostics)
 {
-    std::vector<std::size_t> placeOf(buildingOrder.size());
-    for (std::size_t place = 0; place < buildingOrder.size(); ++place) {
-        placeOf[buildingOrder[place]] = place;
+    std::vector<std::size_t> lastBuilt(tree.joints.size(), none);  // by leader
+    for (std::size_t const joint : buildingOrder) {
+        std::size_t const leader = tree.joints[joint].mimic.leaderJoint;
+        lastBuilt[leader == none ? joint : leader] = joint;
     }
-    auto const builtBefore = [&](std::size_t a, std::size_t b) { return placeOf[a] < placeOf[b]; };
     for (auto const& [leader, members] : membersByLeader(tree)) {
         JointConfig const& first = tree.joints[leader].config;
-        std::size_t const last = *std::max_element(members.begin(), members.end(), builtBefore);
         ActuatorConfig actuator = makeActuator(tree.joints[leader]);
         actuator.name = names.claim(first.name + "Coupling", "the coupled actuator", first.textOffset, diagnostics);
-        actuator.parentJoint = tree.joints[last].config.name;
+        actuator.parentJoint = tree.joints[lastBuilt[leader]].config.name;
         for (std::size_t const member : members) {
             SubActuatorConfig subActuator = makeSubActuator(tree.joints[member]);
             actuator.jointGroups.push_back({subActuator.name});

@@ -82,7 +82,7 @@ struct ActuatorConfig {
     float maxAngle = 0.0F;  ///< rad
     float maxTorque = 0.0F;  ///< N*m; 0 when not stated
     float maxAngularSpeed = 0.0F;  ///< rad/s
-    std::string parentJoint;  ///< the joint that it hangs on
+    std::string parentJoint;  ///< the joint that it is attached to
     Transform placement;  ///< in the frame of the parent joint
     std::vector<std::vector<std::string>> jointGroups;  ///< names of sub-joints, each group from the parent outward
     std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
@@ -110,7 +110,7 @@ struct WheelConfig {
     float mass = 0.0F;  ///< kg
     std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< as JointConfig::inertiaMatrix
     Position3D centerOfMass;  ///< m, in the wheel's link frame
-    std::string parentJoint;  ///< the joint that it hangs on
+    std::string parentJoint;  ///< the joint that it is attached to
     Transform placement;  ///< in the frame of the parent joint
     Attributes attributes;  ///< as JointConfig::attributes
     TextOffset textOffset = {};  ///< of its element
@@ -129,7 +129,7 @@ struct SubActuatorConfig {
 /// A serial chain of joints.
 struct ChainConfig {
     std::string name;  ///< under which the table holds the record
-    std::string parentJoint;  ///< the joint, or the root, that the chain hangs on
+    std::string parentJoint;  ///< the joint, or the root, that the chain is attached to
     std::vector<std::string> jointNames;  ///< from the parent outward
     Transform placement;  ///< the chain's base frame in the frame of the parent joint
     Transform tipTransform;  ///< the chain's tool frame in the link frame of its last joint; carried
