@@ -139,8 +139,8 @@ void followMimics(LinkTree& tree, Diagnostics& diagnostics)
     settleMimics(tree, diagnostics);
 }
 
-void addCouplings(LinkTree const& tree, std::vector<std::size_t> const& buildingOrder, UniqueNames& names,
-                  Records& robot, Diagnostics& diagnostics)
+void addCouplings(LinkTree& tree, std::vector<std::size_t> const& buildingOrder, Records& robot,
+                  Diagnostics& diagnostics)
 {
     std::vector<std::size_t> lastBuilt(tree.joints.size(), none);  // by leader
     for (std::size_t const joint : buildingOrder) {
@@ -150,7 +150,8 @@ void addCouplings(LinkTree const& tree, std::vector<std::size_t> const& building
     for (auto const& [leader, members] : membersByLeader(tree)) {
         JointConfig const& first = tree.joints[leader].config;
         ActuatorConfig actuator = makeActuator(tree.joints[leader]);
-        actuator.name = names.claim(first.name + "Coupling", "the coupled actuator", first.textOffset, diagnostics);
+        actuator.name =
+            tree.names.claim(first.name + "Coupling", "the coupled actuator", first.textOffset, diagnostics);
         actuator.parentJoint = tree.joints[lastBuilt[leader]].config.name;
         for (std::size_t const member : members) {
             SubActuatorConfig subActuator = makeSubActuator(tree.joints[member]);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "robot/couplings.hpp"
 #include "robot/link_tree_codes.hpp"
 
 namespace Varo::Model {
@@ -88,17 +89,36 @@ void findRoot(LinkTree& tree, Diagnostics& diagnostics)
     }
 }
 
-/// At the joint that stands last in the text: the one that closes the cycle.
-void reportCycle(LinkTree const& tree, Cycle const& links, Diagnostics& diagnostics)
+/// In the records a link is called after the joint that moves it, so that the root must not share a joint's name.
+void nameRoot(LinkTree& tree, Diagnostics& diagnostics)
 {
-    std::size_t last = 0;
-    for (std::size_t const link : links) {
-        last = std::max(last, tree.links[link].parentJoint);
+    for (Joint const& joint : tree.joints) {
+        tree.names.claim(joint.config.name, "this joint", joint.config.textOffset, diagnostics);
     }
-    Joint const& joint = tree.joints[last];
-    diagnostics.report(joint.config.textOffset, codes::jointCycle,
-                       "This joint closes a cycle: its parent link " + quoted(tree.links[joint.parentLink].name) +
-                           " is itself moved by this joint.");
+    Link const& root = tree.links[tree.rootLink];
+    tree.rootBody.textOffset = root.textOffset;
+    tree.rootBody.name =
+        tree.names.claim(std::string(root.name), "the root of the records", root.textOffset, diagnostics);
+}
+
+/// Each at its joint that stands last in the text: the one that closes the cycle.
+void reportCycles(LinkTree const& tree, Diagnostics& diagnostics)
+{
+    std::vector<std::size_t> parents;
+    parents.reserve(tree.links.size());
+    for (Link const& link : tree.links) {
+        parents.push_back(link.parentJoint == none ? none : tree.joints[link.parentJoint].parentLink);
+    }
+    for (Cycle const& links : findCycles(parents)) {
+        std::size_t last = 0;
+        for (std::size_t const link : links) {
+            last = std::max(last, tree.links[link].parentJoint);
+        }
+        Joint const& joint = tree.joints[last];
+        diagnostics.report(joint.config.textOffset, codes::jointCycle,
+                           "This joint closes a cycle: its parent link " + quoted(tree.links[joint.parentLink].name) +
+                               " is itself moved by this joint.");
+    }
 }
 
 }  // namespace
@@ -112,14 +132,11 @@ void connect(LinkTree& tree, Diagnostics& diagnostics)
     if (isWhole) {
         findRoot(tree, diagnostics);
     }
-    std::vector<std::size_t> parents;
-    parents.reserve(tree.links.size());
-    for (Link const& link : tree.links) {
-        parents.push_back(link.parentJoint == none ? none : tree.joints[link.parentJoint].parentLink);
+    if (tree.rootLink != none) {
+        nameRoot(tree, diagnostics);
     }
-    for (Cycle const& links : findCycles(parents)) {
-        reportCycle(tree, links, diagnostics);
-    }
+    reportCycles(tree, diagnostics);
+    followMimics(tree, diagnostics);
 }
 
 }  // namespace Varo::Model

@@ -8,6 +8,7 @@
 
 #include "robot/cycles.hpp"
 #include "robot/pose.hpp"
+#include "robot/unique_names.hpp"
 #include "varo/model/configs.hpp"
 #include "varo/model/diagnostics.hpp"
 
@@ -40,7 +41,7 @@ struct Mimic {
     TextOffset offsetOffset;  ///< of what states the offset
     double ratio = 1.0;
     double offset = 0.0;  ///< rad or m
-    std::size_t leaderJoint = none;  ///< which leads in the end, once mimics are followed
+    std::size_t leaderJoint = none;  ///< the one that leads in the end: found out by `connect`
 };
 
 struct Joint {
@@ -61,9 +62,10 @@ struct LinkTree {
     std::vector<Link> links;
     std::vector<Joint> joints;
     TextOffset textOffset;  ///< of the robot's element
-    JointConfig rootBody;  ///< the record of the root
-    // What follows is found out by `connect`.
+    // What follows is found out by `connect`, but for the body.
     std::size_t rootLink = none;
+    JointConfig rootBody;  ///< the record of the root, with a name that no joint has
+    UniqueNames names;  ///< those of the joints and the root
     std::unordered_map<std::string_view, std::size_t> linkByName;
     std::unordered_map<std::string_view, std::size_t> jointByName;
 
@@ -83,9 +85,9 @@ inline std::size_t find(std::unordered_map<std::string_view, std::size_t> const&
     return found == table.end() ? none : found->second;
 }
 
-/// Ties links and joints to each other by their names and finds the root. Reports whatever keeps them from being one
-/// tree, save what only follows from another such finding; names and references that the text does not state are for
-/// the reader to report.
+/// Ties links and joints to each other by their names, finds and names the root, and follows the mimics. Reports
+/// whatever keeps links and joints from being one tree, save what only follows from another such finding; names and
+/// references that the text does not state are for the reader to report.
 void connect(LinkTree& tree, Diagnostics& diagnostics);
 
 }  // namespace Varo::Model

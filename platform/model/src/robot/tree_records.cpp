@@ -1,6 +1,5 @@
 #include "robot/tree_records.hpp"
 
-#include <string>
 #include <utility>
 
 #include "robot/chains.hpp"
@@ -25,24 +24,11 @@ void placeJoints(LinkTree& tree)
 
 }  // namespace
 
-void nameRoot(LinkTree& tree, UniqueNames& names, Diagnostics& diagnostics)
-{
-    if (tree.rootLink == none) {
-        return;
-    }
-    for (Joint const& joint : tree.joints) {
-        names.claim(joint.config.name, "this joint", joint.config.textOffset, diagnostics);
-    }
-    Link const& root = tree.links[tree.rootLink];
-    tree.rootBody.textOffset = root.textOffset;
-    tree.rootBody.name = names.claim(std::string(root.name), "the root of the records", root.textOffset, diagnostics);
-}
-
-void addRecords(LinkTree&& tree, UniqueNames& names, Records& robot, Diagnostics& diagnostics)
+void addRecords(LinkTree&& tree, Records& robot, Diagnostics& diagnostics)
 {
     ChildJoints const children = childJointsOf(tree);
     robot.chains = makeChains(tree, children);
-    addCouplings(tree, buildingOrder(tree, children), names, robot, diagnostics);
+    addCouplings(tree, buildingOrder(tree, children), robot, diagnostics);
     placeJoints(tree);
     robot.root = std::move(tree.rootBody);
     robot.joints.reserve(tree.joints.size());

@@ -6,10 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "robot/couplings.hpp"
 #include "robot/link_tree.hpp"
 #include "robot/tree_records.hpp"
-#include "robot/unique_names.hpp"
 #include "robot/unsupported.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/sensors.hpp"
@@ -53,7 +51,6 @@ private:
     std::vector<pugi::xml_node> _links;  ///< one for one as in the tree
     std::vector<pugi::xml_node> _extensions;
     std::vector<pugi::xml_node> _sensors;
-    UniqueNames _names;
     Records _robot;
 };
 
@@ -64,13 +61,11 @@ Records Reader::read()
     readElements();
     connect(_tree, _diagnostics);
     readIdentity();
-    nameRoot(_tree, _names, _diagnostics);
     readBodies();
     readSensors();
-    followMimics(_tree, _diagnostics);
     _unsupported.report(_diagnostics);
     if (!_diagnostics.hasErrors()) {
-        addRecords(std::move(_tree), _names, _robot, _diagnostics);
+        addRecords(std::move(_tree), _robot, _diagnostics);
     }
     return std::move(_robot);
 }
