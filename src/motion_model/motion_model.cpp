@@ -1,7 +1,6 @@
 #include "sim/motion_model.hpp"
 
 #include <stdexcept>
-#include <unordered_set>
 
 #include "motion_model/motion_model_index.hpp"
 #include "motion_model/start_angles.hpp"
@@ -9,31 +8,6 @@
 #include "varo/model/model_utils.hpp"
 
 namespace Sim {
-
-namespace {
-
-using Varo::Model::ActuatorConfig;
-
-/// The list of the actuators of a chain, to which each contributes those that are attached to it, has no end in a
-/// cycle.
-void refuseActuatorCycles(Varo::Model::Table<ActuatorConfig> const& actuators)
-{
-    std::unordered_set<ActuatorConfig const*> cleared;
-    for (ActuatorConfig const& start : actuators) {
-        std::unordered_set<ActuatorConfig const*> path;
-        ActuatorConfig const* actuator = &start;
-        while (actuator != nullptr && cleared.count(actuator) == 0) {
-            if (!path.insert(actuator).second) {
-                throw std::invalid_argument("MotionModel: the actuator " + actuator->name +
-                                            " is attached, through its parents, to itself.");
-            }
-            actuator = actuators.find(actuator->parentJoint);
-        }
-        cleared.merge(path);
-    }
-}
-
-}  // namespace
 
 MotionModel::MotionModel(std::string const& xml) : MotionModel(Varo::Model::ModelUtils::robotFromXml(xml)) {}
 
@@ -43,7 +17,11 @@ MotionModel::MotionModel(std::unique_ptr<Varo::Model::Robot> robot) : _robot(std
         throw std::invalid_argument("MotionModel: no robot.");
     }
     _records = Varo::Model::recordsOf(*_robot);
-    refuseActuatorCycles(_records->actuators);
+    // The list of the actuators of a chain, to which each adds those that are attached to it, has no end in a cycle.
+    if (auto const* const actuator = findActuatorCycle(*_records)) {
+        throw std::invalid_argument("MotionModel: the actuator " + actuator->name +
+                                    " is attached, through its parents, to itself.");
+    }
     _index = std::make_unique<Index const>(*_records, readStartAngles(*_robot, *_records));
 }
 

@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "varo/math/rpy.hpp"
+
 namespace {
 
 using testing::ElementsAre;
@@ -98,6 +100,30 @@ TEST(Transform, RollPitchAndYawTurnAboutFixedAxesInThisOrder)
 {
     expectNear(Transform::fromRpy(0.3F, -0.7F, 1.9F),
                Transform::fromRotZ(1.9F) * Transform::fromRotY(-0.7F) * Transform::fromRotX(0.3F));
+}
+
+TEST(Rpy, GivesBackTheRotationThatItWasReadFrom)
+{
+    auto const composed = [](Varo::Math::Rpy const& rpy) {
+        return Transform::fromRpy(static_cast<float>(rpy.roll), static_cast<float>(rpy.pitch),
+                                  static_cast<float>(rpy.yaw));
+    };
+    for (Transform const& pose : randomPoses(200)) {
+        Varo::Math::Rpy const rpy = rpyOf(pose);
+        EXPECT_LE(std::abs(rpy.pitch), 1.5707964);
+        expectNear(Transform::fromPosition(pose(0, 3), pose(1, 3), pose(2, 3)) * composed(rpy), pose);
+    }
+    for (float const pitch : {quarterTurn, -quarterTurn}) {
+        Transform const pose = Transform::fromRpy(0.3F, pitch, 0.8F);
+        EXPECT_EQ(rpyWithoutRoll(pose).roll, 0.0);
+        expectNear(composed(rpyWithoutRoll(pose)), pose);
+    }
+}
+
+TEST(Rpy, KeepsThePrecisionOfItsAngles)
+{
+    EXPECT_EQ(Varo::Math::rotationFromRpy(0.0, 0.0, 0.1)[3], std::sin(0.1));
+    EXPECT_EQ(Varo::Math::rotationFromRpy(0.0F, 0.0F, 0.1F)[3], std::sin(0.1F));
 }
 
 TEST(Transform, ShowsItsEntriesRowByRow)

@@ -53,6 +53,13 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
              {"<joint name='K' min='0' max='1'/><chain name='D' parent='K'><jointRef name='K'/></chain>",
               {"50 chain-loop"}},
              {"<actuator name='A' min='0' max='1' parent='A'/>", {"36 actuator-loop refused"}},
+             {"<joint name='JLink' min='0' max='1'/><chain name='D' parent='B'><jointRef name='JLink'/></chain>",
+              {"1 ambiguous-name"}},
+             {"<wheel name='BLink' maxTorque='1' maxVelocity='1' parent='J'/>",
+              {"1 missing-material", "1 ambiguous-name"}},
+             {"<actuator name='A' min='0' max='1' parent='J'><group><subJoint ratio='1' "
+              "name='JLink'/></group></actuator>",
+              {"54 ambiguous-name"}},
              {"<joynt name='K'/>" + angle + "'K'/></posture>", {"1 unknown-element refused"}},
          }) {
         EXPECT_EQ(placesOf(around(c.elements)), c.places) << c.elements;

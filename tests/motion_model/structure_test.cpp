@@ -133,10 +133,10 @@ TEST(Actuators, AppendTheSubJointsTheyMove)
     EXPECT_THAT(group, ElementsAre("kept", "A1", "A2", "A3", "A2", "A4"));
 }
 
-TEST(Actuators, AreRefusedWhenTheyHangOnThemselves)
+TEST(Actuators, AreRefusedWhenTheyAreAttachedToThemselves)
 {
     auto const self = [] { modelOf([](FakeRobot& robot) { robot.addActuator("A", "A"); }); };
-    auto const loop = [] {
+    auto const cycle = [] {
         modelOf([](FakeRobot& robot) {
             robot.addChain("Chain", "Torso", {"B"});
             robot.addActuator("A", "C");
@@ -146,7 +146,7 @@ TEST(Actuators, AreRefusedWhenTheyHangOnThemselves)
         });
     };
     EXPECT_THROW(self(), std::invalid_argument);
-    EXPECT_THROW(loop(), std::invalid_argument);
+    EXPECT_THROW(cycle(), std::invalid_argument);
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ TEST(UrdfNames, MayBeSharedByLinksAndJoints)
     EXPECT_NE(model.link("baseLink"), nullptr);
     EXPECT_NE(model.link("baseLink"), model.rootLink());
     EXPECT_EQ(model.joint("aLink")->parentLink()->name(), "aLink");
-    EXPECT_THAT(complaintsAbout(text), ElementsAre("renamed", "renamed"));
+    EXPECT_THAT(complaintsAbout(text), ElementsAre("renamed", "renamed", "ambiguous-name"));
 
     // An actuator of a joint's name would take the joint's limits.
     EXPECT_EQ(model.angleActuator("aCoupling")->minValue(), -0.5F);
@@ -41,6 +41,20 @@ TEST(UrdfNames, OfLinksAreKeptAsAttributes)
     EXPECT_EQ(tables.root.attributes.at("urdfLink"), "base");
     EXPECT_EQ(tables.joints.at("a").attributes.at("urdfLink"), "b");
     EXPECT_EQ(tables.joints.at("aLink").attributes.at("urdfLink"), "a");
+}
+
+/// Look-ups by name cannot tell such a joint from the link; whichever stands later in the text gets the warning.
+TEST(UrdfNames, WarnOfJointsNamedLikeTheLinkOfAnother)
+{
+    std::string const links = link("root") + link("a") + link("b");
+    Findings const findings =
+        ModelUtils::diagnose(robot(links + joint("ALink", "root", "a") + "\n" + joint("A", "a", "b")));
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].code, "ambiguous-name");
+    EXPECT_EQ(findings[0].line, 2);
+    EXPECT_THAT(complaintsAbout(robot(link("ALink") + link("a") + joint("A", "ALink", "a"))),
+                ElementsAre("ambiguous-name"));
+    EXPECT_THAT(complaintsAbout(robot(links + joint("ALink", "root", "a") + joint("Link", "a", "b"))), ElementsAre());
 }
 
 }  // namespace

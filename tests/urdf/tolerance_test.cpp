@@ -67,10 +67,20 @@ TEST(UrdfTolerance, TakesLimitsWithoutBoundsAsNone)
     std::string const text = robot(link("root") + link("a") +
                                    joint("A", "root", "a", "<limit lower=\"-inf\" upper=\"1e308\" effort=\"inf\"/>"));
     EXPECT_THAT(complaintsAbout(text), ElementsAre("unlimited"));
-    JointConfig const joint = tablesOf(text).joints.at("A");
-    EXPECT_EQ(joint.minAngle, -INFINITY);
-    EXPECT_EQ(joint.maxAngle, INFINITY);
-    EXPECT_EQ(joint.maxTorque, 0.0F);
+    JointConfig const boundless = tablesOf(text).joints.at("A");
+    EXPECT_EQ(boundless.minAngle, -INFINITY);
+    EXPECT_EQ(boundless.maxAngle, INFINITY);
+    EXPECT_EQ(boundless.maxTorque, 0.0F);
+
+    auto const limited = [](std::string const& limits) {
+        return robot(link("root") + link("a") + joint("A", "root", "a", "<limit " + limits + "/>"));
+    };
+    JointConfig const farthest = tablesOf(limited("lower=\"-1e30\" upper=\"1e30\"")).joints.at("A");
+    EXPECT_EQ(farthest.minAngle, -1e30F);
+    EXPECT_EQ(farthest.maxAngle, 1e30F);
+    for (char const* const limits : {"lower=\"1e31\"", "upper=\"-inf\"", "velocity=\"-1e31\""}) {
+        EXPECT_THAT(complaintsAbout(limited(limits)), ElementsAre("not-a-number")) << limits;
+    }
 }
 
 }  // namespace

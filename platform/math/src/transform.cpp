@@ -6,6 +6,8 @@
 #include <Eigen/Core>
 #include <Eigen/QR>
 
+#include "varo/math/rpy.hpp"
+
 namespace Varo::Math {
 
 Transform Transform::fromRotX(float angle)
@@ -31,16 +33,11 @@ Transform Transform::fromRotZ(float angle)
 
 Transform Transform::fromRpy(float roll, float pitch, float yaw)
 {
-    float const cr = std::cos(roll);
-    float const sr = std::sin(roll);
-    float const cp = std::cos(pitch);
-    float const sp = std::sin(pitch);
-    float const cy = std::cos(yaw);
-    float const sy = std::sin(yaw);
-    // Adding 0 keeps -0 out, as a product of rotations does.
-    return fromRows({cy * cp + 0.0F, cy * sp * sr - sy * cr + 0.0F, cy * sp * cr + sy * sr + 0.0F, 0.0F,  //
-                     sy * cp + 0.0F, sy * sp * sr + cy * cr + 0.0F, sy * sp * cr - cy * sr + 0.0F, 0.0F,  //
-                     0.0F - sp, cp * sr + 0.0F, cp * cr + 0.0F, 0.0F});
+    auto r = rotationFromRpy(roll, pitch, yaw);
+    for (float& entry : r) {
+        entry += 0.0F;  // keeps -0 out, as a product of rotations does
+    }
+    return fromRows({r[0], r[1], r[2], 0.0F, r[3], r[4], r[5], 0.0F, r[6], r[7], r[8], 0.0F});
 }
 
 Transform Transform::fromPosition(float x, float y, float z)

@@ -29,6 +29,9 @@ inline constexpr FindingCode unknownRoot{"unknown-root", Severity::error,
                                          "The root element is that of no dialect of robot descriptions."};
 inline constexpr FindingCode pathNotText{"path-not-text", Severity::error,
                                          "The text is no XML but looks like the path of a file."};
+inline constexpr FindingCode ambiguousName{
+    "ambiguous-name", Severity::warning,
+    "A joint, wheel, sub-joint or the root is named like the link of another, which has `Link` appended."};
 inline constexpr FindingCode tooManyFindings{
     "too-many-findings", Severity::error,
     "There are more findings than the 1000 that are listed; of the highest severity among those left out."};
@@ -36,7 +39,7 @@ inline constexpr FindingCode tooManyFindings{
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofTexts[] = {
     &textTooLarge, &malformedXml, &documentType, &contentOutsideRoot, &repeatedAttribute, &badReference,
-    &badCharacter, &badEncoding,  &unknownRoot,  &pathNotText,        &tooManyFindings,
+    &badCharacter, &badEncoding,  &unknownRoot,  &pathNotText,        &ambiguousName,     &tooManyFindings,
 };
 
 }  // namespace codes

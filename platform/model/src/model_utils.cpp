@@ -7,6 +7,8 @@
 #include "native/native_codes.hpp"
 #include "native/native_reader.hpp"
 #include "native/native_writer.hpp"
+#include "robot/ambiguous_names.hpp"
+#include "robot/link_tree_codes.hpp"
 #include "spelling.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
@@ -49,9 +51,11 @@ std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& s
     for (Dialect const& dialect : dialects) {
         if (dialect.root == root.name()) {
             Records records = dialect.read(root, diagnostics);
-            return diagnostics.hasErrors() ? nullptr
-                                           : std::make_unique<RobotRecord>(std::move(records), source,
-                                                                           std::move(diagnostics), dialect.parts);
+            if (diagnostics.hasErrors()) {
+                return nullptr;
+            }
+            checkLinkNames(records, diagnostics);
+            return std::make_unique<RobotRecord>(std::move(records), source, std::move(diagnostics), dialect.parts);
         }
     }
     reportUnknownRoot(root, diagnostics);
@@ -98,6 +102,7 @@ std::vector<std::string> findingCodes()
         }
     };
     add(codes::ofTexts);
+    add(codes::ofLinkTrees);
     add(Native::codes::ofDialect);
     add(Urdf::codes::ofDialect);
     return {names.begin(), names.end()};

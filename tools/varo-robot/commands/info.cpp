@@ -118,7 +118,7 @@ std::string postures(Varo::Model::Robot const& robot)
     return text;
 }
 
-/// A line for each code that findings bear: how many there are, and the first of them.
+/// A line for each code that findings have: how many there are, and the first of them.
 std::vector<std::string> summarised(Findings const& findings)
 {
     std::map<std::string, std::pair<std::size_t, Finding const*>> byCode;
@@ -161,7 +161,7 @@ int info(std::string const& file)
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
     sheet.add("chains", chains(records));
     addIfAny("postures", postures(records));
-    sheet.add(records.dialect() == "urdf" ? "not carried" : "findings", summarised(model.findings()));
+    sheet.add(recordsOf(records)->holdsAllStated ? "findings" : "not carried", summarised(model.findings()));
     return exitStatus::fine;
 }
 

@@ -35,7 +35,7 @@ struct Sighting {
     Json facts;
 };
 
-/// Collects what bears a name.
+/// Collects what has a name.
 class Search {
 public:
     Search(Sim::Model const& model, LinkNames const& linkNames, std::string name)
@@ -77,17 +77,17 @@ std::vector<Sighting> Search::run()
     return std::move(_found);
 }
 
-/// By the model's name or the one in the URDF.
+/// By the model's name or the one in the description.
 void Search::addLinks()
 {
-    std::vector<std::string> const urdfLinks = _linkNames.linksOf(_name);
+    std::vector<std::string> const statedLinks = _linkNames.linksOf(_name);
     for (Sim::Link const* link : _model.links()) {
-        bool const isMeant = std::find(urdfLinks.begin(), urdfLinks.end(), link->name()) != urdfLinks.end();
+        bool const isMeant = std::find(statedLinks.begin(), statedLinks.end(), link->name()) != statedLinks.end();
         if (link->name() == _name || isMeant) {
-            std::string const urdfName = _linkNames.urdfNameOf(link->name());
+            std::string const statedName = _linkNames.statedNameOf(link->name());
             _found.push_back({"link " + link->name(), _json.of(*link)});
-            if (!urdfName.empty()) {
-                _found.back().facts["urdfName"] = urdfName;
+            if (!statedName.empty()) {
+                _found.back().facts["urdfName"] = statedName;
             }
         }
     }
@@ -155,7 +155,7 @@ std::string similarNames(Sim::Model const& model, LinkNames const& linkNames, st
     offerAll(model.actuators());
     offerAll(model.sensors());
     for (Sim::Link const* link : model.links()) {
-        offer(linkNames.urdfNameOf(link->name()));
+        offer(linkNames.statedNameOf(link->name()));
     }
     std::string text;
     for (std::string const& candidate : similar) {
@@ -193,14 +193,14 @@ std::function<int()> declare(CLI::App& app)
 
 }  // namespace
 
-Command const showCommand = {"show", "Show everything that bears a name",
+Command const showCommand = {"show", "Show everything of a name",
                              R"(Prints all that the model knows under the name, whatever its kind: links, joints
 with their groups and symmetries, groups, actuators and sensors, one after the
-other when several bear the name. A link of a URDF description is found by the
-name that it has there, too.
+other when several have it. A link is found, too, by the name that a description
+in URDF gives it.
 
 Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
-The exit status is 1 when nothing bears the name.
+The exit status is 1 when nothing has the name.
 
 Examples:
   varo-robot show NeckTurn robots/humanoid.xml

@@ -139,9 +139,9 @@ std::string TreePainter::labelOf(Sim::Link const& link, Palette const& palette) 
     if (link.type() == Sim::Link::Wheel) {
         label += palette.paint(Ink::faint, " wheel");
     }
-    std::string const urdfName = _names.urdfNameOf(link.name());
-    if (!urdfName.empty()) {
-        label += palette.paint(Ink::faint, " urdf:" + urdfName);
+    std::string const statedName = _names.statedNameOf(link.name());
+    if (!statedName.empty()) {
+        label += palette.paint(Ink::faint, " urdf:" + statedName);
     }
     return label;
 }
@@ -205,7 +205,7 @@ description also shows the name that it has there.
 
 Branches are drawn with box-drawing characters in a UTF-8 locale, with plain
 ones otherwise. Colour appears on terminals only; set NO_COLOR to be without.
-Lines deeper than 40 levels are not indented further and bear their depth.
+Lines deeper than 40 levels are not indented further and state their depth.
 
 Examples:
   varo-robot tree robots/humanoid.xml

@@ -9,18 +9,19 @@
 
 namespace Tool {
 
-/// The names that links bear in a URDF description; in the model a link is called after its joint.
+/// The names that a description gives its links where its dialect names them; in the model a link is called after its
+/// joint.
 class LinkNames {
 public:
     explicit LinkNames(Varo::Model::Robot const& robot);
 
-    /// The name in the URDF of the model's link; empty when it has none.
-    std::string urdfNameOf(std::string const& link) const;
-    /// The model's links of that URDF name.
-    std::vector<std::string> linksOf(std::string const& urdfName) const;
+    /// The name that the description gives the model's link; empty when it gives none.
+    std::string statedNameOf(std::string const& link) const;
+    /// The model's links to which the description gives that name.
+    std::vector<std::string> linksOf(std::string const& statedName) const;
 
 private:
-    std::map<std::string, std::string> _urdfNames;  // by the model's name of the link
+    std::map<std::string, std::string> _statedNames;  // by the model's name of the link
 };
 
 }  // namespace Tool

@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "varo/math/rpy.hpp"
+
 namespace Tool {
 
 namespace {
@@ -18,17 +20,11 @@ std::string digitsOf(Number value, Format... format)
     return {digits.data(), end};
 }
 
-std::array<double, 3> rpyOf(Varo::Math::Transform const& pose)
+/// Where only the sum or difference of roll and yaw is left, that is called yaw.
+Varo::Math::Rpy readableRpy(Varo::Math::Transform const& pose)
 {
-    double const sinePitch = static_cast<double>(-pose(2, 0));
-    double const cosinePitch = std::hypot(static_cast<double>(pose(0, 0)), static_cast<double>(pose(1, 0)));
-    if (cosinePitch < 1e-6) {  // only the sum or difference of roll and yaw is left: call it yaw
-        double const yaw = std::atan2(static_cast<double>(-pose(0, 1)), static_cast<double>(pose(1, 1)));
-        return {0.0, std::atan2(sinePitch, cosinePitch), yaw};
-    }
-    return {std::atan2(static_cast<double>(pose(2, 1)), static_cast<double>(pose(2, 2))),
-            std::atan2(sinePitch, cosinePitch),
-            std::atan2(static_cast<double>(pose(1, 0)), static_cast<double>(pose(0, 0)))};
+    bool const isQuarterTurn = std::hypot(static_cast<double>(pose(0, 0)), static_cast<double>(pose(1, 0))) < 1e-6;
+    return isQuarterTurn ? rpyWithoutRoll(pose) : rpyOf(pose);
 }
 
 }  // namespace
@@ -58,7 +54,8 @@ std::string triple(std::array<double, 3> const& values)
 std::string poseText(Varo::Math::Transform const& pose)
 {
     Varo::Math::Position3D const origin = pose.position();
-    return "xyz " + triple({origin.x, origin.y, origin.z}) + "  rpy " + triple(rpyOf(pose));
+    auto const [roll, pitch, yaw] = readableRpy(pose);
+    return "xyz " + triple({origin.x, origin.y, origin.z}) + "  rpy " + triple({roll, pitch, yaw});
 }
 
 }  // namespace Tool

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "varo/math/rpy.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
@@ -63,21 +64,15 @@ bool sameBits(Transform const& a, Transform const& b)
     return std::memcmp(a.rows().data(), b.rows().data(), sizeof a.rows()) == 0;
 }
 
-using Angles = std::array<double, 3>;
-
 /// Roll, pitch and yaw of a rotation in the ways that people state them: the pitch within a quarter turn, beyond it,
 /// and with no roll, for when roll and yaw turn about the same axis.
-std::array<Angles, 3> anglesOf(Transform const& transform)
+std::array<Math::Rpy, 3> anglesOf(Transform const& transform)
 {
-    auto const entry = [&](int row, int column) { return static_cast<double>(transform(row, column)); };
     constexpr double halfTurn = 3.14159265358979323846;
-    double const roll = std::atan2(entry(2, 1), entry(2, 2));
-    double const pitch = std::atan2(-entry(2, 0), std::hypot(entry(0, 0), entry(1, 0)));
-    double const yaw = std::atan2(entry(1, 0), entry(0, 0));
-    return {{{roll, pitch, yaw},
-             {roll - std::copysign(halfTurn, roll), std::copysign(halfTurn, pitch) - pitch,
-              yaw - std::copysign(halfTurn, yaw)},
-             {0.0, pitch, std::atan2(-entry(0, 1), entry(1, 1))}}};
+    auto const opposite = [](double angle) { return angle - std::copysign(halfTurn, angle); };
+    Math::Rpy const within = Math::rpyOf(transform);
+    Math::Rpy const beyond = {opposite(within.roll), -opposite(within.pitch), opposite(within.yaw)};
+    return {within, beyond, Math::rpyWithoutRoll(transform)};
 }
 
 float roundedTo(double scale, double value)

@@ -2,6 +2,8 @@
 
 #include <unordered_map>
 
+#include "robot/cycles.hpp"
+
 namespace Varo::Model {
 
 namespace {
@@ -71,6 +73,18 @@ std::shared_ptr<Records const> recordsOf(Robot const& robot)
         return {std::shared_ptr<Records const>(), own};  // shares no ownership: the robot outlives it
     }
     return std::make_shared<Records const>(copyOfListings(robot));
+}
+
+ActuatorConfig const* findActuatorCycle(Records const& records)
+{
+    std::vector<std::size_t> parents;
+    parents.reserve(records.actuators.size());
+    for (ActuatorConfig const& actuator : records.actuators) {
+        ActuatorConfig const* const parent = records.actuators.find(actuator.parentJoint);
+        parents.push_back(parent == nullptr ? none : static_cast<std::size_t>(parent - &records.actuators[0]));
+    }
+    std::vector<Cycle> const cycles = findCycles(parents);
+    return cycles.empty() ? nullptr : &records.actuators[cycles.front().front()];
 }
 
 std::vector<std::string const*> angleNames(Records const& records)

@@ -1,7 +1,6 @@
-#include "urdf/bodies.hpp"
-
 #include <string>
 
+#include "urdf/elements.hpp"
 #include "urdf/numbers.hpp"
 #include "xml/node_offset.hpp"
 
@@ -58,7 +57,7 @@ void readBody(pugi::xml_node link, JointConfig& body, Report const& report)
             report.diagnostics.report(at(child), codes::surplusElement,
                                       "This is a further \"inertial\"; the first one counts.");
         } else if (child.type() == pugi::node_element) {
-            report.uncarried.add(child);
+            report.passOver(child);
         }
     }
     if (inertial) {

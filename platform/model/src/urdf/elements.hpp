@@ -4,10 +4,12 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 #include <pugixml.hpp>
 
-#include "urdf/uncarried.hpp"
+#include "robot/link_tree.hpp"
+#include "robot/unsupported.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "xml/node_offset.hpp"
@@ -17,8 +19,16 @@ namespace Varo::Model::Urdf {
 /// What all readers of elements report to.
 struct Report {
     Diagnostics& diagnostics;
-    Uncarried& uncarried;
+    Unsupported& unsupported;
+
+    void passOver(pugi::xml_node element) const
+    {
+        unsupported.add(element.parent().name(), element.name(), at(element));
+    }
 };
+
+/// The element's name; empty, and reported, when it has none or one that is too long.
+std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics);
 
 /// The children of an element that have the given names, which may stand once each; null where there is none. All
 /// others are passed over.
@@ -36,7 +46,7 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
             ++place;
         }
         if (place == count) {
-            report.uncarried.add(child);
+            report.passOver(child);
         } else if (!children[place]) {
             children[place] = child;
         } else {
@@ -46,6 +56,15 @@ std::array<pugi::xml_node, count> childrenOf(pugi::xml_node node, std::array<std
     }
     return children;
 }
+
+/// What a `joint` element says of the joint itself. Without a name when that cannot be used.
+Joint readJoint(pugi::xml_node node, Report const& report);
+
+/// Writes what a `link` element says of the body into the record of the joint that moves it, or of the root.
+void readBody(pugi::xml_node link, JointConfig& body, Report const& report);
+
+/// The same of its `visual` elements alone.
+void readVisuals(std::vector<pugi::xml_node> const& visuals, JointConfig& body, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

@@ -1,11 +1,9 @@
-#include "urdf/joints.hpp"
-
 #include <cmath>
 #include <limits>
 #include <string>
 #include <utility>
 
-#include "urdf/names.hpp"
+#include "urdf/elements.hpp"
 #include "urdf/numbers.hpp"
 #include "xml/node_offset.hpp"
 
@@ -84,6 +82,34 @@ void readLimits(pugi::xml_node node, pugi::xml_node limit, Motion motion, JointC
     }
 }
 
+/// The link that a child element of the joint names.
+Reference readLink(pugi::xml_node joint, pugi::xml_node element, std::string const& role, Diagnostics& diagnostics)
+{
+    if (pugi::xml_attribute const link = element.attribute("link")) {
+        return {link.value(), at(element, link)};
+    }
+    diagnostics.report(at(element ? element : joint), codes::unattachedJoint,
+                       "This joint does not say which link is its " + role + ".",
+                       "Write <" + role + " link=\"...\"/>.");
+    return {};
+}
+
+/// The mimic of a joint that does not move means nothing, whatever its numbers are.
+Mimic readMimic(pugi::xml_node node, bool moves, Diagnostics& diagnostics)
+{
+    Mimic mimic;
+    if (node) {
+        mimic.textOffset = at(node);
+        mimic.leader = {node.attribute("joint").value(), at(node, "joint")};
+        mimic.offsetOffset = at(node, "offset");
+    }
+    if (moves) {
+        mimic.ratio = readNumber(node, "multiplier", 1.0, diagnostics);
+        mimic.offset = readNumber(node, "offset", 0.0, diagnostics);
+    }
+    return mimic;
+}
+
 }  // namespace
 
 Joint readJoint(pugi::xml_node node, Report const& report)
@@ -93,12 +119,9 @@ Joint readJoint(pugi::xml_node node, Report const& report)
         childrenOf<7>(node, {"parent", "child", "origin", "axis", "limit", "dynamics", "mimic"}, report);
     Kind const kind = readKind(node, diagnostics);
     Joint joint;
-    joint.node = node;
-    joint.parent = parent;
-    joint.child = child;
-    joint.mimic = mimic;
     joint.origin = readOrigin(origin, diagnostics);
     joint.config.name = readName(node, diagnostics);
+    joint.nameOffset = at(node, "name");
     joint.config.jointType = kind.type;
     joint.config.textOffset = at(node);
     if (kind.motion == Motion::lost) {
@@ -111,6 +134,9 @@ Joint readJoint(pugi::xml_node node, Report const& report)
         joint.config.damping = static_cast<float>(readNumber(dynamics, "damping", 0.0, diagnostics));
         joint.config.friction = static_cast<float>(readNumber(dynamics, "friction", 0.0, diagnostics));
     }
+    joint.mimic = readMimic(mimic, !joint.isFixed(), diagnostics);
+    joint.parent = readLink(node, parent, "parent", diagnostics);
+    joint.child = readLink(node, child, "child", diagnostics);
     return joint;
 }
 

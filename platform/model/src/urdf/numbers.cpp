@@ -120,7 +120,7 @@ Vector readVector(pugi::xml_node node, char const* attribute, Vector const& fall
 
 Pose readOrigin(pugi::xml_node origin, Diagnostics& diagnostics)
 {
-    return {rotationFromRpy(readVector(origin, "rpy", {}, diagnostics)), readVector(origin, "xyz", {}, diagnostics)};
+    return poseFrom(readVector(origin, "xyz", {}, diagnostics), readVector(origin, "rpy", {}, diagnostics));
 }
 
 }  // namespace Varo::Model::Urdf

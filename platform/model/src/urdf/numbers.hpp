@@ -6,16 +6,12 @@
 
 #include <pugixml.hpp>
 
-#include "urdf/pose.hpp"
+#include "robot/link_tree.hpp"
 #include "varo/model/diagnostics.hpp"
 
 /// The numbers of a URDF text, which are looser than our own: lists may be too short, too long or padded. What is no
 /// number at all is reported, and read as the default.
 namespace Varo::Model::Urdf {
-
-/// Magnitudes beyond it are refused or, of limits, mean that there is no limit. Products of a few numbers up to here
-/// are still finite in single precision.
-constexpr double largestNumber = 1e30;
 
 /// A decimal number; white space around it and a leading plus are taken. Infinite when the text says so or is beyond
 /// the range of numbers.
@@ -24,7 +20,8 @@ bool parseNumber(std::string_view text, double& value);
 /// The attribute's value; `fallback` when there is no such attribute.
 double readNumber(pugi::xml_node node, char const* attribute, double fallback, Diagnostics& diagnostics);
 
-/// As readNumber, but may be minus infinity (`sign` -1) or infinity (1) for "no limit".
+/// As readNumber, but minus infinity (`sign` -1) or infinity (1), which mean "no limit", for one beyond the largest
+/// number on that side.
 double readLimit(pugi::xml_node node, char const* attribute, int sign, Diagnostics& diagnostics);
 
 /// The first numbers of the list that is the attribute's value or, when `attribute` is null, the element's text; those

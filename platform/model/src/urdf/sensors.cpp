@@ -68,20 +68,19 @@ void SensorReader::readExtension(pugi::xml_node gazebo)
         }
     }
     if (saysMore) {
-        _report.uncarried.add(gazebo);
+        _report.passOver(gazebo);
     }
 }
 
 /// A sensor on a joint is taken to be on the link that the joint moves.
 bool SensorReader::findParent(std::string_view carrier, std::string& parent) const
 {
-    std::size_t const link = find(_description.linkByName, carrier);
-    std::size_t const joint =
-        link == none ? find(_description.jointByName, carrier) : _description.links[link].parentJoint;
+    std::size_t const link = find(_tree.linkByName, carrier);
+    std::size_t const joint = link == none ? find(_tree.jointByName, carrier) : _tree.links[link].parentJoint;
     if (link == none && joint == none) {
         return false;
     }
-    parent = joint == none ? _robot.root.name : _description.joints[joint].config.name;
+    parent = joint == none ? _tree.rootBody.name : _tree.joints[joint].config.name;
     return true;
 }
 
@@ -101,7 +100,7 @@ Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
     }
     double values[6] = {};
     readNumbers(pose, {}, values, 6, _report.diagnostics);
-    return {rotationFromRpy({values[3], values[4], values[5]}), {values[0], values[1], values[2]}};
+    return poseFrom({values[0], values[1], values[2]}, {values[3], values[4], values[5]});
 }
 
 void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xml_node owner, char const* carrier)
@@ -118,7 +117,7 @@ void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xm
         return;
     }
     std::string_view const name = *node.attribute("name").value() != 0 ? readName(node, diagnostics) : carrierName;
-    sensor.name = _names.claim(std::string(name), "this sensor", node, diagnostics);
+    sensor.name = _names.claim(std::string(name), "this sensor", at(node), diagnostics);
     sensor.placement = toTransform(readPose(node, carrierName));
     if (SensorKind const* const kind = findSensorKind(kindName)) {
         fill(node, *kind, sensor);

@@ -6,19 +6,19 @@
 
 #include <pugixml.hpp>
 
-#include "urdf/description.hpp"
+#include "robot/link_tree.hpp"
+#include "robot/unique_names.hpp"
 #include "urdf/elements.hpp"
-#include "urdf/names.hpp"
 #include "urdf/sensor_kinds.hpp"
 #include "varo/model/records.hpp"
 
 namespace Varo::Model::Urdf {
 
-/// Adds the sensors of a description to the robot, whose root must have its name by then.
+/// Adds sensors to the robot. The root of the tree must have its name by then.
 class SensorReader {
 public:
-    SensorReader(Description const& description, Records& robot, Report const& report)
-        : _description(description), _robot(robot), _report(report)
+    SensorReader(LinkTree const& tree, Records& robot, Report const& report)
+        : _tree(tree), _robot(robot), _report(report)
     {}
 
     /// A `sensor` element that stands directly in the robot.
@@ -33,7 +33,7 @@ private:
     void fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor);
     Pose readPose(pugi::xml_node node, std::string_view carrier);
 
-    Description const& _description;
+    LinkTree const& _tree;
     Records& _robot;
     Report const& _report;
     UniqueNames _names;

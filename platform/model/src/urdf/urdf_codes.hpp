@@ -1,32 +1,19 @@
 #ifndef VARO_MODEL_URDF_CODES_HPP
 #define VARO_MODEL_URDF_CODES_HPP
 
-#include "finding_codes.hpp"
+#include "robot/link_tree_codes.hpp"
 
-/// The kinds of findings that only URDF texts give.
+/// The kinds of findings that only URDF texts give, and those of the layer below that its reader makes too.
 namespace Varo::Model::Urdf::codes {
 
-inline constexpr FindingCode notANumber{"not-a-number", Severity::error,
-                                        "A text that must be a number is none, or is beyond all bounds."};
+using Model::codes::notANumber;
+using Model::codes::unattachedJoint;
+
 inline constexpr FindingCode missingName{"missing-name", Severity::error, "A link or joint has no name."};
 inline constexpr FindingCode nameTooLong{"name-too-long", Severity::error, "A name has more than 1000 bytes."};
-inline constexpr FindingCode duplicateName{"duplicate-name", Severity::error,
-                                           "Two links, or two joints, have the same name."};
-inline constexpr FindingCode noLink{"no-link", Severity::error, "The robot has no link that could be its root."};
-inline constexpr FindingCode severalRoots{"several-roots", Severity::error,
-                                          "More than one link is the child of no joint, so that there is no one root."};
-inline constexpr FindingCode unattachedJoint{"unattached-joint", Severity::error,
-                                             "A joint does not say what its parent or its child link is."};
-inline constexpr FindingCode unknownLink{"unknown-link", Severity::error, "A joint names a link that does not exist."};
-inline constexpr FindingCode twoParents{"two-parents", Severity::error, "A link is the child of two joints."};
-inline constexpr FindingCode jointCycle{"joint-cycle", Severity::error, "Joints lead from a link back to itself."};
 inline constexpr FindingCode unknownJointType{"unknown-joint-type", Severity::error,
                                               "A joint has no type, or one that URDF does not know."};
 inline constexpr FindingCode zeroAxis{"zero-axis", Severity::error, "The axis of a moving joint has no direction."};
-inline constexpr FindingCode unknownLeader{"unknown-leader", Severity::error,
-                                           "A joint mimics one that does not exist, or does not say which."};
-inline constexpr FindingCode mimicCircle{"mimic-circle", Severity::error,
-                                         "A joint mimics itself, be it by way of others."};
 
 inline constexpr FindingCode unnamedRobot{"unnamed-robot", Severity::warning, "The robot has no name."};
 inline constexpr FindingCode wrongCount{"wrong-count", Severity::warning,
@@ -48,11 +35,6 @@ inline constexpr FindingCode visualsLost{"visuals-lost", Severity::warning,
 inline constexpr FindingCode meshOffsetLost{"mesh-offset-lost", Severity::warning,
                                             "The model shows the mesh at the link frame, not where its origin says."};
 inline constexpr FindingCode meshScaleLost{"mesh-scale-lost", Severity::warning, "The scale of a mesh is not kept."};
-inline constexpr FindingCode mimicOffset{"mimic-offset", Severity::warning,
-                                         "The offset of a mimic is in the records, but the model has no use for it."};
-inline constexpr FindingCode frozenLeader{"frozen-leader", Severity::warning, "A joint mimics one that does not move."};
-inline constexpr FindingCode renamed{"renamed", Severity::warning,
-                                     "A name that another thing bears already gets a number appended."};
 inline constexpr FindingCode sensorLost{"sensor-lost", Severity::warning,
                                         "A sensor is left out, because no link of the robot carries it."};
 inline constexpr FindingCode sensorKindLost{"sensor-kind-lost", Severity::warning,
@@ -62,20 +44,12 @@ inline constexpr FindingCode sensorFrameLost{"sensor-frame-lost", Severity::warn
 inline constexpr FindingCode sensorSize{"sensor-size", Severity::warning,
                                         "A camera or scanner states no usable number of pixels or points."};
 
-inline constexpr FindingCode frozenMimic{"frozen-mimic", Severity::note,
-                                         "The mimic of a joint that does not move means nothing."};
-inline constexpr FindingCode notCarried{"not-carried", Severity::note,
-                                        "Elements of a kind that the model has no place for are passed over."};
-
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &notANumber,       &missingName,        &nameTooLong,   &duplicateName,  &noLink,
-    &severalRoots,     &unattachedJoint,    &unknownLink,   &twoParents,     &jointCycle,
-    &unknownJointType, &zeroAxis,           &unknownLeader, &mimicCircle,    &unnamedRobot,
-    &wrongCount,       &surplusElement,     &jointFrozen,   &missingLimit,   &reversedLimits,
-    &unlimited,        &incompleteInertial, &visualsLost,   &meshOffsetLost, &meshScaleLost,
-    &mimicOffset,      &frozenLeader,       &renamed,       &sensorLost,     &sensorKindLost,
-    &sensorFrameLost,  &sensorSize,         &frozenMimic,   &notCarried,
+    &missingName, &nameTooLong,        &unknownJointType, &zeroAxis,       &unnamedRobot,
+    &wrongCount,  &surplusElement,     &jointFrozen,      &missingLimit,   &reversedLimits,
+    &unlimited,   &incompleteInertial, &visualsLost,      &meshOffsetLost, &meshScaleLost,
+    &sensorLost,  &sensorKindLost,     &sensorFrameLost,  &sensorSize,
 };
 
 }  // namespace Varo::Model::Urdf::codes

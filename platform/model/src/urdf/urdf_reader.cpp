@@ -1,21 +1,16 @@
 #include "urdf/urdf_reader.hpp"
 
-#include <algorithm>
-#include <cstring>
-#include <string>
+#include <cstddef>
+#include <iterator>
+#include <string_view>
 #include <utility>
 #include <vector>
 
-#include "robot/robot_record.hpp"
-#include "urdf/bodies.hpp"
-#include "urdf/chains.hpp"
-#include "urdf/couplings.hpp"
-#include "urdf/description.hpp"
+#include "robot/link_tree.hpp"
+#include "robot/tree_records.hpp"
+#include "robot/unsupported.hpp"
 #include "urdf/elements.hpp"
-#include "urdf/joints.hpp"
-#include "urdf/names.hpp"
 #include "urdf/sensors.hpp"
-#include "urdf/tree.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model {
@@ -47,60 +42,52 @@ private:
     void readIdentity();
     void readBodies();
     void readSensors();
-    void placeJoints();
-    void addJoints();
 
     pugi::xml_node _root;
     Diagnostics& _diagnostics;
-    Uncarried _uncarried;
-    Report _report = {_diagnostics, _uncarried};
-    Description _description;
+    Unsupported _unsupported;
+    Report _report = {_diagnostics, _unsupported};
+    LinkTree _tree;
+    std::vector<pugi::xml_node> _links;  ///< one for one as in the tree
     std::vector<pugi::xml_node> _extensions;
     std::vector<pugi::xml_node> _sensors;
-    UniqueNames _names;
     Records _robot;
 };
 
-/// Every step reads on after errors, so that one reading finds them all; records that hang together are made only of a
-/// description without any.
+/// Every step reads on after errors, so that one reading finds them all; records that depend on each other are made
+/// only of a tree without any.
 Records Reader::read()
 {
     readElements();
-    connect(_description, _root, _diagnostics);
+    connect(_tree, _diagnostics);
     readIdentity();
     readBodies();
     readSensors();
-    std::vector<Following> const followings = followMimics(_description, _diagnostics);
-    _uncarried.report(_diagnostics);
-    if (_diagnostics.hasErrors()) {
-        return {};
+    _unsupported.report(_diagnostics);
+    if (!_diagnostics.hasErrors()) {
+        addRecords(std::move(_tree), _robot, _diagnostics);
     }
-    Offspring const offspring = sortOffspring(_description);
-    _robot.chains = makeChains(_description, offspring, _robot.root.name);
-    makeCouplings(_description, followings, buildingOrder(_description, offspring), _names, _robot, _diagnostics);
-    placeJoints();
-    addJoints();
     return std::move(_robot);
 }
 
 void Reader::readElements()
 {
-    auto const isJoint = [](pugi::xml_node child) { return std::strcmp(child.name(), "joint") == 0; };
-    auto const children = _root.children();
-    auto const joints = std::count_if(children.begin(), children.end(), isJoint);
-    _description.joints.reserve(static_cast<std::size_t>(joints));
+    auto const joints = _root.children("joint");
+    _tree.textOffset = at(_root);
+    _tree.joints.reserve(static_cast<std::size_t>(std::distance(joints.begin(), joints.end())));
     for (pugi::xml_node child : _root.children()) {
         std::string_view const name = child.name();
         if (name == "link") {
-            _description.links.push_back({child, readName(child, _diagnostics)});
+            _links.push_back(child);
+            _tree.links.push_back({readName(child, _diagnostics), at(child), at(child, "name")});
         } else if (name == "joint") {
-            _description.joints.push_back(readJoint(child, _report));
+            _tree.joints.push_back(readJoint(child, _report));
         } else if (name == "gazebo") {
             _extensions.push_back(child);
         } else if (name == "sensor") {
             _sensors.push_back(child);
         } else if (child.type() == pugi::node_element) {
-            _uncarried.add(child);
+            _report.passOver(child);
         }
     }
 }
@@ -110,61 +97,30 @@ void Reader::readIdentity()
     _robot.dialect = "urdf";
     _robot.statesActuators = false;
     _robot.statesPostures = false;
+    _robot.holdsAllStated = false;
     _robot.name = _root.attribute("name").value();
     _robot.version = _root.attribute("version").value();
     if (_robot.name.empty()) {
         _diagnostics.report(at(_root), codes::unnamedRobot, "This robot has no name; it is called \"robot\".");
         _robot.name = "robot";
     }
-    if (_description.root == none) {
-        return;
-    }
-    // In the records a link is called after the joint that moves it, so that the root must not share a joint's name.
-    for (Joint const& joint : _description.joints) {
-        _names.claim(joint.config.name, "this joint", joint.node, _diagnostics);
-    }
-    Link const& root = _description.links[_description.root];
-    _robot.root.textOffset = at(root.node);
-    _robot.root.name = _names.claim(std::string(root.name), "the root of the records", root.node, _diagnostics);
 }
 
 void Reader::readBodies()
 {
-    for (Link const& link : _description.links) {
-        JointConfig& body = link.parentJoint == none ? _robot.root : _description.joints[link.parentJoint].config;
-        readBody(link.node, body, _report);
+    for (std::size_t link = 0; link < _links.size(); ++link) {
+        readBody(_links[link], _tree.bodyOf(_tree.links[link]), _report);
     }
 }
 
 void Reader::readSensors()
 {
-    SensorReader reader(_description, _robot, _report);
+    SensorReader reader(_tree, _robot, _report);
     for (pugi::xml_node sensor : _sensors) {
         reader.readSensor(sensor);
     }
     for (pugi::xml_node extension : _extensions) {
         reader.readExtension(extension);
-    }
-}
-
-/// A joint turns about the z axis of its own frame. That frame is therefore turned from the child link's, and the end
-/// transform turns back, so that link frames lie where the text says. What follows is placed in the turned frame.
-void Reader::placeJoints()
-{
-    for (Joint& joint : _description.joints) {
-        Pose const turn = {joint.axis, {}};
-        std::size_t const before = _description.links[joint.parentLink].parentJoint;
-        Pose const end = before == none ? Pose() : inverse({_description.joints[before].axis, {}});
-        joint.config.placement = toTransform(end * joint.origin * turn);
-        joint.config.endTransform = toTransform(inverse(turn));
-    }
-}
-
-void Reader::addJoints()
-{
-    _robot.joints.reserve(_description.joints.size());
-    for (Joint& joint : _description.joints) {
-        _robot.joints.add(std::move(joint.config));
     }
 }
 

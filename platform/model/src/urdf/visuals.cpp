@@ -1,6 +1,6 @@
 #include <string>
 
-#include "urdf/bodies.hpp"
+#include "urdf/elements.hpp"
 #include "urdf/numbers.hpp"
 #include "xml/node_offset.hpp"
 

@@ -66,7 +66,7 @@ bool looksLikePath(std::string_view text)
 bool checkText(std::string_view text, Diagnostics& diagnostics)
 {
     if (text.size() > ModelUtils::maxTextSize) {
-        diagnostics.report(TextOffset(0), codes::textTooLarge, "The text is longer than 256 MiB.");
+        diagnostics.report(TextOffset(0), codes::textTooLarge, std::string(codes::textTooLarge.meaning));
     } else if (text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF") {
         diagnostics.report(TextOffset(0), codes::badEncoding, "The text is in UTF-16.", "Save it as UTF-8.");
     } else if (looksLikePath(text)) {

@@ -5,7 +5,6 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "varo/math/position3d.hpp"
@@ -97,7 +96,7 @@ struct ActuatorConfig {
     float maxAngle = 0.0F;  ///< rad
     float maxTorque = 0.0F;  ///< N*m; 0 when not stated
     float maxAngularSpeed = 0.0F;  ///< rad/s
-    std::string parentJoint;  ///< the joint that it hangs on
+    std::string parentJoint;  ///< the joint that it is attached to
     Transform placement;  ///< in the frame of the parent joint
     std::vector<std::vector<std::string>> jointGroups;  ///< names of sub-joints, each group from the parent outward
     std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
@@ -125,7 +124,7 @@ struct WheelConfig {
     float mass = 0.0F;  ///< kg
     std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< as JointConfig::inertiaMatrix
     Position3D centerOfMass;  ///< m, in the wheel's link frame
-    std::string parentJoint;  ///< the joint that it hangs on
+    std::string parentJoint;  ///< the joint that it is attached to
     Transform placement;  ///< in the frame of the parent joint
     Attributes attributes;  ///< as JointConfig::attributes
     TextOffset textOffset = {};  ///< of its element
@@ -144,7 +143,7 @@ struct SubActuatorConfig {
 /// A serial chain of joints.
 struct ChainConfig {
     std::string name;  ///< under which the table holds the record
-    std::string parentJoint;  ///< the joint, or the root, that the chain hangs on
+    std::string parentJoint;  ///< the joint, or the root, that the chain is attached to
     std::vector<std::string> jointNames;  ///< from the parent outward
     Transform placement;  ///< the chain's base frame in the frame of the parent joint
     Transform tipTransform;  ///< the chain's tool frame in the link frame of its last joint; carried
@@ -178,6 +177,17 @@ inline TextOffset offsetOf(JointConfig const& joint, Part part)
     bool const isOfBody =
         part == Part::mass || part == Part::centerOfMass || part == Part::inertia || part == Part::material;
     return isOfBody ? joint.bodyOffset : joint.textOffset;
+}
+
+/// The attribute under which the record of a joint or root keeps the name that the text gives the link, where the
+/// dialect names links beside joints. Models call a link after its joint.
+inline constexpr char const* linkNameAttribute = "urdfLink";
+
+/// The name that the text gives the link of a joint or root; empty when it gives none. Refers into the record.
+inline std::string_view statedLinkName(JointConfig const& body)
+{
+    auto const found = body.attributes.find(linkNameAttribute);
+    return found == body.attributes.end() ? std::string_view() : found->second;
 }
 
 /// Joints by their names.

@@ -83,6 +83,10 @@ public:
     }
 };
 
+/// The first actuator that is attached, by way of other actuators or at once, to itself; null when there is none, as in
+/// all that readers accept.
+VAROROBOTMODEL_API ActuatorConfig const* findActuatorCycle(Records const& records);
+
 /// The names that have a joint value, in the order in which postures lay them out: chain by chain, each joint followed
 /// by the actuators that are attached to it in ascending order of their names. A name stands as often as chains list
 /// it. Refers into the records.

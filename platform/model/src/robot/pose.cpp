@@ -1,21 +1,16 @@
-#include "urdf/pose.hpp"
+#include "robot/pose.hpp"
 
 #include <cmath>
 #include <cstddef>
 
-namespace Varo::Model::Urdf {
+#include "varo/math/rpy.hpp"
 
-Matrix rotationFromRpy(Vector const& rpy)
+namespace Varo::Model {
+
+Pose poseFrom(Vector const& xyz, Vector const& rpy)
 {
-    double const sr = std::sin(rpy[0]);
-    double const cr = std::cos(rpy[0]);
-    double const sp = std::sin(rpy[1]);
-    double const cp = std::cos(rpy[1]);
-    double const sy = std::sin(rpy[2]);
-    double const cy = std::cos(rpy[2]);
-    return {{{cy * cp, cy * sp * sr - sy * cr, cy * sp * cr + sy * sr},
-             {sy * cp, sy * sp * sr + cy * cr, sy * sp * cr - cy * sr},
-             {0.0 - sp, cp * sr, cp * cr}}};
+    auto const r = Math::rotationFromRpy(rpy[0], rpy[1], rpy[2]);
+    return {{{{r[0], r[1], r[2]}, {r[3], r[4], r[5]}, {r[6], r[7], r[8]}}}, xyz};
 }
 
 Matrix rotationFromZ(Vector const& axis)
@@ -91,4 +86,4 @@ Math::Position3D toPosition(Vector const& vector)
     return {static_cast<float>(vector[0]), static_cast<float>(vector[1]), static_cast<float>(vector[2])};
 }
 
-}  // namespace Varo::Model::Urdf
+}  // namespace Varo::Model

@@ -1,11 +1,11 @@
-#ifndef VARO_MODEL_URDF_POSE_HPP
-#define VARO_MODEL_URDF_POSE_HPP
+#ifndef VARO_MODEL_ROBOT_POSE_HPP
+#define VARO_MODEL_ROBOT_POSE_HPP
 
 #include <array>
 
 #include "varo/math/transform.hpp"
 
-namespace Varo::Model::Urdf {
+namespace Varo::Model {
 
 using Vector = std::array<double, 3>;
 /// Three rows.
@@ -17,8 +17,8 @@ struct Pose {
     Vector translation = {0.0, 0.0, 0.0};  ///< m
 };
 
-/// Rz(yaw) * Ry(pitch) * Rx(roll).
-Matrix rotationFromRpy(Vector const& rpy);
+/// At `xyz` (m), turned by roll, pitch and yaw (rad) about the fixed axes.
+Pose poseFrom(Vector const& xyz, Vector const& rpy);
 
 /// The shortest rotation that takes z to the direction of `axis`, which must not be zero; half a turn about x when that
 /// is -z.
@@ -33,6 +33,6 @@ Pose inverse(Pose const& pose);
 Math::Transform toTransform(Pose const& pose);
 Math::Position3D toPosition(Vector const& vector);
 
-}  // namespace Varo::Model::Urdf
+}  // namespace Varo::Model
 
 #endif

@@ -1,7 +1,6 @@
-#include "urdf/names.hpp"
+#include "urdf/elements.hpp"
 
-#include "urdf/urdf_codes.hpp"
-#include "xml/node_offset.hpp"
+#include <string>
 
 namespace Varo::Model::Urdf {
 
@@ -25,23 +24,6 @@ std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics)
         return {};
     }
     return name;
-}
-
-std::string UniqueNames::claim(std::string name, std::string_view owner, pugi::xml_node node, Diagnostics& diagnostics)
-{
-    auto const [entry, isFree] = _taken.try_emplace(name, 1);
-    if (isFree) {
-        return name;
-    }
-    std::string free;
-    do {
-        free = name + "_" + std::to_string(++entry->second);
-    } while (_taken.find(free) != _taken.end());
-    diagnostics.report(
-        at(node), codes::renamed,
-        "The name " + quoted(name) + " is taken; " + std::string(owner) + " is called " + quoted(free) + " instead.");
-    _taken.emplace(free, 1);
-    return free;
 }
 
 }  // namespace Varo::Model::Urdf

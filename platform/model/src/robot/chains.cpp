@@ -1,0 +1,108 @@
+#include "robot/chains.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace Varo::Model {
+
+namespace {
+
+using Indices = std::vector<std::size_t>;
+
+/// From the root outward: no joint before the one that it is attached to.
+Indices outwardOrder(LinkTree const& tree, ChildJoints const& children)
+{
+    Indices order = children[tree.rootLink];
+    order.reserve(tree.joints.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        Indices const& next = children[tree.joints[order[i]].childLink];
+        order.insert(order.end(), next.begin(), next.end());
+    }
+    return order;
+}
+
+/// The number of joints below each.
+Indices countDescendants(LinkTree const& tree, Indices const& outward)
+{
+    Indices counts(tree.joints.size(), 0);
+    for (auto joint = outward.rbegin(); joint != outward.rend(); ++joint) {
+        std::size_t const before = tree.jointBefore(tree.joints[*joint]);
+        if (before != none) {
+            counts[before] += counts[*joint] + 1;
+        }
+    }
+    return counts;
+}
+
+void pushReversed(Indices& stack, Indices::const_iterator begin, Indices::const_iterator end)
+{
+    stack.insert(stack.end(), std::make_reverse_iterator(end), std::make_reverse_iterator(begin));
+}
+
+}  // namespace
+
+ChildJoints childJointsOf(LinkTree const& tree)
+{
+    ChildJoints children(tree.links.size());
+    for (std::size_t joint = 0; joint < tree.joints.size(); ++joint) {
+        children[tree.joints[joint].parentLink].push_back(joint);
+    }
+    Indices const counts = countDescendants(tree, outwardOrder(tree, children));
+    for (std::size_t link = 0; link < children.size(); ++link) {
+        Indices& joints = children[link];
+        if (link != tree.rootLink && joints.size() > 1) {
+            auto const longest = std::max_element(joints.begin(), joints.end(),
+                                                  [&](std::size_t a, std::size_t b) { return counts[a] < counts[b]; });
+            std::rotate(joints.begin(), longest, longest + 1);
+        }
+    }
+    return children;
+}
+
+Table<ChainConfig> makeChains(LinkTree const& tree, ChildJoints const& children)
+{
+    Table<ChainConfig> chains;
+    Indices starts;
+    pushReversed(starts, children[tree.rootLink].begin(), children[tree.rootLink].end());
+    while (!starts.empty()) {
+        std::size_t joint = starts.back();
+        starts.pop_back();
+        Joint const& first = tree.joints[joint];
+        std::size_t const before = tree.jointBefore(first);
+        ChainConfig chain;
+        chain.name = first.config.name;
+        chain.textOffset = first.config.textOffset;
+        chain.parentJoint = before == none ? tree.rootBody.name : tree.joints[before].config.name;
+        Indices branches;
+        while (joint != none) {
+            chain.jointNames.push_back(tree.joints[joint].config.name);
+            chain.jointOffsets.push_back(tree.joints[joint].config.textOffset);
+            Indices const& next = children[tree.joints[joint].childLink];
+            joint = next.empty() ? none : next.front();
+            if (next.size() > 1) {
+                branches.insert(branches.end(), next.begin() + 1, next.end());
+            }
+        }
+        pushReversed(starts, branches.begin(), branches.end());
+        chains.add(std::move(chain));
+    }
+    return chains;
+}
+
+std::vector<std::size_t> buildingOrder(LinkTree const& tree, ChildJoints const& children)
+{
+    Indices order;
+    order.reserve(tree.joints.size());
+    Indices pending;
+    pushReversed(pending, children[tree.rootLink].begin(), children[tree.rootLink].end());
+    while (!pending.empty()) {
+        std::size_t const joint = pending.back();
+        pending.pop_back();
+        order.push_back(joint);
+        Indices const& next = children[tree.joints[joint].childLink];
+        pushReversed(pending, next.begin(), next.end());
+    }
+    return order;
+}
+
+}  // namespace Varo::Model

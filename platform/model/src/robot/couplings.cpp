@@ -1,0 +1,165 @@
+#include "robot/couplings.hpp"
+
+#include <cmath>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "robot/link_tree_codes.hpp"
+
+namespace Varo::Model {
+
+namespace {
+
+/// The joint that this one mimics; none for a mimic without a meaning.
+std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics& diagnostics)
+{
+    Mimic const& mimic = follower.mimic;
+    if (!mimic.textOffset.isKnown()) {
+        return none;
+    }
+    if (follower.isFixed()) {
+        diagnostics.report(mimic.textOffset, codes::frozenMimic, "This joint does not move: its mimic means nothing.");
+        return none;
+    }
+    std::size_t const leader = find(tree.jointByName, mimic.leader.name);
+    if (leader == none) {
+        diagnostics.report(mimic.leader.offset, codes::unknownLeader,
+                           mimic.leader.name.empty() ? "This mimic does not say which joint it follows."
+                                                     : "There is no joint " + quoted(mimic.leader.name) + ".");
+        return none;
+    }
+    if (tree.joints[leader].isFixed()) {
+        diagnostics.report(mimic.textOffset, codes::frozenLeader,
+                           "The joint " + quoted(mimic.leader.name) + " does not move, and so neither does this one.");
+    }
+    if (mimic.offset != 0.0) {
+        diagnostics.report(mimic.offsetOffset, codes::mimicOffset,
+                           "This offset is in the record only: the model knows ratios, not offsets.");
+    }
+    return leader;
+}
+
+/// Reports each cycle at its first joint, which then follows none.
+void cutCycles(LinkTree& tree, Diagnostics& diagnostics)
+{
+    std::vector<std::size_t> leaders;
+    leaders.reserve(tree.joints.size());
+    for (Joint const& joint : tree.joints) {
+        leaders.push_back(joint.mimic.leaderJoint);
+    }
+    for (Cycle const& cycle : findCycles(leaders)) {
+        Mimic& mimic = tree.joints[cycle.front()].mimic;
+        diagnostics.report(mimic.textOffset, codes::mimicCycle,
+                           cycle.size() == 1 ? "This joint mimics itself."
+                                             : "This joint mimics one that, by way of others, mimics this joint.");
+        mimic = {};
+    }
+}
+
+/// The ratio of a follower of a follower to the one that leads them all.
+void multiplyThrough(Mimic& mimic, Mimic const& leader, Diagnostics& diagnostics)
+{
+    if (leader.leaderJoint != none) {
+        mimic.leaderJoint = leader.leaderJoint;
+        mimic.offset += mimic.ratio * leader.offset;
+        mimic.ratio *= leader.ratio;
+    }
+    if (std::abs(mimic.ratio) > largestNumber || std::abs(mimic.offset) > largestNumber) {
+        diagnostics.report(mimic.textOffset, codes::notANumber,
+                           "The multipliers of this mimic and of those that it leads to exceed all bounds together.");
+        mimic = {};
+    }
+}
+
+/// Goes up from each joint to one that is settled or follows none, and multiplies through on the way back.
+void settleMimics(LinkTree& tree, Diagnostics& diagnostics)
+{
+    std::vector<bool> isSettled(tree.joints.size());
+    std::vector<std::size_t> path;
+    for (std::size_t start = 0; start < tree.joints.size(); ++start) {
+        for (std::size_t joint = start; joint != none && !isSettled[joint];
+             joint = tree.joints[joint].mimic.leaderJoint) {
+            path.push_back(joint);
+        }
+        for (; !path.empty(); path.pop_back()) {
+            Mimic& mimic = tree.joints[path.back()].mimic;
+            isSettled[path.back()] = true;
+            if (mimic.leaderJoint != none) {
+                multiplyThrough(mimic, tree.joints[mimic.leaderJoint].mimic, diagnostics);
+            }
+        }
+    }
+}
+
+SubActuatorConfig makeSubActuator(Joint const& joint)
+{
+    SubActuatorConfig config;
+    config.name = joint.config.name;
+    config.ratio = static_cast<float>(joint.mimic.ratio);
+    config.offset = static_cast<float>(joint.mimic.offset);
+    config.textOffset = joint.config.textOffset;
+    return config;
+}
+
+ActuatorConfig makeActuator(Joint const& leader)
+{
+    ActuatorConfig actuator;
+    actuator.minAngle = leader.config.minAngle;
+    actuator.maxAngle = leader.config.maxAngle;
+    actuator.maxTorque = leader.config.maxTorque;
+    actuator.maxAngularSpeed = leader.config.maxAngularSpeed;
+    actuator.textOffset = leader.config.textOffset;
+    return actuator;
+}
+
+/// By leader, the members of its coupling: itself, then its followers in the order of the text.
+std::map<std::size_t, std::vector<std::size_t>> membersByLeader(LinkTree const& tree)
+{
+    std::map<std::size_t, std::vector<std::size_t>> members;
+    for (std::size_t joint = 0; joint < tree.joints.size(); ++joint) {
+        std::size_t const leader = tree.joints[joint].mimic.leaderJoint;
+        if (leader != none) {
+            members.try_emplace(leader, 1, leader).first->second.push_back(joint);
+        }
+    }
+    return members;
+}
+
+}  // namespace
+
+void followMimics(LinkTree& tree, Diagnostics& diagnostics)
+{
+    for (Joint& joint : tree.joints) {
+        std::size_t const leader = findLeader(tree, joint, diagnostics);
+        joint.mimic = leader == none ? Mimic() : joint.mimic;
+        joint.mimic.leaderJoint = leader;
+    }
+    cutCycles(tree, diagnostics);
+    settleMimics(tree, diagnostics);
+}
+
+void addCouplings(LinkTree& tree, std::vector<std::size_t> const& buildingOrder, Records& robot,
+                  Diagnostics& diagnostics)
+{
+    std::vector<std::size_t> lastBuilt(tree.joints.size(), none);  // by leader
+    for (std::size_t const joint : buildingOrder) {
+        std::size_t const leader = tree.joints[joint].mimic.leaderJoint;
+        lastBuilt[leader == none ? joint : leader] = joint;
+    }
+    for (auto const& [leader, members] : membersByLeader(tree)) {
+        JointConfig const& first = tree.joints[leader].config;
+        ActuatorConfig actuator = makeActuator(tree.joints[leader]);
+        actuator.name =
+            tree.names.claim(first.name + "Coupling", "the coupled actuator", first.textOffset, diagnostics);
+        actuator.parentJoint = tree.joints[lastBuilt[leader]].config.name;
+        for (std::size_t const member : members) {
+            SubActuatorConfig subActuator = makeSubActuator(tree.joints[member]);
+            actuator.jointGroups.push_back({subActuator.name});
+            robot.subActuators.add(std::move(subActuator));
+        }
+        robot.actuators.add(std::move(actuator));
+    }
+}
+
+}  // namespace Varo::Model
