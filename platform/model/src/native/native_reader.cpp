@@ -4,7 +4,6 @@
 
 #include "native/element_reader.hpp"
 #include "native/elements.hpp"
-#include "native/references.hpp"
 
 namespace Varo::Model {
 
@@ -46,8 +45,8 @@ Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
     reserve(robot.chains, root, "chain");
     reserve(robot.sensors, root, "sensor");
     Native::ElementReader reader(diagnostics, robot);
-    reader.read(Native::robotDescriptionElement, root, &robot);
-    Native::checkReferences(root, reader);
+    reader.read(Native::robotDescriptionElement, root, robot);
+    reader.names().checkReferences(robot);
     return robot;
 }
 
