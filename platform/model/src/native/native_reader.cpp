@@ -24,6 +24,7 @@ constexpr PartPlace parts[] = {
     {Part::inertia, "inertia", "mass"},
     {Part::material, "value", "attribute", {}, "material"},
     {Part::value, "value"},
+    {Part::resolutions, "value", "attribute", {}, "resolutions"},
 };
 
 template <class Config>
