@@ -124,7 +124,11 @@ void BuildReport::explainChain(ChainConfig const& start)
 /// All that a sensor can lack is the size of its pictures.
 void BuildReport::explainSensor(Varo::Model::SensorConfig const& sensor)
 {
-    blame(sensor.textOffset, "The sensor " + quoted(sensor.name) + " states no resolution, so no model can be built.",
+    auto const resolutions = _robot.statement(sensor, Part::resolutions);
+    std::string const missing =
+        resolutions.isStated ? " states no resolution that can be read" : " states no resolution";
+    blame(resolutions.isStated ? resolutions.offset : sensor.textOffset,
+          "The sensor " + quoted(sensor.name) + missing + ", so no model can be built.",
           "Add <attribute name=\"resolutions\" value=\"640 480\"/> with its own width and height.");
 }
 

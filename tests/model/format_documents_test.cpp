@@ -41,8 +41,8 @@ TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
 TEST(FormatDocuments, DeclaredDefaultsAreThoseOfTheRecords)
 {
     int compared = 0;
-    for (Native::Element const* element : Native::allElements()) {
-        for (Native::Attribute const& attribute : element->attributes) {
+    for (Native::ElementInfo const* element : Native::allElements()) {
+        for (Native::AttributeInfo const& attribute : element->attributes) {
             if (!attribute.required) {
                 ++compared;
                 EXPECT_TRUE(attribute.isDefault(attribute.defaultText)) << element->name << " " << attribute.name;

@@ -1,3 +1,4 @@
+#include <map>
 #include <string>
 #include <vector>
 
@@ -60,21 +61,67 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
              {"<actuator name='A' min='0' max='1' parent='J'><group><subJoint ratio='1' "
               "name='JLink'/></group></actuator>",
               {"54 ambiguous-name"}},
+             {"<chain parent='X' name='D'><jointRef/></chain>", {"28 missing-attribute refused"}},
+             {"<posture><angle value='0' of='X'/></posture>", {"1 missing-attribute refused", "27 angle-of-unknown"}},
+             {"<chain nam='E' name='D' parent='X'/>", {"8 unknown-attribute refused", "25 dangling-reference"}},
              {"<joynt name='K'/>" + angle + "'K'/></posture>", {"1 unknown-element refused"}},
          }) {
         EXPECT_EQ(placesOf(around(c.elements)), c.places) << c.elements;
     }
 }
 
-TEST(References, SuggestsTheNameThatWasMeant)
+TEST(References, AMisspeltNameIsFoundOnceWithTheOneThatWasMeant)
 {
     Findings const findings = ModelUtils::diagnose(
         "<robotDescription name='R'><root name='B'/>"
         "<joint name='HeadYaw' min='0' max='1'/>"
-        "<chain name='C' parent='B'><jointRef name='HeadYwa'/>"
-        "<jointRef name='HeadYaw'/></chain></robotDescription>");
+        "<chain name='C' parent='B'><jointRef name='HeadYwa'/></chain>"
+        "<actuator name='A' parent='HeadYaw' min='0' max='1'/>"
+        "<posture name='P'><angle of='HeadYaw' value='0'/><angle of='A' value='0'/></posture></robotDescription>");
     ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].code, "dangling-reference");
     EXPECT_EQ(findings[0].hint, "Did you mean \"HeadYaw\"?");
+}
+
+TEST(References, SensorsAreWarnedOfThatModelsReadOtherwise)
+{
+    auto const text = [](std::string const& name, std::string const& value) {
+        return "<attribute name='" + name + "' value='" + value + "'/>";
+    };
+    struct Case {
+        std::string type;
+        std::string content;
+        std::vector<std::string> places;
+    };
+    for (Case const& c : std::vector<Case>{
+             {"camera", "", {"1 missing-sensor-text"}},
+             {"camera", "<attribute nam='resolutions' value='1 1'/>", {"54 unknown-attribute refused"}},
+             {"deptCamera", "", {"29 wrong-value refused"}},
+             {"camera", text("resolutions", " 640 480 &#10;+320 240&#10;"), {}},
+             {"arrayDepth", "", {}},
+             {"sonar", "", {"1 wrong-key-count"}},
+             {"sonar", "<key>a</key>", {}},
+             {"sonar", "<key>a</key><key>b</key>", {"1 wrong-key-count"}},
+             {"led", text("color", "0 255 255") + text("groups", "a b&#9;c"), {}},
+             {"fsr", text("color", "green") + text("resolutions", "x"), {}},
+         }) {
+        std::string const sensor = "<sensor name='S' parent='B' type='" + c.type + "'>" + c.content + "</sensor>";
+        EXPECT_EQ(placesOf(around(sensor)), c.places) << sensor;
+    }
+    for (auto const& [name, values] : std::map<std::string, std::vector<std::string>>{
+             {"resolutions",
+              {"", "&#10;", "640x480", "abc def", "640", "640  480", "640&#9;480", "640 480 30", "640 -480", "640 0",
+               "640 480&#10;x", "640 480.5", "640 99999999999"}},
+             {"color", {"", "green", "0 0 0", "255 0", "0  255 0", " 255 0 0", "255 0 0 0", "255 x 0", "#ff0000"}},
+             {"groups", {"", " a", "a ", "a  b", "a &#9;b", "&#9;a"}},
+         }) {
+        for (std::string const& value : values) {
+            std::string const type = name == "resolutions" ? "type='camera'>" : "type='led'>";
+            std::string const sensor = "<sensor name='S' parent='B' " + type + text(name, value) + "</sensor>";
+            std::vector<std::string> const places = {std::to_string(sensor.find("value") + 1) + " wrong-sensor-text"};
+            EXPECT_EQ(placesOf(around(sensor)), places) << sensor;
+        }
+    }
 }
 
 }  // namespace

@@ -87,6 +87,15 @@ TEST_F(Check, BuildsTheModelToo)
               "    Add <attribute name=\"resolutions\" value=\"640 480\"/> with its own width and height.\n");
 }
 
+TEST_F(Check, ReportsAMisspeltJointOnce)
+{
+    std::string text = readFile(VARO_SOURCE_DIR "/robots/minimal.xml");
+    text.replace(text.find("\"Turn\"/>"), 6, "\"TurN\"");
+    EXPECT_EQ(run({"check", "-"}, text).err,
+              "<stdin>:39:15: error: There is no joint \"TurN\", so no model can be built. [model-not-built]\n"
+              "    Did you mean \"Turn\"?\n");
+}
+
 TEST_F(Check, PrintsFindingsAsData)
 {
     write("doubtful.xml", doubtful);

@@ -32,10 +32,10 @@ std::string_view occurrenceText(Occurrence occurrence)
     return "any number of";
 }
 
-void writeChildren(std::ostream& out, Element const& element)
+void writeChildren(std::ostream& out, ElementInfo const& element)
 {
     std::string list;
-    for (Child const& child : element.children) {
+    for (ChildInfo const& child : element.children) {
         list += (list.empty() ? "" : ", ") + std::string(occurrenceText(child.occurrence)) + " " +
                 code(child.element->name);
     }
@@ -47,13 +47,13 @@ void writeChildren(std::ostream& out, Element const& element)
     }
 }
 
-void writeAttributes(std::ostream& out, Element const& element)
+void writeAttributes(std::ostream& out, ElementInfo const& element)
 {
     if (element.attributes.size() == 0) {
         return;
     }
     out << "| attribute | type | unit | default | meaning |\n| --- | --- | --- | --- | --- |\n";
-    for (Attribute const& attribute : element.attributes) {
+    for (AttributeInfo const& attribute : element.attributes) {
         std::string const defaultText = attribute.defaultText.empty() ? "empty" : code(attribute.defaultText);
         out << "| " << code(attribute.name) << " | " << attribute.type->name << " | " << attribute.unit << " | "
             << (attribute.required ? "required" : defaultText) << " | " << attribute.meaning << " |\n";
@@ -62,12 +62,12 @@ void writeAttributes(std::ostream& out, Element const& element)
 }
 
 /// One element, and below it those that stand in it.
-void writeElement(std::ostream& out, Element const& element, std::string const& path)
+void writeElement(std::ostream& out, ElementInfo const& element, std::string const& path)
 {
     out << "#### `" << path << "`\n\n" << sentence(element.meaning) << "\n\n";
     writeChildren(out, element);
     writeAttributes(out, element);
-    for (Child const& child : element.children) {
+    for (ChildInfo const& child : element.children) {
         writeElement(out, *child.element, path + "/" + std::string(child.element->name));
     }
 }

@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -37,17 +37,6 @@ private:
     std::size_t _depth = 0;
 };
 
-void writeWordType(Lines& out, ValueType const& type)
-{
-    out.open("xs:simpleType name=\"" + std::string(type.name) + "\"");
-    out.open("xs:restriction base=\"xs:token\"");
-    for (Word const& word : type.words) {
-        out.empty("xs:enumeration value=\"" + std::string(word.word) + "\"");
-    }
-    out.close("xs:restriction");
-    out.close("xs:simpleType");
-}
-
 void writeRestriction(Lines& out, std::string const& name, std::string const& base, std::string const& facets)
 {
     out.open("xs:simpleType name=\"" + name + "\"");
@@ -83,42 +72,49 @@ void writeTypes(Lines& out)
     writeList(out, "matrix12", 12);
     for (ValueType const* type : usedTypes()) {
         if (type->words.size() > 0) {
-            writeWordType(out, *type);
+            std::string facets;
+            for (Word const& word : type->words) {
+                facets += "<xs:enumeration value=\"" + std::string(word.word) + "\"/>";
+            }
+            writeRestriction(out, std::string(type->name), "xs:token", facets);
         }
     }
 }
 
-void writeElement(Lines& out, Element const& element, std::string const& occurrence);
+void writeElement(Lines& out, ElementInfo const& element, std::string const& occurrence);
 
-void writeChildren(Lines& out, Element const& element, std::string const& occurrence)
+void writeChildren(Lines& out, ElementInfo const& element, std::string const& occurrence)
 {
-    for (Child const& child : element.children) {
+    for (ChildInfo const& child : element.children) {
         if (child.occurrence != Occurrence::once) {
             writeElement(out, *child.element, occurrence);
         }
     }
 }
 
-bool holds(Element const& element, Occurrence occurrence)
+bool holds(ElementInfo const& element, Occurrence occurrence)
 {
-    return std::any_of(element.children.begin(), element.children.end(),
-                       [=](Child const& child) { return child.occurrence == occurrence; });
+    bool holds = false;
+    for (ChildInfo const& child : element.children) {
+        holds = holds || child.occurrence == occurrence;
+    }
+    return holds;
 }
 
-std::string groupOf(Element const& element)
+std::string groupOf(ElementInfo const& element)
 {
     return std::string(element.name) + "Parts";
 }
 
 /// Elements in any order. Where each stands at most once, the schema can say so; where one stands exactly once, it is
 /// written between two runs of the others.
-void writeContent(Lines& out, Element const& element)
+void writeContent(Lines& out, ElementInfo const& element)
 {
     std::string const anyNumber = " minOccurs=\"0\" maxOccurs=\"unbounded\"";
     if (holds(element, Occurrence::once)) {
         out.open("xs:sequence");
         out.empty("xs:group ref=\"" + groupOf(element) + "\"" + anyNumber);
-        for (Child const& child : element.children) {
+        for (ChildInfo const& child : element.children) {
             if (child.occurrence == Occurrence::once) {
                 writeElement(out, *child.element, "");
             }
@@ -137,7 +133,7 @@ void writeContent(Lines& out, Element const& element)
 }
 
 /// What stands twice in the content of an element is written down once, in a group.
-void writeGroup(Lines& out, Element const& element)
+void writeGroup(Lines& out, ElementInfo const& element)
 {
     out.open("xs:group name=\"" + groupOf(element) + "\"");
     out.open("xs:choice");
@@ -146,7 +142,7 @@ void writeGroup(Lines& out, Element const& element)
     out.close("xs:group");
 }
 
-void writeAttribute(Lines& out, Attribute const& attribute)
+void writeAttribute(Lines& out, AttributeInfo const& attribute)
 {
     std::string const use =
         attribute.required ? "use=\"required\"" : "default=\"" + escaped(attribute.defaultText) + "\"";
@@ -157,7 +153,53 @@ void writeAttribute(Lines& out, Attribute const& attribute)
     out.close("xs:attribute");
 }
 
-void writeElement(Lines& out, Element const& element, std::string const& occurrence)
+/// Elements that do not share a name.
+struct Key {
+    ElementInfo const* element;
+    AttributeInfo const* attribute;
+    std::string selector;
+};
+/// By the kinds that the name is of, which several elements may give.
+using Keys = std::map<unsigned, Key>;
+
+/// Those inside, whose names differ among all of their kind or, if `local`, in `element`.
+void findKeys(ElementInfo const& element, std::string const& path, bool local, Keys& keys)
+{
+    for (ChildInfo const& child : element.children) {
+        std::string const selector = path + std::string(child.element->name);
+        for (AttributeInfo const& attribute : child.element->attributes) {
+            NameRule const* const rule = attribute.names;
+            if (rule != nullptr && rule->gives.twice.code == &codes::duplicateName && rule->gives.isLocal == local) {
+                auto const [known, isNew] =
+                    keys.try_emplace(rule->gives.kinds, Key{child.element, &attribute, selector});
+                known->second.selector += isNew ? "" : "|" + selector;
+            }
+        }
+        if (!local) {
+            findKeys(*child.element, selector + "/", local, keys);
+        }
+    }
+}
+
+void writeKeys(Lines& out, ElementInfo const& element)
+{
+    Keys keys;
+    findKeys(element, "", true, keys);
+    if (&element == &robotDescriptionElement) {
+        findKeys(element, "", false, keys);
+    }
+    for (auto const& [kinds, key] : keys) {
+        std::string const tag = key.attribute->required ? "xs:key" : "xs:unique";
+        std::string const field(key.attribute->name);
+        out.open(tag + " name=\"" + std::string(element.name) + "." + std::string(key.element->name) + "." + field +
+                 "\"");
+        out.empty("xs:selector xpath=\"" + key.selector + "\"");
+        out.empty("xs:field xpath=\"@" + field + "\"");
+        out.close(tag);
+    }
+}
+
+void writeElement(Lines& out, ElementInfo const& element, std::string const& occurrence)
 {
     out.open("xs:element name=\"" + std::string(element.name) + "\"" + occurrence);
     out.documentation(element.meaning);
@@ -168,7 +210,7 @@ void writeElement(Lines& out, Element const& element, std::string const& occurre
     } else if (element.children.size() > 0) {
         writeContent(out, element);
     }
-    for (Attribute const& attribute : element.attributes) {
+    for (AttributeInfo const& attribute : element.attributes) {
         writeAttribute(out, attribute);
     }
     if (element.text != nullptr) {
@@ -176,12 +218,7 @@ void writeElement(Lines& out, Element const& element, std::string const& occurre
         out.close("xs:simpleContent");
     }
     out.close("xs:complexType");
-    for (Unique const& unique : element.uniques) {
-        out.open("xs:unique name=\"" + std::string(element.name) + "." + std::string(unique.name) + "\"");
-        out.empty("xs:selector xpath=\"" + std::string(unique.selector) + "\"");
-        out.empty("xs:field xpath=\"" + std::string(unique.field) + "\"");
-        out.close("xs:unique");
-    }
+    writeKeys(out, element);
     out.close("xs:element");
 }
 
@@ -194,7 +231,7 @@ std::string writeSchema()
     out.line("<!-- Written by the program write_format from the tables of the reader; not to be edited. -->");
     out.open("xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"");
     writeTypes(out);
-    for (Element const* element : allElements()) {
+    for (ElementInfo const* element : allElements()) {
         if (holds(*element, Occurrence::once)) {
             writeGroup(out, *element);
         }

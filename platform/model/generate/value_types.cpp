@@ -8,7 +8,7 @@ namespace Varo::Model::Native {
 
 namespace {
 
-void addTypeOf(Attribute const& attribute, std::vector<ValueType const*>& types)
+void addTypeOf(AttributeInfo const& attribute, std::vector<ValueType const*>& types)
 {
     auto const same = [&](ValueType const* type) { return type->name == attribute.type->name; };
     if (std::none_of(types.begin(), types.end(), same)) {
@@ -18,11 +18,11 @@ void addTypeOf(Attribute const& attribute, std::vector<ValueType const*>& types)
 
 }  // namespace
 
-std::vector<Element const*> allElements()
+std::vector<ElementInfo const*> allElements()
 {
-    std::vector<Element const*> elements = {&robotDescriptionElement};
+    std::vector<ElementInfo const*> elements = {&robotDescriptionElement};
     for (std::size_t i = 0; i < elements.size(); ++i) {
-        for (Child const& child : elements[i]->children) {
+        for (ChildInfo const& child : elements[i]->children) {
             if (std::find(elements.begin(), elements.end(), child.element) == elements.end()) {
                 elements.push_back(child.element);
             }
@@ -34,8 +34,8 @@ std::vector<Element const*> allElements()
 std::vector<ValueType const*> usedTypes()
 {
     std::vector<ValueType const*> types;
-    for (Element const* element : allElements()) {
-        for (Attribute const& attribute : element->attributes) {
+    for (ElementInfo const* element : allElements()) {
+        for (AttributeInfo const& attribute : element->attributes) {
             addTypeOf(attribute, types);
         }
         if (element->text != nullptr) {

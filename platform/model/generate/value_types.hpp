@@ -8,7 +8,7 @@
 namespace Varo::Model::Native {
 
 /// Every element of the dialect, from the root inward, each table once.
-std::vector<Element const*> allElements();
+std::vector<ElementInfo const*> allElements();
 
 /// Every type that attributes and texts of the dialect have, in the order of their first use.
 std::vector<ValueType const*> usedTypes();

@@ -1,7 +1,7 @@
+#include <string>
 #include <utility>
 
-#include "native/element_reader.hpp"
-#include "native/element_writer.hpp"
+#include "native/children.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 
@@ -9,50 +9,31 @@ namespace Varo::Model::Native {
 
 namespace {
 
-struct JointRef {
-    std::string name;
+constexpr Attribute<std::string> jointRefAttributes[] = {
+    whole<Name>("name", "a joint of the description").with(names::chainJoint),
 };
+constexpr Element<std::string> jointRefElement{"jointRef", "the next joint of the chain, from the parent outward",
+                                               jointRefAttributes};
 
-constexpr Attribute jointRefAttributes[] = {required<&JointRef::name, Name>("name", "", "a joint of the description")};
-constexpr Element jointRefElement{"jointRef", "the next joint of the chain, from the parent outward",
-                                  jointRefAttributes};
-
-void readJointRef(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+void readJointRef(ElementReader& reader, pugi::xml_node node, ChainConfig& chain)
 {
-    JointRef reference;
-    reader.read(element, node, &reference);
-    auto& chain = *static_cast<ChainConfig*>(parent);
-    chain.jointNames.push_back(std::move(reference.name));
+    reader.read(jointRefElement, node, chain.jointNames.emplace_back());
     chain.jointOffsets.push_back(at(node));
 }
 
-void writeJointRefs(ElementWriter& writer, Element const& element, void const* parent)
-{
-    for (std::string const& name : static_cast<ChainConfig const*>(parent)->jointNames) {
-        JointRef const reference = {name};
-        writer.write(element, &reference);
-    }
-}
-
-constexpr Attribute chainAttributes[] = {
-    required<&ChainConfig::name, Name>("name", "", "what the chain is called"),
-    required<&ChainConfig::parentJoint, Name>("parent", "", "the joint that the chain hangs on, or the root"),
+constexpr Attribute<ChainConfig> attributes[] = {
+    named<&ChainConfig::name>("name", names::ofChain, "what the chain is called"),
+    named<&ChainConfig::parentJoint>("parent", names::chainParent, "the joint that the chain hangs on, or the root"),
     optional<&ChainConfig::tipName>("tip", "", "", "what the chain's tool is called; carried"),
 };
-constexpr Child chainChildren[] = {
-    poseChild<&ChainConfig::placement>(chainPlacementElement),
-    poseChild<&ChainConfig::tipTransform>(tipPlacementElement),
-    {&jointRefElement, Occurrence::any, readJointRef, writeJointRefs},
+constexpr Child<ChainConfig> children[] = {
+    poseChild<&ChainConfig::placement, chainPlacementElement>(),
+    poseChild<&ChainConfig::tipTransform, tipPlacementElement>(),
+    {{&jointRefElement, Occurrence::any}, readJointRef, childrenOf<&ChainConfig::jointNames, jointRefElement>().write},
 };
+
 }  // namespace
 
-Element const chainElement{"chain", "a serial chain of joints", chainAttributes, chainChildren};
-
-void readChain(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
-{
-    ChainConfig chain;
-    reader.read(element, node, &chain);
-    reader.define(NameIndex::chain, static_cast<Records*>(parent)->chains, std::move(chain), node);
-}
+constexpr Element<ChainConfig> chainElement{"chain", "a serial chain of joints", attributes, children};
 
 }  // namespace Varo::Model::Native

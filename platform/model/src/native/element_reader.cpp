@@ -10,48 +10,50 @@ namespace Varo::Model::Native {
 
 namespace {
 
-std::string_view nameOf(Attribute const& attribute)
+/// 0 for no row.
+std::uint32_t bitOf(std::size_t row)
+{
+    return row == noRow ? 0 : 1U << row;
+}
+
+std::string_view nameOf(AttributeInfo const& attribute)
 {
     return attribute.name;
 }
 
-std::string_view nameOf(Child const& child)
+std::string_view nameOf(ChildInfo const& child)
 {
     return child.element->name;
 }
 
 /// The row of that name, looked for from `start` on and then from the beginning: texts mostly keep the tables' order.
-template <class Row>
-std::size_t findRow(Range<Row> rows, std::string_view name, std::size_t start)
+template <class Info>
+std::size_t findRow(Infos<Info> const& rows, std::string_view name, std::size_t start)
 {
-    for (std::size_t i = start; i < rows.size(); ++i) {
-        if (nameOf(rows[i]) == name) {
-            return i;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        std::size_t const index = i + start < rows.size() ? i + start : i + start - rows.size();
+        if (nameOf(rows[index]) == name) {
+            return index;
         }
     }
-    for (std::size_t i = 0; i < start; ++i) {
-        if (nameOf(rows[i]) == name) {
-            return i;
-        }
-    }
-    return rows.size();
+    return noRow;
 }
 
-/// What to write instead of an unknown name, and the bit of the row that is meant, 0 for none.
-template <class Row>
-std::pair<std::string, std::uint32_t> suggest(Range<Row> rows, std::string_view written)
+/// What to write instead of an unknown name, and the row that is meant.
+template <class Info>
+std::pair<std::string, std::size_t> suggest(Infos<Info> const& rows, std::string_view written)
 {
     ClosestWord closest(written);
-    std::uint32_t bit = 0;
+    std::size_t meant = noRow;
     std::string known;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        bit = closest.offer(nameOf(rows[i])) ? 1U << i : bit;
+        meant = closest.offer(nameOf(rows[i])) ? i : meant;
         known += (known.empty() ? "" : ", ") + std::string(nameOf(rows[i]));
     }
-    if (bit != 0) {
-        return {"Did you mean " + quoted(closest.word()) + "?", bit};
+    if (meant != noRow) {
+        return {"Did you mean " + quoted(closest.word()) + "?", meant};
     }
-    return {known.empty() ? "" : "Known here: " + known + ".", 0};
+    return {known.empty() ? "" : "Known here: " + known + ".", meant};
 }
 
 /// Attributes that tell XML editors where the schema is.
@@ -67,140 +69,133 @@ bool isText(pugi::xml_node node)
 
 }  // namespace
 
-void ElementReader::read(Element const& element, pugi::xml_node node, void* record)
-{
-    readAttributes(element, node, record);
-    readContent(element, node, record);
-    if (element.text != nullptr) {
-        readText(element, node, record);
-    }
-}
-
-void ElementReader::readAttributes(Element const& element, pugi::xml_node node, void* record)
-{
-    Bits seen = 0;
-    std::size_t next = 0;
-    for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
-        std::size_t const index = findRow(element.attributes, attribute.name(), next);
-        if (index == element.attributes.size()) {
-            seen |= reportUnknownAttribute(element, node, attribute);
-            continue;
-        }
-        next = index + 1;
-        Bits const bit = 1U << index;
-        // The second of two like-named attributes is a fault of the text itself and found there.
-        if ((seen & bit) == 0 && !element.attributes[index].store(attribute.value(), record)) {
-            reportWrongValue(at(node, attribute), element.attributes[index], attribute.value());
-        }
-        seen |= bit;
-    }
-    reportMissingAttributes(element, node, seen);
-}
-
-void ElementReader::readContent(Element const& element, pugi::xml_node node, void* record)
-{
-    Bits seen = 0;
-    for (auto child = node.first_child(); child; child = child.next_sibling()) {
-        if (child.type() == pugi::node_element) {
-            seen |= readChild(element, child, seen, record);
-        } else if (isText(child) && element.text == nullptr && !trimmed(child.value()).empty()) {
-            _diagnostics.report(
-                startOfText(child), codes::unexpectedText,
-                std::string(element.name) + " holds no text, but here stands " + quoted(trimmed(child.value())) + ".");
-        }
-    }
-    reportMissingChildren(element, node, seen);
-}
-
-/// Where a text says something: the white space before that is looked at in the source, which has it as it was written.
-TextOffset ElementReader::startOfText(pugi::xml_node text) const
-{
-    std::string const& source = _diagnostics.source()->text();
-    return TextOffset(source.find_first_not_of(" \t\r\n", at(text).value()));
-}
-
-void ElementReader::readText(Element const& element, pugi::xml_node node, void* record)
+/// All text of an element, without that of its children.
+std::string ElementReader::textOf(pugi::xml_node node)
 {
     std::string text;
     for (pugi::xml_node const child : node.children()) {
-        if (isText(child)) {
-            text += child.value();
-        }
+        text += isText(child) ? child.value() : "";
     }
-    if (!element.text->store(text, record)) {
-        reportWrongValue(at(node), *element.text, text);
+    return text;
+}
+
+/// The row to read the attribute with; the second of two like-named ones is a fault of the text itself and found there.
+std::size_t ElementReader::findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
+                                         std::size_t start, Bits& seen)
+{
+    std::size_t const index = findRow(element.attributes, attribute.name(), start);
+    bool const isKnown = index != noRow;
+    Bits const bit = isKnown ? bitOf(index) : reportUnknownAttribute(element, node, attribute);
+    bool const isFirst = (seen & bit) == 0;
+    seen |= bit;
+    return isKnown && isFirst ? index : noRow;
+}
+
+void ElementReader::noteValue(AttributeInfo const& row, bool isRight, pugi::xml_node node,
+                              pugi::xml_attribute attribute)
+{
+    if (!isRight) {
+        reportWrongValue(at(node, attribute), row, attribute.value());
+    } else if (row.names != nullptr) {
+        _names.use(*row.names, attribute.value(), node, attribute);
     }
 }
 
-ElementReader::Bits ElementReader::readChild(Element const& element, pugi::xml_node child, Bits seen, void* record)
+/// The row to read the child with.
+std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node child, Bits& seen)
 {
-    std::size_t const index = findRow(element.children, child.name(), 0);
-    if (index == element.children.size()) {
-        return reportUnknownChild(element, child);
+    if (child.type() != pugi::node_element) {
+        if (isText(child) && element.text == nullptr && !trimmed(child.value()).empty()) {
+            reportUnexpectedText(element, child);
+        }
+        return noRow;
     }
-    Child const& row = element.children[index];
-    Bits const bit = 1U << index;
-    if (row.occurrence != Occurrence::any && (seen & bit) != 0) {
+    std::size_t const index = findRow(element.children, child.name(), 0);
+    if (index == noRow) {
+        seen |= reportUnknownChild(element, child);
+        return noRow;
+    }
+    bool const isRepeated = element.children[index].occurrence != Occurrence::any && (seen & (1U << index)) != 0;
+    seen |= 1U << index;
+    if (isRepeated) {
         _diagnostics.report(at(child), codes::repeatedElement,
                             std::string(element.name) + " may hold only one " + child.name() + ".",
                             "Leave one of them out; only the first is read.");
-        return 0;
     }
-    row.read(*this, *row.element, child, record);
-    return bit;
+    return isRepeated ? noRow : index;
 }
 
-ElementReader::Bits ElementReader::reportUnknownAttribute(Element const& element, pugi::xml_node node,
+/// Where it says something: the white space before that is looked at in the source, which has it as it was written.
+void ElementReader::reportUnexpectedText(ElementInfo const& element, pugi::xml_node text)
+{
+    std::string const& source = _diagnostics.source()->text();
+    _diagnostics.report(
+        TextOffset(source.find_first_not_of(" \t\r\n", at(text).value())), codes::unexpectedText,
+        std::string(element.name) + " holds no text, but here stands " + quoted(trimmed(text.value())) + ".");
+}
+
+/// Answers the bit of the missing attribute that was probably meant; 0 for none.
+ElementReader::Bits ElementReader::reportUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                                           pugi::xml_attribute attribute)
 {
     if (isForEditors(attribute.name()) || _diagnostics.countIfFull(codes::unknownAttribute)) {
         return 0;
     }
-    auto [hint, bit] = suggest(element.attributes, attribute.name());
-    _diagnostics.report(at(node, attribute), codes::unknownAttribute,
-                        std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ".",
-                        std::move(hint));
-    return bit;
+    std::string message = std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ".";
+    auto [hint, meant] = suggest(element.attributes, attribute.name());
+    _diagnostics.report(at(node, attribute), codes::unknownAttribute, std::move(message), std::move(hint));
+    if (meant == noRow || node.attribute(element.attributes[meant].name.data())) {
+        return 0;
+    }
+    loseName(element.attributes[meant]);
+    return bitOf(meant);
 }
 
-ElementReader::Bits ElementReader::reportUnknownChild(Element const& element, pugi::xml_node child)
+/// Answers the bit of the child that was probably meant; 0 for none.
+ElementReader::Bits ElementReader::reportUnknownChild(ElementInfo const& element, pugi::xml_node child)
 {
-    loseDefinition();
+    _names.loseAny();
     if (_diagnostics.countIfFull(codes::unknownElement)) {
         return 0;
     }
-    auto [hint, bit] = suggest(element.children, child.name());
-    _diagnostics.report(at(child), codes::unknownElement,
-                        std::string(element.name) + " holds no element " + quoted(child.name()) + ".", std::move(hint));
-    return bit;
+    std::string message = std::string(element.name) + " holds no element " + quoted(child.name()) + ".";
+    auto [hint, meant] = suggest(element.children, child.name());
+    _diagnostics.report(at(child), codes::unknownElement, std::move(message), std::move(hint));
+    return bitOf(meant);
 }
 
-void ElementReader::reportMissingAttributes(Element const& element, pugi::xml_node node, Bits seen)
+void ElementReader::reportMissingAttributes(ElementInfo const& element, pugi::xml_node node, Bits seen)
 {
-    for (std::size_t i = 0; i < element.attributes.size(); ++i) {
-        Attribute const& attribute = element.attributes[i];
-        if (attribute.required && (seen & (1U << i)) == 0) {
+    Bits bit = 1;
+    for (AttributeInfo const& attribute : element.attributes) {
+        if ((seen & bit) == 0 && attribute.required) {
             _diagnostics.report(at(node), codes::missingAttribute,
                                 std::string(element.name) + " lacks its attribute " + quoted(attribute.name) + ".",
                                 "Add it: " + std::string(attribute.meaning) + ".");
+            loseName(attribute);
+        } else if ((seen & bit) == 0 && attribute.names != nullptr) {
+            _names.use(*attribute.names, attribute.defaultText, node, {});
         }
+        bit <<= 1;
     }
 }
 
-void ElementReader::reportMissingChildren(Element const& element, pugi::xml_node node, Bits seen)
+void ElementReader::reportMissingChildren(ElementInfo const& element, pugi::xml_node node, Bits seen)
 {
-    for (std::size_t i = 0; i < element.children.size(); ++i) {
-        Child const& child = element.children[i];
-        if (child.occurrence == Occurrence::once && (seen & (1U << i)) == 0) {
+    Bits bit = 1;
+    for (ChildInfo const& child : element.children) {
+        if (child.occurrence == Occurrence::once && (seen & bit) == 0) {
             _diagnostics.report(at(node), codes::missingElement,
                                 std::string(element.name) + " lacks its element " + quoted(child.element->name) + ".",
                                 "Add it: " + std::string(child.element->meaning));
         }
+        bit <<= 1;
     }
 }
 
-void ElementReader::reportWrongValue(TextOffset place, Attribute const& attribute, std::string_view value)
+void ElementReader::reportWrongValue(TextOffset place, AttributeInfo const& attribute, std::string_view value)
 {
+    loseName(attribute);
     if (_diagnostics.countIfFull(codes::wrongValue)) {
         return;
     }
@@ -220,12 +215,16 @@ void ElementReader::reportWrongValue(TextOffset place, Attribute const& attribut
                         std::move(hint));
 }
 
-void ElementReader::reportDuplicate(pugi::xml_node node, char const* attribute)
+void ElementReader::reportBroken(Complaint const& complaint, TextOffset place)
 {
-    _diagnostics.report(at(node, attribute), codes::duplicateName,
-                        "Another " + std::string(node.name()) + " already has the " + attribute + " " +
-                            quoted(node.attribute(attribute).value()) + ".",
-                        "Give each its own; the first one counts.");
+    _diagnostics.report(place, *complaint.code, std::string(complaint.message), std::string(complaint.hint));
+}
+
+void ElementReader::loseName(AttributeInfo const& attribute)
+{
+    if (attribute.names != nullptr) {
+        _names.lose(*attribute.names);
+    }
 }
 
 }  // namespace Varo::Model::Native

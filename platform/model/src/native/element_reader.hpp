@@ -3,11 +3,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include <pugixml.hpp>
 
-#include "native/name_index.hpp"
+#include "native/names.hpp"
 #include "native/native_codes.hpp"
 #include "native/schema.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -16,69 +17,82 @@
 
 namespace Varo::Model::Native {
 
+/// The index of a row that is not there.
+constexpr std::size_t noRow = static_cast<std::size_t>(-1);
+
 /// Reads elements as their tables say, and reports whatever the tables do not allow.
 ///
-/// A set of attributes is a word of bits: no table has more than 32 rows.
+/// A set of rows is a word of bits: no table has more than 32.
 class ElementReader {
 public:
-    ElementReader(Diagnostics& diagnostics, Records& robot) : _diagnostics(diagnostics), _robot(robot) {}
+    ElementReader(Diagnostics& diagnostics, Records& robot)
+        : _diagnostics(diagnostics), _robot(robot), _names(diagnostics)
+    {}
 
-    /// Fills `record`, whose type is the one that the tables of `element` name.
-    void read(Element const& element, pugi::xml_node node, void* record);
+    template <class Record>
+    void read(Element<Record> const& element, pugi::xml_node node, Record& record);
 
     Diagnostics& diagnostics() { return _diagnostics; }
     Records& robot() { return _robot; }
-    NameIndex& names() { return _names; }
-
-    /// Adds a record to the table of its kind, unless it lacks a name or the name is taken.
-    template <class Config>
-    void define(NameIndex::Kind kind, Table<Config>& table, Config&& config, pugi::xml_node node);
-
-    /// Reports the second of two things whose names must differ.
-    void reportDuplicate(pugi::xml_node node, char const* attribute);
-
-    /// Something that may define a name could not be read: whether a name is known can no longer be told.
-    void loseDefinition() { _definitionsLost = true; }
-    bool definitionsLost() const { return _definitionsLost; }
+    Names& names() { return _names; }
 
 private:
     using Bits = std::uint32_t;
 
-    void readAttributes(Element const& element, pugi::xml_node node, void* record);
-    void readContent(Element const& element, pugi::xml_node node, void* record);
-    void readText(Element const& element, pugi::xml_node node, void* record);
-    TextOffset startOfText(pugi::xml_node text) const;
-    Bits readChild(Element const& element, pugi::xml_node child, Bits seen, void* record);
+    std::size_t findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
+                              std::size_t start, Bits& seen);
+    std::size_t findChild(ElementInfo const& element, pugi::xml_node child, Bits& seen);
 
-    Bits reportUnknownAttribute(Element const& element, pugi::xml_node node, pugi::xml_attribute attribute);
-    Bits reportUnknownChild(Element const& element, pugi::xml_node child);
-    void reportMissingAttributes(Element const& element, pugi::xml_node node, Bits seen);
-    void reportMissingChildren(Element const& element, pugi::xml_node node, Bits seen);
-    void reportWrongValue(TextOffset place, Attribute const& attribute, std::string_view value);
+    static std::string textOf(pugi::xml_node node);
+    void noteValue(AttributeInfo const& row, bool isRight, pugi::xml_node node, pugi::xml_attribute attribute);
+
+    Bits reportUnknownAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute);
+    Bits reportUnknownChild(ElementInfo const& element, pugi::xml_node child);
+    void reportUnexpectedText(ElementInfo const& element, pugi::xml_node text);
+    void reportMissingAttributes(ElementInfo const& element, pugi::xml_node node, Bits seen);
+    void reportMissingChildren(ElementInfo const& element, pugi::xml_node node, Bits seen);
+    void reportWrongValue(TextOffset place, AttributeInfo const& attribute, std::string_view value);
+    void reportBroken(Complaint const& complaint, TextOffset place);
+    void loseName(AttributeInfo const& attribute);
 
     Diagnostics& _diagnostics;
     Records& _robot;
-    NameIndex _names;
-    bool _definitionsLost = false;
+    Names _names;
 };
 
-template <class Config>
-void ElementReader::define(NameIndex::Kind kind, Table<Config>& table, Config&& config, pugi::xml_node node)
+template <class Record>
+void ElementReader::read(Element<Record> const& element, pugi::xml_node node, Record& record)
 {
-    if (config.name.empty()) {
-        loseDefinition();
-    } else if ((_names.mark(node.attribute("name").value(), kind) & kind) != 0) {
-        reportDuplicate(node, "name");
-    } else {
-        config.textOffset = at(node);
-        table.add(std::forward<Config>(config));
+    Bits seen = 0;
+    std::size_t next = 0;
+    for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
+        std::size_t const index = findAttribute(element, node, attribute, next, seen);
+        if (index != noRow) {
+            next = index + 1;
+            Attribute<Record> const& row = element.attributeRows[index];
+            noteValue(row, row.store(attribute.value(), record), node, attribute);
+        }
     }
-}
-
-/// For children that fill the record of their parent.
-inline void readInPlace(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
-{
-    reader.read(element, node, parent);
+    reportMissingAttributes(element, node, seen);
+    seen = 0;
+    for (auto child = node.first_child(); child; child = child.next_sibling()) {
+        std::size_t const index = findChild(element, child, seen);
+        if (index != noRow) {
+            element.childRows[index].read(*this, child, record);
+        }
+    }
+    reportMissingChildren(element, node, seen);
+    if (element.textRow != nullptr) {
+        std::string const text = textOf(node);
+        if (!element.textRow->store(text, record)) {
+            reportWrongValue(at(node), *element.textRow, text);
+        }
+    }
+    for (Rule<Record> const& rule : element.rules) {
+        if (rule.isBroken(record, node)) {
+            reportBroken(rule.complaint, at(node, rule.attribute));
+        }
+    }
 }
 
 }  // namespace Varo::Model::Native

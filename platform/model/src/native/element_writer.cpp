@@ -1,7 +1,5 @@
 #include "native/element_writer.hpp"
 
-#include <algorithm>
-
 namespace Varo::Model::Native {
 
 namespace {
@@ -27,74 +25,49 @@ std::string escaped(std::string_view text)
     return result;
 }
 
-bool isDefault(Attribute const& attribute, void const* record)
-{
-    // The texts decide and not the values, of which 0 equals -0.
-    return attribute.print(record) == attribute.print(nullptr);
-}
-
 }  // namespace
-
-void ElementWriter::write(Element const& element, void const* record)
-{
-    openTag(element.name);
-    writeAttributes(element, record);
-    if (element.text != nullptr) {
-        _text += ">" + escaped(element.text->print(record)) + "</" + std::string(element.name) + ">\n";
-        return;
-    }
-    _isTagOpen = true;
-    ++_depth;
-    for (Child const& child : element.children) {
-        child.write(*this, *child.element, record);
-    }
-    --_depth;
-    closeTag(element.name);
-}
-
-void ElementWriter::writeUnlessDefault(Element const& element, void const* record)
-{
-    auto const& attributes = element.attributes;
-    bool const saysNothing = std::all_of(attributes.begin(), attributes.end(),
-                                         [record](Attribute const& attribute) { return isDefault(attribute, record); });
-    if (!saysNothing) {
-        write(element, record);
-    }
-}
 
 void ElementWriter::openTag(std::string_view name)
 {
     if (_isTagOpen) {
         _text += ">\n";
-        _isTagOpen = false;
     }
     indent();
     _text += '<';
     _text += name;
+    _isTagOpen = true;
+    ++_depth;
 }
 
-void ElementWriter::writeAttributes(Element const& element, void const* record)
+void ElementWriter::writeAttribute(std::string_view name, std::string_view value)
 {
-    for (Attribute const& attribute : element.attributes) {
-        if (attribute.required || !isDefault(attribute, record)) {
-            _text += ' ';
-            _text += attribute.name;
-            _text += "=\"" + escaped(attribute.print(record)) + '"';
-        }
-    }
+    _text += ' ';
+    _text += name;
+    _text += "=\"" + escaped(value) + '"';
+}
+
+void ElementWriter::writeText(std::string_view text)
+{
+    _text += ">" + escaped(text);
+    _isTagOpen = false;
+    _isTextLast = true;
 }
 
 void ElementWriter::closeTag(std::string_view name)
 {
+    --_depth;
     if (_isTagOpen) {
         _text += "/>\n";
-        _isTagOpen = false;
-        return;
+    } else {
+        if (!_isTextLast) {
+            indent();
+        }
+        _text += "</";
+        _text += name;
+        _text += ">\n";
     }
-    indent();
-    _text += "</";
-    _text += name;
-    _text += ">\n";
+    _isTagOpen = false;
+    _isTextLast = false;
 }
 
 }  // namespace Varo::Model::Native

@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_NATIVE_ELEMENT_WRITER_HPP
 #define VARO_MODEL_NATIVE_ELEMENT_WRITER_HPP
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -17,10 +18,11 @@ public:
     /// The robot must outlive the writer.
     explicit ElementWriter(Records const& robot) : _robot(robot) {}
 
-    /// Writes an element of `record`, whose type is the one that the tables of `element` name.
-    void write(Element const& element, void const* record);
+    template <class Record>
+    void write(Element<Record> const& element, Record const& record);
     /// The same, unless the attributes say no more than those of a new record.
-    void writeUnlessDefault(Element const& element, void const* record);
+    template <class Record>
+    void writeUnlessDefault(Element<Record> const& element, Record const& record);
 
     Records const& robot() const { return _robot; }
 
@@ -28,8 +30,16 @@ public:
     std::string const& text() const { return _text; }
 
 private:
+    /// The texts decide and not the values, of which 0 equals -0.
+    template <class Record>
+    static bool isDefault(Attribute<Record> const& row, Record const& record)
+    {
+        return row.print(record) == row.print(Record());
+    }
+
     void openTag(std::string_view name);
-    void writeAttributes(Element const& element, void const* record);
+    void writeAttribute(std::string_view name, std::string_view value);
+    void writeText(std::string_view text);
     void closeTag(std::string_view name);
     void indent() { _text.append(2 * _depth, ' '); }
 
@@ -37,16 +47,37 @@ private:
     std::string _text;
     std::size_t _depth = 0;
     bool _isTagOpen = false;  ///< the last start tag still lacks its end
+    bool _isTextLast = false;  ///< the next end tag stands right behind a text
 };
 
-/// For children that are written from the record of their parent.
-inline void writeInPlace(ElementWriter& writer, Element const& element, void const* parent)
+template <class Record>
+void ElementWriter::write(Element<Record> const& element, Record const& record)
 {
-    writer.writeUnlessDefault(element, parent);
+    openTag(element.name);
+    for (Attribute<Record> const& row : element.attributeRows) {
+        if (row.required || !isDefault(row, record)) {
+            writeAttribute(row.name, row.print(record));
+        }
+    }
+    if (element.textRow != nullptr) {
+        writeText(element.textRow->print(record));
+    }
+    for (Child<Record> const& row : element.childRows) {
+        if (row.write != nullptr) {
+            row.write(*this, record);
+        }
+    }
+    closeTag(element.name);
 }
 
-/// For children that are written with those of another row.
-inline void writeNothing(ElementWriter&, Element const&, void const*) {}
+template <class Record>
+void ElementWriter::writeUnlessDefault(Element<Record> const& element, Record const& record)
+{
+    auto const& rows = element.attributeRows;
+    if (!std::all_of(rows.begin(), rows.end(), [&](auto const& row) { return isDefault(row, record); })) {
+        write(element, record);
+    }
+}
 
 }  // namespace Varo::Model::Native
 

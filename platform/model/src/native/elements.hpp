@@ -2,34 +2,26 @@
 #define VARO_MODEL_NATIVE_ELEMENTS_HPP
 
 #include "native/schema.hpp"
+#include "varo/model/records.hpp"
 
 /// The elements of the native dialect; each family of them stands in a source of its own.
 namespace Varo::Model::Native {
 
-/// The root element; reads into a Records.
-extern Element const robotDescriptionElement;
+/// What the joint record has no place for goes into the robot's own lists.
+struct JointReading : JointConfig {
+    bool reflectionForced = false;
+};
 
-// What stands in it, and the functions that read it into the Records that `parent` points to.
-extern Element const rootElement;
-extern Element const jointElement;
-extern Element const chainElement;
-extern Element const actuatorElement;
-extern Element const wheelElement;
-extern Element const sensorElement;
-extern Element const postureElement;
+extern Element<Records> const robotDescriptionElement;
 
-void readRoot(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-void readJoint(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-void readChain(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-void readActuator(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-void readWheel(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-void readSensor(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-void readPosture(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-
-// And those that write them from there.
-void writeRoot(ElementWriter& writer, Element const& element, void const* parent);
-void writeJoints(ElementWriter& writer, Element const& element, void const* parent);
-void writePostures(ElementWriter& writer, Element const& element, void const* parent);
+// What stands in it.
+extern Element<JointConfig> const rootElement;
+extern Element<JointReading> const jointElement;
+extern Element<ChainConfig> const chainElement;
+extern Element<ActuatorConfig> const actuatorElement;
+extern Element<WheelConfig> const wheelElement;
+extern Element<SensorConfig> const sensorElement;
+extern Element<PostureConfig> const postureElement;
 
 }  // namespace Varo::Model::Native
 

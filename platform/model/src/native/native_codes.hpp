@@ -1,10 +1,21 @@
 #ifndef VARO_MODEL_NATIVE_CODES_HPP
 #define VARO_MODEL_NATIVE_CODES_HPP
 
+#include <string_view>
+
 #include "finding_codes.hpp"
 
+namespace Varo::Model::Native {
+
+/// What a table finds fault with, and how it says so.
+struct Complaint {
+    FindingCode const* code = nullptr;  ///< null when nothing can be wrong
+    std::string_view message = {};  ///< in which % stands for the name that it is about
+    std::string_view hint = {};
+};
+
 /// The kinds of findings that only texts of the native dialect give.
-namespace Varo::Model::Native::codes {
+namespace codes {
 
 // The tables of the native dialect.
 inline constexpr FindingCode unknownElement{"unknown-element", Severity::error,
@@ -28,6 +39,16 @@ inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning
 inline constexpr FindingCode missingMaterial{"missing-material", Severity::warning,
                                              "A wheel has no material; no model can be built of the robot."};
 
+// What the kinds of sensors need.
+inline constexpr FindingCode missingSensorText{
+    "missing-sensor-text", Severity::warning,
+    "A sensor lacks a text that its kind needs; no model can be built of the robot."};
+inline constexpr FindingCode wrongSensorText{"wrong-sensor-text", Severity::warning,
+                                             "A text of a sensor is not what models read in it."};
+inline constexpr FindingCode wrongKeyCount{
+    "wrong-key-count", Severity::warning,
+    "A sensor has more or fewer keys than its kind may have, so that no model will contain it."};
+
 // Names that refer to other elements.
 inline constexpr FindingCode actuatorLoop{"actuator-loop", Severity::error,
                                           "The chain of an actuator's parents leads back to it."};
@@ -45,11 +66,14 @@ inline constexpr FindingCode angleOfUnknown{
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &unknownElement,    &unknownAttribute,      &missingElement,   &missingAttribute, &repeatedElement, &unexpectedText,
-    &wrongValue,        &conflictingAttributes, &duplicateName,    &reversedLimits,   &missingMaterial, &actuatorLoop,
-    &danglingReference, &jointInNoChain,        &jointInTwoChains, &chainLoop,        &angleOfUnknown,
+    &unknownElement,    &unknownAttribute,  &missingElement,        &missingAttribute, &repeatedElement,
+    &unexpectedText,    &wrongValue,        &conflictingAttributes, &duplicateName,    &reversedLimits,
+    &missingMaterial,   &missingSensorText, &wrongSensorText,       &wrongKeyCount,    &actuatorLoop,
+    &danglingReference, &jointInNoChain,    &jointInTwoChains,      &chainLoop,        &angleOfUnknown,
 };
 
-}  // namespace Varo::Model::Native::codes
+}  // namespace codes
+
+}  // namespace Varo::Model::Native
 
 #endif

@@ -4,7 +4,6 @@
 
 #include "native/element_reader.hpp"
 #include "native/elements.hpp"
-#include "native/references.hpp"
 
 namespace Varo::Model {
 
@@ -25,6 +24,7 @@ constexpr PartPlace parts[] = {
     {Part::inertia, "inertia", "mass"},
     {Part::material, "value", "attribute", {}, "material"},
     {Part::value, "value"},
+    {Part::resolutions, "value", "attribute", {}, "resolutions"},
 };
 
 template <class Config>
@@ -46,8 +46,8 @@ Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
     reserve(robot.chains, root, "chain");
     reserve(robot.sensors, root, "sensor");
     Native::ElementReader reader(diagnostics, robot);
-    reader.read(Native::robotDescriptionElement, root, &robot);
-    Native::checkReferences(root, reader);
+    reader.read(Native::robotDescriptionElement, root, robot);
+    reader.names().checkReferences(robot);
     return robot;
 }
 

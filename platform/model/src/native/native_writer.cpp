@@ -9,7 +9,7 @@ std::string writeNative(Robot const& robot)
 {
     auto const records = recordsOf(robot);
     Native::ElementWriter writer(*records);
-    writer.write(Native::robotDescriptionElement, records.get());
+    writer.write(Native::robotDescriptionElement, *records);
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + writer.text();
 }
 

@@ -11,13 +11,7 @@ namespace Varo::Model::Native {
 
 namespace {
 
-struct Pose {
-    Position3D xyz;
-    Position3D rpy;
-    std::array<float, 12> matrix = Transform().rows();
-};
-
-constexpr Attribute attributes[] = {
+constexpr Attribute<Pose> attributes[] = {
     optional<&Pose::xyz>("xyz", "0 0 0", "m", "position of the placed frame's origin"),
     optional<&Pose::rpy>("rpy", "0 0 0", "rad",
                          "orientation of the placed frame: roll about x, then pitch about y, then yaw about z, all "
@@ -27,24 +21,40 @@ constexpr Attribute attributes[] = {
                             "homogeneous matrix, row by row"),
 };
 
+bool saysPoseTwice(Pose const& /*pose*/, pugi::xml_node node)
+{
+    return node.attribute("matrix") && (node.attribute("xyz") || node.attribute("rpy"));
+}
+
+constexpr Rule<Pose> rules[] = {
+    {"matrix",
+     saysPoseTwice,
+     {&codes::conflictingAttributes, "A matrix says the whole pose, so that xyz and rpy cannot stand beside it.",
+      "Write either the matrix or the other two."}},
+};
+
+constexpr Element<Pose> poseElement(std::string_view name, std::string_view meaning)
+{
+    return {name, meaning, attributes, {}, rules};
+}
+
 }  // namespace
 
-Element const jointPlacementElement{
-    "placement", "the joint's frame at zero position, in the frame of the joint (or root) before it", attributes};
-Element const jointEndElement{"end", "the frame of the body (link) that the joint moves, in the joint's frame",
-                              attributes};
-Element const chainPlacementElement{
-    "placement", "the chain's base frame, in the frame of the chain's parent joint (or root)", attributes};
-Element const tipPlacementElement{
-    "tipPlacement", "the chain's tool frame, in the link frame of its last joint; carried for the programs that use it",
-    attributes};
-Element const devicePlacementElement{"placement", "the device's frame, in the frame of its parent joint", attributes};
-Element const sensorPlacementElement{
-    "placement", "the sensor's frame, in the link frame of its parent (of the root, when it hangs on that)",
-    attributes};
-Element const subJointPlacementElement{
-    "placement", "the sub-joint's frame at zero position, in the frame of the joint or sub-joint before it",
-    attributes};
+constexpr Element<Pose> jointPlacementElement =
+    poseElement("placement", "the joint's frame at zero position, in the frame of the joint (or root) before it");
+constexpr Element<Pose> jointEndElement =
+    poseElement("end", "the frame of the body (link) that the joint moves, in the joint's frame");
+constexpr Element<Pose> chainPlacementElement =
+    poseElement("placement", "the chain's base frame, in the frame of the chain's parent joint (or root)");
+constexpr Element<Pose> tipPlacementElement =
+    poseElement("tipPlacement",
+                "the chain's tool frame, in the link frame of its last joint; carried for the programs that use it");
+constexpr Element<Pose> devicePlacementElement =
+    poseElement("placement", "the device's frame, in the frame of its parent joint");
+constexpr Element<Pose> sensorPlacementElement = poseElement(
+    "placement", "the sensor's frame, in the link frame of its parent (of the root, when it hangs on that)");
+constexpr Element<Pose> subJointPlacementElement = poseElement(
+    "placement", "the sub-joint's frame at zero position, in the frame of the joint or sub-joint before it");
 
 namespace {
 
@@ -97,22 +107,14 @@ bool findAngles(Transform const& transform, Position3D& rpy)
 
 }  // namespace
 
-Transform readPose(ElementReader& reader, Element const& element, pugi::xml_node node)
+Transform readPose(ElementReader& reader, Element<Pose> const& element, pugi::xml_node node)
 {
     Pose pose;
-    reader.read(element, node, &pose);
-    if (!node.attribute("matrix")) {
-        return compose(pose.xyz, pose.rpy);
-    }
-    if (node.attribute("xyz") || node.attribute("rpy")) {
-        reader.diagnostics().report(at(node, "matrix"), codes::conflictingAttributes,
-                                    "A matrix says the whole pose, so that xyz and rpy cannot stand beside it.",
-                                    "Write either the matrix or the other two.");
-    }
-    return Transform::fromRows(pose.matrix);
+    reader.read(element, node, pose);
+    return node.attribute("matrix") ? Transform::fromRows(pose.matrix) : compose(pose.xyz, pose.rpy);
 }
 
-void writePose(ElementWriter& writer, Element const& element, Transform const& transform)
+void writePose(ElementWriter& writer, Element<Pose> const& element, Transform const& transform)
 {
     Pose pose;
     if (findAngles(transform, pose.rpy)) {
@@ -121,7 +123,7 @@ void writePose(ElementWriter& writer, Element const& element, Transform const& t
         pose.rpy = {};
         pose.matrix = transform.rows();
     }
-    writer.writeUnlessDefault(element, &pose);
+    writer.writeUnlessDefault(element, pose);
 }
 
 }  // namespace Varo::Model::Native

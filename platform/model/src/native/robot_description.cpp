@@ -1,78 +1,86 @@
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
 #include <utility>
 
-#include "native/element_reader.hpp"
-#include "native/element_writer.hpp"
+#include "native/children.hpp"
 #include "native/elements.hpp"
+#include "native/sensor_needs.hpp"
 
 namespace Varo::Model::Native {
 
 namespace {
 
-struct PrettyName {
-    std::int32_t index = 0;
-    std::string text;
+using PrettyName = std::pair<std::int32_t, std::string>;
+constexpr Attribute<PrettyName> prettyNameAttributes[] = {
+    optional<&PrettyName::first>("index", "0", "", "which of the robot's pretty names it is")
+        .with(names::indexOfPrettyName),
 };
+constexpr Attribute<PrettyName> prettyNameText = required<&PrettyName::second, Line>("", "", "the name");
+constexpr Element<PrettyName> prettyNameElement{
+    "prettyName", "a name of the robot for people", prettyNameAttributes, {}, {}, &prettyNameText};
 
-constexpr Attribute prettyNameAttributes[] = {
-    optional<&PrettyName::index>("index", "0", "", "which of the robot's pretty names it is")};
-constexpr Attribute prettyNameText = content<&PrettyName::text, Line>("the name");
-constexpr Element prettyNameElement{
-    "prettyName", "a name of the robot for people", prettyNameAttributes, {}, &prettyNameText};
-
-void readPrettyName(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent)
+void readRoot(ElementReader& reader, pugi::xml_node node, Records& robot)
 {
-    PrettyName name;
-    reader.read(element, node, &name);
-    auto& names = static_cast<Records*>(parent)->prettyNames;
-    if (!names.try_emplace(name.index, std::move(name.text)).second) {
-        reader.reportDuplicate(node, "index");
+    reader.read(rootElement, node, robot.root);
+    robot.root.textOffset = robot.root.bodyOffset = at(node);
+}
+
+void writeRoot(ElementWriter& writer, Records const& robot)
+{
+    writer.write(rootElement, robot.root);
+}
+
+void readJoint(ElementReader& reader, pugi::xml_node node, Records& robot)
+{
+    JointReading joint;
+    reader.read(jointElement, node, joint);
+    joint.textOffset = joint.bodyOffset = at(node);
+    if (joint.reflectionForced) {
+        robot.reflectionForced.push_back(joint.name);
+    }
+    robot.joints.add(static_cast<JointConfig&&>(joint));
+}
+
+void writeJoints(ElementWriter& writer, Records const& robot)
+{
+    std::set<std::string_view> const forced(robot.reflectionForced.begin(), robot.reflectionForced.end());
+    for (JointConfig const& config : robot.joints) {
+        writer.write(jointElement, {config, forced.find(config.name) != forced.end()});
     }
 }
 
-void writePrettyNames(ElementWriter& writer, Element const& element, void const* parent)
+void readSensor(ElementReader& reader, pugi::xml_node node, Records& robot)
 {
-    for (auto const& [index, text] : static_cast<Records const*>(parent)->prettyNames) {
-        PrettyName const name = {index, text};
-        writer.write(element, &name);
+    SensorConfig sensor;
+    reader.read(sensorElement, node, sensor);
+    sensor.textOffset = at(node);
+    bool const isWhole = !reader.names().isAnyLost() && sensor.attributes.count({}) == 0;
+    if (isWhole) {
+        checkNeeds(sensor, node, reader.diagnostics());
     }
+    robot.sensors.add(std::move(sensor));
 }
 
-template <auto table>
-void writeTable(ElementWriter& writer, Element const& element, void const* parent)
-{
-    for (auto const& record : static_cast<Records const*>(parent)->*table) {
-        writer.write(element, &record);
-    }
-}
-
-constexpr Attribute attributes[] = {
+constexpr Attribute<Records> attributes[] = {
     required<&Records::name, Name>("name", "", "what the robot is called"),
     optional<&Records::version>("version", "", "", "the description's own version"),
 };
-constexpr Child children[] = {
-    {&prettyNameElement, Occurrence::any, readPrettyName, writePrettyNames},
-    {&rootElement, Occurrence::once, readRoot, writeRoot},
-    {&jointElement, Occurrence::any, readJoint, writeJoints},
-    {&chainElement, Occurrence::any, readChain, writeTable<&Records::chains>},
-    {&actuatorElement, Occurrence::any, readActuator, writeTable<&Records::actuators>},
-    {&wheelElement, Occurrence::any, readWheel, writeTable<&Records::wheels>},
-    {&sensorElement, Occurrence::any, readSensor, writeTable<&Records::sensors>},
-    {&postureElement, Occurrence::any, readPosture, writePostures},
-};
-constexpr Unique uniques[] = {
-    {"prettyNameIndices", "prettyName", "@index"},
-    {"jointNames", "joint", "@name"},
-    {"chainNames", "chain", "@name"},
-    {"actuatorNames", "actuator", "@name"},
-    {"subJointNames", "actuator/group/*", "@name"},
-    {"wheelNames", "wheel", "@name"},
-    {"sensorNames", "sensor", "@name"},
-    {"postureNames", "posture", "@name"},
+constexpr Child<Records> children[] = {
+    childrenOf<&Records::prettyNames, prettyNameElement>(),
+    {{&rootElement, Occurrence::once}, readRoot, writeRoot},
+    {{&jointElement, Occurrence::any}, readJoint, writeJoints},
+    childrenOf<&Records::chains, chainElement>(),
+    childrenOf<&Records::actuators, actuatorElement>(),
+    childrenOf<&Records::wheels, wheelElement>(),
+    {{&sensorElement, Occurrence::any}, readSensor, childrenOf<&Records::sensors, sensorElement>().write},
+    childrenOf<&Records::postures, postureElement>(),
 };
 
 }  // namespace
 
-Element const robotDescriptionElement{
-    "robotDescription", "the whole of a description", attributes, children, nullptr, uniques};
+constexpr Element<Records> robotDescriptionElement{"robotDescription", "the whole of a description", attributes,
+                                                   children};
 
 }  // namespace Varo::Model::Native

@@ -1,11 +1,14 @@
 #ifndef VARO_MODEL_NATIVE_SCHEMA_HPP
 #define VARO_MODEL_NATIVE_SCHEMA_HPP
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include <pugixml.hpp>
 
+#include "native/name_rules.hpp"
+#include "native/native_codes.hpp"
 #include "native/values.hpp"
 #include "range.hpp"
 
@@ -13,54 +16,124 @@
 ///
 /// The reader and the writer obey these tables, and the XML schema and the reference in the documentation are written
 /// from them. An attribute names its place in the records by pointer to member, from which the type of its value
-/// follows.
+/// follows. What can be said without knowing the record stands in the `Info` that a row derives from.
 namespace Varo::Model::Native {
 
 class ElementReader;
 class ElementWriter;
 
-struct Attribute {
+struct AttributeInfo {
     std::string_view name;
     ValueType const* type;
     std::string_view unit;  ///< may be empty
     std::string_view meaning;
     bool required;
     std::string_view defaultText;  ///< what leaving an optional attribute out amounts to
-    /// Writes the value of `text` into the record; false, with the record unchanged, when it has none.
-    bool (*store)(std::string_view text, void* record);
-    /// Whether a new record holds the value of `text`.
-    bool (*isDefault)(std::string_view text);
-    /// The text of the record's value; of a new record's when it is null.
-    std::string (*print)(void const* record);
+    bool (*isDefault)(std::string_view text);  ///< whether a new record holds the value of `text`
+    NameRule const* names = nullptr;  ///< null when the value is no name
+};
+
+template <class Record>
+struct Attribute : AttributeInfo {
+    using Store = bool (*)(std::string_view text, Record& record);
+    using Print = std::string (*)(Record const& record);
+
+    constexpr Attribute with(NameRule const& rule) const
+    {
+        Attribute copy = *this;
+        copy.names = &rule;
+        return copy;
+    }
+
+    Store store;  ///< false, with the record unchanged, when the text has no value
+    Print print;
 };
 
 enum class Occurrence { optional, once, any };
 
-struct Element;
+struct ElementInfo;
 
-struct Child {
-    Element const* element;
+struct ChildInfo {
+    ElementInfo const* element;
     Occurrence occurrence;
-    /// Reads the child `node` into the record of its parent.
-    void (*read)(ElementReader& reader, Element const& element, pugi::xml_node node, void* parent);
-    /// Writes what the record of the parent has to say in such children.
-    void (*write)(ElementWriter& writer, Element const& element, void const* parent);
 };
 
-/// An attribute, or all attributes that `selector` (as of an xs:unique) finds, that no two elements share.
-struct Unique {
-    std::string_view name;
-    std::string_view selector;
-    std::string_view field;
+template <class Parent>
+struct Child : ChildInfo {
+    using Read = void (*)(ElementReader& reader, pugi::xml_node node, Parent& parent);
+    using Write = void (*)(ElementWriter& writer, Parent const& parent);
+
+    Read read;  ///< into the record of the parent
+    Write write;  ///< what the record of the parent has to say in such children; null for those of another row
 };
 
-struct Element {
+/// Something that attributes or children together may be wrong in.
+template <class Record>
+struct Rule {
+    char const* attribute;  ///< at which it is reported; empty for the element
+    bool (*isBroken)(Record const& record, pugi::xml_node node);
+    Complaint complaint;
+};
+
+/// The rows of a table of which only the base is to be seen.
+template <class Info>
+class Infos {
+public:
+    class Iterator {
+    public:
+        Iterator(char const* row, std::size_t step) : _row(row), _step(step) {}
+        Info const& operator*() const { return *reinterpret_cast<Info const*>(_row); }
+        Iterator& operator++() { return _row += _step, *this; }
+        bool operator!=(Iterator const& other) const { return _row != other._row; }
+
+    private:
+        char const* _row;
+        std::size_t _step;
+    };
+
+    template <class Row>
+    constexpr explicit Infos(Range<Row> rows) : _first(rows.begin()), _size(rows.size()), _step(sizeof(Row))
+    {}
+
+    std::size_t size() const { return _size; }
+    Info const& operator[](std::size_t index) const { return *Iterator(row(index), _step); }
+    Iterator begin() const { return {row(0), _step}; }
+    Iterator end() const { return {row(_size), _step}; }
+
+private:
+    char const* row(std::size_t index) const { return reinterpret_cast<char const*>(_first) + index * _step; }
+
+    Info const* _first;
+    std::size_t _size;
+    std::size_t _step;
+};
+
+struct ElementInfo {
     std::string_view name;
     std::string_view meaning;
-    Range<Attribute> attributes;
-    Range<Child> children = {};
-    Attribute const* text = nullptr;  ///< null when the element holds no text
-    Range<Unique> uniques = {};
+    Infos<AttributeInfo> attributes;
+    Infos<ChildInfo> children;
+    AttributeInfo const* text;  ///< null when the element holds no text
+};
+
+template <class R>
+struct Element : ElementInfo {
+    using Record = R;
+
+    constexpr Element(std::string_view tag, std::string_view about, Range<Attribute<Record>> itsAttributes,
+                      Range<Child<Record>> itsChildren = {}, Range<Rule<Record>> itsRules = {},
+                      Attribute<Record> const* itsText = nullptr)
+        : ElementInfo{tag, about, Infos<AttributeInfo>(itsAttributes), Infos<ChildInfo>(itsChildren), itsText},
+          attributeRows(itsAttributes),
+          childRows(itsChildren),
+          rules(itsRules),
+          textRow(itsText)
+    {}
+
+    Range<Attribute<Record>> attributeRows;
+    Range<Child<Record>> childRows;
+    Range<Rule<Record>> rules;
+    Attribute<Record> const* textRow;
 };
 
 template <auto>
@@ -75,64 +148,53 @@ using RecordOf = typename MemberPointer<member>::Record;
 template <auto member>
 using DefaultType = TypeOf<typename MemberPointer<member>::Value>;
 
-/// `Base` is the type that the pointer to the record comes as, when it is a base of that which has the member.
-template <auto member, class Type, class Base>
-bool storeMember(std::string_view text, void* record)
+template <auto member, class Type, class Record>
+constexpr Attribute<Record> memberRow(AttributeInfo const& info)
 {
-    return Type::parse(text, static_cast<RecordOf<member>*>(static_cast<Base*>(record))->*member);
+    return {info, [](std::string_view text, Record& record) { return Type::parse(text, record.*member); },
+            [](Record const& record) { return Type::print(record.*member); }};
 }
 
-template <auto member, class Type>
-bool isDefaultOfMember(std::string_view text)
+template <auto member, class Type = DefaultType<member>, class Record = RecordOf<member>>
+constexpr Attribute<Record> required(std::string_view name, std::string_view unit, std::string_view meaning)
 {
-    RecordOf<member> record;
-    return Type::parse(text, record.*member) && record.*member == RecordOf<member>().*member;
+    return memberRow<member, Type, Record>({name, &Type::type, unit, meaning, true, {}, nullptr, nullptr});
 }
 
-template <auto member, class Type, class Base>
-std::string printMember(void const* record)
+template <auto member, class Type = DefaultType<member>, class Record = RecordOf<member>>
+constexpr Attribute<Record> optional(std::string_view name, std::string_view defaultText, std::string_view unit,
+                                     std::string_view meaning)
 {
-    if (record == nullptr) {
-        return Type::print(RecordOf<member>().*member);
-    }
-    return Type::print(static_cast<RecordOf<member> const*>(static_cast<Base const*>(record))->*member);
+    auto const isDefault = [](std::string_view text) {
+        Record record;
+        return Type::parse(text, record.*member) && record.*member == Record().*member;
+    };
+    return memberRow<member, Type, Record>({name, &Type::type, unit, meaning, false, defaultText, isDefault, nullptr});
 }
 
-template <auto member, class Type = DefaultType<member>>
-constexpr Attribute required(std::string_view name, std::string_view unit, std::string_view meaning)
+/// An attribute that is a name.
+template <auto member, class Record = RecordOf<member>>
+constexpr Attribute<Record> named(std::string_view name, NameRule const& rule, std::string_view meaning)
 {
-    using Record = RecordOf<member>;
-    return {name,
-            &Type::type,
-            unit,
-            meaning,
-            true,
-            {},
-            storeMember<member, Type, Record>,
-            nullptr,
-            printMember<member, Type, Record>};
+    return required<member, Name, Record>(name, "", meaning).with(rule);
 }
 
-template <auto member, class Type = DefaultType<member>, class Base = RecordOf<member>>
-constexpr Attribute optional(std::string_view name, std::string_view defaultText, std::string_view unit,
-                             std::string_view meaning)
+/// An attribute, or without a name the text between the tags, that is all that its record holds.
+template <class Type>
+constexpr Attribute<std::string> whole(std::string_view name, std::string_view meaning)
 {
-    return {name,
-            &Type::type,
-            unit,
-            meaning,
-            false,
-            defaultText,
-            storeMember<member, Type, Base>,
-            isDefaultOfMember<member, Type>,
-            printMember<member, Type, Base>};
+    return {{name, &Type::type, {}, meaning, true, {}, nullptr, nullptr},
+            [](std::string_view text, std::string& record) { return Type::parse(text, record); },
+            [](std::string const& record) { return record; }};
 }
 
-/// The text between an element's tags.
-template <auto member, class Type = DefaultType<member>>
-constexpr Attribute content(std::string_view meaning)
+/// Limits of which the lower one may not be above the upper one.
+template <auto lower, auto upper, class Record = RecordOf<lower>>
+constexpr Rule<Record> inOrder(char const* attribute)
 {
-    return required<member, Type>({}, {}, meaning);
+    return {attribute,
+            [](Record const& record, pugi::xml_node /*node*/) { return record.*lower > record.*upper; },
+            {&codes::reversedLimits, "The limit min is greater than max."}};
 }
 
 }  // namespace Varo::Model::Native

@@ -61,6 +61,7 @@ enum class Part {
     inertia,
     material,  ///< of the body's surface
     value,  ///< of an angle in a posture
+    resolutions,  ///< of a camera's pictures
 };
 
 /// Where a text says something, and what it has there.

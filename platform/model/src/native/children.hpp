@@ -1,0 +1,69 @@
+#ifndef VARO_MODEL_NATIVE_CHILDREN_HPP
+#define VARO_MODEL_NATIVE_CHILDREN_HPP
+
+#include <type_traits>
+#include <utility>
+
+#include "native/element_reader.hpp"
+#include "native/element_writer.hpp"
+#include "native/schema.hpp"
+#include "varo/model/table.hpp"
+
+/// The usual ways in which children are read into the record of their parent, and written from there.
+namespace Varo::Model::Native {
+
+template <auto const& element>
+using RecordOfElement = typename std::decay_t<decltype(element)>::Record;
+
+/// A child that fills the record of its parent.
+template <auto const& element>
+constexpr Child<RecordOfElement<element>> inPlace()
+{
+    using Parent = RecordOfElement<element>;
+    return {{&element, Occurrence::optional},
+            [](ElementReader& reader, pugi::xml_node node, Parent& parent) { reader.read(element, node, parent); },
+            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); }};
+}
+
+template <class Item>
+void add(Table<Item>& items, Item&& item)
+{
+    items.add(std::move(item));
+}
+
+template <class Items, class Item>
+void add(Items& items, Item&& item)
+{
+    items.insert(items.end(), std::move(item));
+}
+
+template <class Record, class = void>
+constexpr bool keepsItsPlace = false;
+template <class Record>
+constexpr bool keepsItsPlace<Record, std::void_t<decltype(Record::textOffset)>> = true;
+
+/// Children each of which is a record of its own, in a member of the record of their parent.
+template <auto member, auto const& element, class Parent = RecordOf<member>>
+constexpr Child<Parent> childrenOf()
+{
+    using Item = RecordOfElement<element>;
+    return {{&element, Occurrence::any},
+            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
+                Item item;
+                reader.read(element, node, item);
+                if constexpr (keepsItsPlace<Item>) {
+                    item.textOffset = at(node);
+                }
+                add(parent.*member, std::move(item));
+            },
+            [](ElementWriter& writer, Parent const& parent) {
+                for (auto const& each : parent.*member) {
+                    Item const& item = each;
+                    writer.write(element, item);
+                }
+            }};
+}
+
+}  // namespace Varo::Model::Native
+
+#endif

@@ -1,0 +1,163 @@
+#include "native/names.hpp"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "native/values.hpp"
+#include "spelling.hpp"
+#include "xml/node_offset.hpp"
+
+namespace Varo::Model::Native {
+
+namespace {
+
+std::string filledIn(std::string_view message, std::string_view name)
+{
+    std::size_t const place = message.find('%');
+    return std::string(message.substr(0, place)) + quoted(name) + std::string(message.substr(place + 1));
+}
+
+constexpr std::size_t nothing = static_cast<std::size_t>(-1);
+
+/// The first thing of every circle, where each hangs on the one at that index or on nothing. Each is visited once.
+std::vector<std::size_t> findCircles(std::vector<std::size_t> const& parents)
+{
+    std::vector<std::size_t> circles;
+    std::vector<std::size_t> visitedFrom(parents.size(), nothing);
+    for (std::size_t start = 0; start < parents.size(); ++start) {
+        std::size_t at = start;
+        while (at != nothing && visitedFrom[at] == nothing) {
+            visitedFrom[at] = start;
+            at = parents[at];
+        }
+        if (at == nothing || visitedFrom[at] != start) {
+            continue;
+        }
+        std::size_t first = at;
+        for (std::size_t next = parents[at]; next != at; next = parents[next]) {
+            first = std::min(first, next);
+        }
+        circles.push_back(first);
+    }
+    return circles;
+}
+
+}  // namespace
+
+Names::Entry& Names::entryOf(std::string_view name, void const* scope)
+{
+    return *_kinds.try_emplace(Key(name, scope)).first;
+}
+
+void Names::use(NameRule const& rule, std::string_view name, pugi::xml_node node, pugi::xml_attribute attribute)
+{
+    std::int32_t number = 0;
+    if (rule.gives.isNumber && parseInteger(name, number)) {
+        name = keep(std::to_string(number));
+    }
+    Entry& entry = entryOf(name, rule.gives.isLocal ? node.parent().internal_object() : nullptr);
+    if ((entry.second & rule.gives.kinds) != 0) {
+        _diagnostics.report(at(node, attribute), *rule.gives.twice.code, filledIn(rule.gives.twice.message, name),
+                            std::string(rule.gives.twice.hint));
+    }
+    entry.second |= rule.gives.kinds;
+    if (!rule.gives.isLocal || rule.wants.kinds != 0) {
+        _uses.push_back({&rule, rule.gives.isLocal ? &entryOf(name) : &entry, node, attribute});
+    }
+}
+
+void Names::checkReferences(Records const& robot)
+{
+    for (names::Loop const& loop : names::loops) {
+        if (!_isAnyLost || loop.complaint.code->severity == Severity::error) {
+            checkLoop(loop);
+        }
+    }
+    if (_isAnyLost) {
+        return;
+    }
+    entryOf(keep(robot.root.name + "Link")).second |= names::rootLink;
+    checkUses(false);
+    for (ActuatorConfig const& config : robot.actuators) {
+        entryOf(config.name).second |= entryOf(config.parentJoint).second & names::inChain ? names::hasAngle : 0U;
+    }
+    checkUses(true);
+}
+
+/// Those that ask for what stands in chains come after the others, which say what was meant to stand there.
+void Names::checkUses(bool afterChains)
+{
+    for (Use const& use : _uses) {
+        unsigned const wanted = use.rule->wants.kinds;
+        bool const isOfChains = (wanted & (names::inChain | names::hasAngle)) != 0;
+        if (wanted != 0 && isOfChains == afterChains && (use.entry->second & wanted) == 0) {
+            reportUnknown(use);
+        }
+    }
+}
+
+void Names::reportUnknown(Use const& use)
+{
+    auto const& [rule, entry, node, attribute] = use;
+    std::string hint(rule->wants.unknown.hint);
+    bool const isSomethingElse = rule->wants.kinds == names::hasAngle && entry->second != 0;
+    if (hint.empty() && !isSomethingElse) {
+        if (Entry* const meant = findMeant(entry->first.first, rule->wants.kinds)) {
+            meant->second |= rule->gives.kinds;  // so that what is misspelt here is not missed elsewhere
+            hint = "Did you mean " + quoted(meant->first.first) + "?";
+        }
+    }
+    _diagnostics.report(rule->wants.blamesElement ? at(node) : at(node, attribute), *rule->wants.unknown.code,
+                        filledIn(rule->wants.unknown.message, entry->first.first), std::move(hint));
+}
+
+/// The name of such a kind that was probably meant; null when there is none, and when very many were compared before.
+Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
+{
+    if (_comparisonsLeft < _kinds.size()) {
+        return nullptr;
+    }
+    _comparisonsLeft -= _kinds.size();
+    ClosestWord closest(written);
+    Entry* meant = nullptr;
+    for (Entry& entry : _kinds) {
+        if ((entry.second & kinds) != 0 && closest.offer(entry.first.first)) {
+            meant = &entry;
+        }
+    }
+    return meant;
+}
+
+void Names::checkLoop(names::Loop const& loop)
+{
+    std::vector<Use const*> hanging;
+    std::unordered_map<void const*, std::size_t> indexOfNode;
+    std::unordered_map<Entry const*, std::size_t> bearers;  // of the names that something hangs on
+    for (Use const& use : _uses) {
+        if (use.rule == loop.parent) {
+            indexOfNode.emplace(use.node.internal_object(), hanging.size());
+            bearers.emplace(use.entry, nothing);
+            hanging.push_back(&use);
+        }
+    }
+    for (Use const& use : _uses) {
+        auto const bearer = use.rule == loop.part ? bearers.find(use.entry) : bearers.end();
+        if (bearer != bearers.end() && bearer->second == nothing) {
+            auto const own = indexOfNode.find(use.node.internal_object());
+            auto const found = own != indexOfNode.end() ? own : indexOfNode.find(use.node.parent().internal_object());
+            bearer->second = found == indexOfNode.end() ? nothing : found->second;
+        }
+    }
+    std::vector<std::size_t> parents;
+    for (Use const* use : hanging) {
+        parents.push_back(bearers[use->entry]);
+    }
+    for (std::size_t const first : findCircles(parents)) {
+        pugi::xml_node const node = hanging[first]->node;
+        _diagnostics.report(at(node, hanging[first]->attribute), *loop.complaint.code,
+                            filledIn(loop.complaint.message, node.attribute("name").value()),
+                            std::string(loop.complaint.hint));
+    }
+}
+
+}  // namespace Varo::Model::Native

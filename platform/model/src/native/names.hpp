@@ -1,0 +1,77 @@
+#ifndef VARO_MODEL_NATIVE_NAMES_HPP
+#define VARO_MODEL_NATIVE_NAMES_HPP
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <memory_resource>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include <pugixml.hpp>
+
+#include "native/name_rules.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/records.hpp"
+
+namespace Varo::Model::Native {
+
+/// All names in one text, each of which keeps its rule.
+class Names {
+public:
+    explicit Names(Diagnostics& diagnostics) : _diagnostics(diagnostics) {}
+
+    /// A name as it stands in the attribute; its characters must outlive this. Null for an attribute that is left out.
+    void use(NameRule const& rule, std::string_view name, pugi::xml_node node, pugi::xml_attribute attribute);
+
+    /// The characters of a name that does not stand in the text itself.
+    std::string_view keep(std::string name) { return _kept.emplace_back(std::move(name)); }
+
+    /// The name that the rule is for could not be read.
+    void lose(NameRule const& rule) { _isAnyLost = _isAnyLost || (rule.gives.kinds & names::referable) != 0; }
+    /// Something that may define names could not be read: whether a name is known can no longer be told.
+    void loseAny() { _isAnyLost = true; }
+    bool isAnyLost() const { return _isAnyLost; }
+
+    /// Reports what is wrong with the references, once all elements are read.
+    void checkReferences(Records const& robot);
+
+private:
+    /// The name and within what it differs; null for the whole text.
+    using Key = std::pair<std::string_view, void const*>;
+    struct Hash {
+        std::size_t operator()(Key const& key) const
+        {
+            return std::hash<std::string_view>()(key.first) ^ std::hash<void const*>()(key.second);
+        }
+    };
+    using Kinds = std::pmr::unordered_map<Key, unsigned, Hash>;
+    using Entry = Kinds::value_type;
+    struct Use {
+        NameRule const* rule;
+        Entry* entry;
+        pugi::xml_node node;
+        pugi::xml_attribute attribute;
+    };
+
+    Entry& entryOf(std::string_view name, void const* scope = nullptr);
+    void checkUses(bool afterChains);
+    void reportUnknown(Use const& use);
+    Entry* findMeant(std::string_view written, unsigned kinds);
+    void checkLoop(names::Loop const& loop);
+
+    Diagnostics& _diagnostics;
+    std::deque<std::string> _kept;
+    std::pmr::monotonic_buffer_resource _memory;
+    Kinds _kinds{&_memory};
+    std::vector<Use> _uses;  ///< of names of the whole text, in its order
+    std::size_t _comparisonsLeft = 1000000;
+    bool _isAnyLost = false;
+};
+
+}  // namespace Varo::Model::Native
+
+#endif
