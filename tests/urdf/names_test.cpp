@@ -38,9 +38,9 @@ TEST(UrdfNames, MayBeSharedByLinksAndJoints)
 TEST(UrdfNames, OfLinksAreKeptAsAttributes)
 {
     Tables const tables = tablesOf(readFile(dataFile("names.urdf")));
-    EXPECT_EQ(tables.root.attributes.at("urdfLink"), "base");
-    EXPECT_EQ(tables.joints.at("a").attributes.at("urdfLink"), "b");
-    EXPECT_EQ(tables.joints.at("aLink").attributes.at("urdfLink"), "a");
+    EXPECT_EQ(tables.root.linkName, "base");
+    EXPECT_EQ(tables.joints.at("a").linkName, "b");
+    EXPECT_EQ(tables.joints.at("aLink").linkName, "a");
 }
 
 /// Look-ups by name cannot tell such a joint from the link; whichever stands later in the text gets the warning.

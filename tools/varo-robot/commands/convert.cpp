@@ -55,7 +55,7 @@ the original to the last bit, and converting it again changes nothing.
 
 What the reader of a URDF description could not carry over is not written;
 `varo-robot check` says what that is. The names of links in a URDF description
-are kept as attributes "urdfLink".
+are kept in attributes "link".
 
 OUT may be FILE itself; any other file that is there already is replaced with
 --force only. OUT is the old file until the new one is whole and on the disk.

@@ -7,7 +7,7 @@ namespace Tool {
 LinkNames::LinkNames(Varo::Model::Robot const& robot)
 {
     auto const remember = [this](Varo::Model::JointConfig const& body) {
-        std::string_view const name = statedLinkName(body);
+        std::string const& name = body.linkName;
         if (!name.empty()) {
             _statedNames.emplace(body.name + "Link", name);
         }

@@ -19,6 +19,10 @@ constexpr Attribute<Record> nameRow(NameRule const& rule)
 template <class Record>
 constexpr auto meshRow = optional<&JointConfig::meshName, Text, Record>("mesh", "", "", "mesh file of the body");
 template <class Record>
+constexpr auto linkRow = optional<&JointConfig::linkName, Text, Record>(
+    "link", "", "",
+    "what the body (link) is called in a text that names links, such as a URDF; models go by the joint");
+template <class Record>
 constexpr auto meshXyzRow = optional<&JointConfig::meshPosition, Vector3, Record>(
     "meshXyz", "0 0 0", "m", "origin of the mesh, in the link frame; carried");
 template <class Record>
@@ -34,6 +38,7 @@ constexpr Attribute<JointReading> numberRow(std::string_view name, std::string_v
 
 constexpr Attribute<JointReading> jointAttributes[] = {
     nameRow<JointReading>(names::ofJoint),
+    linkRow<JointReading>,
     meshRow<JointReading>,
     meshXyzRow<JointReading>,
     meshRpyRow<JointReading>,
@@ -59,8 +64,9 @@ constexpr Child<JointReading> jointChildren[] = {
 constexpr Rule<JointReading> jointRules[] = {
     inOrder<&JointConfig::minAngle, &JointConfig::maxAngle, JointReading>("min")};
 
-constexpr Attribute<JointConfig> rootAttributes[] = {nameRow<JointConfig>(names::ofRoot), meshRow<JointConfig>,
-                                                     meshXyzRow<JointConfig>, meshRpyRow<JointConfig>};
+constexpr Attribute<JointConfig> rootAttributes[] = {nameRow<JointConfig>(names::ofRoot), linkRow<JointConfig>,
+                                                     meshRow<JointConfig>, meshXyzRow<JointConfig>,
+                                                     meshRpyRow<JointConfig>};
 constexpr Child<JointConfig> rootChildren[] = {massChild<JointConfig>, freeAttributeChild<JointConfig>};
 
 }  // namespace

@@ -44,7 +44,7 @@ void readInertial(pugi::xml_node inertial, JointConfig& body, Report const& repo
 void readBody(pugi::xml_node link, JointConfig& body, Report const& report)
 {
     body.bodyOffset = at(link);
-    body.attributes[linkNameAttribute] = link.attribute("name").value();
+    body.linkName = link.attribute("name").value();
     pugi::xml_node inertial;
     std::vector<pugi::xml_node> visuals;
     for (auto child = link.first_child(); child; child = child.next_sibling()) {

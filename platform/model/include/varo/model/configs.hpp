@@ -85,6 +85,7 @@ struct JointConfig {
     float damping = 0.0F;  ///< N*m*s/rad (N*s/m)
     float friction = 0.0F;  ///< N*m (N), Coulomb friction of the joint
     Attributes attributes;  ///< free texts; "material" names the body's surface
+    std::string linkName;  ///< what the text itself calls the link that models call after its joint; empty if nothing
     TextOffset textOffset = {};  ///< of the joint's element, or the root's
     TextOffset bodyOffset = {};  ///< of the element of the body, which is another one in URDF
 };
@@ -177,17 +178,6 @@ inline TextOffset offsetOf(JointConfig const& joint, Part part)
     bool const isOfBody =
         part == Part::mass || part == Part::centerOfMass || part == Part::inertia || part == Part::material;
     return isOfBody ? joint.bodyOffset : joint.textOffset;
-}
-
-/// The attribute under which the record of a joint or root keeps the name that the text gives the link, where the
-/// dialect names links beside joints. Models call a link after its joint.
-inline constexpr char const* linkNameAttribute = "urdfLink";
-
-/// The name that the text gives the link of a joint or root; empty when it gives none. Refers into the record.
-inline std::string_view statedLinkName(JointConfig const& body)
-{
-    auto const found = body.attributes.find(linkNameAttribute);
-    return found == body.attributes.end() ? std::string_view() : found->second;
 }
 
 /// Joints by their names.
