@@ -9,10 +9,10 @@
 #include "native/native_writer.hpp"
 #include "robot/ambiguous_names.hpp"
 #include "robot/link_tree_codes.hpp"
-#include "spelling.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
 #include "xml/parse.hpp"
 

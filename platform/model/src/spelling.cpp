@@ -1,4 +1,4 @@
-#include "spelling.hpp"
+#include "varo/model/spelling.hpp"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "spelling.hpp"
+#include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {

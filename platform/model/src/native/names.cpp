@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "native/values.hpp"
-#include "spelling.hpp"
+#include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {

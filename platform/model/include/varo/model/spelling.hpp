@@ -4,21 +4,26 @@
 #include <cstddef>
 #include <string_view>
 
+#include "varo/export.hpp"
+
 namespace Varo::Model {
 
 /// The number of letters to insert, drop, exchange or swap with their neighbour to make one word of the other, letter
 /// case left aside (optimal string alignment). Words of more than 64 bytes are as far apart as they are long.
-std::size_t spellingDistance(std::string_view a, std::string_view b);
+VAROROBOTMODEL_API std::size_t spellingDistance(std::string_view a, std::string_view b);
 
-/// Picks from words offered one by one the one that was probably meant.
-class ClosestWord {
+/// Picks from words offered one by one the one that was probably meant by a word that nothing is called by.
+///
+/// The texts behind the views must outlive the object. For one thread at a time.
+class VAROROBOTMODEL_API ClosestWord {
 public:
+    /// For what was `written`.
     explicit ClosestWord(std::string_view written) : _written(written), _distance(written.size() / 3 + 2) {}
 
     /// True when `word` is closer than all before it.
     bool offer(std::string_view word);
 
-    /// Empty when nothing was close.
+    /// The closest of the offered words; empty when none was close.
     std::string_view word() const { return _word; }
 
 private:
