@@ -88,6 +88,8 @@ public:
     std::string const& configFile() const;
     /// What the model was made from; valid as long as the model.
     Varo::Model::Robot const& robot() const;
+    /// The postures of the description, in its order; Configuration takes them by name. Valid as long as the model.
+    std::vector<Varo::Model::PostureConfig> const& postures() const;
     /// The warnings and notes of the description, and those of the building, in the order of their places. Takes a walk
     /// through the text.
     Varo::Model::Findings findings() const;

@@ -74,6 +74,11 @@ Varo::Model::Place Model::place(Sensor const& sensor) const
     return implOf(_impl, modelErrorMsg).place(sensor);
 }
 
+std::vector<Varo::Model::PostureConfig> const& Model::postures() const
+{
+    return robot().postures();
+}
+
 Joint const* Model::joint(std::string const& name) const
 {
     return implOf(_impl, modelErrorMsg).joint(name).get();

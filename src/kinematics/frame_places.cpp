@@ -1,0 +1,105 @@
+#include "kinematics/frame_places.hpp"
+
+#include <algorithm>
+
+#include "kinematics/unknown_name.hpp"
+#include "sim/actuator.hpp"
+#include "sim/frame.hpp"
+#include "sim/joint.hpp"
+#include "sim/link.hpp"
+#include "sim/model.hpp"
+#include "sim/sensor.hpp"
+#include "varo/model/records.hpp"
+
+namespace Sim {
+
+namespace {
+
+/// The names that the description's text gives to links which the model calls otherwise, with the model's names.
+std::vector<std::pair<std::string, std::string>> linkNamesOfText(Varo::Model::Robot const& robot)
+{
+    auto const records = Varo::Model::recordsOf(robot);
+    std::vector<std::pair<std::string, std::string>> found;
+    auto const add = [&found](Varo::Model::JointConfig const& body) {
+        auto const name = body.attributes.find("urdfLink");
+        if (name != body.attributes.end()) {
+            found.emplace_back(name->second, body.name + "Link");
+        }
+    };
+    add(records->root);
+    std::for_each(records->joints.begin(), records->joints.end(), add);
+    return found;
+}
+
+}  // namespace
+
+FramePlaces::FramePlaces(Model const& model)
+{
+    std::vector<Link const*> const links = model.links();
+    for (std::size_t link = 0; link < links.size(); ++link) {
+        _known.emplace(links[link]->frame(), Known{{link, Pose()}, {link, Pose()}});
+    }
+    for (Joint const* const joint : model.joints()) {
+        auto const localPose = [](Frame const* frame) { return Pose::fromTransform(frame->localPosition()); };
+        Place const itself = {linkOf(*joint->parentLink()), localPose(joint->frame())};
+        Link const* const child = joint->childLink();
+        Place const posedIn = child == nullptr ? itself : Place{linkOf(*child), localPose(child->frame()).inverse()};
+        _known.emplace(joint->frame(), Known{itself, posedIn});
+    }
+    addNames(model);
+}
+
+void FramePlaces::addNames(Model const& model)
+{
+    auto const addAll = [this](auto const& elements) {
+        for (auto const* const element : elements) {
+            _byName.emplace(element->name(), element->frame());
+        }
+    };
+    addAll(model.links());
+    for (auto const& [inText, inModel] : linkNamesOfText(model.robot())) {
+        auto const link = _byName.find(inModel);
+        if (link != _byName.end()) {
+            _byName.emplace(inText, link->second);
+        }
+    }
+    addAll(model.joints());
+    addAll(model.sensors());
+    addAll(model.actuators());
+}
+
+FramePlaces::Place FramePlaces::of(Frame const& frame) const
+{
+    if (auto const known = _known.find(&frame); known != _known.end()) {
+        return known->second.itself;
+    }
+    Pose pose = Pose::fromTransform(frame.localPosition());
+    for (Frame const* at = frame.parentFrame(); at != nullptr; at = at->parentFrame()) {
+        if (auto const known = _known.find(at); known != _known.end()) {
+            return {known->second.posedIn.link, known->second.posedIn.inLink * pose};
+        }
+        pose = Pose::fromTransform(at->localPosition()) * pose;
+    }
+    throw std::invalid_argument("The frame " + quoted(frame.name()) + " belongs to another model.");
+}
+
+std::size_t FramePlaces::linkOf(Link const& link) const
+{
+    auto const found = _known.find(link.frame());
+    if (found == _known.end()) {
+        throw std::invalid_argument("The link " + quoted(link.name()) + " belongs to another model.");
+    }
+    return found->second.itself.link;
+}
+
+Frame const& FramePlaces::named(std::string const& name) const
+{
+    auto const found = _byName.find(name);
+    if (found == _byName.end()) {
+        throw unknownName("link, joint, sensor or actuator", name, _byName,
+                          [](auto const& entry) -> std::string const& { return entry.first; });
+    }
+    return *found->second;
+}
+
+}  // namespace Sim

@@ -1,0 +1,152 @@
+#include "sim/configuration.hpp"
+
+#include <limits>
+
+#include <gmock/gmock.h>
+
+#include "descriptions.hpp"
+#include "sim/kinematics.hpp"
+#include "sim/model.hpp"
+#include "throws.hpp"
+#include "varo/model/configs.hpp"
+
+namespace KinematicsTest {
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+/// An arm with a sliding, a fixed, an endless and a reversed joint, a hand of two fingers, and two joints that follow.
+std::string const arm = Tests::robot(
+    Tests::joint("Turn") + Tests::joint("Slide", "", "type=\"prismatic\"") +
+    Tests::joint("Plate", "", "type=\"fixed\"") +
+    "<joint name=\"Spin\" min=\"unlimited\" max=\"unlimited\"/><joint name=\"Odd\" min=\"1\" max=\"-1\"/>" +
+    Tests::joint("Lead") + Tests::joint("Follow") +
+    Tests::chain("Arm", "Base", {"Turn", "Slide", "Plate", "Spin", "Odd", "Lead", "Follow"}) +
+    Tests::actuator(
+        "Hand", "Plate",
+        "<group><subJoint name=\"F1\" ratio=\"0.5\" offset=\"0.1\"/><subJoint name=\"F2\" ratio=\"-1\"/></group>") +
+    Tests::actuator("Pair", "Follow",
+                    "<group><jointRef name=\"Follow\" ratio=\"2\" offset=\"1\"/></group>"
+                    "<group><jointRef name=\"Lead\" ratio=\"1\"/></group>") +
+    Tests::wheel("Wheel", "Turn") +
+    "<posture name=\"Rest\"><angle of=\"Turn\" value=\"0.25\"/><angle of=\"Hand\" value=\"0.75\"/>"
+    "<angle of=\"Plate\" value=\"0\"/><angle of=\"Lead\" value=\"0.5\"/><angle of=\"Follow\" value=\"2\"/></posture>"
+    "<posture name=\"Torn\"><angle of=\"Follow\" value=\"2\"/></posture>"
+    "<posture name=\"Bent\"><angle of=\"Plate\" value=\"0.1\"/></posture>"
+    "<posture name=\"Lost\"><angle of=\"Trun\" value=\"0.1\"/></posture>");
+
+class Configurations : public testing::Test {
+protected:
+    static std::string refusal(std::function<void()> const& action)
+    {
+        return Tests::messageOf<std::invalid_argument>(action);
+    }
+
+    Sim::Model model = Sim::Model(arm);
+    Sim::Kinematics kinematics = Sim::Kinematics(model);
+    Sim::Configuration configuration = Sim::Configuration(kinematics);
+};
+
+TEST_F(Configurations, HaveAValueForWhatFollowsNothing)
+{
+    std::vector<std::string> lines;
+    for (Sim::JointVariable const& variable : kinematics.variables()) {
+        lines.push_back(variable.name + " " + testing::PrintToString(std::pair(variable.min, variable.max)) +
+                        (variable.slides ? " m" : " rad"));
+    }
+    EXPECT_THAT(lines,
+                ElementsAre("Turn (-1, 1.5) rad", "Slide (-1, 1.5) m", "Spin (-inf, inf) rad", "Odd (-inf, inf) rad",
+                            "Lead (-1, 1.5) rad", "Hand (0, 1) rad", "Wheel (-inf, inf) rad"));
+    EXPECT_THAT(configuration.values(), testing::Each(0.0));
+}
+
+TEST_F(Configurations, TellWhereEveryJointStands)
+{
+    configuration.set({{"Hand", 0.5}, {"Pair", 0.25}, {"Wheel", 7.0}});
+    EXPECT_NEAR(configuration.at("F1"), 0.35, 1e-6);
+    EXPECT_EQ(configuration.at("F2"), -0.5);
+    EXPECT_EQ(configuration.at("Lead"), 0.25);
+    EXPECT_EQ(configuration.at("Follow"), 1.5);
+    EXPECT_EQ(configuration.at("Plate"), 0.0);
+    EXPECT_EQ(configuration.at("Wheel"), 7.0);
+    EXPECT_EQ(refusal([&] { configuration.at("Weel"); }),
+              "There is no joint or actuator \"Weel\". Did you mean \"Wheel\"?");
+}
+
+TEST_F(Configurations, TakePostures)
+{
+    EXPECT_THAT(model.postures(), testing::SizeIs(4));
+    configuration.set("Spin", 3.0);
+    configuration.setPosture("Rest");
+    EXPECT_THAT(configuration.values(), ElementsAre(0.25, 0, 0, 0, 0.5, 0.75, 0));
+    EXPECT_EQ(Sim::Configuration(kinematics, "Rest").values(), configuration.values());
+    EXPECT_EQ(refusal([&] { configuration.setPosture("Rset"); }),
+              "There is no posture \"Rset\". Did you mean \"Rest\"?");
+    EXPECT_EQ(refusal([&] { configuration.setPosture("Torn"); }),
+              "Posture \"Torn\": \"Follow\" follows \"Lead\": give the value to \"Lead\".");
+    EXPECT_EQ(refusal([&] { configuration.setPosture("Bent"); }),
+              "Posture \"Bent\": \"Plate\" does not move, so that it takes no value.");
+    EXPECT_EQ(refusal([&] { configuration.setPosture("Lost"); }),
+              "Posture \"Lost\": There is no joint or actuator \"Trun\". Did you mean \"Turn\"?");
+    EXPECT_EQ(configuration.at("Turn"), 0.25);
+}
+
+TEST_F(Configurations, RefuseWhatIsNoValueAndThenStayAsTheyAre)
+{
+    configuration.set("Turn", 0.5);
+    EXPECT_EQ(refusal([&] {
+                  configuration.set({{"Turn", 1.0}, {"Tunr", 1.0}});
+              }),
+              "There is no joint or actuator \"Tunr\". Did you mean \"Turn\"?");
+    EXPECT_EQ(refusal([&] { configuration.set("Plate", 0.0); }), "\"Plate\" does not move, so that it takes no value.");
+    EXPECT_EQ(refusal([&] { configuration.set("F2", 0.0); }), "\"F2\" follows \"Hand\": give the value to \"Hand\".");
+    EXPECT_EQ(refusal([&] {
+                  configuration.set({{"Lead", 1.0}, {"Pair", 2.0}});
+              }),
+              "\"Lead\" and \"Pair\" move the same joint, but have different values.");
+    EXPECT_EQ(refusal([&] { configuration.set("Turn", std::nan("")); }),
+              "The value of \"Turn\" is not a finite number.");
+    EXPECT_EQ(refusal([&] { configuration.set(1, infinity); }), "The value of \"Slide\" is not a finite number.");
+    EXPECT_EQ(refusal([&] { configuration.set(1, 1e300); }),
+              "The value of \"Slide\" is not a finite number of single precision.");
+    EXPECT_EQ(refusal([&] {
+                  configuration.setValues({0, 0, 0, 0, 0, 0, infinity});
+              }),
+              "The value of \"Wheel\" is not a finite number.");
+    EXPECT_EQ(refusal([&] { configuration.setValues({1.0}); }), "There must be 7 values, not 1.");
+    EXPECT_EQ(refusal([&] { configuration.set(7, 1.0); }), "There is no value 7 among 7.");
+    EXPECT_THAT(configuration.values(), ElementsAre(0.5, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_F(Configurations, KnowTheirLimits)
+{
+    configuration.setValues({-1.25, 1.0, 100.0, 100.0, 0.0, 2.0, 100.0});
+    EXPECT_EQ(configuration.distanceToLimits(0), -0.25);
+    EXPECT_EQ(configuration.distanceToLimits(1), 0.5);
+    EXPECT_EQ(configuration.distanceToLimits(2), infinity);
+    EXPECT_EQ(refusal([&] { configuration.checkLimits(); }),
+              "The value of \"Turn\", -1.25, is outside its limits, -1 to 1.5.");
+    configuration.clampToLimits();
+    EXPECT_THAT(configuration.values(), ElementsAre(-1.0, 1.0, 100.0, 100.0, 0.0, 1.0, 100.0));
+    configuration.checkLimits();
+}
+
+TEST(ConfigurationOfUrdf, StandsStillBehindALeaderThatDoes)
+{
+    Sim::Model const model(R"(<robot name="r"><link name="a"/><link name="b"/><link name="c"/>
+<joint name="still" type="fixed"><parent link="a"/><child link="b"/></joint>
+<joint name="follows" type="revolute"><parent link="b"/><child link="c"/><axis xyz="0 0 1"/>
+<limit lower="-1" upper="1"/><mimic joint="still" offset="0.5"/></joint></robot>)");
+    Sim::Kinematics const kinematics(model);
+    Sim::Configuration const configuration(kinematics);
+    EXPECT_EQ(configuration.size(), 0U);
+    EXPECT_EQ(configuration.at("follows"), 0.5);
+    EXPECT_NEAR(kinematics.pose(configuration, kinematics.frame("c"))(1, 0), std::sin(0.5), 1e-7);
+}
+
+}  // namespace
+
+}  // namespace KinematicsTest
