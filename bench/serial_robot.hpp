@@ -5,8 +5,11 @@
 
 namespace Bench {
 
+/// How the chains of ten joints hang together: each on the one before, or all on the root.
+enum class Shape { serial, limbs };
+
 /// A native description with that many joints in chains of ten, each joint with all that a real one has.
-inline std::string serialRobot(int joints)
+inline std::string serialRobot(int joints, Shape shape = Shape::serial)
 {
     std::string const mass =
         "    <mass value=\"0.4012\" com=\"-0.0041 0.0012 0.0433\"\n"
@@ -22,7 +25,8 @@ inline std::string serialRobot(int joints)
                 "    <placement xyz=\"0.015 0 0.126\" rpy=\"0 0.1 0\"/>\n    <end rpy=\"0 -0.1 0\"/>\n" +
                 mass + "    <attribute name=\"material\" value=\"steel\"/>\n  </joint>\n";
         if (i % 10 == 0) {
-            std::string const parent = i == 0 ? "Base" : "Joint" + std::to_string(i - 1);
+            bool const isOnBase = i == 0 || shape == Shape::limbs;
+            std::string const parent = isOnBase ? "Base" : "Joint" + std::to_string(i - 1);
             chains += (i == 0 ? "" : "  </chain>\n") + ("  <chain name=\"Chain" + std::to_string(i / 10)) +
                       "\" parent=\"" + parent + "\">\n";
         }
