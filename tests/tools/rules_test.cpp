@@ -68,6 +68,8 @@ constexpr char pair[] = R"(<robotDescription name="A"><root name="T"><mass value
 <actuator name="RHand" parent="R" min="0" max="1"><mirror name="LHand"/><group><subJoint name="RF" ratio="1"/></group></actuator>
 <wheel name="W" parent="Fixed" maxTorque="1" maxVelocity="3"><attribute name="material" value="rubber"/></wheel>
 <posture name="StandInit"><angle of="L" value="0.4"/><angle of="R" value="-0.4"/></posture>
+<posture name="Rest"><angle of="L" value="0.3"/>
+ <angle of="LHand" value="0.9"/></posture>
 </robotDescription>
 )";
 
@@ -96,6 +98,8 @@ TEST_F(Rules, FindWhatIsFalseAndNothingElse)
              {{moved}, {}},  // no speed stated
              {{{"value=\"0.4\"", "value=\"0.6\""}}, {"13 start-outside-limits"}},
              {{{"value=\"0.4\"", "value=\"0.6\""}}, {}, {"--tolerance-limit", "0.11"}},
+             {{{"value=\"0.3\"", "value=\"-1.1\""}}, {"14 posture-outside-limits"}},
+             {{{"value=\"0.9\"", "value=\"1.1\""}}, {"15 posture-outside-limits"}},
              {{{"Fixed\" min=\"0\" max=\"0\"", "Fixed\" min=\"1\" max=\"1\""}}, {"6 start-outside-limits"}},
              {{{"name=\"L\" reflected", "name=\"Fixed\" reflected"}}, {"5 mirror-not-mutual"}},
              {{{"<mirror name=\"RHand\"/>", ""}}, {"11 mirror-not-mutual"}},
@@ -117,7 +121,7 @@ TEST_F(Rules, FindWhatIsFalseAndNothingElse)
              {{{"parent=\"L\"", "parent=\"Fixed\""}}, {"11 actuators-not-paired"}},
              {{{"parent=\"R\"", "parent=\"LHand\""}}, {"11 actuator-not-reached"}},
              {{{"<group><subJoint name=\"RF\" ratio=\"1\"/></group>", "<group/>"}}, {"11 idle-actuator"}},
-             {{{"</robot", "<chain name=\"None\" parent=\"L\"/></robot"}}, {"14 empty-chain"}},
+             {{{"</robot", "<chain name=\"None\" parent=\"L\"/></robot"}}, {"16 empty-chain"}},
              {{{"rubber", "ruber"}}, {"12 unknown-material"}},
          }) {
         EXPECT_EQ(findingsOf(replaced(pair, given.replacements), given.options), given.expected)

@@ -184,7 +184,8 @@ void declareTolerances(CLI::App& app, Rules::Tolerances& tolerances)
              {"--tolerance-com", tolerances.centerOfMass, "How far a centre of mass may miss a reflection, in m"},
              {"--tolerance-inertia", tolerances.inertia,
               "How far inertias may be out, as a part of their greatest entry"},
-             {"--tolerance-limit", tolerances.limit, "How far limits and start angles may be out, in rad (m)"},
+             {"--tolerance-limit", tolerances.limit,
+              "How far limits and the angles of postures may be out, in rad (m)"},
          }) {
         auto const read = [&value = each.value](std::string const& text) {
             if (!parseTolerance(text, value)) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 #include <unordered_map>
@@ -97,6 +98,33 @@ private:
     std::unordered_map<std::string_view, Varo::Model::PostureAngle const*> _stated;
 };
 
+template <class Driven>
+void checkAngle(Facts& facts, std::string const& posture, Varo::Model::PostureAngle const& angle, Driven const& driven)
+{
+    double const value = static_cast<double>(angle.value);
+    double const outside =
+        std::max(static_cast<double>(driven.minAngle) - value, value - static_cast<double>(driven.maxAngle));
+    if (driven.minAngle <= driven.maxAngle && outside > facts.tolerances.limit) {
+        facts.warn(angle, Part::value, code::postureOutsideLimits,
+                   "The angle of " + quoted(driven.name) + " in the posture " + quoted(posture) + ", " +
+                       shortest(angle.value) + ", is outside its limits, " +
+                       rangeText(driven.minAngle, driven.maxAngle) + ".");
+    }
+}
+
+/// Of what postures other than the start say.
+void checkPosture(Facts& facts, Varo::Model::PostureConfig const& posture)
+{
+    for (Varo::Model::PostureAngle const& angle : posture.angles) {
+        // An actuator's limits hide those of a joint of the same name.
+        if (auto const* actuator = facts.records->actuators.find(angle.name)) {
+            checkAngle(facts, posture.name, angle, *actuator);
+        } else if (auto const* joint = facts.records->joints.find(angle.name)) {
+            checkAngle(facts, posture.name, angle, *joint);
+        }
+    }
+}
+
 /// Of all that has a start angle.
 void checkStarts(Facts& facts)
 {
@@ -122,6 +150,11 @@ void checkMotions(Facts& facts)
     checkSpeeds(facts);
     if (facts.records->statesPostures) {  // elsewhere the zero position is but one of reference
         checkStarts(facts);
+    }
+    for (Varo::Model::PostureConfig const& posture : facts.records->postures) {
+        if (posture.name != "StandInit") {
+            checkPosture(facts, posture);
+        }
     }
 }
 

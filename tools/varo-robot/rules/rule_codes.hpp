@@ -11,6 +11,7 @@ inline constexpr char inertiaNotPositive[] = "inertia-not-positive";
 inline constexpr char inertiaNotPossible[] = "inertia-not-possible";
 inline constexpr char speedNotPositive[] = "speed-not-positive";
 inline constexpr char startOutsideLimits[] = "start-outside-limits";
+inline constexpr char postureOutsideLimits[] = "posture-outside-limits";
 
 // Pairs that do not mirror.
 inline constexpr char mirrorNotMutual[] = "mirror-not-mutual";
@@ -28,10 +29,10 @@ inline constexpr char emptyChain[] = "empty-chain";
 inline constexpr char unknownMaterial[] = "unknown-material";
 
 inline constexpr char const* all[] = {
-    negativeMass,       inertiaNotSymmetric, inertiaNotPositive, inertiaNotPossible, speedNotPositive,
-    startOutsideLimits, mirrorNotMutual,     mirrorKindsDiffer,  massNotMirrored,    comNotMirrored,
-    inertiaNotMirrored, limitsNotMirrored,   actuatorsNotPaired, actuatorNotReached, idleActuator,
-    emptyChain,         unknownMaterial,
+    negativeMass,       inertiaNotSymmetric,  inertiaNotPositive, inertiaNotPossible, speedNotPositive,
+    startOutsideLimits, postureOutsideLimits, mirrorNotMutual,    mirrorKindsDiffer,  massNotMirrored,
+    comNotMirrored,     inertiaNotMirrored,   limitsNotMirrored,  actuatorsNotPaired, actuatorNotReached,
+    idleActuator,       emptyChain,           unknownMaterial,
 };
 
 }  // namespace Tool::Rules::code
