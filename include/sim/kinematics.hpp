@@ -46,6 +46,9 @@ public:
 
     /// What the values of a configuration stand for, in the order in which the model made the joints.
     std::vector<JointVariable> const& variables() const;
+    /// Which of variables() moves the joint, wheel or coupled actuator of that name, directly or as one that follows.
+    /// Throws std::invalid_argument for an unknown name and for a joint that does not move.
+    std::size_t variableOf(std::string const& name) const;
     /// The frame of the link of that name (as Model::link finds it), or else of the joint, sensor or actuator. Throws
     /// std::invalid_argument, which says what may have been meant, when there is none.
     Frame const& frame(std::string const& name) const;

@@ -42,24 +42,14 @@ bool hasValue(Drive const& drive)
     return drive.variable != Drive::noVariable && !drive.follows;
 }
 
-/// For a joint that has no value of its own.
-std::invalid_argument noValue(std::string const& name, Drive const& drive, JointDrives const& drives)
+/// The index of the variable whose value the name stands for. Throws std::invalid_argument when it stands for none.
+std::size_t variableNamed(std::string const& name, JointDrives const& drives)
 {
-    if (drive.variable == Drive::noVariable) {
-        return std::invalid_argument(quoted(name) + " does not move, so that it takes no value.");
+    Drive const& drive = drives.moving(name);
+    if (drive.follows) {
+        std::string const leader = quoted(drives.variables()[drive.variable].name);
+        throw std::invalid_argument(quoted(name) + " follows " + leader + ": give the value to " + leader + ".");
     }
-    std::string const leader = quoted(drives.variables()[drive.variable].name);
-    return std::invalid_argument(quoted(name) + " follows " + leader + ": give the value to " + leader + ".");
-}
-
-/// The index of the variable that the name stands for, which can be given this value.
-std::size_t variableFor(std::string const& name, double value, JointDrives const& drives)
-{
-    Drive const& drive = drives.named(name);
-    if (!hasValue(drive)) {
-        throw noValue(name, drive, drives);
-    }
-    requireUsable(name, value);
     return drive.variable;
 }
 
@@ -72,11 +62,13 @@ public:
 
     void set(std::string const& name, double value)
     {
-        std::size_t const variable = variableFor(name, value, _drives);
+        std::size_t const variable = variableNamed(name, _drives);
+        requireUsable(name, value);
         std::string const before = std::exchange(_givenBy[variable], name);
         if (!before.empty() && _values[variable] != value) {
-            throw std::invalid_argument(quoted(before) + " and " + quoted(name) +
-                                        " move the same joint, but have different values.");
+            throw std::invalid_argument(before == name ? quoted(name) + " is given two values."
+                                                       : quoted(before) + " and " + quoted(name) +
+                                                             " move the same joint, but have different values.");
         }
         _values[variable] = value;
     }
@@ -113,7 +105,7 @@ std::vector<double> valuesOf(Varo::Model::PostureConfig const& posture, JointDri
         Drive const& drive = drives.named(angle.name);
         double const stands = valueOf(drive, assignment.values());
         if (!hasValue(drive) && std::abs(stands - static_cast<double>(angle.value)) > followingTolerance) {
-            throw noValue(angle.name, drive, drives);
+            variableNamed(angle.name, drives);  // says why it has no value
         }
     }
     return assignment.values();
@@ -155,7 +147,9 @@ void Configuration::set(std::size_t index, double value)
 
 void Configuration::set(std::string const& name, double value)
 {
-    _values[variableFor(name, value, _kinematics->drives)] = value;
+    std::size_t const variable = variableNamed(name, _kinematics->drives);
+    requireUsable(name, value);
+    _values[variable] = value;
 }
 
 void Configuration::set(std::vector<std::pair<std::string, double>> const& values)

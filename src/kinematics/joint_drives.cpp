@@ -169,4 +169,13 @@ Drive const& JointDrives::named(std::string const& name) const
     return found->second;
 }
 
+Drive const& JointDrives::moving(std::string const& name) const
+{
+    Drive const& drive = named(name);
+    if (drive.variable == Drive::noVariable) {
+        throw std::invalid_argument(quoted(name) + " does not move, so that it takes no value.");
+    }
+    return drive;
+}
+
 }  // namespace Sim

@@ -36,6 +36,8 @@ public:
     Drive const& of(Joint const& joint) const { return _byJoint.at(&joint); }
     /// Of the first joint, or else coupled actuator, of that name. Throws std::invalid_argument for an unknown name.
     Drive const& named(std::string const& name) const;
+    /// The same of what has a variable. Throws std::invalid_argument for what does not move, too.
+    Drive const& moving(std::string const& name) const;
 
 private:
     class Builder;

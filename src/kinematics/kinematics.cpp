@@ -73,6 +73,11 @@ std::vector<JointVariable> const& Kinematics::variables() const
     return _impl->drives.variables();
 }
 
+std::size_t Kinematics::variableOf(std::string const& name) const
+{
+    return _impl->drives.moving(name).variable;
+}
+
 Frame const& Kinematics::frame(std::string const& name) const
 {
     return _impl->places.named(name);

@@ -36,6 +36,11 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
         {{"check"}, wrongUsage, "FILE is required"},
         {{"tree", "--tall", "good.xml"}, wrongUsage, "--tall"},
         {{"list", "frobs", "good.xml"}, wrongUsage, "Known kinds:\nlinks, wheels, joints,"},
+        {{"pose", "--joint", "LHip", "good.xml"}, wrongUsage, "--joint takes a name and a number"},
+        {{"pose", "--joint", "LHip=0.5x", "good.xml"}, wrongUsage, "--joint takes a name and a number"},
+        {{"pose", "--joint", "LHop=1", "good.xml"}, bad, "no joint or actuator \"LHop\". Did you mean \"LHip\"?"},
+        {{"mass", "--posture", "Sit", "good.xml"}, bad, "good.xml: error: There is no posture \"Sit\"."},
+        {{"tree", "--relative-to", "Eyes", "good.xml"}, bad, "actuator \"Eyes\". Did you mean \"Eye\"?"},
         {{"check", "--silence", "no-such-code", "good.xml"}, wrongUsage, "no-such-code"},
     };
     for (Case const& expected : cases) {
@@ -49,8 +54,9 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
 
 TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
 {
-    std::vector<std::vector<std::string>> const commands = {{"check"},        {"info"},  {"tree"}, {"list", "joints"},
-                                                            {"show", "LHip"}, {"graph"}, {"dump"}, {"convert"}};
+    std::vector<std::vector<std::string>> const commands = {{"check"},        {"info"},   {"tree"}, {"list", "joints"},
+                                                            {"show", "LHip"}, {"pose"},   {"mass"}, {"graph"},
+                                                            {"dump"},         {"convert"}};
     std::string const overview = run({"--help"}).out;
     for (std::vector<std::string> command : commands) {
         SCOPED_TRACE(command.front());

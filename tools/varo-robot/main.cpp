@@ -28,8 +28,9 @@ Exit status:
 
 `varo-robot COMMAND --help` says more about a command.)";
 
-constexpr std::array<Command const*, 8> commands = {&checkCommand, &infoCommand,  &treeCommand, &listCommand,
-                                                    &showCommand,  &graphCommand, &dumpCommand, &convertCommand};
+constexpr std::array<Command const*, 10> commands = {&checkCommand, &infoCommand,   &treeCommand, &listCommand,
+                                                     &showCommand,  &poseCommand,   &massCommand, &graphCommand,
+                                                     &dumpCommand,  &convertCommand};
 
 void declareCommands(CLI::App& app, std::function<int()>& chosen)
 {

@@ -11,4 +11,9 @@ void declareFile(CLI::App& app, std::string& file)
         ->required();
 }
 
+void declareJson(CLI::App& app, bool& json, char const* what)
+{
+    app.add_flag("--json", json, std::string("Print ") + what + " as JSON");
+}
+
 }  // namespace Tool

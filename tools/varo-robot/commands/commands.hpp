@@ -30,12 +30,16 @@ extern Command const infoCommand;
 extern Command const treeCommand;
 extern Command const listCommand;
 extern Command const showCommand;
+extern Command const poseCommand;
+extern Command const massCommand;
 extern Command const graphCommand;
 extern Command const dumpCommand;
 extern Command const convertCommand;
 
 /// Declares the argument that names the description file.
 void declareFile(CLI::App& app, std::string& file);
+/// Declares --json.
+void declareJson(CLI::App& app, bool& json, char const* what);
 
 }  // namespace Tool
 

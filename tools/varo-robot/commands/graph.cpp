@@ -155,7 +155,7 @@ int graph(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     Sim::Model const& model = robot.model;
-    ChainColours const colours(robot.records(), model);
+    ChainColours const colours(model);
     std::cout << "digraph " << quoted(model.name()) << " {\n"
               << "  node [shape=box, style=\"filled,rounded\", fontname=\"Helvetica\", fontsize=11];\n"
               << "  edge [fontname=\"Helvetica\", fontsize=9];\n";

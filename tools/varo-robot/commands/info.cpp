@@ -12,6 +12,7 @@
 #include "support/description.hpp"
 #include "support/device_kinds.hpp"
 #include "support/finding_text.hpp"
+#include "support/kinds.hpp"
 #include "support/numbers.hpp"
 #include "support/terminal.hpp"
 
@@ -54,29 +55,56 @@ double totalMass(Sim::Model const& model)
     return sum;
 }
 
-std::string linkCount(Sim::Model const& model)
+std::size_t wheelCount(Sim::Model const& model)
 {
     std::vector<Sim::Link const*> const links = model.links();
-    auto const wheels = std::count_if(links.begin(), links.end(),
-                                      [](Sim::Link const* link) { return link->type() == Sim::Link::Wheel; });
-    return std::to_string(links.size()) + (wheels > 0 ? ", of them wheels " + std::to_string(wheels) : "");
+    return static_cast<std::size_t>(std::count_if(
+        links.begin(), links.end(), [](Sim::Link const* link) { return link->type() == Sim::Link::Wheel; }));
 }
 
-/// "5: 2 Angle, 3 LED"
+std::string linkCount(Sim::Model const& model)
+{
+    std::size_t const wheels = wheelCount(model);
+    return std::to_string(model.links().size()) + (wheels > 0 ? ", of them wheels " + std::to_string(wheels) : "");
+}
+
+/// How many there are of each kind that there is.
 template <class Device, class Kinds>
-std::string countByKind(std::vector<Device const*> const& devices, Kinds const& kinds)
+std::vector<std::pair<std::string, std::size_t>> countByKind(std::vector<Device const*> const& devices,
+                                                             Kinds const& kinds)
 {
     std::map<typename Device::Type, std::size_t> counts;
     for (Device const* device : devices) {
         ++counts[device->type()];
     }
+    std::vector<std::pair<std::string, std::size_t>> named;
+    for (auto const& [type, count] : counts) {
+        named.emplace_back(nameOfType(kinds, type), count);
+    }
+    return named;
+}
+
+/// "5: 2 Angle, 3 LED"
+template <class Device, class Kinds>
+std::string countText(std::vector<Device const*> const& devices, Kinds const& kinds)
+{
     std::string text = std::to_string(devices.size());
     char const* separator = ": ";
-    for (auto const& [type, count] : counts) {
-        text += separator + std::to_string(count) + " " + nameOfType(kinds, type);
+    for (auto const& [kind, count] : countByKind(devices, kinds)) {
+        text += separator + std::to_string(count) + " " + kind;
         separator = ", ";
     }
     return text;
+}
+
+template <class Device, class Kinds>
+Json countJson(std::vector<Device const*> const& devices, Kinds const& kinds)
+{
+    Json counts = Json::object();
+    for (auto const& [kind, count] : countByKind(devices, kinds)) {
+        counts[kind] = count;
+    }
+    return counts;
 }
 
 std::string prettyNames(Varo::Model::Robot const& robot)
@@ -118,17 +146,31 @@ std::string postures(Varo::Model::Robot const& robot)
     return text;
 }
 
-/// A line for each code that findings have: how many there are, and the first of them.
-std::vector<std::string> summarised(Findings const& findings)
+/// The findings of one code: how many there are, and the first of them.
+struct Summary {
+    std::string code;
+    std::size_t count = 0;
+    Finding const* first = nullptr;
+};
+
+std::vector<Summary> summarised(Findings const& findings)
 {
-    std::map<std::string, std::pair<std::size_t, Finding const*>> byCode;
+    std::map<std::string, Summary> byCode;
     for (Finding const& finding : findings) {
-        auto& [count, first] = byCode.try_emplace(finding.code, 0, &finding).first->second;
-        ++count;
+        Summary& summary = byCode.try_emplace(finding.code, Summary{finding.code, 0, &finding}).first->second;
+        ++summary.count;
     }
+    std::vector<Summary> summaries;
+    for (auto const& [code, summary] : byCode) {
+        summaries.push_back(summary);
+    }
+    return summaries;
+}
+
+std::vector<std::string> findingLines(Findings const& findings)
+{
     std::vector<std::string> lines;
-    for (auto const& [code, group] : byCode) {
-        auto const& [count, first] = group;
+    for (auto const& [code, count, first] : summarised(findings)) {
         lines.push_back(std::to_string(count) + " " + nameOf(first->severity) + (count > 1 ? "s" : "") + " " + code +
                         (count > 1 ? ", first line " : ", line ") + std::to_string(first->line) + ": " +
                         first->message);
@@ -136,11 +178,22 @@ std::vector<std::string> summarised(Findings const& findings)
     return lines;
 }
 
-int info(std::string const& file)
+Json findingJson(Findings const& findings)
 {
-    Robot const robot = loadRobot(file);
-    Sim::Model const& model = robot.model;
-    Varo::Model::Robot const& records = robot.records();
+    Json array = Json::array();
+    for (auto const& [code, count, first] : summarised(findings)) {
+        array.push_back({{"code", code},
+                         {"severity", nameOf(first->severity)},
+                         {"count", count},
+                         {"line", first->line},
+                         {"message", first->message}});
+    }
+    return array;
+}
+
+void printForEyes(Sim::Model const& model, Findings const& findings)
+{
+    Varo::Model::Robot const& robot = model.robot();
     Sheet sheet;
     auto const addIfAny = [&](std::string const& label, std::string const& fact) {
         if (!fact.empty()) {
@@ -148,28 +201,74 @@ int info(std::string const& file)
         }
     };
     sheet.add("name", model.name());
-    addIfAny("pretty name", prettyNames(records));
-    addIfAny("version", records.version());
-    sheet.add("dialect", records.dialect());
+    addIfAny("pretty name", prettyNames(robot));
+    addIfAny("version", robot.version());
+    sheet.add("dialect", robot.dialect());
     sheet.add("root link", model.rootLink()->name());
     sheet.add("links", linkCount(model));
     sheet.add("joints", std::to_string(model.joints().size()));
     sheet.add("total mass", rounded(totalMass(model)) + " kg");
-    sheet.add("actuators", countByKind(model.actuators(), Sim::actuatorKinds));
-    sheet.add("sensors", countByKind(model.sensors(), Sim::sensorKinds));
+    sheet.add("actuators", countText(model.actuators(), Sim::actuatorKinds));
+    sheet.add("sensors", countText(model.sensors(), Sim::sensorKinds));
     sheet.add("symmetries", std::to_string(model.jointSymmetries().size()));
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
-    sheet.add("chains", chains(records));
-    addIfAny("postures", postures(records));
-    sheet.add(recordsOf(records)->holdsAllStated ? "findings" : "not carried", summarised(model.findings()));
+    sheet.add("chains", chains(robot));
+    addIfAny("postures", postures(robot));
+    sheet.add(recordsOf(robot)->holdsAllStated ? "findings" : "not carried", findingLines(findings));
+}
+
+void printForPrograms(Sim::Model const& model, Findings const& findings)
+{
+    Varo::Model::Robot const& robot = model.robot();
+    Json prettyNames = Json::object();
+    for (auto const& [index, name] : robot.prettyNames()) {
+        prettyNames[std::to_string(index)] = name;
+    }
+    Json postures = Json::array();
+    for (Varo::Model::PostureConfig const& posture : model.postures()) {
+        postures.push_back(posture.name);
+    }
+    Json const data = {
+        {"name", model.name()},
+        {"prettyNames", prettyNames},
+        {"version", robot.version()},
+        {"dialect", robot.dialect()},
+        {"rootLink", model.rootLink()->name()},
+        {"links", model.links().size()},
+        {"wheels", wheelCount(model)},
+        {"joints", model.joints().size()},
+        {"mass", static_cast<float>(totalMass(model))},
+        {"actuators", countJson(model.actuators(), Sim::actuatorKinds)},
+        {"sensors", countJson(model.sensors(), Sim::sensorKinds)},
+        {"symmetries", model.jointSymmetries().size()},
+        {"jointGroups", model.jointGroups().size()},
+        {"chains", findKind("chains")->elements(model)},
+        {"postures", postures},
+        {"findings", findingJson(findings)},
+    };
+    printJson(std::cout, data);
+    std::cout << '\n';
+}
+
+struct Options {
+    std::string file;
+    bool json = false;
+};
+
+int info(Options const& options)
+{
+    Robot const robot = loadRobot(options.file);
+    Findings const findings = robot.model.findings();
+    options.json ? printForPrograms(robot.model, findings) : printForEyes(robot.model, findings);
     return exitStatus::fine;
 }
 
 std::function<int()> declare(CLI::App& app)
 {
-    auto const file = std::make_shared<std::string>();
-    declareFile(app, *file);
-    return [file] { return info(*file); };
+    auto const options = std::make_shared<Options>();
+    declareFile(app, options->file);
+    declareJson(app, options->json, "the same and the joints of the chains");
+    return [options] { return info(*options); };
 }
 
 }  // namespace

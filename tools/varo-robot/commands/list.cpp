@@ -1,15 +1,13 @@
-#include <algorithm>
 #include <iostream>
 #include <memory>
 
 #include <CLI/CLI.hpp>
-#include <unistd.h>
 
 #include "commands/commands.hpp"
 #include "support/description.hpp"
 #include "support/json_text.hpp"
 #include "support/kinds.hpp"
-#include "support/terminal.hpp"
+#include "support/table.hpp"
 
 namespace Tool {
 
@@ -21,8 +19,6 @@ struct Options {
     bool json = false;
 };
 
-using Row = std::vector<std::string>;
-
 std::string cellOf(Json const& element, Column const& column)
 {
     Json::json_pointer const pointer(column.pointer);
@@ -31,26 +27,6 @@ std::string cellOf(Json const& element, Column const& column)
     }
     Json const& value = element.at(pointer);
     return isPose(value) ? originOf(value) : readable(value);
-}
-
-/// Rows under each other, all columns but the last padded to one width.
-void printTable(std::vector<Row> const& rows)
-{
-    std::vector<std::size_t> widths(rows.front().size());
-    for (Row const& row : rows) {
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            widths[i] = std::max(widths[i], columnsOf(row[i]));
-        }
-    }
-    Palette const palette(STDOUT_FILENO);
-    for (Row const& row : rows) {
-        std::string line;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            bool const isLast = i + 1 == row.size();
-            line += row[i] + std::string(isLast ? 0 : widths[i] - columnsOf(row[i]) + 2, ' ');
-        }
-        std::cout << palette.paint(&row == &rows.front() ? Ink::heading : Ink::plain, line) << '\n';
-    }
 }
 
 void printForEyes(Kind const& kind, std::vector<Json> const& elements)

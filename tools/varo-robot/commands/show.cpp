@@ -17,6 +17,7 @@
 #include "support/element_json.hpp"
 #include "support/json_parts.hpp"
 #include "support/json_text.hpp"
+#include "support/kinds.hpp"
 #include "support/link_names.hpp"
 #include "support/terminal.hpp"
 
@@ -27,11 +28,13 @@ namespace {
 struct Options {
     std::string name;
     std::string file;
+    bool json = false;
 };
 
-/// An element with a heading for it.
+/// An element that bears the name.
 struct Sighting {
-    std::string heading;
+    std::string kind;
+    std::string name;
     Json facts;
 };
 
@@ -50,10 +53,11 @@ private:
     {
         for (Element const* element : elements) {
             if (element->name() == _name) {
-                _found.push_back({kind + (" " + _name), _json.of(*element)});
+                _found.push_back({kind, _name, _json.of(*element)});
             }
         }
     }
+    void addRecords(char const* kind);
     void addLinks();
     void addJoints();
     void addSymmetries();
@@ -70,11 +74,23 @@ std::vector<Sighting> Search::run()
     addLinks();
     addJoints();
     addSymmetries();
+    addRecords("chain");
     addNamed("joint group", _model.jointGroups());
     addNamed("actuator", _model.actuators());
     addNamed("actuator group", _model.actuatorGroups());
     addNamed("sensor", _model.sensors());
+    addRecords("posture");
     return std::move(_found);
+}
+
+/// Of the kinds that the model has no elements of.
+void Search::addRecords(char const* kind)
+{
+    for (Json& record : findKind(kind)->elements(_model)) {
+        if (record["name"] == _name) {
+            _found.push_back({kind, _name, std::move(record)});
+        }
+    }
 }
 
 /// By the model's name or the one in the description.
@@ -85,7 +101,7 @@ void Search::addLinks()
         bool const isMeant = std::find(statedLinks.begin(), statedLinks.end(), link->name()) != statedLinks.end();
         if (link->name() == _name || isMeant) {
             std::string const statedName = _linkNames.statedNameOf(link->name());
-            _found.push_back({"link " + link->name(), _json.of(*link)});
+            _found.push_back({"link", link->name(), _json.of(*link)});
             if (!statedName.empty()) {
                 _found.back().facts["urdfName"] = statedName;
             }
@@ -100,7 +116,7 @@ void Search::addJoints()
             Json facts = _json.of(*joint);
             facts["jointGroups"] = namesOf(_model.jointGroupsOfJoint(_name));
             facts["actuatorGroups"] = namesOf(_model.actuatorGroupsOfJoint(_name));
-            _found.push_back({"joint " + _name, std::move(facts)});
+            _found.push_back({"joint", _name, std::move(facts)});
         }
     }
 }
@@ -111,7 +127,7 @@ void Search::addSymmetries()
     for (Sim::JointSymmetry const* symmetry : _model.jointSymmetries()) {
         auto const [first, second] = symmetry->symmetricJoints();
         if (isNamed(first) || isNamed(second)) {
-            _found.push_back({"symmetry of " + _name, _json.of(*symmetry)});
+            _found.push_back({"symmetry of", _name, _json.of(*symmetry)});
         }
     }
 }
@@ -128,6 +144,30 @@ void printFacts(Json const& facts)
                       << '\n';
         }
     }
+}
+
+void printForEyes(std::vector<Sighting> const& found)
+{
+    Palette const palette(STDOUT_FILENO);
+    for (Sighting const& sighting : found) {
+        std::string const heading = sighting.kind + " " + sighting.name;
+        std::cout << (&sighting == &found.front() ? "" : "\n") << palette.paint(Ink::heading, heading) << '\n';
+        printFacts(sighting.facts);
+    }
+}
+
+/// The facts as they are, each with the kind of its element before them.
+void printForPrograms(std::vector<Sighting> const& found)
+{
+    {
+        JsonStream array(std::cout, '[');
+        for (Sighting const& sighting : found) {
+            Json element = {{"kind", sighting.kind == "symmetry of" ? "symmetry" : sighting.kind}};
+            element.update(sighting.facts);
+            array.add(element);
+        }
+    }
+    std::cout << '\n';
 }
 
 /// Names that hold the one that was not found, whatever the case, as a hint.
@@ -175,11 +215,7 @@ int show(Options const& options)
                                                "Nothing in it is called \"" + options.name + "\".",
                                                similarNames(model, linkNames, options.name))});
     }
-    Palette const palette(STDOUT_FILENO);
-    for (Sighting const& sighting : found) {
-        std::cout << (&sighting == &found.front() ? "" : "\n") << palette.paint(Ink::heading, sighting.heading) << '\n';
-        printFacts(sighting.facts);
-    }
+    options.json ? printForPrograms(found) : printForEyes(found);
     return exitStatus::fine;
 }
 
@@ -188,6 +224,7 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     app.add_option("NAME", options->name, "The exact name of what to show")->type_name("")->required();
     declareFile(app, options->file);
+    declareJson(app, options->json, "an array of what was found");
     return [options] { return show(*options); };
 }
 
@@ -195,9 +232,13 @@ std::function<int()> declare(CLI::App& app)
 
 Command const showCommand = {"show", "Show everything of a name",
                              R"(Prints all that the model knows under the name, whatever its kind: links, joints
-with their groups and symmetries, groups, actuators and sensors, one after the
-other when several have it. A link is found, too, by the name that a description
-in URDF gives it.
+with their groups and symmetries, chains, groups, actuators, sensors and
+postures, one after the other when several have it. A link is found, too, by the
+name that a description in URDF gives it.
+
+With --json: an array of objects, each with its kind (link, joint, symmetry,
+chain, joint group, actuator, actuator group, sensor or posture) and then as
+`dump` and `list` print it.
 
 Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
 The exit status is 1 when nothing has the name.

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <unordered_map>
 
 #include <CLI/CLI.hpp>
 #include <unistd.h>
@@ -11,7 +12,9 @@
 #include "sim/link.hpp"
 #include "sim/mass_data.hpp"
 #include "support/description.hpp"
+#include "support/json_parts.hpp"
 #include "support/link_names.hpp"
+#include "support/moved_robot.hpp"
 #include "support/numbers.hpp"
 #include "support/terminal.hpp"
 
@@ -25,7 +28,38 @@ struct Options {
     std::string file;
     bool pose = false;
     bool mass = false;
+    bool json = false;
+    MotionOptions motion;
 };
+
+using LinkPoses = std::unordered_map<Sim::Link const*, Transform>;
+
+/// With all joints at 0, as the model has it: also those that a hand at 0 holds at an offset.
+LinkPoses zeroPoses(Sim::Model const& model)
+{
+    LinkPoses poses;
+    for (Sim::Link const* const link : model.links()) {  // parents come first
+        Sim::Joint const* const joint = link->parentJoint();
+        Transform const inParent = link->frame()->localPosition();
+        poses.emplace(link, joint == nullptr
+                                ? inParent
+                                : poses.at(joint->parentLink()) * joint->frame()->localPosition() * inParent);
+    }
+    return poses;
+}
+
+LinkPoses posesOf(Sim::Model const& model, MotionOptions const& motion, std::string const& file)
+{
+    if (!motion.isGiven()) {
+        return zeroPoses(model);
+    }
+    LinkPoses poses;
+    std::vector<Transform> const moved = MovedRobot(model, motion, file).linkPoses();
+    for (Sim::Link const* const link : model.links()) {
+        poses.emplace(link, moved[poses.size()]);
+    }
+    return poses;
+}
 
 /// The strokes that branches are drawn with.
 struct Strokes {
@@ -54,8 +88,12 @@ struct Line {
 /// Draws a model's tree line by line, depth first.
 class TreePainter {
 public:
-    TreePainter(Options const& options, LinkNames const& names)
-        : _options(options), _names(names), _strokes(isUtf8Locale() ? drawn : typed), _palette(STDOUT_FILENO)
+    TreePainter(Options const& options, LinkNames const& names, LinkPoses const& poses)
+        : _options(options),
+          _names(names),
+          _poses(poses),
+          _strokes(isUtf8Locale() ? drawn : typed),
+          _palette(STDOUT_FILENO)
     {}
 
     std::vector<Line> paint(Sim::Link const& root);
@@ -65,18 +103,18 @@ private:
         Sim::Joint const* joint;
         std::size_t depth;
         bool isLast;
-        Transform parentPose;
     };
 
-    void pushChildren(Sim::Link const& link, std::size_t depth, Transform const& pose);
+    void pushChildren(Sim::Link const& link, std::size_t depth);
     void paintJoint(Step const& step);
     std::string branchOf(Step const& step);
     std::string labelOf(Sim::Link const& link, Palette const& palette) const;
     std::string labelOf(Sim::Joint const& joint, Palette const& palette) const;
-    std::string factsOf(Sim::Link const& link, Transform const& pose) const;
+    std::string factsOf(Sim::Link const& link) const;
 
     Options const& _options;
     LinkNames const& _names;
+    LinkPoses const& _poses;
     Strokes _strokes;
     Palette _palette;
     Palette _colourless = Palette(-1);
@@ -87,9 +125,8 @@ private:
 
 std::vector<Line> TreePainter::paint(Sim::Link const& root)
 {
-    Transform const pose = root.frame()->localPosition();
-    _lines.push_back({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root, pose)});
-    pushChildren(root, 0, pose);
+    _lines.push_back({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root)});
+    pushChildren(root, 0);
     while (!_steps.empty()) {
         Step const step = _steps.back();
         _steps.pop_back();
@@ -98,11 +135,11 @@ std::vector<Line> TreePainter::paint(Sim::Link const& root)
     return std::move(_lines);
 }
 
-void TreePainter::pushChildren(Sim::Link const& link, std::size_t depth, Transform const& pose)
+void TreePainter::pushChildren(Sim::Link const& link, std::size_t depth)
 {
     std::vector<Sim::Joint const*> const children = link.childrenJoints();
     for (auto child = children.rbegin(); child != children.rend(); ++child) {
-        _steps.push_back({*child, depth, child == children.rbegin(), pose});
+        _steps.push_back({*child, depth, child == children.rbegin()});
     }
 }
 
@@ -112,9 +149,8 @@ void TreePainter::paintJoint(Step const& step)
     Line line = {
         branch + labelOf(*step.joint, _palette), columnsOf(branch) + columnsOf(labelOf(*step.joint, _colourless)), {}};
     if (Sim::Link const* const link = step.joint->childLink()) {
-        Transform const pose = step.parentPose * step.joint->frame()->localPosition() * link->frame()->localPosition();
-        line.facts = factsOf(*link, pose);
-        pushChildren(*link, step.depth + 1, pose);
+        line.facts = factsOf(*link);
+        pushChildren(*link, step.depth + 1);
     }
     _lines.push_back(std::move(line));
 }
@@ -153,7 +189,7 @@ std::string TreePainter::labelOf(Sim::Joint const& joint, Palette const& palette
     return link == nullptr ? name : name + _strokes.moves + labelOf(*link, palette);
 }
 
-std::string TreePainter::factsOf(Sim::Link const& link, Transform const& pose) const
+std::string TreePainter::factsOf(Sim::Link const& link) const
 {
     std::string facts;
     if (_options.mass && link.mass() != nullptr) {
@@ -161,18 +197,13 @@ std::string TreePainter::factsOf(Sim::Link const& link, Transform const& pose) c
     }
     if (_options.pose) {
         facts += facts.empty() && !_options.mass ? "" : std::string(facts.size() < 12 ? 12 - facts.size() : 1, ' ');
-        facts += poseText(pose);
+        facts += poseText(_poses.at(&link), _options.motion.degrees);
     }
     return facts;
 }
 
-int tree(Options const& options)
+void printTree(std::vector<Line> const& lines)
 {
-    Robot const robot = loadRobot(options.file);
-    Sim::Model const& model = robot.model;
-    LinkNames const names(robot.records());
-    std::vector<Line> const lines = TreePainter(options, names).paint(*model.rootLink());
-
     std::size_t widest = 0;
     for (Line const& line : lines) {
         widest = std::max(widest, std::min(line.columns, widestTree));
@@ -184,6 +215,41 @@ int tree(Options const& options)
         }
         std::cout << '\n';
     }
+}
+
+/// An array of the links, each with what leads to it.
+void printForPrograms(Sim::Model const& model, LinkNames const& names, LinkPoses const& poses)
+{
+    {
+        JsonStream array(std::cout, '[');
+        for (Sim::Link const* const link : model.links()) {
+            Sim::Joint const* const joint = link->parentJoint();
+            std::string const urdfName = names.urdfNameOf(link->name());
+            array.add({
+                {"link", link->name()},
+                {"urdfName", urdfName.empty() ? Json(nullptr) : Json(urdfName)},
+                {"joint", nameOrNull(joint)},
+                {"parentLink", joint == nullptr ? Json(nullptr) : Json(joint->parentLink()->name())},
+                {"type", link->type() == Sim::Link::Wheel ? "wheel" : "regular"},
+                {"mass", link->mass() == nullptr ? Json(nullptr) : Json(link->mass()->mass())},
+                {"pose", matrixOf(poses.at(link))},
+            });
+        }
+    }
+    std::cout << '\n';
+}
+
+int tree(Options const& options)
+{
+    Robot const robot = loadRobot(options.file);
+    Sim::Model const& model = robot.model;
+    LinkNames const names(robot.records());
+    LinkPoses const poses = posesOf(model, options.motion, robot.file);
+    if (options.json) {
+        printForPrograms(model, names, poses);
+    } else {
+        printTree(TreePainter(options, names, poses).paint(*model.rootLink()));
+    }
     return exitStatus::fine;
 }
 
@@ -193,6 +259,9 @@ std::function<int()> declare(CLI::App& app)
     declareFile(app, options->file);
     app.add_flag("--pose", options->pose, "Add each link's pose in the root frame: origin (m), roll, pitch, yaw (rad)");
     app.add_flag("--mass", options->mass, "Add each link's mass");
+    declareMotion(app, options->motion);
+    declareReference(app, options->motion);
+    declareJson(app, options->json, "the links");
     return [options] { return tree(*options); };
 }
 
@@ -207,9 +276,17 @@ Branches are drawn with box-drawing characters in a UTF-8 locale, with plain
 ones otherwise. Colour appears on terminals only; set NO_COLOR to be without.
 Lines deeper than 40 levels are not indented further and state their depth.
 
+Poses are those with all joints at zero, as in `dump`, unless a posture or a
+joint value is given; then joints that follow stand where that puts them, as in
+`pose`.
+
+With --json: an array of the links, parents first, each with link, urdfName,
+joint, parentLink, type, mass and pose, the latter as 16 numbers, row by row.
+
 Examples:
   varo-robot tree robots/humanoid.xml
-  varo-robot tree --mass --pose robots/rover.xml)",
+  varo-robot tree --mass --pose robots/rover.xml
+  varo-robot tree --pose --posture Crouch robots/humanoid.xml)",
                              declare};
 
 }  // namespace Tool

@@ -20,6 +20,7 @@ inline constexpr char modelIncomplete[] = "model-incomplete";
 inline constexpr char sensorWithoutClass[] = "sensor-without-class";
 inline constexpr char unwritableFile[] = "unwritable-file";
 inline constexpr char nameNotFound[] = "name-not-found";
+inline constexpr char cannotBePosed[] = "cannot-be-posed";
 }  // namespace codes
 
 /// A description as it was read.

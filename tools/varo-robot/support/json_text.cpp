@@ -19,6 +19,16 @@ bool isPair(Json const& value)
     return value.is_array() && value.size() == 2 && value[1].is_number_float() && !value[0].is_number();
 }
 
+/// "name value, name value"
+std::string members(Json const& object)
+{
+    std::string text;
+    for (auto const& [key, value] : object.items()) {
+        text += (text.empty() ? "" : ", ") + key + " " + readable(value);
+    }
+    return text;
+}
+
 std::string joined(Json const& array)
 {
     char const* const separator = array[0].is_number() ? " " : ", ";
@@ -64,6 +74,9 @@ std::string readable(Json const& value)
     }
     if (isPair(value)) {
         return readable(value[0]) + " x " + readable(value[1]);
+    }
+    if (value.is_object()) {
+        return members(value);
     }
     return value.is_array() ? joined(value) : value.dump();
 }

@@ -6,6 +6,7 @@
 
 #include "support/device_kinds.hpp"
 #include "support/element_json.hpp"
+#include "varo/model/records.hpp"
 
 namespace Tool {
 
@@ -52,6 +53,30 @@ std::vector<Json> groups(Sim::Model const& model)
     std::vector<Json> data = dataOf(model.jointGroups());
     for (Json& group : dataOf(model.actuatorGroups())) {
         data.push_back(std::move(group));
+    }
+    return data;
+}
+
+/// What the model has no elements of, but its records do.
+std::vector<Json> chains(Sim::Model const& model)
+{
+    std::vector<Json> data;
+    auto const records = Varo::Model::recordsOf(model.robot());
+    for (Varo::Model::ChainConfig const& chain : records->chains) {
+        data.push_back({{"name", chain.name}, {"parent", chain.parentJoint}, {"joints", chain.jointNames}});
+    }
+    return data;
+}
+
+std::vector<Json> postures(Sim::Model const& model)
+{
+    std::vector<Json> data;
+    for (Varo::Model::PostureConfig const& posture : model.postures()) {
+        Json angles = Json::object();
+        for (Varo::Model::PostureAngle const& angle : posture.angles) {
+            angles[angle.name] = angle.value;
+        }
+        data.push_back({{"name", posture.name}, {"angles", std::move(angles)}});
     }
     return data;
 }
@@ -126,6 +151,8 @@ std::vector<Kind> makeKinds()
         {"groups", {"group"}, {name, joints, actuators}, groups},
         {"joint-groups", {"joint-group"}, {name, joints}, all<&Model::jointGroups>},
         {"actuator-groups", {"actuator-group"}, {name, {"PARENT", "/parent"}, actuators}, all<&Model::actuatorGroups>},
+        {"chains", {"chain"}, {name, {"PARENT", "/parent"}, joints}, chains},
+        {"postures", {"posture"}, {name, {"ANGLES", "/angles"}}, postures},
         {"actuators", {"actuator"}, columnsOf<Sim::Actuator>(), all<&Model::actuators>},
     };
     addDevices<&Model::actuators>(kinds, Sim::actuatorKinds, "Actuator");

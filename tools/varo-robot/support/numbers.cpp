@@ -51,11 +51,13 @@ std::string triple(std::array<double, 3> const& values)
     return fixedPoint(values[0], 3) + " " + fixedPoint(values[1], 3) + " " + fixedPoint(values[2], 3);
 }
 
-std::string poseText(Varo::Math::Transform const& pose)
+std::string poseText(Varo::Math::Transform const& pose, bool degrees)
 {
+    constexpr double degreesPerRadian = 57.29577951308232;
     Varo::Math::Position3D const origin = pose.position();
     auto const [roll, pitch, yaw] = readableRpy(pose);
-    return "xyz " + triple({origin.x, origin.y, origin.z}) + "  rpy " + triple({roll, pitch, yaw});
+    double const unit = degrees ? degreesPerRadian : 1.0;
+    return "xyz " + triple({origin.x, origin.y, origin.z}) + "  rpy " + triple({roll * unit, pitch * unit, yaw * unit});
 }
 
 }  // namespace Tool

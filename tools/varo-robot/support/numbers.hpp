@@ -21,8 +21,8 @@ std::string rounded(double value);
 /// "x y z" with three decimals each.
 std::string triple(std::array<double, 3> const& values);
 
-/// For eyes: the origin (m), then roll, pitch and yaw (rad) about fixed axes.
-std::string poseText(Varo::Math::Transform const& pose);
+/// For eyes: the origin (m), then roll, pitch and yaw (rad, or degrees) about fixed axes.
+std::string poseText(Varo::Math::Transform const& pose, bool degrees = false);
 
 }  // namespace Tool
 

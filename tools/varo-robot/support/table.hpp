@@ -1,0 +1,17 @@
+#ifndef TOOL_SUPPORT_TABLE_HPP
+#define TOOL_SUPPORT_TABLE_HPP
+
+#include <string>
+#include <vector>
+
+namespace Tool {
+
+using Row = std::vector<std::string>;
+
+/// Prints rows under each other on standard output, all columns but the last padded to one width. The first row holds
+/// the titles.
+void printTable(std::vector<Row> const& rows);
+
+}  // namespace Tool
+
+#endif
