@@ -13,8 +13,8 @@ namespace {
 using Group = std::vector<std::string>;
 
 constexpr auto ratioRow = required<&SubActuatorConfig::ratio>("ratio", "", "joint value per value of the actuator");
-constexpr auto offsetRow =
-    optional<&SubActuatorConfig::offset>("offset", "0", "rad", "joint value where the actuator stands at 0; carried");
+constexpr auto offsetRow = optional<&SubActuatorConfig::offset>(
+    "offset", "0", "rad", "joint value where the actuator stands at 0; the zero pose of the model leaves it out");
 
 constexpr Attribute<SubActuatorConfig> subJointAttributes[] = {
     named<&SubActuatorConfig::name>("name", names::ofSubJoint, "what the sub-joint is called"),

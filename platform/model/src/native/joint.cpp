@@ -50,7 +50,7 @@ constexpr Attribute<JointReading> jointAttributes[] = {
     numberRow<&JointConfig::maxTorque>("maxTorque", "N*m (N)", "greatest torque (force); 0 when not stated; carried"),
     numberRow<&JointConfig::damping>("damping", "N*m*s/rad (N*s/m)", "viscous damping; carried"),
     numberRow<&JointConfig::friction>("friction", "N*m (N)", "Coulomb friction; carried"),
-    optional<&JointConfig::jointType, JointTypes, JointReading>("type", "revolute", "", "how the joint moves; carried"),
+    optional<&JointConfig::jointType, JointTypes, JointReading>("type", "revolute", "", "how the joint moves"),
     optional<&JointReading::reflectionForced>("reflectionForced", "false", "",
                                               "whether a symmetric motion reflects the joint whatever its mirror says"),
 };

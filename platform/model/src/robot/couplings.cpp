@@ -35,7 +35,7 @@ std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics&
     }
     if (mimic.offset != 0.0) {
         diagnostics.report(mimic.offsetOffset, codes::mimicOffset,
-                           "This offset is in the record only: the model knows ratios, not offsets.");
+                           "The zero pose of the model leaves this offset out: only a moved robot has it.");
     }
     return leader;
 }

@@ -135,7 +135,7 @@ struct WheelConfig {
 struct SubActuatorConfig {
     std::string name;  ///< under which the table holds the record
     std::string meshName;  ///< as JointConfig::meshName
-    float offset = 0.0F;  ///< rad, the sub-joint's angle when the actuator stands at 0; carried
+    float offset = 0.0F;  ///< rad (m), the sub-joint's value when the actuator stands at 0
     float ratio = 0.0F;  ///< sub-joint angle per actuator angle
     Transform placement;  ///< in the frame of the element before it
     TextOffset textOffset = {};  ///< of its element
