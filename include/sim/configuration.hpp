@@ -33,7 +33,9 @@ public:
     explicit Configuration(Kinematics const& kinematics);
     /// As setPosture does it.
     Configuration(Kinematics const& kinematics, std::string const& posture);
+    /// Has the values of `other`, for the same Kinematics.
     Configuration(Configuration const& other);
+    /// As the copy; what this configuration was made for before does not matter.
     Configuration& operator=(Configuration const& other);
     ~Configuration();
 

@@ -1,6 +1,9 @@
 #ifndef SIM_EIGEN_HPP
 #define SIM_EIGEN_HPP
 
+#include <cstddef>
+#include <vector>
+
 #include <Eigen/Geometry>
 
 #include "sim/kinematics.hpp"

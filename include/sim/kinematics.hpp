@@ -37,7 +37,9 @@ class VAROROBOTMODEL_API Kinematics {
 public:
     /// Takes time and memory proportional to the size of the robot.
     explicit Kinematics(Model const& model);
+    /// Shares what `other` holds.
     Kinematics(Kinematics const& other);
+    /// Shares what `other` holds from now on.
     Kinematics& operator=(Kinematics const& other);
     ~Kinematics();
 

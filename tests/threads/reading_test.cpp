@@ -11,6 +11,7 @@
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/joint_symmetry.hpp"
+#include "sim/kinematics.hpp"
 #include "sim/link.hpp"
 #include "sim/model.hpp"
 #include "sim/motion_model.hpp"
@@ -92,6 +93,25 @@ TEST(Threads, ReadOneMotionModel)
 {
     Sim::MotionModel const model(Sim::Model(humanoid).configFile());
     EXPECT_THAT(inThreads([&] { return contentsOf(model); }), testing::Each(contentsOf(model)));
+}
+
+TEST(Threads, MoveOneRobot)
+{
+    Sim::Model const model(humanoid);
+    Sim::Kinematics const kinematics(model);
+    Sim::Configuration const shared(kinematics, "Crouch");
+    auto const moved = [&] {
+        std::ostringstream out;
+        Sim::Configuration own = shared;
+        for (double const value : {0.0, 0.5, 1.0}) {
+            own.set("LElbowBend", value);
+            out << kinematics.pose(own, kinematics.frame("LThumb2Link"))(0, 3) << ' '
+                << kinematics.jacobian(shared, kinematics.frame("FaceCamera"))[0] << ' '
+                << kinematics.massProperties(own).centerOfMass[2] << '\n';
+        }
+        return out.str();
+    };
+    EXPECT_THAT(inThreads(moved), testing::Each(moved()));
 }
 
 TEST(Threads, LoadModelsOfTheirOwn)
