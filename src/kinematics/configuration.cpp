@@ -124,6 +124,7 @@ Configuration::Configuration(Kinematics const& kinematics, std::string const& po
 
 Configuration::Configuration(Configuration const& other) = default;
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment, modernize-use-equals-default): in this order
 Configuration& Configuration::operator=(Configuration const& other)
 {
     _values = other._values;  // first, because it may throw

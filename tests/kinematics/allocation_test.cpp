@@ -14,7 +14,7 @@ thread_local std::size_t allocations = 0;
 }  // namespace
 
 // Counted for the whole program, and otherwise as the standard library does it.
-void* operator new(std::size_t size)
+[[gnu::noinline]] void* operator new(std::size_t size)
 {
     ++allocations;
     if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
@@ -23,12 +23,12 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept
+[[gnu::noinline]] void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }

@@ -31,6 +31,7 @@ struct NamedPose {
 std::vector<NamedPose> posesOf(std::vector<std::string> const& names, Sim::Model const& model, MovedRobot const& moved)
 {
     std::vector<NamedPose> poses;
+    poses.reserve(names.size());
     for (std::string const& name : names) {
         poses.push_back({name, moved.poseOf(name)});
     }
