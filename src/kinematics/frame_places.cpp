@@ -13,26 +13,6 @@
 
 namespace Sim {
 
-namespace {
-
-/// The names that the description's text gives to links which the model calls otherwise, with the model's names.
-std::vector<std::pair<std::string, std::string>> linkNamesOfText(Varo::Model::Robot const& robot)
-{
-    auto const records = Varo::Model::recordsOf(robot);
-    std::vector<std::pair<std::string, std::string>> found;
-    auto const add = [&found](Varo::Model::JointConfig const& body) {
-        auto const name = body.attributes.find("urdfLink");
-        if (name != body.attributes.end()) {
-            found.emplace_back(name->second, body.name + "Link");
-        }
-    };
-    add(records->root);
-    std::for_each(records->joints.begin(), records->joints.end(), add);
-    return found;
-}
-
-}  // namespace
-
 FramePlaces::FramePlaces(Model const& model)
 {
     std::vector<Link const*> const links = model.links();
@@ -57,12 +37,15 @@ void FramePlaces::addNames(Model const& model)
         }
     };
     addAll(model.links());
-    for (auto const& [inText, inModel] : linkNamesOfText(model.robot())) {
-        auto const link = _byName.find(inModel);
-        if (link != _byName.end()) {
-            _byName.emplace(inText, link->second);
+    auto const records = Varo::Model::recordsOf(model.robot());
+    auto const addNameInText = [this](Varo::Model::JointConfig const& body) {
+        auto const link = _byName.find(body.name + "Link");
+        if (!body.linkName.empty() && link != _byName.end()) {
+            _byName.emplace(body.linkName, link->second);
         }
-    }
+    };
+    addNameInText(records->root);
+    std::for_each(records->joints.begin(), records->joints.end(), addNameInText);
     addAll(model.joints());
     addAll(model.sensors());
     addAll(model.actuators());

@@ -103,7 +103,7 @@ yaw about fixed axes (rad). All joint values are 0 unless a posture or --joint
 says otherwise; joints that follow an actuator or another joint then stand at
 their offset. Limits do not matter.
 
-A name stands for a link or, when none bears it, for a joint, sensor or actuator.
+A name stands for a link or, when none has it, for a joint, sensor or actuator.
 The frame of a joint belongs to the link before it.
 
 With --json: an object with the configuration (rad, m), the name of the frame

@@ -224,10 +224,10 @@ void printForPrograms(Sim::Model const& model, LinkNames const& names, LinkPoses
         JsonStream array(std::cout, '[');
         for (Sim::Link const* const link : model.links()) {
             Sim::Joint const* const joint = link->parentJoint();
-            std::string const urdfName = names.urdfNameOf(link->name());
+            std::string const statedName = names.statedNameOf(link->name());
             array.add({
                 {"link", link->name()},
-                {"urdfName", urdfName.empty() ? Json(nullptr) : Json(urdfName)},
+                {"urdfName", statedName.empty() ? Json(nullptr) : Json(statedName)},
                 {"joint", nameOrNull(joint)},
                 {"parentLink", joint == nullptr ? Json(nullptr) : Json(joint->parentLink()->name())},
                 {"type", link->type() == Sim::Link::Wheel ? "wheel" : "regular"},
