@@ -18,7 +18,9 @@ public:
     BuildError(std::string const& what, Varo::Model::Findings findings)
         : std::runtime_error(what), WithFindings(std::move(findings))
     {}
+    /// Shares the findings.
     BuildError(BuildError const&) = default;
+    /// Shares the findings.
     BuildError& operator=(BuildError const&) = default;
     ~BuildError() override;
 };
@@ -30,7 +32,9 @@ public:
     StartAngleError(std::string const& what, Varo::Model::Findings findings)
         : std::out_of_range(what), WithFindings(std::move(findings))
     {}
+    /// Shares the findings.
     StartAngleError(StartAngleError const&) = default;
+    /// Shares the findings.
     StartAngleError& operator=(StartAngleError const&) = default;
     ~StartAngleError() override;
 };

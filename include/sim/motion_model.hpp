@@ -19,6 +19,7 @@ namespace Sim {
 
 /// What the key-name tables of MotionModel are filled with.
 VAROROBOTMODEL_API std::vector<std::string> initDcmCommandKeyNames();
+/// The same for the keys of a device's state.
 VAROROBOTMODEL_API std::vector<std::string> initStateDcmKeyNames();
 
 /// A robot description asked by name: strings, numbers and transforms, in SI units (m, rad, kg, s).

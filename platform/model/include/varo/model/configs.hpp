@@ -163,7 +163,7 @@ struct PostureAngle {
 /// Joint values of one named posture, in the order of the description.
 struct PostureConfig {
     std::string name;  ///< "StandInit" gives the start values of the actuators
-    std::vector<PostureAngle> angles = {};
+    std::vector<PostureAngle> angles = {};  ///< each joint or actuator once
     TextOffset textOffset = {};  ///< of its element
 };
 
@@ -173,6 +173,7 @@ TextOffset offsetOf(Config const& record, Part /*part*/)
 {
     return record.textOffset;
 }
+/// Of a joint or the root: what is said of the body may stand in another element.
 inline TextOffset offsetOf(JointConfig const& joint, Part part)
 {
     bool const isOfBody =

@@ -21,6 +21,7 @@ namespace Varo::Model {
 /// severity among them. For one thread at a time.
 class VAROROBOTMODEL_API Diagnostics {
 public:
+    /// How many findings are kept.
     static constexpr std::size_t maximumFindings = 1000;
 
     /// `source` must outlive the sink. Without a text (null), findings have no place.
@@ -38,6 +39,7 @@ public:
     /// before a finding that takes long to make.
     bool countIfFull(FindingCode const& code);
 
+    /// Whether one of the findings, kept or counted, is an error.
     bool hasErrors() const { return _hasErrors; }
     /// Null without a text.
     SourceText const* source() const { return _source; }

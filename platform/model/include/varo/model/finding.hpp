@@ -37,7 +37,7 @@ VAROROBOTMODEL_API std::string summaryOf(Findings const& findings);
 /// A kind of finding.
 struct FindingCode {
     std::string_view name;  ///< lower-case words joined by hyphens; a string literal, which lives for ever
-    Severity severity;
+    Severity severity;  ///< what all findings of the kind have
     std::string_view meaning;  ///< one sentence for the documentation
 };
 
@@ -51,8 +51,11 @@ public:
     Findings const& findings() const noexcept { return *_findings; }
 
 protected:
+    /// What the exception carries; copies share it.
     explicit WithFindings(Findings findings) : _findings(std::make_shared<Findings const>(std::move(findings))) {}
+    /// Shares the findings.
     WithFindings(WithFindings const&) = default;
+    /// Shares the findings.
     WithFindings& operator=(WithFindings const&) = default;
     virtual ~WithFindings();
 
@@ -67,7 +70,9 @@ public:
     DescriptionError(std::string const& what, Findings findings)
         : std::invalid_argument(what), WithFindings(std::move(findings))
     {}
+    /// Shares the findings.
     DescriptionError(DescriptionError const&) = default;
+    /// Shares the findings.
     DescriptionError& operator=(DescriptionError const&) = default;
     ~DescriptionError() override;
 };

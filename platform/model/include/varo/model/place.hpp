@@ -30,10 +30,12 @@ private:
     std::uint32_t _offset = nowhere;
 };
 
+/// The same offset; what is nowhere equals only what is nowhere.
 constexpr bool operator==(TextOffset a, TextOffset b)
 {
     return a.isKnown() == b.isKnown() && a.value() == b.value();
 }
+/// The contrary of `==`.
 constexpr bool operator!=(TextOffset a, TextOffset b)
 {
     return !(a == b);

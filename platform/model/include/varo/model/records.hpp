@@ -24,15 +24,15 @@ struct Records {
     std::string name;  ///< of the robot
     std::string version;  ///< the description's own; may be empty
     std::map<int, std::string> prettyNames;  ///< by index
-    JointConfig root;
-    Table<JointConfig> joints;
+    JointConfig root;  ///< the body that the tree of joints begins with
+    Table<JointConfig> joints;  ///< with the bodies that they move
     std::vector<std::string> reflectionForced;  ///< names of joints
-    Table<ChainConfig> chains;
+    Table<ChainConfig> chains;  ///< serial chains of joints
     std::vector<std::uint32_t> chainOrder;  ///< indices of the chains as listed; only foreign robots repeat one
-    Table<ActuatorConfig> actuators;
-    Table<SubActuatorConfig> subActuators;
-    Table<SensorConfig> sensors;
-    Table<WheelConfig> wheels;
+    Table<ActuatorConfig> actuators;  ///< coupled ones
+    Table<SubActuatorConfig> subActuators;  ///< sub-joints, and how joints follow an actuator
+    Table<SensorConfig> sensors;  ///< and lights
+    Table<WheelConfig> wheels;  ///< driven ones
     std::vector<PostureConfig> postures;  ///< in the order of the description
 };
 

@@ -16,11 +16,13 @@ namespace Varo::Model {
 /// somebody asks for the first time, in one walk through the text.
 class VAROROBOTMODEL_API SourceText {
 public:
+    /// Any text, well-formed or not.
     explicit SourceText(std::string text);
     SourceText(SourceText const&) = delete;
     SourceText& operator=(SourceText const&) = delete;
     ~SourceText();
 
+    /// The text itself.
     std::string const& text() const { return _text; }
 
     /// Line, column and path of what begins at the offset; line 0 and no path for one that is nowhere. Takes time

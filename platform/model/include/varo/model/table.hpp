@@ -38,6 +38,7 @@ public:
         sortNames();
     }
 
+    /// Makes room for so many records.
     void reserve(std::size_t size) { _records.reserve(size); }
     /// The record can be found once the names are sorted.
     void add(Config&& config) { _records.push_back(std::move(config)); }
@@ -52,12 +53,16 @@ public:
         }
     }
 
+    /// How many records there are.
     std::size_t size() const { return _records.size(); }
+    /// Whether there are none.
     bool empty() const { return _records.empty(); }
 
-    // In the order of the description.
+    /// The first record in the order of the description.
     auto begin() const { return _records.begin(); }
+    /// Behind the last one.
     auto end() const { return _records.end(); }
+    /// The record of that index in the order of the description.
     Config const& operator[](std::size_t index) const { return _records[index]; }
 
     /// The indices of the records in ascending order of their names, which are compared byte by byte.
@@ -72,6 +77,7 @@ public:
         auto const found = std::lower_bound(_nameOrder.begin(), _nameOrder.end(), name, precedes);
         return found == _nameOrder.end() || nameOf(*found) != name ? nullptr : &_records[*found];
     }
+    /// Whether there is a record of that name.
     bool contains(std::string_view name) const { return find(name) != nullptr; }
 
     /// What the listings of a robot hand out.
@@ -84,6 +90,7 @@ public:
         }
         return names;
     }
+    /// The same by their names.
     std::map<std::string, Config> byName() const
     {
         std::map<std::string, Config> byName;
