@@ -38,7 +38,7 @@ void turnInto(Frame const* axes, KinematicsImpl const& kinematics, double const*
     }
 }
 
-/// By position in the tree, the mass of each link and all that hangs on it, and the sum of mass times place.
+/// By position in the tree, the mass of each link and all that it carries, and the sum of mass times place.
 struct Branches {
     Branches(KinematicTree const& tree, std::vector<Pose> const& poses) : masses(poses.size()), moments(poses.size())
     {

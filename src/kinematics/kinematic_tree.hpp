@@ -11,7 +11,7 @@
 
 namespace Sim {
 
-/// The links of a model as flat arrays, each link before those that hang on it, and all of a branch behind one another.
+/// The links of a model as flat arrays, each link before those that it carries, and all of a branch behind one another.
 /// The root comes first.
 class KinematicTree {
 public:
@@ -54,7 +54,7 @@ public:
     Mover const& mover(std::size_t position) const { return _movers[position]; }
     Joint const& joint(std::size_t position) const { return _joints[position]; }
     Body const& body(std::size_t position) const { return _bodies[position]; }
-    /// The position behind the link and all that hangs on it.
+    /// The position behind the link and all that it carries.
     std::size_t endOfBranch(std::size_t position) const { return _ends[position]; }
 
     /// From a place in Model::links().

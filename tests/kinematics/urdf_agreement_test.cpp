@@ -8,7 +8,7 @@
 #include <kdl_parser/kdl_parser.hpp>
 #include <urdf_parser/urdf_parser.h>
 
-#include "configurations.hpp"
+#include "kdl_comparison.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
@@ -18,16 +18,13 @@ namespace KinematicsTest {
 
 namespace {
 
-constexpr int configurationCount = 100;
 constexpr double tolerance = 2e-6;  // of the robot's size: the model's frames are single-precision
 
 KDL::Tree treeOf(urdf::ModelInterface const& text)
 {
     KDL::Tree tree;
     EXPECT_TRUE(kdl_parser::treeFromUrdfModel(text, tree));
-    // KDL reads a value for fixed joints, too.
-    tree.addSegment(KDL::Segment("unused", KDL::Joint(KDL::Joint::RotZ)), tree.getRootSegment()->first);
-    return KDL::Tree(tree);  // copies number the joints anew, those in solvers too
+    return settled(tree);
 }
 
 /// A URDF text as kdl_parser reads it, with the mimics that it passes over.
@@ -70,34 +67,6 @@ private:
     KDL::Tree _tree;
 };
 
-double distance(Sim::Pose const& actual, KDL::Frame const& expected, double size)
-{
-    double greatest = 0.0;
-    for (int row = 0; row < 3; ++row) {
-        for (int column = 0; column < 3; ++column) {
-            greatest = std::max(greatest, std::abs(actual(row, column) - expected.M(row, column)));
-        }
-        greatest = std::max(greatest, std::abs(actual(row, 3) - expected.p(row)) / size);
-    }
-    return greatest;
-}
-
-using Matrix = Eigen::MatrixXd;
-
-/// How fast KDL's joints move when a variable does: a column for each variable.
-Matrix couplingsOf(Sim::Kinematics const& kinematics, KdlText const& text)
-{
-    Sim::Configuration const zero(kinematics);
-    KDL::JntArray const still = text.valuesOf(zero);
-    Matrix couplings(still.rows(), static_cast<Eigen::Index>(zero.size()));
-    for (std::size_t i = 0; i < zero.size(); ++i) {
-        Sim::Configuration moved = zero;
-        moved.set(i, 1.0);
-        couplings.col(static_cast<Eigen::Index>(i)) = text.valuesOf(moved).data - still.data;
-    }
-    return couplings;
-}
-
 /// A robot, asked in one configuration after the other.
 class Comparison {
 public:
@@ -105,7 +74,7 @@ public:
         : _text(file),
           _model(file),
           _kinematics(_model),
-          _couplings(couplingsOf(_kinematics, _text)),
+          _couplings(couplingsOf(_kinematics, [this](Sim::Configuration const& each) { return _text.valuesOf(each); })),
           _poseSolver(_text.tree()),
           _jacobianSolver(_text.tree())
     {
@@ -121,19 +90,16 @@ public:
     {
         KDL::JntArray const values = _text.valuesOf(configuration);
         std::vector<Sim::Pose> const poses = _kinematics.linkPoses(configuration);
-        double const size = sizeOf(poses);
+        Allowed const allowed = {tolerance, sizeOf(poses)};
         KDL::Jacobian ofJoints(_text.tree().getNrOfJoints());
         for (std::size_t link = 1; link < poses.size(); ++link) {
             SCOPED_TRACE(_segments[link]);
             KDL::Frame pose;
             ASSERT_EQ(_poseSolver.JntToCart(values, pose, _segments[link]), 0);
-            EXPECT_LE(distance(poses[link], pose, size), tolerance);
+            allowed.expectPose(poses[link], pose);
             ASSERT_EQ(_jacobianSolver.JntToJac(values, ofJoints, _segments[link]), 0);
-            Matrix const expected = ofJoints.data * _couplings;
-            auto const entries = _kinematics.jacobian(configuration, *_model.links()[link]->frame());
-            Eigen::Map<Matrix const> const actual(entries.data(), 6, expected.cols());
-            EXPECT_LE((actual - expected).topRows(3).lpNorm<Eigen::Infinity>(), tolerance * size);
-            EXPECT_LE((actual - expected).bottomRows(3).lpNorm<Eigen::Infinity>(), tolerance * spin());
+            allowed.expectJacobian(_kinematics.jacobian(configuration, *_model.links()[link]->frame()),
+                                   ofJoints.data * _couplings);
         }
     }
 
@@ -156,9 +122,6 @@ public:
     }
 
 private:
-    /// How much faster than their variable joints turn at most.
-    double spin() const { return std::max(1.0, _couplings.lpNorm<Eigen::Infinity>()); }
-
     static void expectMass(Sim::MassProperties const& actual, KDL::RigidBodyInertia expected, double size)
     {
         double const mass = expected.getMass();
@@ -168,9 +131,7 @@ private:
         }
         KDL::Vector const com = expected.getCOG();
         KDL::RotationalInertia const inertia = expected.RefPoint(com).getRotationalInertia();
-        for (std::size_t i = 0; i < 3; ++i) {
-            EXPECT_NEAR(actual.centerOfMass[i], com(static_cast<int>(i)), tolerance * size);
-        }
+        Allowed{tolerance, size}.expectPoint(actual.centerOfMass, com);
         for (std::size_t i = 0; i < 9; ++i) {
             EXPECT_NEAR(actual.inertia[i], inertia.data[i], tolerance * size * size * mass);
         }
