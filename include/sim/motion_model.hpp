@@ -62,7 +62,7 @@ public:
     std::list<std::string> chainNames() const;
     /// In ascending order.
     std::list<std::string> wheelNames() const;
-    /// The joint (or root) that the chain hangs on; empty for an unknown chain.
+    /// The joint (or root) that the chain is attached to; empty for an unknown chain.
     std::string parentJointFromChain(std::string const& chain) const;
     /// The angle (rad, or m) of a joint or actuator in the posture "StandInit"; 0 when the description has no postures.
     bool startAngle(std::string const& name, float& angle) const;
@@ -71,9 +71,9 @@ public:
     /// @name Single fields
     /// @{
 
-    /// What the actuator hangs on, as the description states it.
+    /// What the actuator is attached to, as the description states it.
     bool parentJointFromActuator(std::string const& name, std::string& parent) const;
-    /// The joint that the wheel hangs on.
+    /// The joint that the wheel is attached to.
     bool parentJointFromWheel(std::string const& name, std::string& parent) const;
     bool maxTorqueFromWheel(std::string const& name, float& torque) const;  ///< N*m
     bool maxVelocityFromWheel(std::string const& name, float& velocity) const;  ///< rad/s
@@ -139,26 +139,27 @@ public:
     std::list<std::string> angleActuatorNames(std::string const& chain) const;
     /// Chain after chain.
     std::list<std::string> angleActuatorNames() const;
-    /// The chain's joints, then the actuators that hang on them, and on those.
+    /// The chain's joints, then the actuators that are attached to them, and on those.
     std::list<std::string> actuatorNames(std::string const& chain) const;
     /// Merged as jointNames().
     std::list<std::string> actuatorNames() const;
-    /// The actuators that hang on the chain's joints.
+    /// The actuators that are attached to the chain's joints.
     std::list<std::string> coupledActuatorNames(std::string const& chain) const;
     /// Chain after chain.
     std::list<std::string> coupledActuatorNames() const;
     /// The first chain, in the description's order, that lists the joint; empty when none does.
     std::string chainNameFromJoint(std::string const& joint);
-    /// What hangs on the joint (or root), in building order: per chain the next joint and the first sub-joints of the
-    /// joint's actuators, or the first joint of a chain that hangs on it; then the sub-joints after it.
+    /// What is attached to the joint (or root), in building order: per chain the next joint and the first sub-joints of
+    /// the joint's actuators, or the first joint of a chain that is attached to it; then the sub-joints after it.
     std::vector<std::string> followingJoints(std::string const& joint) const;
-    /// The first sub-joint of every group of every actuator that hangs on the joint.
+    /// The first sub-joint of every group of every actuator that is attached to the joint.
     std::vector<std::string> chainAnchorJoints(std::string const& joint) const;
     /// Appends the sub-joints that follow the sub-joint `name` in the groups that hold it.
     void followingJointsFromSubactuators(std::string const& name, std::vector<std::string>& out) const;
     /// Appends the sub-joints that the actuator moves.
     bool jointsFromActuator(std::string const& actuator, std::list<std::string>& joints) const;
-    /// The first actuator, by name, that hangs on the joint: writes its name, appends the sub-joints that it moves.
+    /// The first actuator, by name, that is attached to the joint: writes its name, appends the sub-joints that it
+    /// moves.
     bool coupledJointGroupFromParentJoint(std::string const& joint, std::string& actuator,
                                           std::vector<std::string>& joints) const;
     /// @}
