@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +12,8 @@
 #include "varo/math/position3d.hpp"
 #include "varo/math/transform.hpp"
 #include "varo/model/place.hpp"
+#include "varo/model/sensor_settings.hpp"
+#include "varo/model/shapes.hpp"
 
 /// The records of a robot description: what the file says of each element, converted to nothing.
 ///
@@ -17,7 +21,6 @@
 /// frame. Plain data: copy them freely; reading from several threads is safe.
 namespace Varo::Model {
 
-using Math::Position3D;
 using Math::Transform;
 
 /// Free texts by their names.
@@ -27,7 +30,13 @@ using Attributes = std::map<std::string, std::string>;
 enum MirrorKind : std::int32_t { noMirror = 0, plainMirror = 1, reflectedMirror = 2 };
 
 /// Values of JointConfig::jointType.
-enum JointType : std::int32_t { revolute = 0, prismatic = 1, fixed = 2 };
+enum JointType : std::int32_t { revolute = 0, prismatic = 1, fixed = 2, continuous = 3, planar = 4, floating = 5 };
+
+/// Whether joints of that type move; planar and floating ones are held at zero.
+constexpr bool isMoving(std::int32_t jointType)
+{
+    return jointType == revolute || jointType == prismatic || jointType == continuous;
+}
 
 /// Values of SensorConfig::type. The last three, like `unknownSensor`, are kinds that the object model has no class
 /// for.
@@ -62,6 +71,27 @@ inline constexpr ValueWord sensorTypeWords[] = {
     {"button", button}, {"unknown", unknownSensor},
 };
 
+/// That a joint follows another: its value is multiplier * the other's value + offset.
+struct MimicConfig {
+    std::string joint;  ///< the other
+    float multiplier = 1.0F;  ///< 1 when not stated
+    float offset = 0.0F;  ///< rad (m)
+};
+
+/// Bounds that a joint's controller keeps inside of its limits.
+struct SafetyConfig {
+    float lowerLimit = 0.0F;  ///< rad (m), where the controller begins to limit the position
+    float upperLimit = 0.0F;  ///< rad (m)
+    float positionGain = 0.0F;  ///< 1/s, from position to bounds of velocity
+    float velocityGain = 0.0F;  ///< N*m*s/rad (N*s/m), from velocity to bounds of effort
+};
+
+/// Positions at which a joint's reference switch changes.
+struct CalibrationConfig {
+    std::optional<float> rising;  ///< rad (m), on the way up
+    std::optional<float> falling;  ///< rad (m), on the way down
+};
+
 /// A joint together with the body (link) that it moves; the robot's root is one too, of which only name, mesh, mass
 /// and attributes mean something.
 struct JointConfig {
@@ -69,8 +99,8 @@ struct JointConfig {
     std::string meshName;  ///< mesh file, as the description states it
     float minAngle = 0.0F;  ///< rad (m for prismatic joints); minus infinity when unlimited
     float maxAngle = 0.0F;  ///< rad (m for prismatic joints); infinity when unlimited
-    float maxTorque = 0.0F;  ///< N*m (N for prismatic joints); 0 when not stated
-    float maxAngularSpeed = 0.0F;  ///< rad/s (m/s for prismatic joints)
+    float maxTorque = 0.0F;  ///< N*m (N for prismatic joints); 0 when not stated, infinity when unlimited
+    float maxAngularSpeed = 0.0F;  ///< rad/s (m/s for prismatic joints); as maxTorque
     float mass = 0.0F;  ///< kg, of the body
     std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< kg*m^2, 3x3 row by row, about the body's
                                                                      ///< centre of mass, in the axes of the link frame
@@ -82,9 +112,14 @@ struct JointConfig {
     std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
     std::string mirrorName;  ///< the symmetric joint, when mirrorKind is not noMirror
     std::int32_t jointType = revolute;  ///< a JointType
+    bool hasMotor = true;  ///< whether a motor of its own drives the joint
     float damping = 0.0F;  ///< N*m*s/rad (N*s/m)
     float friction = 0.0F;  ///< N*m (N), Coulomb friction of the joint
     Attributes attributes;  ///< free texts; "material" names the body's surface
+    BodyShapes shapes;  ///< of the body
+    std::shared_ptr<MimicConfig const> mimic;  ///< null for a joint that follows no other
+    std::shared_ptr<SafetyConfig const> safety;  ///< null when not stated
+    std::shared_ptr<CalibrationConfig const> calibration;  ///< null when not stated
     std::string linkName;  ///< what the text itself calls the link that models call after its joint; empty if nothing
     TextOffset textOffset = {};  ///< of the joint's element, or the root's
     TextOffset bodyOffset = {};  ///< of the element of the body, which is another one in URDF
@@ -113,6 +148,7 @@ struct SensorConfig {
     Transform placement;  ///< in the frame of the link that the parent joint moves (of the root link otherwise)
     Attributes attributes;  ///< free texts; what each kind reads of them stands at MotionModel's queries of devices
     std::vector<std::string> keys;  ///< device keys
+    std::shared_ptr<SensorSettings const> settings;  ///< null when the description states none
     TextOffset textOffset = {};  ///< of its element
 };
 
@@ -128,6 +164,7 @@ struct WheelConfig {
     std::string parentJoint;  ///< the joint that it is attached to
     Transform placement;  ///< in the frame of the parent joint
     Attributes attributes;  ///< as JointConfig::attributes
+    BodyShapes shapes;  ///< of its link
     TextOffset textOffset = {};  ///< of its element
 };
 
@@ -138,6 +175,7 @@ struct SubActuatorConfig {
     float offset = 0.0F;  ///< rad (m), the sub-joint's value when the actuator stands at 0
     float ratio = 0.0F;  ///< sub-joint angle per actuator angle
     Transform placement;  ///< in the frame of the element before it
+    BodyShapes shapes;  ///< of its link
     TextOffset textOffset = {};  ///< of its element
 };
 
@@ -164,6 +202,32 @@ struct PostureAngle {
 struct PostureConfig {
     std::string name;  ///< "StandInit" gives the start values of the actuators
     std::vector<PostureAngle> angles = {};  ///< each joint or actuator once
+    TextOffset textOffset = {};  ///< of its element
+};
+
+/// Where a transmission was stated.
+enum class TransmissionSource { transmission, ros2Control };
+
+/// Which actuator drives which joint, and how.
+struct TransmissionConfig {
+    std::string name;  ///< of the transmission, or of the control system that states the joint
+    std::string type;  ///< as stated
+    std::string joint;  ///< the joint that is driven
+    std::string actuator;  ///< what drives it; may be empty
+    float reduction = 1.0F;  ///< turns of the actuator for one of the joint
+    std::vector<std::string> interfaces;  ///< as stated, such as "position" or "EffortJointInterface"
+    TransmissionSource source = TransmissionSource::transmission;  ///< which element stated it
+    TextOffset textOffset = {};  ///< of its element
+};
+
+/// What an extension stands in.
+enum class ExtensionOwner { robot, link, joint, sensor };
+
+/// An element that a description has for other programs, kept as it stands in the text.
+struct ExtensionConfig {
+    ExtensionOwner owner = ExtensionOwner::robot;  ///< what kind of element it stands in
+    std::string ownerName;  ///< joint, sensor, or the joint that moves the link; empty for the robot
+    std::string text;  ///< the whole element, markup and all
     TextOffset textOffset = {};  ///< of its element
 };
 
