@@ -56,7 +56,7 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
             continue;
         }
         Transform inLink = branch.end;
-        std::string parent = branch.jointName;  // sub-joints are placed relative to the end of what they hang on
+        std::string parent = branch.jointName;  // sub-joints are placed relative to what they are attached to
         _motionModel->transformFromJointName(name, inLink, parent);
         open.push_back(openBranch(attachJoint(name, inLink, branch.link)));
     }

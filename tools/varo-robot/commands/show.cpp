@@ -31,7 +31,7 @@ struct Options {
     bool json = false;
 };
 
-/// An element that bears the name.
+/// An element that has the name.
 struct Sighting {
     std::string kind;
     std::string name;

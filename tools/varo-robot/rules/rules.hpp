@@ -25,7 +25,7 @@ Varo::Model::Findings apply(Varo::Model::Robot const& robot, Tolerances const& t
 /// Those of the rules that compare poses.
 Varo::Model::Findings applyToPoses(Sim::Model const& model, Tolerances const& tolerances);
 
-/// The codes that these findings bear.
+/// The codes that these findings have.
 std::vector<std::string> codes();
 
 }  // namespace Tool::Rules

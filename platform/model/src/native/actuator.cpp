@@ -71,7 +71,7 @@ constexpr Element<Group> groupElement{
 constexpr Attribute<ActuatorConfig> attributes[] = {
     named<&ActuatorConfig::name>("name", names::ofActuator, "what the actuator is called"),
     named<&ActuatorConfig::parentJoint>("parent", names::actuatorParent,
-                                        "the joint, or the actuator, that it hangs on"),
+                                        "the joint, or the actuator, that it is attached to"),
     required<&ActuatorConfig::minAngle, LowerLimit>("min", "rad", "smallest value, or `unlimited`"),
     required<&ActuatorConfig::maxAngle, UpperLimit>("max", "rad", "greatest value, or `unlimited`"),
     optional<&ActuatorConfig::maxAngularSpeed>("maxSpeed", "0", "rad/s", "greatest speed; 0 when not stated"),

@@ -41,7 +41,7 @@ constexpr WantedName oneOf(unsigned kinds, std::string_view unknown)
 
 namespace names {
 
-/// What bears a name: bits, for one name may be that of several things.
+/// What has a name: bits, for one name may be that of several things.
 enum NameKind : unsigned {
     joint = 1,
     subJoint = 2,
@@ -50,7 +50,7 @@ enum NameKind : unsigned {
     root = 16,
     rootLink = 32,
     inChain = 64,  ///< a joint or a mere name that a chain lists
-    hasAngle = 128,  ///< stands in a chain, or is an actuator that hangs on what does
+    hasAngle = 128,  ///< stands in a chain, or is an actuator that is attached to what does
     referable = 255,  ///< all kinds that names refer to
     chain = 256,
     sensor = 512,
@@ -104,19 +104,19 @@ inline constexpr NameRule angleOwner{
     unique(postureAngle, "Another angle of this posture is already that of %.", true),
     {hasAngle, {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain and no actuator on one."}}};
 
-/// Things that hang on each other must not do so in a circle.
+/// Things that are attached to each other must not be so in a cycle.
 struct Loop {
-    NameRule const* parent;  ///< the attribute that says what a thing hangs on
-    NameRule const* part;  ///< the attribute, of the thing or its children, by whose name others hang on it
+    NameRule const* parent;  ///< the attribute that says what a thing is attached to
+    NameRule const* part;  ///< the attribute, of the thing or its children, by whose name others are attached to it
     Complaint complaint;  ///< in which % is the thing
 };
 inline constexpr Loop loops[] = {
     {&actuatorParent,
      &ofActuator,
-     {&codes::actuatorLoop, "The parents of the actuator % lead back to it.", "Hang one of them on a joint."}},
+     {&codes::actuatorLoop, "The parents of the actuator % lead back to it.", "Attach one of them to a joint."}},
     {&chainParent,
      &chainJoint,
-     {&codes::chainLoop, "The parents of the chain % lead back to it, so that it does not hang on the root."}},
+     {&codes::chainLoop, "The parents of the chain % lead back to it, so that it is not attached to the root."}},
 };
 
 }  // namespace names

@@ -58,8 +58,9 @@ inline constexpr FindingCode jointInNoChain{"joint-in-no-chain", Severity::warni
                                             "A joint stands in no chain, so that no model will contain it."};
 inline constexpr FindingCode jointInTwoChains{"joint-in-two-chains", Severity::warning,
                                               "A joint stands in chains more than once."};
-inline constexpr FindingCode chainLoop{"chain-loop", Severity::warning,
-                                       "Chains hang on each other in a circle, so that none hangs on the root."};
+inline constexpr FindingCode chainLoop{
+    "chain-loop", Severity::warning,
+    "Chains are attached to each other in a cycle, so that none is attached to the root."};
 inline constexpr FindingCode angleOfUnknown{
     "angle-of-unknown", Severity::warning,
     "A posture gives an angle to what has none; as start posture it keeps a model from being built."};

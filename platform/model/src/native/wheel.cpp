@@ -8,7 +8,7 @@ namespace {
 
 constexpr Attribute<WheelConfig> attributes[] = {
     named<&WheelConfig::name>("name", names::ofWheel, "what the wheel is called"),
-    named<&WheelConfig::parentJoint>("parent", names::wheelParent, "the joint that the wheel hangs on"),
+    named<&WheelConfig::parentJoint>("parent", names::wheelParent, "the joint that the wheel is attached to"),
     optional<&WheelConfig::meshName>("mesh", "", "", "mesh file of the wheel"),
     required<&WheelConfig::maxTorque>("maxTorque", "N*m", "greatest torque of the wheel's motor"),
     required<&WheelConfig::maxVelocity>("maxVelocity", "rad/s", "greatest speed of the wheel"),
