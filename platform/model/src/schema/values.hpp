@@ -1,5 +1,5 @@
-#ifndef VARO_MODEL_NATIVE_VALUES_HPP
-#define VARO_MODEL_NATIVE_VALUES_HPP
+#ifndef VARO_MODEL_SCHEMA_VALUES_HPP
+#define VARO_MODEL_SCHEMA_VALUES_HPP
 
 #include <array>
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 /// The types of values that attributes and texts of the native dialect may have: for each its name, what it means, how
 /// it is read, and how it is written such that reading gives the same value, bit by bit. Neither knows of locales.
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 /// Names are shorter than this, in characters.
 constexpr std::size_t longestName = 1024;
@@ -137,6 +137,6 @@ struct TypeOf<std::vector<float>> : Matrix9 {};
 template <>
 struct TypeOf<std::array<float, 12>> : Matrix12 {};
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema
 
 #endif

@@ -1,16 +1,17 @@
-#ifndef VARO_MODEL_NATIVE_CHILDREN_HPP
-#define VARO_MODEL_NATIVE_CHILDREN_HPP
+#ifndef VARO_MODEL_SCHEMA_CHILDREN_HPP
+#define VARO_MODEL_SCHEMA_CHILDREN_HPP
 
 #include <type_traits>
 #include <utility>
 
-#include "native/element_reader.hpp"
-#include "native/element_writer.hpp"
-#include "native/schema.hpp"
+#include "schema/element_reader.hpp"
+#include "schema/element_writer.hpp"
+#include "schema/schema.hpp"
 #include "varo/model/table.hpp"
+#include "xml/node_offset.hpp"
 
 /// The usual ways in which children are read into the record of their parent, and written from there.
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 template <auto const& element>
 using RecordOfElement = typename std::decay_t<decltype(element)>::Record;
@@ -64,6 +65,6 @@ constexpr Child<Parent> childrenOf()
             }};
 }
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema
 
 #endif
