@@ -31,6 +31,7 @@ struct AttributeInfo {
     std::string_view defaultText;  ///< what leaving an optional attribute out amounts to
     bool (*isDefault)(std::string_view text);  ///< whether a new record holds the value of `text`
     NameRule const* names = nullptr;  ///< null when the value is no name
+    Complaint missing = {};  ///< about an element without the attribute, where the dialect has no words of its own
 };
 
 template <class Record>
@@ -45,7 +46,22 @@ struct Attribute : AttributeInfo {
         return copy;
     }
 
-    Store store;  ///< false, with the record unchanged, when the text has no value
+    constexpr Attribute orElse(Complaint const& complaint) const
+    {
+        Attribute copy = *this;
+        copy.missing = complaint;
+        return copy;
+    }
+
+    /// An older form of what the writer writes in another way.
+    constexpr Attribute onlyRead() const
+    {
+        Attribute copy = *this;
+        copy.print = [](Record const&) { return std::string(); };
+        return copy;
+    }
+
+    Store store;  ///< false when the text is not of the type; a tolerant type may take a part of it all the same
     Print print;
 };
 
@@ -167,7 +183,7 @@ constexpr Attribute<Record> memberRow(AttributeInfo const& info)
 template <auto member, class Type = DefaultType<member>, class Record = RecordOf<member>>
 constexpr Attribute<Record> required(std::string_view name, std::string_view unit, std::string_view meaning)
 {
-    return memberRow<member, Type, Record>({name, &Type::type, unit, meaning, true, {}, nullptr, nullptr});
+    return memberRow<member, Type, Record>({name, &Type::type, unit, meaning, true, {}, nullptr, nullptr, {}});
 }
 
 template <auto member, class Type = DefaultType<member>, class Record = RecordOf<member>>
@@ -178,7 +194,8 @@ constexpr Attribute<Record> optional(std::string_view name, std::string_view def
         Record record;
         return Type::parse(text, record.*member) && record.*member == Record().*member;
     };
-    return memberRow<member, Type, Record>({name, &Type::type, unit, meaning, false, defaultText, isDefault, nullptr});
+    return memberRow<member, Type, Record>(
+        {name, &Type::type, unit, meaning, false, defaultText, isDefault, nullptr, {}});
 }
 
 /// An attribute that is a name.
@@ -192,7 +209,7 @@ constexpr Attribute<Record> named(std::string_view name, NameRule const& rule, s
 template <class Type>
 constexpr Attribute<std::string> whole(std::string_view name, std::string_view meaning)
 {
-    return {{name, &Type::type, {}, meaning, true, {}, nullptr, nullptr},
+    return {{name, &Type::type, {}, meaning, true, {}, nullptr, nullptr, {}},
             [](std::string_view text, std::string& record) { return Type::parse(text, record); },
             [](std::string const& record) { return record; }};
 }

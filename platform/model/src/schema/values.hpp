@@ -2,6 +2,7 @@
 #define VARO_MODEL_SCHEMA_VALUES_HPP
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,6 +25,7 @@ struct ValueType {
     std::string_view name;  ///< in the documentation and the schema
     std::string_view meaning;  ///< completes the sentence "The value is not ..."
     Range<Word> words = {};  ///< all possible values, when they are words
+    std::size_t count = 0;  ///< how many numbers the value is, for dialects that take fewer or more
 };
 
 /// The text without the white space around it.
