@@ -6,7 +6,7 @@ namespace Varo::Model::Urdf {
 namespace {
 
 constexpr Attribute<Robot> attributes[] = {
-    optional<&Robot::name>("name", "robot", "", "name of the robot; one without a name is called `robot` (warning)"),
+    optional<&Robot::name>("name", "", "", "name of the robot; one without a name is called `robot` (warning)"),
     optional<&Robot::version>("version", "", "", "version of the description"),
 };
 constexpr Child<Robot> children[] = {
