@@ -88,7 +88,7 @@ std::string writeElementReference()
     std::ostringstream out;
     writeElement(out, robotDescriptionElement, std::string(robotDescriptionElement.name));
     out << "| type | a value is |\n| --- | --- |\n";
-    for (ValueType const* type : usedTypes()) {
+    for (ValueType const* type : usedTypes(robotDescriptionElement)) {
         out << "| " << type->name << " | " << type->meaning;
         for (Word const& word : type->words) {
             out << (&word == type->words.begin() ? ": " : ", ") << code(word.word);

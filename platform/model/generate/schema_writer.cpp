@@ -70,7 +70,7 @@ void writeTypes(Lines& out)
     writeList(out, "vector3", 3);
     writeList(out, "matrix9", 9);
     writeList(out, "matrix12", 12);
-    for (ValueType const* type : usedTypes()) {
+    for (ValueType const* type : usedTypes(robotDescriptionElement)) {
         if (type->words.size() > 0) {
             std::string facets;
             for (Word const& word : type->words) {
@@ -231,7 +231,7 @@ std::string writeSchema()
     out.line("<!-- Written by the program write_format from the tables of the reader; not to be edited. -->");
     out.open("xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"");
     writeTypes(out);
-    for (ElementInfo const* element : allElements()) {
+    for (ElementInfo const* element : allElements(robotDescriptionElement)) {
         if (holds(*element, Occurrence::once)) {
             writeGroup(out, *element);
         }

@@ -1,9 +1,9 @@
 #include <string>
 #include <utility>
 
-#include "native/children.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "schema/children.hpp"
 
 namespace Varo::Model::Native {
 

@@ -4,30 +4,12 @@
 #include <string_view>
 
 #include "native/native_codes.hpp"
+#include "schema/name_rule.hpp"
 
 /// All that is to be known of the names in a description: which attributes give names to what, and which refer to it.
 namespace Varo::Model::Native {
 
-/// What a name is from where it stands on, which it must not have been before.
-struct GivenName {
-    unsigned kinds = 0;
-    Complaint twice = {};
-    bool isLocal = false;  ///< whether only elements of one parent must not share it
-    bool isNumber = false;  ///< which may be written in several ways
-};
-
-/// What a name must be anywhere in the text.
-struct WantedName {
-    unsigned kinds = 0;  ///< one of them; 0 when all is right
-    Complaint unknown = {};  ///< without a hint, the name that was probably meant is suggested
-    bool blamesElement = false;  ///< whether that is reported at the element and not at the attribute
-};
-
-/// What it means that a name stands in an attribute.
-struct NameRule {
-    GivenName gives;
-    WantedName wants = {};
-};
+using namespace Schema;
 
 constexpr GivenName unique(unsigned kind, std::string_view twice, bool isLocal = false)
 {

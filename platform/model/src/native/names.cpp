@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "native/values.hpp"
+#include "schema/values.hpp"
 #include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
 

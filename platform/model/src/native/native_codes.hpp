@@ -1,18 +1,9 @@
 #ifndef VARO_MODEL_NATIVE_CODES_HPP
 #define VARO_MODEL_NATIVE_CODES_HPP
 
-#include <string_view>
-
 #include "finding_codes.hpp"
 
 namespace Varo::Model::Native {
-
-/// What a table finds fault with, and how it says so.
-struct Complaint {
-    FindingCode const* code = nullptr;  ///< null when nothing can be wrong
-    std::string_view message = {};  ///< in which % stands for the name that it is about
-    std::string_view hint = {};
-};
 
 /// The kinds of findings that only texts of the native dialect give.
 namespace codes {

@@ -1,5 +1,5 @@
-#include "native/children.hpp"
 #include "native/elements.hpp"
+#include "schema/children.hpp"
 
 namespace Varo::Model::Native {
 

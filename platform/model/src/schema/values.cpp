@@ -1,4 +1,4 @@
-#include "values.hpp"
+#include "schema/values.hpp"
 
 #include <charconv>
 #include <cmath>
@@ -9,7 +9,7 @@
 #include "xml/utf8.hpp"
 #include "xml/words.hpp"
 
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 namespace {
 
@@ -248,4 +248,4 @@ bool Matrix12::parse(std::string_view text, std::array<float, 12>& value)
     return true;
 }
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema

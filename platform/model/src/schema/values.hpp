@@ -1,7 +1,8 @@
-#ifndef VARO_MODEL_NATIVE_VALUES_HPP
-#define VARO_MODEL_NATIVE_VALUES_HPP
+#ifndef VARO_MODEL_SCHEMA_VALUES_HPP
+#define VARO_MODEL_SCHEMA_VALUES_HPP
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -12,7 +13,7 @@
 
 /// The types of values that attributes and texts of the native dialect may have: for each its name, what it means, how
 /// it is read, and how it is written such that reading gives the same value, bit by bit. Neither knows of locales.
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 /// Names are shorter than this, in characters.
 constexpr std::size_t longestName = 1024;
@@ -24,6 +25,7 @@ struct ValueType {
     std::string_view name;  ///< in the documentation and the schema
     std::string_view meaning;  ///< completes the sentence "The value is not ..."
     Range<Word> words = {};  ///< all possible values, when they are words
+    std::size_t count = 0;  ///< how many numbers the value is, for dialects that take fewer or more
 };
 
 /// The text without the white space around it.
@@ -137,6 +139,6 @@ struct TypeOf<std::vector<float>> : Matrix9 {};
 template <>
 struct TypeOf<std::array<float, 12>> : Matrix12 {};
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema
 
 #endif

@@ -1,16 +1,17 @@
-#ifndef VARO_MODEL_NATIVE_CHILDREN_HPP
-#define VARO_MODEL_NATIVE_CHILDREN_HPP
+#ifndef VARO_MODEL_SCHEMA_CHILDREN_HPP
+#define VARO_MODEL_SCHEMA_CHILDREN_HPP
 
 #include <type_traits>
 #include <utility>
 
-#include "native/element_reader.hpp"
-#include "native/element_writer.hpp"
-#include "native/schema.hpp"
+#include "schema/element_reader.hpp"
+#include "schema/element_writer.hpp"
+#include "schema/schema.hpp"
 #include "varo/model/table.hpp"
+#include "xml/node_offset.hpp"
 
 /// The usual ways in which children are read into the record of their parent, and written from there.
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 template <auto const& element>
 using RecordOfElement = typename std::decay_t<decltype(element)>::Record;
@@ -42,6 +43,39 @@ constexpr bool keepsItsPlace = false;
 template <class Record>
 constexpr bool keepsItsPlace<Record, std::void_t<decltype(Record::textOffset)>> = true;
 
+template <class Record, class = void>
+constexpr bool keepsItsNode = false;
+template <class Record>
+constexpr bool keepsItsNode<Record, std::void_t<decltype(Record::node)>> = true;
+
+/// Reads a record of its own.
+template <class Item>
+void readItem(ElementReader& reader, Element<Item> const& element, pugi::xml_node node, Item& item)
+{
+    reader.read(element, node, item);
+    if constexpr (keepsItsPlace<Item>) {
+        item.textOffset = at(node);
+    }
+    if constexpr (keepsItsNode<Item>) {
+        item.node = node;
+    }
+}
+
+/// A child that is a record of its own, in an optional member of the record of its parent.
+template <auto member, auto const& element, class Parent = RecordOf<member>>
+constexpr Child<Parent> childOf()
+{
+    return {{&element, Occurrence::optional},
+            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
+                readItem(reader, element, node, (parent.*member).emplace());
+            },
+            [](ElementWriter& writer, Parent const& parent) {
+                if (parent.*member) {
+                    writer.write(element, *(parent.*member));
+                }
+            }};
+}
+
 /// Children each of which is a record of its own, in a member of the record of their parent.
 template <auto member, auto const& element, class Parent = RecordOf<member>>
 constexpr Child<Parent> childrenOf()
@@ -50,10 +84,7 @@ constexpr Child<Parent> childrenOf()
     return {{&element, Occurrence::any},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
                 Item item;
-                reader.read(element, node, item);
-                if constexpr (keepsItsPlace<Item>) {
-                    item.textOffset = at(node);
-                }
+                readItem(reader, element, node, item);
                 add(parent.*member, std::move(item));
             },
             [](ElementWriter& writer, Parent const& parent) {
@@ -64,6 +95,6 @@ constexpr Child<Parent> childrenOf()
             }};
 }
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema
 
 #endif
