@@ -17,7 +17,8 @@ constexpr double unlimited = std::numeric_limits<double>::infinity();
 Motion motionOf(Varo::Model::JointConfig const& joint)
 {
     switch (joint.jointType) {
-    case Varo::Model::revolute: return Motion::turns;
+    case Varo::Model::revolute:
+    case Varo::Model::continuous: return Motion::turns;
     case Varo::Model::prismatic: return Motion::slides;
     default: return Motion::none;
     }

@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_NATIVE_CHILDREN_HPP
 #define VARO_MODEL_NATIVE_CHILDREN_HPP
 
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -25,6 +26,39 @@ constexpr Child<RecordOfElement<element>> inPlace()
             [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); }};
 }
 
+template <class Record, class = void>
+constexpr bool keepsItsPlace = false;
+template <class Record>
+constexpr bool keepsItsPlace<Record, std::void_t<decltype(Record::textOffset)>> = true;
+
+/// A record that is read from an element of its own.
+template <auto const& element>
+RecordOfElement<element> readRecord(ElementReader& reader, pugi::xml_node node)
+{
+    RecordOfElement<element> record;
+    reader.read(element, node, record);
+    if constexpr (keepsItsPlace<RecordOfElement<element>>) {
+        record.textOffset = at(node);
+    }
+    return record;
+}
+
+/// A child that is a record of its own, to which a member of the record of its parent points; null without it.
+template <auto member, auto const& element, class Parent = RecordOf<member>>
+constexpr Child<Parent> pointedTo()
+{
+    using Item = RecordOfElement<element>;
+    return {{&element, Occurrence::optional},
+            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
+                parent.*member = std::make_shared<Item const>(readRecord<element>(reader, node));
+            },
+            [](ElementWriter& writer, Parent const& parent) {
+                if (parent.*member != nullptr) {
+                    writer.write(element, *(parent.*member));
+                }
+            }};
+}
+
 template <class Item>
 void add(Table<Item>& items, Item&& item)
 {
@@ -37,11 +71,6 @@ void add(Items& items, Item&& item)
     items.insert(items.end(), std::move(item));
 }
 
-template <class Record, class = void>
-constexpr bool keepsItsPlace = false;
-template <class Record>
-constexpr bool keepsItsPlace<Record, std::void_t<decltype(Record::textOffset)>> = true;
-
 /// Children each of which is a record of its own, in a member of the record of their parent.
 template <auto member, auto const& element, class Parent = RecordOf<member>>
 constexpr Child<Parent> childrenOf()
@@ -49,12 +78,7 @@ constexpr Child<Parent> childrenOf()
     using Item = RecordOfElement<element>;
     return {{&element, Occurrence::any},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                Item item;
-                reader.read(element, node, item);
-                if constexpr (keepsItsPlace<Item>) {
-                    item.textOffset = at(node);
-                }
-                add(parent.*member, std::move(item));
+                add(parent.*member, readRecord<element>(reader, node));
             },
             [](ElementWriter& writer, Parent const& parent) {
                 for (auto const& each : parent.*member) {
