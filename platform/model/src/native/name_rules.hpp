@@ -70,6 +70,8 @@ inline constexpr NameRule chainParent{
 inline constexpr NameRule chainJoint{nameInChain, oneOf(joint, "The chain's joint, %, is not the name of a joint.")};
 inline constexpr NameRule jointMirror{{},
                                       oneOf(joint | subJoint, "The joint's mirror, %, is not the name of a joint.")};
+inline constexpr NameRule mimicLeader{
+    {}, oneOf(joint, "The mimic's joint, %, is not the name of a joint, so that the joint moves on its own.")};
 inline constexpr NameRule actuatorParent{
     {}, oneOf(joint | actuator, "The actuator's parent, %, is not the name of a joint or an actuator.")};
 inline constexpr NameRule actuatorMirror{{},

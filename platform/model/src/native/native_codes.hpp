@@ -27,6 +27,8 @@ inline constexpr FindingCode duplicateName{"duplicate-name", Severity::error,
                                            "Two elements of one kind have the same name."};
 inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning,
                                             "The smallest value is greater than the greatest."};
+inline constexpr FindingCode mirroredMesh{"mirrored-mesh", Severity::warning,
+                                          "A mesh has a negative scale, which mirrors it."};
 inline constexpr FindingCode missingMaterial{"missing-material", Severity::warning,
                                              "A wheel has no material; no model can be built of the robot."};
 
@@ -58,10 +60,11 @@ inline constexpr FindingCode angleOfUnknown{
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &unknownElement,    &unknownAttribute,  &missingElement,        &missingAttribute, &repeatedElement,
-    &unexpectedText,    &wrongValue,        &conflictingAttributes, &duplicateName,    &reversedLimits,
-    &missingMaterial,   &missingSensorText, &wrongSensorText,       &wrongKeyCount,    &actuatorLoop,
-    &danglingReference, &jointInNoChain,    &jointInTwoChains,      &chainLoop,        &angleOfUnknown,
+    &unknownElement, &unknownAttribute,  &missingElement,        &missingAttribute, &repeatedElement,
+    &unexpectedText, &wrongValue,        &conflictingAttributes, &duplicateName,    &reversedLimits,
+    &mirroredMesh,   &missingMaterial,   &missingSensorText,     &wrongSensorText,  &wrongKeyCount,
+    &actuatorLoop,   &danglingReference, &jointInNoChain,        &jointInTwoChains, &chainLoop,
+    &angleOfUnknown,
 };
 
 }  // namespace codes

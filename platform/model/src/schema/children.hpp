@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_SCHEMA_CHILDREN_HPP
 #define VARO_MODEL_SCHEMA_CHILDREN_HPP
 
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -26,18 +27,6 @@ constexpr Child<RecordOfElement<element>> inPlace()
             [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); }};
 }
 
-template <class Item>
-void add(Table<Item>& items, Item&& item)
-{
-    items.add(std::move(item));
-}
-
-template <class Items, class Item>
-void add(Items& items, Item&& item)
-{
-    items.insert(items.end(), std::move(item));
-}
-
 template <class Record, class = void>
 constexpr bool keepsItsPlace = false;
 template <class Record>
@@ -48,7 +37,7 @@ constexpr bool keepsItsNode = false;
 template <class Record>
 constexpr bool keepsItsNode<Record, std::void_t<decltype(Record::node)>> = true;
 
-/// Reads a record of its own.
+/// Reads a record from an element of its own.
 template <class Item>
 void readItem(ElementReader& reader, Element<Item> const& element, pugi::xml_node node, Item& item)
 {
@@ -61,13 +50,49 @@ void readItem(ElementReader& reader, Element<Item> const& element, pugi::xml_nod
     }
 }
 
+template <auto const& element>
+RecordOfElement<element> readRecord(ElementReader& reader, pugi::xml_node node)
+{
+    RecordOfElement<element> record;
+    readItem(reader, element, node, record);
+    return record;
+}
+
+/// A child that is a record of its own, to which a member of the record of its parent points; null without it.
+template <auto member, auto const& element, class Parent = RecordOf<member>>
+constexpr Child<Parent> pointedTo()
+{
+    using Item = RecordOfElement<element>;
+    return {{&element, Occurrence::optional},
+            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
+                parent.*member = std::make_shared<Item const>(readRecord<element>(reader, node));
+            },
+            [](ElementWriter& writer, Parent const& parent) {
+                if (parent.*member != nullptr) {
+                    writer.write(element, *(parent.*member));
+                }
+            }};
+}
+
+template <class Item>
+void add(Table<Item>& items, Item&& item)
+{
+    items.add(std::move(item));
+}
+
+template <class Items, class Item>
+void add(Items& items, Item&& item)
+{
+    items.insert(items.end(), std::move(item));
+}
+
 /// A child that is a record of its own, in an optional member of the record of its parent.
 template <auto member, auto const& element, class Parent = RecordOf<member>>
 constexpr Child<Parent> childOf()
 {
     return {{&element, Occurrence::optional},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                readItem(reader, element, node, (parent.*member).emplace());
+                parent.*member = readRecord<element>(reader, node);
             },
             [](ElementWriter& writer, Parent const& parent) {
                 if (parent.*member) {
@@ -83,9 +108,7 @@ constexpr Child<Parent> childrenOf()
     using Item = RecordOfElement<element>;
     return {{&element, Occurrence::any},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                Item item;
-                readItem(reader, element, node, item);
-                add(parent.*member, std::move(item));
+                add(parent.*member, readRecord<element>(reader, node));
             },
             [](ElementWriter& writer, Parent const& parent) {
                 for (auto const& each : parent.*member) {

@@ -29,7 +29,8 @@ struct AttributeInfo {
     std::string_view meaning;
     bool required;
     std::string_view defaultText;  ///< what leaving an optional attribute out amounts to
-    bool (*isDefault)(std::string_view text);  ///< whether a new record holds the value of `text`
+    bool (*isDefault)(std::string_view text);  ///< whether a new record holds the value of `text`; null when leaving
+                                               ///< the attribute out says something else than any text
     NameRule const* names = nullptr;  ///< null when the value is no name
     Complaint missing = {};  ///< about an element without the attribute, where the dialect has no words of its own
 };
@@ -196,6 +197,13 @@ constexpr Attribute<Record> optional(std::string_view name, std::string_view def
     };
     return memberRow<member, Type, Record>(
         {name, &Type::type, unit, meaning, false, defaultText, isDefault, nullptr, {}});
+}
+
+/// An optional attribute of which the record also holds whether it stands there.
+template <auto member, class Type = DefaultType<member>, class Record = RecordOf<member>>
+constexpr Attribute<Record> withoutDefault(std::string_view name, std::string_view unit, std::string_view meaning)
+{
+    return memberRow<member, Type, Record>({name, &Type::type, unit, meaning, false, {}, nullptr, nullptr, {}});
 }
 
 /// An attribute that is a name.

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,6 +64,12 @@ struct Line : Text {
     static bool parse(std::string_view text, std::string& value);
 };
 
+/// A text that says something, kept as it is.
+struct File : Text {
+    static constexpr ValueType type{"file", "the name of a file: a text of at least one character"};
+    static bool parse(std::string_view text, std::string& value);
+};
+
 struct Name : Text {
     static constexpr ValueType type{"name", "a name: a text of 1 to 1024 characters"};
     static bool parse(std::string_view text, std::string& value);
@@ -72,6 +79,19 @@ struct Number {
     static constexpr ValueType type{"number", "a finite decimal number, such as 0.5 or -2e-3"};
     static bool parse(std::string_view text, float& value) { return parseNumber(text, value); }
     static std::string print(float value) { return printNumber(value); }
+};
+
+/// The measure of a solid.
+struct Length : Number {
+    static constexpr ValueType type{"length", "a finite decimal number that is not negative"};
+    static bool parse(std::string_view text, float& value);
+};
+
+/// A number that need not be there.
+struct OptionalNumber {
+    static constexpr ValueType const& type = Number::type;
+    static bool parse(std::string_view text, std::optional<float>& value);
+    static std::string print(std::optional<float> value) { return value ? printNumber(*value) : std::string(); }
 };
 
 /// A number, or the word `unlimited` for the infinity on its side.
@@ -102,6 +122,20 @@ struct Vector3 {
     static std::string print(Position3D const& value);
 };
 
+/// The measures of a solid along its axes.
+struct Lengths3 : Vector3 {
+    static constexpr ValueType type{"lengths3",
+                                    "three finite decimal numbers, none negative, separated by white space"};
+    static bool parse(std::string_view text, Position3D& value);
+};
+
+struct Color {
+    static constexpr ValueType type{
+        "color", "four decimal numbers from 0 to 1 separated by white space: red, green, blue and opacity"};
+    static bool parse(std::string_view text, std::array<float, 4>& value);
+    static std::string print(std::array<float, 4> const& value) { return printNumbers(value.data(), value.size()); }
+};
+
 struct Matrix9 {
     static constexpr ValueType type{"matrix9", "nine finite decimal numbers separated by white space"};
     static bool parse(std::string_view text, std::vector<float>& value);
@@ -128,6 +162,8 @@ template <>
 struct TypeOf<std::string> : Text {};
 template <>
 struct TypeOf<float> : Number {};
+template <>
+struct TypeOf<std::optional<float>> : OptionalNumber {};
 template <>
 struct TypeOf<std::int32_t> : Integer {};
 template <>
