@@ -65,7 +65,7 @@ void checkNamesInText(Records const& records, Diagnostics& diagnostics)
 {
     NamedLinks suspects;  // by the name of the joint that models would call the link after
     for (auto const& [name, body] : linksNamedInText(records, diagnostics)) {
-        if (isLinkName(name)) {
+        if (isLinkName(name) && name != body->name) {  // what is named so itself is told of above
             suspects.emplace(name.substr(0, name.size() - suffix.size()), body);
         }
     }
