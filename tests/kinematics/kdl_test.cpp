@@ -126,6 +126,7 @@ KDL::Joint::JointType typeOf(std::string const& joint, Varo::Model::JointTable c
         return KDL::Joint::RotZ;
     }
     switch (record->second.jointType) {
+    case Varo::Model::continuous:
     case Varo::Model::revolute: return KDL::Joint::RotZ;
     case Varo::Model::prismatic: return KDL::Joint::TransZ;
     default: return KDL::Joint::None;

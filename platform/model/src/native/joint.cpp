@@ -1,3 +1,6 @@
+#include <memory>
+#include <utility>
+
 #include "native/body.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
@@ -97,11 +100,13 @@ constexpr Attribute<JointReading> jointAttributes[] = {
     numberRow<&JointConfig::damping>("damping", "N*m*s/rad (N*s/m)", "viscous damping; carried"),
     numberRow<&JointConfig::friction>("friction", "N*m (N)", "Coulomb friction; carried"),
     optional<&JointConfig::jointType, JointTypes, JointReading>("type", "revolute", "", "how the joint moves"),
-    optional<&JointConfig::hasMotor, Boolean, JointReading>("motor", "true", "",
-                                                            "whether a motor of its own drives the joint"),
+    optional<&JointConfig::hasMotor, Boolean, JointReading>(
+        "motor", "true", "",
+        "whether a motor of its own drives the joint; one without has no angle actuator and no place in postures"),
     optional<&JointReading::reflectionForced>("reflectionForced", "false", "",
                                               "whether a symmetric motion reflects the joint whatever its mirror says"),
 };
+
 constexpr Child<JointReading> jointChildren[] = {
     poseChild<&JointConfig::placement, jointPlacementElement, JointReading>(),
     poseChild<&JointConfig::endTransform, jointEndElement, JointReading>(),

@@ -32,7 +32,7 @@ enum NameKind : unsigned {
     root = 16,
     rootLink = 32,
     inChain = 64,  ///< a joint or a mere name that a chain lists
-    hasAngle = 128,  ///< stands in a chain, or is an actuator that is attached to what does
+    hasAngle = 128,  ///< stands in a chain and has a motor, or is an actuator that is attached to what stands in one
     referable = 255,  ///< all kinds that names refer to
     chain = 256,
     sensor = 512,
@@ -86,7 +86,8 @@ inline constexpr NameRule sensorParent{
           "it.")};
 inline constexpr NameRule angleOwner{
     unique(postureAngle, "Another angle of this posture is already that of %.", true),
-    {hasAngle, {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain and no actuator on one."}}};
+    {hasAngle,
+     {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain that has a motor, and no actuator on one."}}};
 
 /// Things that are attached to each other must not be so in a cycle.
 struct Loop {
