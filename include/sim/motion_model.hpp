@@ -46,6 +46,8 @@ public:
     Varo::Model::Robot const& robot() const { return *_robot; }
     /// Its records, which the motion model refers to rather than copies; valid as long as the motion model.
     Varo::Model::Records const& records() const { return *_records; }
+    /// The record of the joint of that name, null for any other name; valid as long as the motion model.
+    Varo::Model::JointConfig const* findJoint(std::string const& name) const;
 
     /// @name Identity
     /// @{
