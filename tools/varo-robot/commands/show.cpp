@@ -132,16 +132,25 @@ void Search::addSymmetries()
     }
 }
 
-/// One line for each fact; those of an object within stand among them.
-void printFacts(Json const& facts)
+void printFact(std::string const& key, Json const& value)
 {
     constexpr std::size_t width = 28;
+    std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << readable(value)
+              << '\n';
+}
+
+/// One line for each fact and each object of a list; the facts of an object within stand among the others.
+void printFacts(Json const& facts)
+{
     for (auto const& [key, value] : facts.items()) {
         if (value.is_object() && !value.empty()) {
             printFacts(value);
+        } else if (value.is_array() && !value.empty() && value[0].is_object()) {
+            for (Json const& entry : value) {
+                printFact(&entry == &value[0] ? key : "", entry);
+            }
         } else if (key != "name") {
-            std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << readable(value)
-                      << '\n';
+            printFact(key, value);
         }
     }
 }
