@@ -1,3 +1,4 @@
+#include <cmath>
 #include <map>
 
 #include <gmock/gmock.h>
@@ -168,6 +169,23 @@ TEST(Rover, DrivesItsFourWheels)
     EXPECT_EQ(lineOf(model.sensors()),
               "LeftRocker FrontLeftSteering RearLeftSteering RightRocker FrontRightSteering RearRightSteering MastLift "
               "MastTurn MastNod FrontBumper FrontSonar Inertial/Gyrometer MastCamera MastDepth");
+}
+
+TEST(Rover, StandsOnTheShapesOfItsWheels)
+{
+    Sim::Model const model(Tests::examplePath("rover"));
+    for (Sim::WheelVelocityActuator const* motor : model.wheelVelocityActuators()) {
+        Sim::Link const* const wheel = motor->controlledJoint()->childLink();
+        ASSERT_THAT(wheel->collisions(), SizeIs(1));
+        Sim::Collision const disc = wheel->collisions().front();
+        EXPECT_NEAR(std::abs(disc.pose(0, 2)), 1, 1e-6) << "its axis is that of the wheel";
+        float const height = (Sim::Frame::globalPosition(wheel->frame()) * disc.pose).position().z;
+        EXPECT_NEAR(height - disc.geometry.radius, -0.24, 1e-6);
+    }
+    std::vector<Sim::Visual> const chassis = model.rootLink()->visuals();
+    ASSERT_THAT(chassis, SizeIs(2));
+    EXPECT_EQ(chassis[0].geometry.uri, model.rootLink()->visual()->meshPath());
+    EXPECT_EQ(chassis[1].material->name, "black");
 }
 
 }  // namespace
