@@ -11,6 +11,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "actuators/coupled_actuator_impl.hpp"
+#include "core/body_record.hpp"
 #include "core/build_index.hpp"
 #include "core/build_report.hpp"
 #include "core/device_keys.hpp"
@@ -188,6 +189,7 @@ private:
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
     Branch openBranch(boost::shared_ptr<Joint> const& joint);
     void fetchWheel(std::string const& name);
+    BodyRecord bodyMovedBy(std::string const& jointName) const;
     boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
     boost::shared_ptr<MassData const> massOf(std::string const& name);
     boost::shared_ptr<MassData const> requiredMassOf(Subject subject, std::string const& name);

@@ -113,6 +113,7 @@ TEST(LinksAndJoints, KeepNothingAliveButMassAndVisual)
     EXPECT_TRUE(link.frame() == nullptr && link.parentJoint() == nullptr);
     EXPECT_NE(link.massData(), nullptr);
     EXPECT_EQ(link.visualData(), nullptr);
+    EXPECT_THAT(link.body().visuals(), IsEmpty());
 
     Sim::JointImpl joint({}, "J", boost::make_shared<Sim::Link>());
     EXPECT_TRUE(joint.parentLink() == nullptr && joint.childLink() == nullptr);
