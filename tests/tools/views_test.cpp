@@ -52,7 +52,7 @@ chains        LLeg: joints 1, on Pelvis
 TEST_F(Info, SummarisesWhatCouldNotBeCarriedOver)
 {
     std::string const info = run({"info", "-"}, R"(<robot name="r">
-  <link name="base"><collision/></link><link name="tip"><collision/></link>
+  <link name="base"><self_filter/></link><link name="tip"><self_filter/></link>
   <joint name="j" type="floating"><parent link="base"/><child link="tip"/></joint>
 </robot>)")
                                  .out;
