@@ -100,7 +100,8 @@ std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_no
     _diagnostics.report(at(node, attribute), codes::unknownAttribute,
                         std::string(element.name) + " has no attribute " + quoted(name) + ": it is passed over.",
                         didYouMean(row.name));
-    return node.attribute(row.name.data()) ? noRow : meant;
+    bool const isRefused = row.missing.code != nullptr && row.missing.code->severity == Severity::error;
+    return isRefused || node.attribute(row.name.data()) ? noRow : meant;
 }
 
 void UnknownNames::noteChild(ElementInfo const& element, pugi::xml_node child)

@@ -20,7 +20,8 @@ class UnknownNames {
 public:
     explicit UnknownNames(Diagnostics& diagnostics) : _diagnostics(diagnostics) {}
 
-    /// An attribute that the element does not define; answers the row that was meant and is missing, noRow for none.
+    /// An attribute that the element does not define; answers the row that was meant, if nothing more need be said of
+    /// its absence, and noRow otherwise.
     std::size_t noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute);
     /// A child that it does not define.
     void noteChild(ElementInfo const& element, pugi::xml_node child);
