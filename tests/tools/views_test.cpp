@@ -71,7 +71,7 @@ TEST_F(Info, TellsWhichJointsAreDriven)
 TEST_F(Info, SummarisesWhatCouldNotBeCarriedOver)
 {
     std::string const info = run({"info", "-"}, R"(<robot name="r">
-  <link name="base"><collision/></link><link name="tip"><collision/></link>
+  <link name="base"><self_filter/></link><link name="tip"><self_filter/></link>
   <joint name="j" type="floating"><parent link="base"/><child link="tip"/></joint>
 </robot>)")
                                  .out;

@@ -7,20 +7,21 @@ namespace Varo::Model::Schema {
 namespace {
 
 /// 0 for no row.
-std::uint32_t bitOf(std::size_t row)
+RowSet bitOf(std::size_t row)
 {
-    return row == noRow ? 0 : 1U << row;
+    return row == noRow ? 0 : RowSet{1} << row;
 }
 
 /// The row of that name, looked for from `start` on and then from the beginning: texts mostly keep the tables' order.
 template <class Info>
 std::size_t findRow(Infos<Info> const& rows, std::string_view name, std::size_t start)
 {
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        std::size_t const index = i + start < rows.size() ? i + start : i + start - rows.size();
+    std::size_t index = start < rows.size() ? start : 0;
+    for (std::size_t left = rows.size(); left > 0; --left) {
         if (nameOf(rows[index]) == name) {
             return index;
         }
+        index = index + 1 < rows.size() ? index + 1 : 0;
     }
     return noRow;
 }
@@ -43,28 +44,18 @@ std::string textOf(pugi::xml_node node)
 
 /// The row to read the attribute with; the second of two like-named ones is a fault of the text itself and found there.
 std::size_t ElementReader::findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
-                                         std::size_t start, Bits& seen)
+                                         std::size_t start, RowSet& seen)
 {
     std::size_t const index = findRow(element.attributes, attribute.name(), start);
     bool const isKnown = index != noRow;
-    Bits const bit = bitOf(isKnown ? index : onUnknownAttribute(element, node, attribute));
+    RowSet const bit = bitOf(isKnown ? index : onUnknownAttribute(element, node, attribute));
     bool const isFirst = (seen & bit) == 0;
     seen |= bit;
     return isKnown && isFirst ? index : noRow;
 }
 
-void ElementReader::noteValue(AttributeInfo const& row, bool isRight, pugi::xml_node node,
-                              pugi::xml_attribute attribute)
-{
-    if (!isRight) {
-        onWrongValue(row, node, attribute, attribute.value());
-    } else if (row.names != nullptr) {
-        onName(*row.names, attribute.value(), node, attribute);
-    }
-}
-
 /// The row to read the child with.
-std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node child, Bits& seen)
+std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node child, std::size_t start, RowSet& seen)
 {
     if (child.type() != pugi::node_element) {
         if (isText(child) && element.text == nullptr && !trimmed(child.value()).empty()) {
@@ -72,7 +63,7 @@ std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node 
         }
         return noRow;
     }
-    std::size_t const index = findRow(element.children, child.name(), 0);
+    std::size_t const index = findRow(element.children, child.name(), start);
     if (index == noRow) {
         seen |= bitOf(onUnknownChild(element, child));
         return noRow;
@@ -85,9 +76,9 @@ std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node 
     return isRepeated ? noRow : index;
 }
 
-void ElementReader::noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, Bits seen)
+void ElementReader::noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, RowSet seen)
 {
-    Bits bit = 1;
+    RowSet bit = 1;
     for (AttributeInfo const& attribute : element.attributes) {
         if ((seen & bit) == 0 && attribute.required) {
             onMissingAttribute(element, attribute, node);
@@ -98,9 +89,9 @@ void ElementReader::noteMissingAttributes(ElementInfo const& element, pugi::xml_
     }
 }
 
-void ElementReader::noteMissingChildren(ElementInfo const& element, pugi::xml_node node, Bits seen)
+void ElementReader::noteMissingChildren(ElementInfo const& element, pugi::xml_node node, RowSet seen)
 {
-    Bits bit = 1;
+    RowSet bit = 1;
     for (ChildInfo const& child : element.children) {
         if (child.occurrence == Occurrence::once && (seen & bit) == 0) {
             onMissingChild(element, child, node);

@@ -2,7 +2,6 @@
 #define VARO_MODEL_SCHEMA_ELEMENT_READER_HPP
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,8 +17,6 @@ namespace Varo::Model::Schema {
 constexpr std::size_t noRow = static_cast<std::size_t>(-1);
 
 /// Reads elements as their tables say. What to make of a text that the tables do not allow, each dialect decides.
-///
-/// A set of rows is a word of bits: no table has more than 32.
 class ElementReader {
 public:
     /// `robot` is what is read into in the end, for those children that need more than the record of their parent.
@@ -37,8 +34,6 @@ protected:
     ~ElementReader() = default;
 
 private:
-    using Bits = std::uint32_t;
-
     // The first two answer the row that was probably meant; noRow for none.
     virtual std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                            pugi::xml_attribute attribute) = 0;
@@ -55,12 +50,16 @@ private:
     virtual void onName(NameRule const& rule, std::string_view name, pugi::xml_node node,
                         pugi::xml_attribute attribute) = 0;
 
+    template <class Record>
+    void readAttributes(Element<Record> const& element, pugi::xml_node node, Record& record);
+    template <class Record>
+    void readChildren(Element<Record> const& element, pugi::xml_node node, Record& record);
+
     std::size_t findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
-                              std::size_t start, Bits& seen);
-    std::size_t findChild(ElementInfo const& element, pugi::xml_node child, Bits& seen);
-    void noteValue(AttributeInfo const& row, bool isRight, pugi::xml_node node, pugi::xml_attribute attribute);
-    void noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, Bits seen);
-    void noteMissingChildren(ElementInfo const& element, pugi::xml_node node, Bits seen);
+                              std::size_t start, RowSet& seen);
+    std::size_t findChild(ElementInfo const& element, pugi::xml_node child, std::size_t start, RowSet& seen);
+    void noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, RowSet seen);
+    void noteMissingChildren(ElementInfo const& element, pugi::xml_node node, RowSet seen);
     void reportBroken(Complaint const& complaint, pugi::xml_node node, char const* attribute);
 
     Diagnostics& _diagnostics;
@@ -73,27 +72,51 @@ std::string textOf(pugi::xml_node node);
 bool isText(pugi::xml_node node);
 
 template <class Record>
-void ElementReader::read(Element<Record> const& element, pugi::xml_node node, Record& record)
+void ElementReader::readAttributes(Element<Record> const& element, pugi::xml_node node, Record& record)
 {
-    Bits seen = 0;
+    RowSet seen = 0;
     std::size_t next = 0;
     for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
         std::size_t const index = findAttribute(element, node, attribute, next, seen);
-        if (index != noRow) {
-            next = index + 1;
-            Attribute<Record> const& row = element.attributeRows[index];
-            noteValue(row, row.store(attribute.value(), record), node, attribute);
+        if (index == noRow) {
+            continue;
+        }
+        next = index + 1;
+        Attribute<Record> const& row = element.attributeRows[index];
+        std::string_view const value = attribute.value();
+        if (!row.store(value, record)) {
+            onWrongValue(row, node, attribute, value);
+        } else if (row.names != nullptr) {
+            onName(*row.names, value, node, attribute);
         }
     }
-    noteMissingAttributes(element, node, seen);
-    seen = 0;
+    if ((element.notableAttributes & ~seen) != 0) {
+        noteMissingAttributes(element, node, seen);
+    }
+}
+
+template <class Record>
+void ElementReader::readChildren(Element<Record> const& element, pugi::xml_node node, Record& record)
+{
+    RowSet seen = 0;
+    std::size_t last = 0;
     for (auto child = node.first_child(); child; child = child.next_sibling()) {
-        std::size_t const index = findChild(element, child, seen);
+        std::size_t const index = findChild(element, child, last, seen);
         if (index != noRow) {
+            last = index;
             element.childRows[index].read(*this, child, record);
         }
     }
-    noteMissingChildren(element, node, seen);
+    if ((element.requiredChildren & ~seen) != 0) {
+        noteMissingChildren(element, node, seen);
+    }
+}
+
+template <class Record>
+void ElementReader::read(Element<Record> const& element, pugi::xml_node node, Record& record)
+{
+    readAttributes(element, node, record);
+    readChildren(element, node, record);
     if (element.textRow != nullptr) {
         std::string const text = textOf(node);
         if (!element.textRow->store(text, record)) {

@@ -2,6 +2,7 @@
 #define VARO_MODEL_SCHEMA_SCHEMA_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -125,12 +126,17 @@ private:
     std::size_t _step;
 };
 
+/// A set of rows of one table, none of which has more than 32.
+using RowSet = std::uint32_t;
+
 struct ElementInfo {
     std::string_view name;
     std::string_view meaning;
     Infos<AttributeInfo> attributes;
     Infos<ChildInfo> children;
     AttributeInfo const* text;  ///< null when the element holds no text
+    RowSet notableAttributes;  ///< whose absence says something: the required ones, and those that are names
+    RowSet requiredChildren;
 };
 
 constexpr std::string_view nameOf(AttributeInfo const& attribute)
@@ -142,6 +148,16 @@ constexpr std::string_view nameOf(ChildInfo const& child)
     return child.element->name;
 }
 
+template <class Row, class IsIn>
+constexpr RowSet rowsWhere(Range<Row> rows, IsIn isIn)
+{
+    RowSet set = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        set |= isIn(rows[i]) ? RowSet{1} << i : 0;
+    }
+    return set;
+}
+
 template <class R>
 struct Element : ElementInfo {
     using Record = R;
@@ -149,7 +165,14 @@ struct Element : ElementInfo {
     constexpr Element(std::string_view tag, std::string_view about, Range<Attribute<Record>> itsAttributes,
                       Range<Child<Record>> itsChildren = {}, Range<Rule<Record>> itsRules = {},
                       Attribute<Record> const* itsText = nullptr)
-        : ElementInfo{tag, about, Infos<AttributeInfo>(itsAttributes), Infos<ChildInfo>(itsChildren), itsText},
+        : ElementInfo{tag,
+                      about,
+                      Infos<AttributeInfo>(itsAttributes),
+                      Infos<ChildInfo>(itsChildren),
+                      itsText,
+                      rowsWhere(itsAttributes,
+                                [](AttributeInfo const& row) { return row.required || row.names != nullptr; }),
+                      rowsWhere(itsChildren, [](ChildInfo const& row) { return row.occurrence == Occurrence::once; })},
           attributeRows(itsAttributes),
           childRows(itsChildren),
           rules(itsRules),

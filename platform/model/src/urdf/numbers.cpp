@@ -53,6 +53,11 @@ bool parseWord(std::string_view word, double& value)
 
 bool parseNumber(std::string_view text, double& value)
 {
+    double number = 0.0;
+    if (!text.empty() && parseShortDecimal(text, number) == text.size()) {
+        value = number;
+        return true;
+    }
     std::string_view const word = takeWord(text);
     return parseWord(word, value) && takeWord(text).empty();
 }
@@ -70,16 +75,23 @@ bool isInBounds(double value)
 
 bool parseNumbers(std::string_view text, double* values, std::size_t count, std::size_t& found)
 {
-    found = 0;
-    for (std::string_view word = takeWord(text); !word.empty(); word = takeWord(text)) {
+    text.remove_prefix(endOf(text, 0, isXmlSpace));
+    for (found = 0; !text.empty(); ++found) {
         double value = 0.0;
-        if (!parseWord(word, value) || !isInBounds(value)) {
+        std::size_t length = parseShortDecimal(text, value);
+        if (length == 0 || (length < text.size() && !isXmlSpace(text[length]))) {
+            length = endOf(text, 0, isOfWord);
+            if (!parseWord(text.substr(0, length), value)) {
+                return false;
+            }
+        }
+        if (!isInBounds(value)) {
             return false;
         }
         if (found < count) {
             values[found] = value;
         }
-        ++found;
+        text.remove_prefix(endOf(text, length, isXmlSpace));
     }
     return true;
 }

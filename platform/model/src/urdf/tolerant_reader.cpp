@@ -60,16 +60,17 @@ void reportWrongNumbers(ValueType const& type, TextOffset place, std::string_vie
 
 }  // namespace
 
-std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& /*element*/, pugi::xml_node /*node*/,
-                                               pugi::xml_attribute /*attribute*/)
+std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
+                                               pugi::xml_attribute attribute)
 {
-    return noRow;
+    return _unknown.noteAttribute(element, node, attribute);
 }
 
 std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
 {
     if (&element != &robotElement || !isReadElsewhere(child.name())) {
         _report.passOver(child);
+        _unknown.noteChild(element, child);
     }
     return noRow;
 }

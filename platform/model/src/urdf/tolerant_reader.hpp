@@ -3,15 +3,17 @@
 
 #include "schema/element_reader.hpp"
 #include "urdf/elements.hpp"
+#include "urdf/unknown_names.hpp"
 
 namespace Varo::Model::Urdf {
-
-using namespace Schema;
 
 /// Takes what the tables of URDF allow, passes over what is for other programs, and says what it makes of the rest.
 class TolerantReader final : public Schema::ElementReader {
 public:
     TolerantReader(Report const& report, Records& robot) : ElementReader(report.diagnostics, robot), _report(report) {}
+
+    /// What is said of each kind of thing once. To be called when all is read.
+    void reportKinds() { _unknown.report(); }
 
 private:
     std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
@@ -28,6 +30,7 @@ private:
     {}
 
     Report const& _report;
+    UnknownNames _unknown{_report.diagnostics};
 };
 
 }  // namespace Varo::Model::Urdf

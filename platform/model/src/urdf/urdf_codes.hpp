@@ -20,6 +20,12 @@ inline constexpr FindingCode wrongCount{"wrong-count", Severity::warning,
                                         "A list of numbers is longer or shorter than it should be."};
 inline constexpr FindingCode surplusElement{"surplus-element", Severity::warning,
                                             "An element that may stand once stands again; the first one counts."};
+inline constexpr FindingCode unknownAttribute{
+    "unknown-attribute", Severity::warning, "An attribute is named nearly like one that URDF defines for its element."};
+inline constexpr FindingCode unknownElement{"unknown-element", Severity::warning,
+                                            "An element is named nearly like one that URDF defines where it stands."};
+inline constexpr FindingCode misplacedElement{"misplaced-element", Severity::warning,
+                                              "An element stands where URDF defines none of that name."};
 inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::warning,
                                          "A planar or floating joint is held in its zero position."};
 inline constexpr FindingCode missingLimit{"missing-limit", Severity::warning,
@@ -51,13 +57,20 @@ inline constexpr FindingCode sensorFrameLost{"sensor-frame-lost", Severity::warn
 inline constexpr FindingCode sensorSize{"sensor-size", Severity::warning,
                                         "A camera or scanner states no usable number of pixels or points."};
 
+inline constexpr FindingCode foreignAttribute{"foreign-attribute", Severity::note,
+                                              "Attributes that URDF does not define are passed over."};
+
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &missingName,     &nameTooLong,        &unknownJointType,         &zeroAxis,       &unnamedRobot,
-    &wrongCount,      &missingAttribute,   &surplusElement,           &jointFrozen,    &missingLimit,
-    &reversedLimits,  &incompleteInertial, &incompleteShape,          &negativeLength, &colorRange,
-    &unknownMaterial, &duplicateMaterial,  &unknownTransmissionJoint, &sensorLost,     &sensorKindLost,
-    &sensorFrameLost, &sensorSize,
+    &missingName,      &nameTooLong,       &unknownJointType,
+    &zeroAxis,         &unnamedRobot,      &wrongCount,
+    &missingAttribute, &surplusElement,    &unknownAttribute,
+    &unknownElement,   &misplacedElement,  &jointFrozen,
+    &missingLimit,     &reversedLimits,    &incompleteInertial,
+    &incompleteShape,  &negativeLength,    &colorRange,
+    &unknownMaterial,  &duplicateMaterial, &unknownTransmissionJoint,
+    &sensorLost,       &sensorKindLost,    &sensorFrameLost,
+    &sensorSize,       &foreignAttribute,
 };
 
 }  // namespace Varo::Model::Urdf::codes

@@ -84,7 +84,9 @@ void Reader::readElements()
 {
     reserve(_stated.links, _root, "link");
     reserve(_stated.joints, _root, "joint");
-    TolerantReader(_report, _robot).read(robotElement, _root, _stated);
+    TolerantReader reader(_report, _robot);
+    reader.read(robotElement, _root, _stated);
+    reader.reportKinds();
 }
 
 void Reader::fillTree()
