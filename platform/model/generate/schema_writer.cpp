@@ -60,12 +60,16 @@ void writeTypes(Lines& out)
 {
     std::string const number = "[+\\-]?([0-9]+(\\.[0-9]*)?|\\.[0-9]+)([eE][+\\-]?[0-9]+)?";
     writeRestriction(out, "text", "xs:string", "<xs:minLength value=\"0\"/>");
+    writeRestriction(out, "markup", "xs:string", "<xs:minLength value=\"1\"/>");
     writeRestriction(out, "line", "xs:token", "<xs:minLength value=\"1\"/>");
     writeRestriction(out, "name", "xs:string",
                      "<xs:minLength value=\"1\"/><xs:maxLength value=\"" + std::to_string(longestName) + "\"/>");
     writeRestriction(out, "number", "xs:token", "<xs:pattern value=\"" + number + "\"/>");
     writeRestriction(out, "limit", "xs:token", "<xs:pattern value=\"" + number + "|unlimited\"/>");
+    writeRestriction(out, "amount", "number", "<xs:pattern value=\"[^\\-].*|-0(\\.0*)?\"/>");
+    writeRestriction(out, "bound", "limit", "<xs:pattern value=\"[^\\-].*|-0(\\.0*)?\"/>");
     writeRestriction(out, "integer", "xs:int", "<xs:pattern value=\"[+\\-]?[0-9]+\"/>");
+    writeRestriction(out, "count", "integer", "<xs:minInclusive value=\"0\"/>");
     writeRestriction(out, "boolean", "xs:boolean", "<xs:pattern value=\"true|false|1|0\"/>");
     writeList(out, "vector3", 3);
     writeList(out, "matrix9", 9);

@@ -173,7 +173,7 @@ void ElementReader::reportMissingAttributes(ElementInfo const& element, pugi::xm
                                 std::string(element.name) + " lacks its attribute " + quoted(attribute.name) + ".",
                                 "Add it: " + std::string(attribute.meaning) + ".");
             loseName(attribute);
-        } else if ((seen & bit) == 0 && attribute.names != nullptr) {
+        } else if ((seen & bit) == 0 && attribute.names != nullptr && !attribute.defaultText.empty()) {
             _names.use(*attribute.names, attribute.defaultText, node, {});
         }
         bit <<= 1;

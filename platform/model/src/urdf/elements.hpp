@@ -9,7 +9,7 @@
 #include <pugixml.hpp>
 
 #include "robot/link_tree.hpp"
-#include "robot/unsupported.hpp"
+#include "urdf/extensions.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "xml/node_offset.hpp"
@@ -19,12 +19,11 @@ namespace Varo::Model::Urdf {
 /// What all readers of elements report to.
 struct Report {
     Diagnostics& diagnostics;
-    Unsupported& unsupported;
+    Extensions& extensions;
 
-    void passOver(pugi::xml_node element) const
-    {
-        unsupported.add(element.parent().name(), element.name(), at(element));
-    }
+    /// What nothing in the records is for is kept as it stands.
+    void passOver(pugi::xml_node element) const { extensions.add(element); }
+    void passOver(pugi::xml_node element, pugi::xml_attribute attribute) const { extensions.add(element, attribute); }
 };
 
 /// The element's name; empty, and reported, when it has none or one that is too long.

@@ -36,20 +36,28 @@ inline constexpr FindingCode meshOffsetLost{"mesh-offset-lost", Severity::warnin
                                             "The model shows the mesh at the link frame, not where its origin says."};
 inline constexpr FindingCode meshScaleLost{"mesh-scale-lost", Severity::warning, "The scale of a mesh is not kept."};
 inline constexpr FindingCode sensorLost{"sensor-lost", Severity::warning,
-                                        "A sensor is left out, because no link of the robot carries it."};
-inline constexpr FindingCode sensorKindLost{"sensor-kind-lost", Severity::warning,
-                                            "The model has no class for sensors of this kind."};
-inline constexpr FindingCode sensorFrameLost{"sensor-frame-lost", Severity::warning,
-                                             "The pose of a sensor is read in the frame of its link, not in another."};
-inline constexpr FindingCode sensorSize{"sensor-size", Severity::warning,
-                                        "A camera or scanner states no usable number of pixels or points."};
+                                        "A sensor is in no model, because no link of the robot carries it."};
+inline constexpr FindingCode sensorFrame{
+    "sensor-frame", Severity::warning,
+    "The pose of a sensor names another frame than that of its link, which it is taken to be in."};
+inline constexpr FindingCode sensorSize{
+    "sensor-size", Severity::warning,
+    "A camera or scanner states no usable number of pixels or points; the usual one is assumed."};
+inline constexpr FindingCode badSetting{"bad-setting", Severity::warning,
+                                        "A setting of a sensor is none that it can have."};
+inline constexpr FindingCode badReduction{"bad-reduction", Severity::warning,
+                                          "The reduction of a transmission is no number other than 0; 1 is assumed."};
+inline constexpr FindingCode unknownDrivenJoint{"unknown-driven-joint", Severity::warning,
+                                                "A transmission or control system drives a joint that does not exist."};
+inline constexpr FindingCode sensorKind{"sensor-kind", Severity::note,
+                                        "Sensors of a kind that models have no class for."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &missingName, &nameTooLong,        &unknownJointType, &zeroAxis,       &unnamedRobot,
-    &wrongCount,  &surplusElement,     &jointFrozen,      &missingLimit,   &reversedLimits,
-    &unlimited,   &incompleteInertial, &visualsLost,      &meshOffsetLost, &meshScaleLost,
-    &sensorLost,  &sensorKindLost,     &sensorFrameLost,  &sensorSize,
+    &missingName,    &nameTooLong,    &unknownJointType,   &zeroAxis,       &unnamedRobot, &wrongCount,
+    &surplusElement, &jointFrozen,    &missingLimit,       &reversedLimits, &unlimited,    &incompleteInertial,
+    &visualsLost,    &meshOffsetLost, &meshScaleLost,      &sensorLost,     &sensorFrame,  &sensorSize,
+    &badSetting,     &badReduction,   &unknownDrivenJoint, &sensorKind,
 };
 
 }  // namespace Varo::Model::Urdf::codes

@@ -1,5 +1,6 @@
 #include "urdf/urdf_reader.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <string_view>
@@ -8,8 +9,9 @@
 
 #include "robot/link_tree.hpp"
 #include "robot/tree_records.hpp"
-#include "robot/unsupported.hpp"
 #include "urdf/elements.hpp"
+#include "urdf/extensions.hpp"
+#include "urdf/ros2_control.hpp"
 #include "urdf/sensors.hpp"
 #include "xml/node_offset.hpp"
 
@@ -42,15 +44,17 @@ private:
     void readIdentity();
     void readBodies();
     void readSensors();
+    void readControls();
 
     pugi::xml_node _root;
     Diagnostics& _diagnostics;
-    Unsupported _unsupported;
-    Report _report = {_diagnostics, _unsupported};
+    Extensions _kept;
+    Report _report = {_diagnostics, _kept};
     LinkTree _tree;
     std::vector<pugi::xml_node> _links;  ///< one for one as in the tree
     std::vector<pugi::xml_node> _extensions;
     std::vector<pugi::xml_node> _sensors;
+    std::vector<pugi::xml_node> _controls;
     Records _robot;
 };
 
@@ -63,8 +67,9 @@ Records Reader::read()
     readIdentity();
     readBodies();
     readSensors();
-    _unsupported.report(_diagnostics);
+    readControls();
     if (!_diagnostics.hasErrors()) {
+        _kept.addRecords(_tree, *_diagnostics.source(), _robot);
         addRecords(std::move(_tree), _robot, _diagnostics);
     }
     return std::move(_robot);
@@ -86,6 +91,8 @@ void Reader::readElements()
             _extensions.push_back(child);
         } else if (name == "sensor") {
             _sensors.push_back(child);
+        } else if (name == "ros2_control") {
+            _controls.push_back(child);
         } else if (child.type() == pugi::node_element) {
             _report.passOver(child);
         }
@@ -97,9 +104,14 @@ void Reader::readIdentity()
     _robot.dialect = "urdf";
     _robot.statesActuators = false;
     _robot.statesPostures = false;
-    _robot.holdsAllStated = false;
     _robot.name = _root.attribute("name").value();
     _robot.version = _root.attribute("version").value();
+    for (pugi::xml_attribute const attribute : _root.attributes()) {
+        std::string_view const name = attribute.name();
+        if (name != "name" && name != "version") {
+            _report.passOver(_root, attribute);
+        }
+    }
     if (_robot.name.empty()) {
         _diagnostics.report(at(_root), codes::unnamedRobot, "This robot has no name; it is called \"robot\".");
         _robot.name = "robot";
@@ -122,6 +134,16 @@ void Reader::readSensors()
     for (pugi::xml_node extension : _extensions) {
         reader.readExtension(extension);
     }
+    reader.reportKindsWithoutClass();
+}
+
+void Reader::readControls()
+{
+    for (pugi::xml_node system : _controls) {
+        readRos2Control(system, _tree, _robot, _report);
+    }
+    std::stable_sort(_robot.transmissions.begin(), _robot.transmissions.end(),
+                     [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); });
 }
 
 }  // namespace
