@@ -36,6 +36,8 @@ TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
     std::string const docs = Tests::readFile(tree + "/docs/description-format.md");
     EXPECT_EQ(docs, Native::spliced(docs, "elements", Native::writeElementReference()));
     EXPECT_EQ(docs, Native::spliced(docs, "findings", Native::writeFindingReference()));
+    std::string const urdf = Tests::readFile(tree + "/docs/urdf.md");
+    EXPECT_EQ(urdf, Native::spliced(urdf, "sensor settings", Native::writeSensorSettingsReference()));
 }
 
 TEST(FormatDocuments, DeclaredDefaultsAreThoseOfTheRecords)

@@ -79,6 +79,7 @@ std::vector<Sighting> Search::run()
     addNamed("actuator", _model.actuators());
     addNamed("actuator group", _model.actuatorGroups());
     addNamed("sensor", _model.sensors());
+    addRecords("transmission");
     addRecords("posture");
     return std::move(_found);
 }
@@ -132,12 +133,25 @@ void Search::addSymmetries()
     }
 }
 
+/// One line for each part of the settings that is stated.
+void printSettings(Json const& settings)
+{
+    constexpr std::size_t width = 28;
+    for (auto const& [part, stated] : settings.items()) {
+        if (!stated.is_null() && !(stated.is_array() && stated.empty())) {
+            std::cout << "  " << part << std::string(width - part.size(), ' ') << readable(stated) << '\n';
+        }
+    }
+}
+
 /// One line for each fact; those of an object within stand among them.
 void printFacts(Json const& facts)
 {
     constexpr std::size_t width = 28;
     for (auto const& [key, value] : facts.items()) {
-        if (value.is_object() && !value.empty()) {
+        if (key == "settings" && value.is_object()) {
+            printSettings(value);
+        } else if (value.is_object() && !value.empty()) {
             printFacts(value);
         } else if (key != "name") {
             std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << readable(value)
@@ -232,12 +246,12 @@ std::function<int()> declare(CLI::App& app)
 
 Command const showCommand = {"show", "Show everything of a name",
                              R"(Prints all that the model knows under the name, whatever its kind: links, joints
-with their groups and symmetries, chains, groups, actuators, sensors and
-postures, one after the other when several have it. A link is found, too, by the
+with their groups and symmetries, chains, groups, actuators, sensors with their
+settings, transmissions and postures, one after the other when several have it. A link is found, too, by the
 name that a description in URDF gives it.
 
 With --json: an array of objects, each with its kind (link, joint, symmetry,
-chain, joint group, actuator, actuator group, sensor or posture) and then as
+chain, joint group, actuator, actuator group, sensor, transmission or posture) and then as
 `dump` and `list` print it.
 
 Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
