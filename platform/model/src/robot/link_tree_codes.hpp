@@ -34,9 +34,8 @@ inline constexpr FindingCode frozenMimic{"frozen-mimic", Severity::note,
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofLinkTrees[] = {
-    &notANumber,  &duplicateName, &noLink,     &severalRoots,  &unattachedJoint,
-    &unknownLink, &twoParents,    &jointCycle, &unknownLeader, &mimicCycle,
-    &mimicOffset, &frozenLeader,  &renamed,    &frozenMimic,
+    &notANumber, &duplicateName, &noLink,     &severalRoots, &unattachedJoint, &unknownLink, &twoParents,
+    &jointCycle, &unknownLeader, &mimicCycle, &mimicOffset,  &frozenLeader,    &renamed,     &frozenMimic,
 };
 
 }  // namespace Varo::Model::codes
