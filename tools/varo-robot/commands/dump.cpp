@@ -7,6 +7,7 @@
 #include "sim/link.hpp"
 #include "support/description.hpp"
 #include "support/element_json.hpp"
+#include "support/kinds.hpp"
 
 namespace Tool {
 
@@ -20,6 +21,40 @@ void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vect
     for (Element const* element : elements) {
         array.add(json.of(*element));
     }
+}
+
+/// What the model has no elements of, but its records do.
+void addRecords(JsonStream& dump, char const* key, std::vector<Json> const& records)
+{
+    dump.next(key);
+    JsonStream array(std::cout, '[', 2);
+    for (Json const& record : records) {
+        array.add(record);
+    }
+}
+
+char const* wordFor(Varo::Model::ExtensionOwner owner)
+{
+    switch (owner) {
+    case Varo::Model::ExtensionOwner::link: return "link";
+    case Varo::Model::ExtensionOwner::joint: return "joint";
+    case Varo::Model::ExtensionOwner::sensor: return "sensor";
+    case Varo::Model::ExtensionOwner::robot: break;
+    }
+    return "robot";
+}
+
+std::vector<Json> extensions(Sim::Model const& model)
+{
+    std::vector<Json> data;
+    auto const records = Varo::Model::recordsOf(model.robot());
+    for (Varo::Model::ExtensionConfig const& extension : records->extensions) {
+        data.push_back({{"owner", wordFor(extension.owner)},
+                        {"name", extension.ownerName},
+                        {"within", extension.within},
+                        {"text", extension.text}});
+    }
+    return data;
 }
 
 int dump(std::string const& file)
@@ -40,6 +75,8 @@ int dump(std::string const& file)
         addElements(dump, json, "actuators", model.actuators());
         addElements(dump, json, "actuatorGroups", model.actuatorGroups());
         addElements(dump, json, "sensors", model.sensors());
+        addRecords(dump, "transmissions", findKind("transmissions")->elements(model));
+        addRecords(dump, "extensions", extensions(model));
     }
     std::cout << '\n';
     return exitStatus::fine;
@@ -58,7 +95,12 @@ Command const dumpCommand = {"dump", "Print the whole model as JSON",
                              R"(Prints one JSON object with everything that the model holds: name, prettyName,
 version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
 actuators, actuatorGroups and sensors, each in the order in which loading made
-its elements.
+its elements, then transmissions and extensions (what the description has for
+other programs, as text) in the order of the description.
+
+A sensor's settings are null when the description states none: updateRate (Hz),
+camera (rad, pixels, m), horizontalScan and verticalScan (rad), range (m) and
+noises, in the unit of the values; null is what is not stated or unlimited.
 
 The visuals and collisions of a link each have a name, a pose and a geometry: its
 type (mesh, box, cylinder, sphere or capsule), the uri and scale of a mesh, the

@@ -271,7 +271,7 @@ void printForEyes(Sim::Model const& model, Findings const& findings)
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
     sheet.add("chains", chains(robot));
     addIfAny("postures", postures(robot));
-    sheet.add(recordsOf(robot)->holdsAllStated ? "findings" : "not carried", findingLines(findings));
+    sheet.add("findings", findingLines(findings));
 }
 
 void printForPrograms(Sim::Model const& model, Findings const& findings)
