@@ -115,7 +115,8 @@ private:
             return KDL::Joint::RotZ;
         }
         switch (record->second.jointType) {
-        case Varo::Model::revolute: return KDL::Joint::RotZ;
+        case Varo::Model::revolute:
+        case Varo::Model::continuous: return KDL::Joint::RotZ;
         case Varo::Model::prismatic: return KDL::Joint::TransZ;
         default: return KDL::Joint::None;
         }
