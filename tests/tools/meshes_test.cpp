@@ -71,6 +71,13 @@ TEST_F(Meshes, AreFoundInPackagesOfOptionsAndOfTheEnvironment)
         << "which came by standard input, so that the working folder counts";
 }
 
+TEST_F(Meshes, OfTheExampleRobotsInUrdfAreThere)
+{
+    for (std::string const& file : Tests::filesIn(VARO_SOURCE_DIR "/robots", ".urdf")) {
+        EXPECT_EQ(countsOf(run({"info", "--json", file})), Counts(1, 0)) << file;
+    }
+}
+
 TEST_F(Meshes, OptionsThatMeanNothingAreRefused)
 {
     for (std::vector<std::string> const& options : {std::vector<std::string>{"--meshes", "--package", "arm_meshes"},
