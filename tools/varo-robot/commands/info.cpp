@@ -14,6 +14,7 @@
 #include "support/finding_text.hpp"
 #include "support/joint_words.hpp"
 #include "support/kinds.hpp"
+#include "support/meshes.hpp"
 #include "support/numbers.hpp"
 #include "support/shape_json.hpp"
 #include "support/terminal.hpp"
@@ -192,6 +193,15 @@ std::vector<std::string> chains(Varo::Model::Robot const& robot)
     return lines;
 }
 
+/// "7, of them not found 2"; empty for none.
+std::string meshText(MeshCount const& count)
+{
+    std::size_t const total = count.found + count.notFound;
+    return total == 0 ? ""
+                      : std::to_string(total) +
+                            (count.notFound > 0 ? ", of them not found " + std::to_string(count.notFound) : "");
+}
+
 std::string postures(Varo::Model::Robot const& robot)
 {
     std::string text;
@@ -246,7 +256,7 @@ Json findingJson(Findings const& findings)
     return array;
 }
 
-void printForEyes(Sim::Model const& model, Findings const& findings)
+void printForEyes(Sim::Model const& model, Findings const& findings, MeshCount const& meshes)
 {
     Varo::Model::Robot const& robot = model.robot();
     Sheet sheet;
@@ -271,10 +281,11 @@ void printForEyes(Sim::Model const& model, Findings const& findings)
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
     sheet.add("chains", chains(robot));
     addIfAny("postures", postures(robot));
+    addIfAny("meshes", meshText(meshes));
     sheet.add("findings", findingLines(findings));
 }
 
-void printForPrograms(Sim::Model const& model, Findings const& findings)
+void printForPrograms(Sim::Model const& model, Findings const& findings, MeshCount const& meshes)
 {
     Varo::Model::Robot const& robot = model.robot();
     Json prettyNames = Json::object();
@@ -303,6 +314,7 @@ void printForPrograms(Sim::Model const& model, Findings const& findings)
         {"jointGroups", model.jointGroups().size()},
         {"chains", findKind("chains")->elements(model)},
         {"postures", postures},
+        {"meshes", {{"found", meshes.found}, {"notFound", meshes.notFound}}},
         {"findings", findingJson(findings)},
     };
     printJson(std::cout, data);
@@ -311,6 +323,7 @@ void printForPrograms(Sim::Model const& model, Findings const& findings)
 
 struct Options {
     std::string file;
+    Varo::Model::MeshFolders meshFolders;
     bool json = false;
 };
 
@@ -318,7 +331,8 @@ int info(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     Findings const findings = robot.model.findings();
-    options.json ? printForPrograms(robot.model, findings) : printForEyes(robot.model, findings);
+    MeshCount const meshes = countMeshes(robot.records(), besideFile(options.meshFolders, options.file));
+    options.json ? printForPrograms(robot.model, findings, meshes) : printForEyes(robot.model, findings, meshes);
     return exitStatus::fine;
 }
 
@@ -326,6 +340,7 @@ std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
+    declareMeshFolders(app, options->meshFolders);
     declareJson(app, options->json, "the same and the joints of the chains");
     return [options] { return info(*options); };
 }
@@ -337,8 +352,9 @@ Command const infoCommand = {"info", "Say on one screen what robot this is",
 links, joints, actuators and sensors of each kind it has (joints are actuated,
 coupled to others by an actuator, mimics of others, passive, or do not move), the
 sum of its masses, how many meshes, boxes, cylinders, spheres and capsules are
-shown of it and collided with, its chains, and what the reader had to remark, one
-line for each kind of
+shown of it and collided with, its chains, how many files of meshes it names and
+how many of them are not found (docs/meshes.md), and what the reader had to
+remark, one line for each kind of
 finding; of a URDF description that is what could not be carried over.
 `varo-robot check` lists the findings one by one.
 
