@@ -36,6 +36,8 @@ TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
     std::string const docs = Tests::readFile(tree + "/docs/description-format.md");
     EXPECT_EQ(docs, Native::spliced(docs, "elements", Native::writeElementReference()));
     EXPECT_EQ(docs, Native::spliced(docs, "findings", Native::writeFindingReference()));
+    std::string const checking = Tests::readFile(tree + "/docs/checking.md");
+    EXPECT_EQ(checking, Native::spliced(checking, "rules", Native::writeRuleReference()));
 }
 
 TEST(FormatDocuments, DeclaredDefaultsAreThoseOfTheRecords)

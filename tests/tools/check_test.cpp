@@ -1,3 +1,6 @@
+#include <set>
+#include <sstream>
+
 #include <nlohmann/json.hpp>
 
 #include "run_tool.hpp"
@@ -17,6 +20,23 @@ constexpr char doubtful[] = R"(<robotDescription name="A">
   <sensor name="S" parent="Nobody" type="bumper"/>
 </robotDescription>
 )";
+
+/// The codes of all rows "| `code` | severity | ...".
+void collectCodes(std::string const& page, std::set<std::string>& codes)
+{
+    std::istringstream lines(page);
+    std::string line;
+    while (std::getline(lines, line)) {
+        std::istringstream words(line);
+        std::string bar;
+        std::string code;
+        std::string severity;
+        words >> bar >> code >> bar >> severity;
+        if (severity == "error" || severity == "warning" || severity == "note") {
+            codes.insert(code.substr(1, code.size() - 2));
+        }
+    }
+}
 
 TEST_F(Check, ReportsFiveFaultsInOneRunEachInItsPlace)
 {
@@ -113,6 +133,44 @@ TEST_F(Check, PrintsFindingsAsData)
     EXPECT_EQ(findings[1]["code"], "unreadable-file");
     EXPECT_TRUE(findings[1]["line"].is_null());
     EXPECT_EQ(Json::parse(run({"check", "--json", "-"}, legs).out), Json::array());
+}
+
+TEST_F(Check, SwitchesRulesOff)
+{
+    std::string text = readFile(VARO_SOURCE_DIR "/robots/humanoid.xml");
+    std::string const mass = "mass value=\"";
+    text.insert(text.find(mass) + mass.size(), "-");
+    EXPECT_EQ(run({"check", "--strict", "-"}, text).status, 1);
+    EXPECT_EQ(run({"check", "--strict", "--no-rule", "negative-mass", "-"}, text).status, 0);
+    EXPECT_EQ(run({"check", "--strict", "--rule", "idle-actuator", "-"}, text).status, 0);
+    EXPECT_EQ(run({"check", "--rule", "unheard-of", "-"}, legs).status, 2);
+    EXPECT_EQ(run({"check", "--no-rule", "dangling-reference", "-"}, legs).status, 2);
+}
+
+TEST_F(Check, TakesNoToleranceButAPlainNumber)
+{
+    for (char const* const wrong : {"-1", "1x", "nan", "inf", ""}) {
+        EXPECT_EQ(run({"check", std::string("--tolerance-mass=") + wrong, "-"}, legs).status, 2) << wrong;
+    }
+}
+
+TEST_F(Check, KnowsTheCodesOfTheDocumentation)
+{
+    Outcome const refusal = run({"check", "--silence", "unheard-of", "-"}, legs);
+    EXPECT_EQ(refusal.status, 2);
+    std::istringstream lines(refusal.err);
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_EQ(line, "There are no findings with the code \"unheard-of\". The codes are:");
+    std::set<std::string> known;
+    while (lines >> line) {
+        known.insert(line);
+    }
+    std::set<std::string> documented;
+    for (char const* const page : {"checking", "description-format", "urdf"}) {
+        collectCodes(readFile(std::string(VARO_SOURCE_DIR "/docs/") + page + ".md"), documented);
+    }
+    EXPECT_EQ(documented, known);
 }
 
 TEST_F(Check, ExampleRobotsAreClean)

@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// What is written from the tables that the reader of the native dialect obeys.
+/// What is written from the tables that the reader of the native dialect and the rules obey.
 namespace Varo::Model::Native {
 
 /// The XML schema (XSD 1.0).
@@ -14,6 +14,9 @@ std::string writeElementReference();
 
 /// The part of the documentation that lists every code of a finding, in Markdown.
 std::string writeFindingReference();
+
+/// The part of the documentation that lists every rule, in Markdown.
+std::string writeRuleReference();
 
 }  // namespace Varo::Model::Native
 

@@ -5,6 +5,7 @@
 #include "native/elements.hpp"
 #include "native/native_codes.hpp"
 #include "value_types.hpp"
+#include "varo/model/lint.hpp"
 
 namespace Varo::Model::Native {
 
@@ -72,12 +73,18 @@ void writeElement(std::ostream& out, ElementInfo const& element, std::string con
     }
 }
 
-void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
+/// The first cells of a row.
+std::string cellsOf(FindingCode const& finding)
 {
     constexpr std::string_view severities[] = {"note", "warning", "error"};
+    return "| " + code(finding.name) + " | " + std::string(severities[static_cast<int>(finding.severity)]) + " | " +
+           std::string(finding.meaning) + " |";
+}
+
+void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
+{
     for (FindingCode const* finding : codes) {
-        out << "| " << code(finding->name) << " | " << severities[static_cast<int>(finding->severity)] << " | "
-            << finding->meaning << " |\n";
+        out << cellsOf(*finding) << '\n';
     }
 }
 
@@ -104,6 +111,16 @@ std::string writeFindingReference()
     out << "| code | severity | meaning |\n| --- | --- | --- |\n";
     writeCodes(out, Model::codes::ofTexts);
     writeCodes(out, codes::ofDialect);
+    return out.str();
+}
+
+std::string writeRuleReference()
+{
+    std::ostringstream out;
+    out << "| code | severity | meaning | looks at | tolerance |\n| --- | --- | --- | --- | --- |\n";
+    for (LintRule const& rule : lintRules()) {
+        out << cellsOf(rule.code) << ' ' << rule.subject << " | " << rule.tolerance << " |\n";
+    }
     return out.str();
 }
 

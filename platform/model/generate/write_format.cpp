@@ -6,6 +6,17 @@
 #include "format_writer.hpp"
 #include "spliced.hpp"
 
+namespace {
+
+void splice(std::string const& file, std::string const& name, std::string const& part)
+{
+    std::ifstream in(file);
+    std::string const text{std::istreambuf_iterator<char>(in), {}};
+    std::ofstream(file) << Varo::Model::Native::spliced(text, name, part);
+}
+
+}  // namespace
+
 /// Writes the schema and the generated parts of the documentation into the source tree given as argument.
 int main(int argc, char** argv)
 {
@@ -15,12 +26,9 @@ int main(int argc, char** argv)
         return 2;
     }
     std::string const tree = argv[1];
-    std::string const docs = tree + "/docs/description-format.md";
-    std::ifstream in(docs);
-    std::string text{std::istreambuf_iterator<char>(in), {}};
-    text = Native::spliced(text, "elements", Native::writeElementReference());
-    text = Native::spliced(text, "findings", Native::writeFindingReference());
-    std::ofstream(docs) << text;
+    splice(tree + "/docs/description-format.md", "elements", Native::writeElementReference());
+    splice(tree + "/docs/description-format.md", "findings", Native::writeFindingReference());
+    splice(tree + "/docs/checking.md", "rules", Native::writeRuleReference());
     std::ofstream(tree + "/schema/robot-description.xsd") << Native::writeSchema();
     return 0;
 }

@@ -9,11 +9,11 @@
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
-#include "rules/rules.hpp"
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
 #include "support/json.hpp"
 #include "support/numbers.hpp"
+#include "varo/model/lint.hpp"
 
 namespace Tool {
 
@@ -26,7 +26,7 @@ using Varo::Model::Severity;
 struct Options {
     std::vector<std::string> files;
     std::vector<std::string> silenced;
-    Rules::Tolerances tolerances;
+    Varo::Model::LintOptions lint;
     bool strict = false;
     bool json = false;
 };
@@ -37,16 +37,15 @@ void append(Findings& findings, Findings const& more)
 }
 
 /// What the text, the rules and the building of the model have to say.
-Findings findingsOf(Description description, Rules::Tolerances const& tolerances)
+Findings findingsOf(Description description, Varo::Model::LintOptions const& options)
 {
     if (description.reading.robot == nullptr) {
         return std::move(description.reading.findings);
     }
-    Findings findings = Rules::apply(*description.reading.robot, tolerances);
+    Findings findings = Varo::Model::lint(*description.reading.robot, options);
     try {
         Sim::Model const model(std::move(description.reading));
         append(findings, model.findings());
-        append(findings, Rules::applyToPoses(model, tolerances));
     } catch (Varo::Model::WithFindings const& reason) {
         append(findings, reason.findings());
     }
@@ -107,26 +106,37 @@ bool hasErrors(Findings const& findings)
                        [](Finding const& finding) { return finding.severity == Severity::error; });
 }
 
+std::set<std::string> ruleCodes()
+{
+    std::set<std::string> codes;
+    for (Varo::Model::LintRule const& rule : Varo::Model::lintRules()) {
+        codes.emplace(rule.code.name);
+    }
+    return codes;
+}
+
 /// The codes that can be silenced.
 std::set<std::string> knownCodes()
 {
     std::set<std::string> known = {codes::modelNotBuilt, codes::modelIncomplete, codes::sensorWithoutClass};
-    for (auto const& more : {Varo::Model::ModelUtils::findingCodes(), Rules::codes()}) {
-        known.insert(more.begin(), more.end());
+    for (std::string const& code : Varo::Model::ModelUtils::findingCodes()) {
+        known.insert(code);
+    }
+    for (std::string const& code : ruleCodes()) {
+        known.insert(code);
     }
     return known;
 }
 
 /// Whether all codes are known. Says which one is not, and those that are.
-bool areKnown(std::vector<std::string> const& codes)
+bool areKnown(std::vector<std::string> const& codes, std::set<std::string> const& known, char const* things)
 {
-    std::set<std::string> const known = knownCodes();
     auto const isUnknown = [&known](std::string const& code) { return known.count(code) == 0; };
     auto const unknown = std::find_if(codes.begin(), codes.end(), isUnknown);
     if (unknown == codes.end()) {
         return true;
     }
-    std::cerr << "There are no findings with the code \"" << *unknown << "\". The codes are:\n";
+    std::cerr << "There " << things << " with the code \"" << *unknown << "\". The codes are:\n";
     for (std::string const& code : known) {
         std::cerr << "  " << code << '\n';
     }
@@ -135,7 +145,9 @@ bool areKnown(std::vector<std::string> const& codes)
 
 int check(Options const& options)
 {
-    if (!areKnown(options.silenced)) {
+    if (!areKnown(options.silenced, knownCodes(), "are no findings") ||
+        !areKnown(options.lint.only, ruleCodes(), "is no rule") ||
+        !areKnown(options.lint.without, ruleCodes(), "is no rule")) {
         return exitStatus::wrongUsage;
     }
     bool bad = false;
@@ -143,7 +155,7 @@ int check(Options const& options)
     for (std::string const& file : options.files) {
         Description description = readDescription(file);
         std::string const name = description.file;
-        Findings findings = findingsOf(std::move(description), options.tolerances);
+        Findings findings = findingsOf(std::move(description), options.lint);
         obey(options, findings);
         bad = bad || hasErrors(findings);
         if (options.json) {
@@ -172,7 +184,7 @@ bool parseTolerance(std::string const& text, double& tolerance)
     return isTolerance;
 }
 
-void declareTolerances(CLI::App& app, Rules::Tolerances& tolerances)
+void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
 {
     struct Tolerance {
         char const* option;
@@ -198,16 +210,20 @@ void declareTolerances(CLI::App& app, Rules::Tolerances& tolerances)
     }
 }
 
+void declareCodes(CLI::App& app, char const* option, std::vector<std::string>& codes, char const* meaning)
+{
+    app.add_option(option, codes, meaning)->type_name("CODE")->allow_extra_args(false)->take_all();
+}
+
 std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
     app.add_option("FILE", options->files, "Descriptions to check; - reads standard input")->type_name("")->required();
     app.add_flag("--strict", options->strict, "Take warnings for errors");
-    app.add_option("--silence", options->silenced, "Leave out warnings and notes of this code; may be repeated")
-        ->type_name("CODE")
-        ->allow_extra_args(false)
-        ->take_all();
-    declareTolerances(app, options->tolerances);
+    declareCodes(app, "--silence", options->silenced, "Leave out warnings and notes of this code; may be repeated");
+    declareCodes(app, "--rule", options->lint.only, "Of the rules, apply only that of this code; may be repeated");
+    declareCodes(app, "--no-rule", options->lint.without, "Do not apply the rule of this code; may be repeated");
+    declareTolerances(app, options->lint.tolerances);
     app.add_flag("--json", options->json, "Print the findings on standard output, as a JSON array");
     return [options] { return check(*options); };
 }
@@ -238,6 +254,7 @@ The exit status is 1 when there is an error in any file, and 0 otherwise.
 Examples:
   varo-robot check --strict robots/*.xml
   varo-robot check --silence not-carried arm.urdf
+  varo-robot check --no-rule idle-actuator robots/*.xml
   varo-robot check --tolerance-com 0.001 --tolerance-inertia 0.05 walker.xml
   xmllint --noent robot.xml | varo-robot check -)",
                               declare};

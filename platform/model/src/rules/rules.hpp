@@ -1,0 +1,39 @@
+#ifndef VARO_MODEL_RULES_RULES_HPP
+#define VARO_MODEL_RULES_RULES_HPP
+
+#include "rules/facts.hpp"
+
+/// What the table of rules (lint.cpp) calls, one function for each, in the source of its family.
+namespace Varo::Model::Rules {
+
+// body_rules.cpp
+void findNegativeMass(Facts const& facts, Report const& report);
+void findInertiaNotSymmetric(Facts const& facts, Report const& report);
+void findInertiaNotPositive(Facts const& facts, Report const& report);
+void findInertiaNotPossible(Facts const& facts, Report const& report);
+
+// motion_rules.cpp
+void findSpeedNotPositive(Facts const& facts, Report const& report);
+void findStartOutsideLimits(Facts const& facts, Report const& report);
+void findPostureOutsideLimits(Facts const& facts, Report const& report);
+
+// mirror_rules.cpp
+void findMirrorNotMutual(Facts const& facts, Report const& report);
+void findMirrorKindsDiffer(Facts const& facts, Report const& report);
+void findLimitsNotMirrored(Facts const& facts, Report const& report);
+void findActuatorsNotPaired(Facts const& facts, Report const& report);
+
+// mirrored_body_rules.cpp
+void findMassNotMirrored(Facts const& facts, Report const& report);
+void findComNotMirrored(Facts const& facts, Report const& report);
+void findInertiaNotMirrored(Facts const& facts, Report const& report);
+
+// use_rules.cpp
+void findActuatorNotReached(Facts const& facts, Report const& report);
+void findIdleActuator(Facts const& facts, Report const& report);
+void findEmptyChain(Facts const& facts, Report const& report);
+void findUnknownMaterial(Facts const& facts, Report const& report);
+
+}  // namespace Varo::Model::Rules
+
+#endif
