@@ -32,8 +32,8 @@ Keys operator+(Keys left, Keys const& right)
 TEST_F(Dump, PrintsEveryNumberAndName)
 {
     Json const dump = Json::parse(run({"dump", "-"}, legs).out);
-    EXPECT_EQ(keysOf(dump), (Keys{"name", "prettyName", "version", "rootLink", "links", "joints", "jointSymmetries",
-                                  "jointGroups", "actuators", "actuatorGroups", "sensors"}));
+    EXPECT_EQ(keysOf(dump), (Keys{"formatVersion", "name", "prettyName", "version", "rootLink", "links", "joints",
+                                  "jointSymmetries", "jointGroups", "actuators", "actuatorGroups", "sensors"}));
     EXPECT_EQ(dump["name"], "Walker");
     EXPECT_EQ(dump["prettyName"], "The Walker");
     EXPECT_EQ(dump["version"], "2.1");
@@ -124,6 +124,15 @@ TEST_F(Dump, EveryKindOfElementHasItsMembers)
         }
     }
     EXPECT_EQ(seen.size(), actuators.size()) << "the example robots have actuators of every kind";
+}
+
+TEST_F(Dump, IsAsItsSchemaSays)
+{
+    std::string const schema = VARO_SOURCE_DIR "/schema/dump.schema.json";
+    for (auto const& entry : std::filesystem::directory_iterator(VARO_SOURCE_DIR "/robots")) {
+        expectValid(run({"dump", entry.path().string()}).out, schema);
+    }
+    EXPECT_NE(runCommand(VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/validate_json.py " + schema, "{}").status, 0);
 }
 
 }  // namespace

@@ -9,9 +9,8 @@
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
+#include "formats/formats.hpp"
 #include "support/description.hpp"
-#include "support/finding_text.hpp"
-#include "support/json.hpp"
 #include "support/numbers.hpp"
 #include "varo/model/lint.hpp"
 
@@ -27,8 +26,10 @@ struct Options {
     std::vector<std::string> files;
     std::vector<std::string> silenced;
     Varo::Model::LintOptions lint;
+    std::string format = "text";
     bool strict = false;
     bool json = false;
+    bool all = false;
 };
 
 void append(Findings& findings, Findings const& more)
@@ -69,35 +70,6 @@ void obey(Options const& options, Findings& findings)
             finding.severity = Severity::error;
         }
     }
-}
-
-Json toJson(std::string const& file, Finding const& finding)
-{
-    return {
-        {"file", file},
-        {"severity", nameOf(finding.severity)},
-        {"code", finding.code},
-        {"line", finding.line == 0 ? Json(nullptr) : Json(finding.line)},
-        {"column", finding.line == 0 ? Json(nullptr) : Json(finding.column)},
-        {"path", finding.path},
-        {"message", finding.message},
-        {"hint", finding.hint},
-    };
-}
-
-/// "2 errors, 1 warning", or "fine".
-std::string summary(Findings const& findings)
-{
-    std::string text;
-    for (Severity const severity : {Severity::error, Severity::warning, Severity::note}) {
-        auto const count = std::count_if(findings.begin(), findings.end(),
-                                         [&](Finding const& finding) { return finding.severity == severity; });
-        if (count > 0) {
-            text +=
-                (text.empty() ? "" : ", ") + std::to_string(count) + " " + nameOf(severity) + (count > 1 ? "s" : "");
-        }
-    }
-    return text.empty() ? "fine" : text;
 }
 
 bool hasErrors(Findings const& findings)
@@ -143,6 +115,21 @@ bool areKnown(std::vector<std::string> const& codes, std::set<std::string> const
     return false;
 }
 
+void print(Options const& options, std::vector<CheckedFile> const& files)
+{
+    if (options.json) {
+        printAsArray(files);
+    } else if (options.format == "json") {
+        printAsJson(files);
+    } else if (options.format == "sarif") {
+        printAsSarif(files);
+    } else if (options.format == "github") {
+        printAsGithub(files);
+    } else {
+        printAsText(files, options.all);
+    }
+}
+
 int check(Options const& options)
 {
     if (!areKnown(options.silenced, knownCodes(), "are no findings") ||
@@ -150,28 +137,17 @@ int check(Options const& options)
         !areKnown(options.lint.without, ruleCodes(), "is no rule")) {
         return exitStatus::wrongUsage;
     }
-    bool bad = false;
-    Json data = Json::array();
+    std::vector<CheckedFile> files;
     for (std::string const& file : options.files) {
         Description description = readDescription(file);
         std::string const name = description.file;
-        Findings findings = findingsOf(std::move(description), options.lint);
-        obey(options, findings);
-        bad = bad || hasErrors(findings);
-        if (options.json) {
-            for (Finding const& finding : findings) {
-                data.push_back(toJson(name, finding));
-            }
-        } else {
-            printFindings(std::cerr, name, findings);
-            std::cout << name << ": " << summary(findings) << std::endl;  // in step with the findings
-        }
+        files.push_back({name, findingsOf(std::move(description), options.lint)});
+        obey(options, files.back().findings);
     }
-    if (options.json) {
-        printJson(std::cout, data);
-        std::cout << '\n';
-    }
-    return bad ? exitStatus::bad : exitStatus::fine;
+    print(options, files);
+    bool const isBad =
+        std::any_of(files.begin(), files.end(), [](CheckedFile const& file) { return hasErrors(file.findings); });
+    return isBad ? exitStatus::bad : exitStatus::fine;
 }
 
 bool parseTolerance(std::string const& text, double& tolerance)
@@ -224,7 +200,12 @@ std::function<int()> declare(CLI::App& app)
     declareCodes(app, "--rule", options->lint.only, "Of the rules, apply only that of this code; may be repeated");
     declareCodes(app, "--no-rule", options->lint.without, "Do not apply the rule of this code; may be repeated");
     declareTolerances(app, options->lint.tolerances);
-    app.add_flag("--json", options->json, "Print the findings on standard output, as a JSON array");
+    app.add_flag("--all", options->all, "Print each finding, also where there are many of a kind");
+    auto* const format =
+        app.add_option("--format", options->format, "text, json, sarif (2.1.0) or github (annotations)")
+            ->type_name("FORMAT")
+            ->check(CLI::IsMember({"text", "json", "sarif", "github"}));
+    app.add_flag("--json", options->json, "Print the findings on standard output, as a JSON array")->excludes(format);
     return [options] { return check(*options); };
 }
 
@@ -233,10 +214,13 @@ std::function<int()> declare(CLI::App& app)
 Command const checkCommand = {"check", "Report everything that is wrong or doubtful",
                               R"(Reads each description and, if it is free of errors, builds its model and
 applies the rules to what it says. All findings of that are reported in one
-run, a line each on standard error:
+run on standard error, errors first:
 
   FILE:LINE:COLUMN: error|warning|note: what is wrong [code]
       what to do about it
+
+Of kinds that occur more than three times in a file the first is printed, with
+the places of the others, unless --all are wanted.
 
 Errors refuse the description, warnings are about what loads but is hardly
 meant, and notes say what the reader passed over. What came up while the model
@@ -245,15 +229,19 @@ no line. The rules warn of bodies and motors that cannot be, of mirror pairs
 that do not mirror, and of what has no effect; docs/checking.md lists them with
 their codes and tolerances.
 
-Standard output gets a summary of each file or, with --json, an array of all
-findings, each an object with file, severity, code, line, column, path, message
-and hint.
+Standard output gets a summary of each file or, for programs, all findings:
+with --format json an object of formatVersion and findings, each of those an
+object with file, severity, code, line, column, path, message and hint; with
+--json the array of findings alone; with --format sarif a log of SARIF 2.1.0;
+with --format github annotations for its workflows. Schemas of the JSON that
+check and dump print are installed in share/varorobotmodel/schema.
 
 The exit status is 1 when there is an error in any file, and 0 otherwise.
 
 Examples:
   varo-robot check --strict robots/*.xml
   varo-robot check --silence not-carried arm.urdf
+  varo-robot check --format sarif arm.urdf > arm.sarif
   varo-robot check --no-rule idle-actuator robots/*.xml
   varo-robot check --tolerance-com 0.001 --tolerance-inertia 0.05 walker.xml
   xmllint --noent robot.xml | varo-robot check -)",

@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
+#include "formats/formats.hpp"
 #include "sim/link.hpp"
 #include "support/description.hpp"
 #include "support/element_json.hpp"
@@ -29,6 +30,7 @@ int dump(std::string const& file)
     ElementJson json;
     {
         JsonStream dump(std::cout, '{');
+        dump.add("formatVersion", formatVersion);
         dump.add("name", model.name());
         dump.add("prettyName", model.prettyName(0));
         dump.add("version", robot.records().version());
@@ -55,8 +57,8 @@ std::function<int()> declare(CLI::App& app)
 }  // namespace
 
 Command const dumpCommand = {"dump", "Print the whole model as JSON",
-                             R"(Prints one JSON object with everything that the model holds: name, prettyName,
-version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
+                             R"(Prints one JSON object with everything that the model holds: formatVersion, name,
+prettyName, version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
 actuators, actuatorGroups and sensors, each in the order in which loading made
 its elements.
 
