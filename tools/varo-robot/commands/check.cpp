@@ -25,6 +25,7 @@ using Varo::Model::Severity;
 struct Options {
     std::vector<std::string> files;
     std::vector<std::string> silenced;
+    Varo::Model::ModelUtils::ReadOptions reading;
     Varo::Model::LintOptions lint;
     std::string format = "text";
     bool strict = false;
@@ -139,7 +140,7 @@ int check(Options const& options)
     }
     std::vector<CheckedFile> files;
     for (std::string const& file : options.files) {
-        Description description = readDescription(file);
+        Description description = readDescription(file, options.reading);
         std::string const name = description.file;
         files.push_back({name, findingsOf(std::move(description), options.lint)});
         obey(options, files.back().findings);
@@ -197,6 +198,7 @@ std::function<int()> declare(CLI::App& app)
     app.add_option("FILE", options->files, "Descriptions to check; - reads standard input")->type_name("")->required();
     app.add_flag("--strict", options->strict, "Take warnings for errors");
     declareCodes(app, "--silence", options->silenced, "Leave out warnings and notes of this code; may be repeated");
+    declareReading(app, options->reading);
     declareCodes(app, "--rule", options->lint.only, "Of the rules, apply only that of this code; may be repeated");
     declareCodes(app, "--no-rule", options->lint.without, "Do not apply the rule of this code; may be repeated");
     declareTolerances(app, options->lint.tolerances);

@@ -13,6 +13,11 @@ namespace Tool {
 
 namespace {
 
+struct Options {
+    std::string file;
+    Varo::Model::ModelUtils::ReadOptions reading;
+};
+
 template <class Element>
 void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vector<Element const*> const& elements)
 {
@@ -23,9 +28,9 @@ void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vect
     }
 }
 
-int dump(std::string const& file)
+int dump(Options const& options)
 {
-    Robot const robot = loadRobot(file);
+    Robot const robot = loadRobot(options.file, options.reading);
     Sim::Model const& model = robot.model;
     ElementJson json;
     {
@@ -49,9 +54,10 @@ int dump(std::string const& file)
 
 std::function<int()> declare(CLI::App& app)
 {
-    auto const file = std::make_shared<std::string>();
-    declareFile(app, *file);
-    return [file] { return dump(*file); };
+    auto const options = std::make_shared<Options>();
+    declareFile(app, options->file);
+    declareReading(app, options->reading);
+    return [options] { return dump(*options); };
 }
 
 }  // namespace

@@ -3,9 +3,11 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "robot/mirror_pairs.hpp"
 #include "robot/zero_poses.hpp"
 #include "rules/mirrors.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -14,6 +16,22 @@
 #include "varo/model/robot.hpp"
 
 namespace Varo::Model::Rules {
+
+/// Two joints of the two sides, in the order of the text, whether the text says so or their names and places do.
+struct JointPair {
+    JointConfig const& first;
+    JointConfig const& second;
+    SidePair const& side;
+
+    /// A MirrorKind; none when it cannot be told.
+    std::int32_t kind() const
+    {
+        if (side.isStated) {
+            return first.mirrorKind == second.mirrorKind ? first.mirrorKind : noMirror;
+        }
+        return side.kind;
+    }
+};
 
 /// What all rules judge by; worked out once for each robot.
 struct Facts {
@@ -28,7 +46,9 @@ struct Facts {
     std::shared_ptr<Records const> records;
     LintTolerances tolerances;
     std::vector<PlacedJoint> places;  ///< of the joints, one for one
-    std::vector<Pair<JointConfig>> jointPairs;
+    Sides sides;
+    std::vector<JointPair> jointPairs;  ///< one for one with those of the sides
+    std::unordered_map<std::string, std::vector<std::size_t>> pairsOfKind;  ///< by the names without sides
     std::vector<Pair<ActuatorConfig>> actuatorPairs;
 };
 
@@ -44,6 +64,17 @@ public:
     void at(Config const& record, Part part, std::string message, std::string hint = {}) const
     {
         _diagnostics.report(statement(record, part).offset, _code, std::move(message), std::move(hint));
+    }
+
+    /// At the same part of one of two records, with the line of the other.
+    template <class Config>
+    void ofTwo(Config const& blamed, Config const& other, Part part, std::string message, std::string hint = {}) const
+    {
+        int const line = _robot.place(other, part).line;
+        if (line != 0) {
+            hint += (hint.empty() ? "" : " ") + quoted(other.name) + " says it in line " + std::to_string(line) + ".";
+        }
+        at(blamed, part, std::move(message), std::move(hint));
     }
 
     /// What the text has there.

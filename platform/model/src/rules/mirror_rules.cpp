@@ -58,31 +58,42 @@ bool agree(float a, float b, double tolerance)
 }
 
 template <class Driven>
-void checkLimits(Report const& report, Driven const& first, Driven const& second, double tolerance)
+bool areReversed(Driven const& first, Driven const& second)
 {
-    bool const isReversed = first.minAngle > first.maxAngle || second.minAngle > second.maxAngle;
-    if (isReversed || first.mirrorKind != second.mirrorKind) {
-        return;  // told already
-    }
-    bool const isReflected = first.mirrorKind == reflectedMirror;
-    bool const minAgrees = agree(second.minAngle, isReflected ? -first.maxAngle : first.minAngle, tolerance);
-    bool const maxAgrees = agree(second.maxAngle, isReflected ? -first.minAngle : first.maxAngle, tolerance);
-    if (!minAgrees || !maxAgrees) {
-        report.at(second, minAgrees ? Part::maximum : Part::minimum,
-                  "The limits of " + namesOf(first, second) + ", " + rangeText(first.minAngle, first.maxAngle) +
-                      " and " + rangeText(second.minAngle, second.maxAngle) +
-                      (isReflected ? ", are not each other's opposites." : ", do not agree."),
-                  isReflected ? "A reflected pair has opposite limits."
-                              : "A pair that is not reflected has the same limits.");
-    }
+    return first.minAngle > first.maxAngle || second.minAngle > second.maxAngle;  // told already
+}
+
+/// Which limits of the second are not what those of the first make them.
+struct LimitMisses {
+    bool minimum;
+    bool maximum;
+
+    bool any() const { return minimum || maximum; }
+};
+
+template <class Driven>
+LimitMisses limitMisses(Driven const& first, Driven const& second, bool isReflected, double tolerance)
+{
+    return {!agree(second.minAngle, isReflected ? -first.maxAngle : first.minAngle, tolerance),
+            !agree(second.maxAngle, isReflected ? -first.minAngle : first.maxAngle, tolerance)};
 }
 
 template <class Driven>
-void findLimits(Facts const& facts, Report const& report, std::vector<Pair<Driven>> const& pairs)
+void reportLimits(Report const& report, Driven const& first, Driven const& second, bool isReflected,
+                  LimitMisses const& misses)
 {
-    for (auto const& [first, second] : pairs) {
-        checkLimits(report, first, second, facts.tolerances.limit);
-    }
+    report.ofTwo(
+        second, first, misses.minimum ? Part::minimum : Part::maximum,
+        "The limits of " + namesOf(first, second) + ", " + rangeText(first.minAngle, first.maxAngle) + " and " +
+            rangeText(second.minAngle, second.maxAngle) +
+            (isReflected ? ", are not each other's opposites." : ", do not agree."),
+        isReflected ? "A reflected pair has opposite limits." : "A pair that is not reflected has the same limits.");
+}
+
+bool haveLimits(JointPair const& pair)
+{
+    return pair.side.isLimb && pair.side.isSure && pair.side.isOfOneType && pair.kind() != noMirror &&
+           isMoving(pair.first.jointType) && !areReversed(pair.first, pair.second);
 }
 
 }  // namespace
@@ -95,14 +106,35 @@ void findMirrorNotMutual(Facts const& facts, Report const& report)
 
 void findMirrorKindsDiffer(Facts const& facts, Report const& report)
 {
-    findKindsDiffer(report, facts.jointPairs);
+    findKindsDiffer(report, mutualPairs(facts.records->joints));
     findKindsDiffer(report, facts.actuatorPairs);
 }
 
 void findLimitsNotMirrored(Facts const& facts, Report const& report)
 {
-    findLimits(facts, report, facts.jointPairs);
-    findLimits(facts, report, facts.actuatorPairs);
+    bool const areCopies = areSidesCopies(facts);
+    for (JointPair const& pair : facts.jointPairs) {
+        if (!haveLimits(pair)) {
+            continue;
+        }
+        bool const isReflected = pair.kind() == reflectedMirror;
+        LimitMisses const misses = limitMisses(pair.first, pair.second, isReflected, facts.tolerances.limit);
+        bool const isCopy = pair.first.endTransform.isNear(pair.second.endTransform) &&
+                            !limitMisses(pair.first, pair.second, false, facts.tolerances.limit).any();
+        if (misses.any() && !(areCopies && isCopy)) {
+            reportLimits(report, pair.first, pair.second, isReflected, misses);
+        }
+    }
+    for (auto const& [first, second] : facts.actuatorPairs) {
+        if (!facts.records->statesActuators || areReversed(first, second) || first.mirrorKind != second.mirrorKind) {
+            continue;  // that of their joints, or told already
+        }
+        bool const isReflected = first.mirrorKind == reflectedMirror;
+        LimitMisses const misses = limitMisses(first, second, isReflected, facts.tolerances.limit);
+        if (misses.any()) {
+            reportLimits(report, first, second, isReflected, misses);
+        }
+    }
 }
 
 /// A joint that points at the other without being pointed back to has a finding of its own.
@@ -110,6 +142,9 @@ void findActuatorsNotPaired(Facts const& facts, Report const& report)
 {
     auto const& joints = facts.records->joints;
     for (auto const& [first, second] : facts.actuatorPairs) {
+        if (!facts.records->statesActuators) {
+            return;  // what their joints are attached to says nothing
+        }
         auto const* const one = joints.find(first.parentJoint);
         auto const* const other = joints.find(second.parentJoint);
         bool const areTwo = one != nullptr && other != nullptr && one != other;

@@ -8,123 +8,182 @@
 #include "rules/numbers.hpp"
 #include "rules/rules.hpp"
 
-/// The bodies of mirror pairs are compared where the zero pose puts them: in the axes of the root, whose x-z plane is
-/// the mirror, whatever the axes of their links are.
+/// The bodies of pairs are compared where the zero pose puts them, in the axes of the root, whatever the axes of their
+/// links are. Where most bodies that could tell are copies of each other instead, the sides are made of the same parts,
+/// and copies are what they should be; as they are where a part looks the same on both sides.
 namespace Varo::Model::Rules {
 
 namespace {
 
 using Eigen::Vector3d;
 
-Eigen::DiagonalMatrix<double, 3> const acrossXZ(1.0, -1.0, 1.0);
+/// kg*m^2; differences below it are those of rounding.
+constexpr double smallestInertia = 1e-9;
 
 Eigen::Matrix3d rotationOf(Pose const& pose)
 {
     return Eigen::Map<Eigen::Matrix<double, 3, 3, Eigen::RowMajor> const>(pose.rotation[0].data());
 }
 
-bool areReached(Facts const& facts, Pair<JointConfig> const& pair)
+Eigen::Matrix3d reflectionOf(MirrorPlane const& plane)
 {
-    return facts.placeOf(pair.first).isReached && facts.placeOf(pair.second).isReached;
+    Vector3d diagonal = Vector3d::Ones();
+    diagonal[static_cast<Eigen::Index>(plane.axis)] = -1.0;
+    return diagonal.asDiagonal();
 }
 
-Vector3d centerOf(Facts const& facts, JointConfig const& joint)
+/// Whether the links of the pair stand as reflections would, save that they may be displaced.
+bool areComparable(Facts const& facts, JointPair const& pair)
 {
-    Pose const& link = facts.placeOf(joint).link;
+    bool const areReached = facts.placeOf(pair.first).isReached && facts.placeOf(pair.second).isReached;
+    return areReached && pair.side.isLimb && pair.side.isSure && pair.side.isTurned && !pair.side.isAskew;
+}
+
+/// In the link frame.
+Vector3d centerOf(JointConfig const& joint)
+{
     Position3D const& center = joint.centerOfMass;
-    Vector3d const inLink(static_cast<double>(center.x), static_cast<double>(center.y), static_cast<double>(center.z));
-    return rotationOf(link) * inLink + Vector3d::Map(link.translation.data());
+    return {static_cast<double>(center.x), static_cast<double>(center.y), static_cast<double>(center.z)};
 }
 
-Vector3d missOf(Facts const& facts, JointConfig const& first, JointConfig const& second)
+/// From the frame of the joint, in the axes of the root.
+Vector3d armOf(Facts const& facts, JointConfig const& joint)
 {
-    return acrossXZ * centerOf(facts, first) - centerOf(facts, second);
+    PlacedJoint const& place = facts.placeOf(joint);
+    return rotationOf(place.link) * centerOf(joint) + Vector3d::Map(place.link.translation.data()) -
+           Vector3d::Map(place.frame.translation.data());
 }
 
-bool isMiss(Facts const& facts, Vector3d const& miss)
-{
-    return miss.norm() > facts.tolerances.centerOfMass;
-}
-
-JointConfig const* jointBefore(Facts const& facts, JointConfig const& joint)
-{
-    std::size_t const before = facts.placeOf(joint).before;
-    return before == none ? nullptr : &facts.records->joints[before];
-}
-
-/// Whether the bodies before these miss by as much: then one of them is in the wrong place, and takes all that is
-/// attached to it along.
-bool isCarriedOn(Facts const& facts, Pair<JointConfig> const& pair, Vector3d const& miss)
-{
-    JointConfig const* const beforeFirst = jointBefore(facts, pair.first);
-    JointConfig const* const beforeSecond = jointBefore(facts, pair.second);
-    if (beforeFirst == nullptr || beforeSecond == nullptr ||
-        !areMutual(facts.records->joints, *beforeFirst, *beforeSecond)) {
-        return false;
-    }
-    Vector3d const missBefore = missOf(facts, *beforeFirst, *beforeSecond);
-    return isMiss(facts, missBefore) && !isMiss(facts, miss - missBefore);
-}
-
-Inertia inRootAxes(Facts const& facts, Inertia const& inertia, JointConfig const& joint)
+Inertia inRootAxes(Facts const& facts, JointConfig const& joint)
 {
     Eigen::Matrix3d const rotation = rotationOf(facts.placeOf(joint).link);
-    return rotation * inertia * rotation.transpose();
+    return rotation * inertiaOf(joint.inertiaMatrix) * rotation.transpose();
+}
+
+/// How far two bodies are from being reflections, and from being copies.
+struct Misses {
+    double ofReflection;
+    double ofCopy;
+    double tolerance;
+};
+
+Misses centerMisses(Facts const& facts, JointPair const& pair)
+{
+    Vector3d miss = reflectionOf(facts.sides.plane) * armOf(facts, pair.first) - armOf(facts, pair.second);
+    bool const isDisplaced = !pair.side.isPlaced;  // which is told
+    if (!isDisplaced) {
+        miss += Vector3d::Map(pair.side.miss.data());
+    }
+    return {miss.norm(), (centerOf(pair.first) - centerOf(pair.second)).norm(),
+            facts.tolerances.centerOfMass * std::max(1.0, facts.sides.size)};
+}
+
+Misses inertiaMisses(Facts const& facts, JointPair const& pair)
+{
+    Eigen::Matrix3d const reflection = reflectionOf(facts.sides.plane);
+    Inertia const reflected = reflection * inRootAxes(facts, pair.first) * reflection;
+    Inertia const present = inRootAxes(facts, pair.second);
+    double const greatest = std::max(reflected.cwiseAbs().maxCoeff(), present.cwiseAbs().maxCoeff());
+    Inertia const difference = inertiaOf(pair.first.inertiaMatrix) - inertiaOf(pair.second.inertiaMatrix);
+    return {(reflected - present).cwiseAbs().maxCoeff(), difference.cwiseAbs().maxCoeff(),
+            std::max(smallestInertia, facts.tolerances.inertia * greatest)};
+}
+
+bool isReflection(Misses const& misses)
+{
+    return misses.ofReflection <= misses.tolerance;
+}
+
+bool isCopy(Misses const& misses)
+{
+    return misses.ofCopy <= misses.tolerance;
+}
+
+/// One part may serve both sides: a motor, say. It is known by its mesh.
+bool haveOneMesh(JointPair const& pair)
+{
+    auto const& one = pair.first.shapes.visuals;
+    auto const& other = pair.second.shapes.visuals;
+    bool const areScaledAlike =
+        std::equal(one.begin(), one.end(), other.begin(), other.end(), [](auto const& a, auto const& b) {
+            Position3D const& first = a.geometry.scale;
+            Position3D const& second = b.geometry.scale;
+            return a.geometry.uri == b.geometry.uri && first.x == second.x && first.y == second.y &&
+                   first.z == second.z;
+        });
+    return pair.first.meshName == pair.second.meshName && areScaledAlike &&
+           !(pair.first.meshName.empty() && one.empty());
+}
+
+/// Calls `visit` with the pairs that are no reflections, nor copies where those are right, and with how much they miss.
+template <class Measure, class Visit>
+void forEachMiss(Facts const& facts, std::vector<JointPair const*> const& pairs, Measure const& measure,
+                 Visit const& visit)
+{
+    bool const areCopies = areSidesCopies(facts);
+    for (JointPair const* pair : pairs) {
+        Misses const misses = measure(facts, *pair);
+        bool const isRightCopy = isCopy(misses) && (areCopies || haveOneMesh(*pair));
+        if (!isReflection(misses) && !isRightCopy) {
+            visit(*pair, misses.ofReflection);
+        }
+    }
+}
+
+bool isPossible(Facts const& facts, JointConfig const& joint)
+{
+    return faultOf(inertiaOf(joint.inertiaMatrix), facts.tolerances.inertia) == InertiaFault::none;
+}
+
+/// The pairs that have centres of mass to compare.
+std::vector<JointPair const*> massivePairs(Facts const& facts)
+{
+    std::vector<JointPair const*> pairs;
+    for (JointPair const& pair : facts.jointPairs) {
+        bool const haveCenters = pair.first.mass != 0.0F && pair.second.mass != 0.0F;
+        if (haveCenters && areComparable(facts, pair)) {
+            pairs.push_back(&pair);
+        }
+    }
+    return pairs;
 }
 
 }  // namespace
 
-void findMassNotMirrored(Facts const& facts, Report const& report)
+bool areSidesCopies(Facts const& facts)
 {
-    for (auto const& [first, second] : facts.jointPairs) {
-        auto const one = static_cast<double>(first.mass);
-        auto const other = static_cast<double>(second.mass);
-        bool const areMasses = one >= 0.0 && other >= 0.0;
-        if (areMasses && std::abs(one - other) > facts.tolerances.mass * std::max(one, other)) {
-            report.at(second, Part::mass,
-                      "The masses of " + namesOf(first, second) + " differ: " + shortest(first.mass) + " kg and " +
-                          shortest(second.mass) + " kg.");
-        }
+    std::ptrdiff_t reflections = 0;
+    std::ptrdiff_t copies = 0;
+    for (JointPair const* pair : massivePairs(facts)) {
+        Misses const misses = centerMisses(facts, *pair);
+        reflections += isReflection(misses) && !isCopy(misses) ? 1 : 0;
+        copies += isCopy(misses) && !isReflection(misses) ? 1 : 0;
     }
+    return copies > 1 && copies > reflections;
 }
 
 void findComNotMirrored(Facts const& facts, Report const& report)
 {
-    for (auto const& pair : facts.jointPairs) {
-        bool const haveCenters = pair.first.mass != 0.0F && pair.second.mass != 0.0F;
-        if (!haveCenters || !areReached(facts, pair)) {
-            continue;
-        }
-        Vector3d const miss = missOf(facts, pair.first, pair.second);
-        if (isMiss(facts, miss) && !isCarriedOn(facts, pair, miss)) {
-            report.at(pair.second, Part::centerOfMass,
-                      "The centres of mass of " + namesOf(pair.first, pair.second) +
-                          " miss each other's reflection by " + rounded(miss.norm()) + " m.");
-        }
-    }
+    forEachMiss(facts, massivePairs(facts), centerMisses, [&](JointPair const& pair, double miss) {
+        report.ofTwo(pair.second, pair.first, Part::centerOfMass,
+                     "The centres of mass of " + namesOf(pair.first, pair.second) +
+                         " miss each other's reflection by " + rounded(miss) + " m.");
+    });
 }
 
 void findInertiaNotMirrored(Facts const& facts, Report const& report)
 {
-    double const tolerance = facts.tolerances.inertia;
-    for (auto const& pair : facts.jointPairs) {
-        Inertia const one = inertiaOf(pair.first.inertiaMatrix);
-        Inertia const other = inertiaOf(pair.second.inertiaMatrix);
-        bool const arePossible =
-            faultOf(one, tolerance) == InertiaFault::none && faultOf(other, tolerance) == InertiaFault::none;
-        if (!arePossible || !areReached(facts, pair)) {
-            continue;
-        }
-        Inertia const reflected = acrossXZ * inRootAxes(facts, one, pair.first) * acrossXZ;
-        Inertia const present = inRootAxes(facts, other, pair.second);
-        double const greatest = std::max(reflected.cwiseAbs().maxCoeff(), present.cwiseAbs().maxCoeff());
-        double const miss = (reflected - present).cwiseAbs().maxCoeff();
-        if (miss > tolerance * greatest) {
-            report.at(pair.second, Part::inertia,
-                      "The inertias of " + namesOf(pair.first, pair.second) + " miss each other's reflection by " +
-                          rounded(miss) + " kg*m^2.");
+    std::vector<JointPair const*> pairs;
+    for (JointPair const& pair : facts.jointPairs) {
+        if (isPossible(facts, pair.first) && isPossible(facts, pair.second) && areComparable(facts, pair)) {
+            pairs.push_back(&pair);
         }
     }
+    forEachMiss(facts, pairs, inertiaMisses, [&](JointPair const& pair, double miss) {
+        report.ofTwo(pair.second, pair.first, Part::inertia,
+                     "The inertias of " + namesOf(pair.first, pair.second) + " miss each other's reflection by " +
+                         rounded(miss) + " kg*m^2.");
+    });
 }
 
 }  // namespace Varo::Model::Rules

@@ -29,6 +29,11 @@ constexpr PartPlace parts[] = {
     {Part::mass, "value", "inertial/mass"},
     {Part::centerOfMass, "xyz", "inertial/origin"},
     {Part::inertia, {}, "inertial/inertia"},
+    {Part::placement, {}, "origin"},
+    {Part::axis, {}, "axis"},
+    {Part::damping, "damping", "dynamics"},
+    {Part::friction, "friction", "dynamics"},
+    {Part::mimic, {}, "mimic"},
 };
 
 class Reader {
@@ -97,6 +102,7 @@ void Reader::readIdentity()
     _robot.dialect = "urdf";
     _robot.statesActuators = false;
     _robot.statesPostures = false;
+    _robot.statesMirrors = false;
     _robot.holdsAllStated = false;
     _robot.name = _root.attribute("name").value();
     _robot.version = _root.attribute("version").value();

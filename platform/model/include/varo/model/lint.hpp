@@ -25,7 +25,7 @@ struct LintTolerances {
 struct LintRule {
     FindingCode code;  ///< of all its findings
     std::string_view subject;  ///< what it looks at: "joints", say
-    std::string_view tolerance;  ///< the member of LintTolerances that it goes by; empty for none
+    std::string_view tolerance;  ///< what it goes by, as the documentation calls it; empty for none
 };
 
 /// Which rules look at a robot, and how strictly.
