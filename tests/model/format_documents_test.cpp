@@ -41,6 +41,8 @@ TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
     std::string const urdf = Tests::readFile(tree + "/docs/urdf.md");
     EXPECT_EQ(urdf, Native::spliced(urdf, "elements", Urdf::writeElementReference()));
     EXPECT_EQ(urdf, Native::spliced(urdf, "sensor settings", Native::writeSensorSettingsReference()));
+    std::string const checking = Tests::readFile(tree + "/docs/checking.md");
+    EXPECT_EQ(checking, Native::spliced(checking, "rules", Native::writeRuleReference()));
 }
 
 int compareDefaults(Schema::ElementInfo const& root)

@@ -33,8 +33,8 @@ TEST_F(Dump, PrintsEveryNumberAndName)
 {
     Json const dump = Json::parse(run({"dump", "-"}, legs).out);
     EXPECT_EQ(keysOf(dump),
-              (Keys{"name", "prettyName", "version", "rootLink", "links", "joints", "jointSymmetries", "jointGroups",
-                    "actuators", "actuatorGroups", "sensors", "transmissions", "extensions"}));
+              (Keys{"formatVersion", "name", "prettyName", "version", "rootLink", "links", "joints", "jointSymmetries",
+                    "jointGroups", "actuators", "actuatorGroups", "sensors", "transmissions", "extensions"}));
     EXPECT_EQ(dump["name"], "Walker");
     EXPECT_EQ(dump["prettyName"], "The Walker");
     EXPECT_EQ(dump["version"], "2.1");
@@ -162,6 +162,27 @@ TEST_F(Dump, EveryKindOfElementHasItsMembers)
         }
     }
     EXPECT_EQ(seen.size(), actuators.size()) << "the example robots have actuators of every kind";
+}
+
+TEST_F(Dump, HasTheSymmetriesOfAUrdfUnlessTold)
+{
+    std::string const wheels = R"(<robot name="A"><link name="base"/><link name="l"/><link name="r"/>
+<joint name="l_wheel" type="continuous"><parent link="base"/><child link="l"/><origin xyz="0 0.2 0"/>
+ <axis xyz="0 1 0"/></joint>
+<joint name="r_wheel" type="continuous"><parent link="base"/><child link="r"/><origin xyz="0 -0.2 0"/>
+ <axis xyz="0 -1 0"/></joint></robot>)";
+    EXPECT_EQ(Json::parse(run({"dump", "-"}, wheels).out)["jointSymmetries"].dump(),
+              R"([{"joints":["l_wheel","r_wheel"],"type":"ReflectedSymmetricReversed"}])");
+    EXPECT_EQ(Json::parse(run({"dump", "--no-infer", "-"}, wheels).out)["jointSymmetries"].dump(), "[]");
+}
+
+TEST_F(Dump, IsAsItsSchemaSays)
+{
+    std::string const schema = VARO_SOURCE_DIR "/schema/dump.schema.json";
+    for (auto const& entry : std::filesystem::directory_iterator(VARO_SOURCE_DIR "/robots")) {
+        expectValid(run({"dump", entry.path().string()}).out, schema);
+    }
+    EXPECT_NE(runCommand(VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/validate_json.py " + schema, "{}").status, 0);
 }
 
 }  // namespace

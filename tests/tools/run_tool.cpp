@@ -53,6 +53,12 @@ Outcome ToolFixture::run(std::vector<std::string> const& arguments, std::string 
     return runCommand(command, input);
 }
 
+void ToolFixture::expectValid(std::string const& json, std::string const& schema) const
+{
+    Outcome const outcome = runCommand(VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/validate_json.py " + schema, json);
+    EXPECT_EQ(outcome.status, 0) << outcome.out << outcome.err;
+}
+
 Outcome ToolFixture::runCommand(std::string const& command, std::string const& input) const
 {
     write(".in", input);

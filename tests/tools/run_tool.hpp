@@ -34,6 +34,9 @@ protected:
     /// Any shell command, run there.
     Outcome runCommand(std::string const& command, std::string const& input = {}) const;
 
+    /// Expects a JSON text to be as the schema, a file, says.
+    void expectValid(std::string const& json, std::string const& schema) const;
+
     std::filesystem::path const& folder() const { return _folder; }
 
 private:

@@ -9,6 +9,7 @@
 #include "commands/commands.hpp"
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
+#include "varo/model/spelling.hpp"
 
 namespace Tool {
 
@@ -42,6 +43,43 @@ void declareCommands(CLI::App& app, std::function<int()>& chosen)
     app.require_subcommand(1);
 }
 
+void suggest(std::string const& written, std::vector<std::string> const& words)
+{
+    Varo::Model::ClosestWord closest(written);
+    for (std::string const& word : words) {
+        closest.offer(word);
+    }
+    if (!closest.word().empty()) {
+        std::cerr << "Did you mean \"" << closest.word() << "\"?\n";
+    }
+}
+
+void suggestCommand(std::string const& written)
+{
+    std::vector<std::string> names;
+    for (Command const* const command : commands) {
+        names.emplace_back(command->name);
+    }
+    suggest(written, names);
+}
+
+/// For the first of the arguments that looks like an option and is none of the command's.
+void suggestOption(CLI::App const& command)
+{
+    std::vector<std::string> names;
+    for (CLI::Option const* option : command.get_options()) {
+        for (std::string const& name : option->get_lnames()) {
+            names.push_back("--" + name);
+        }
+    }
+    for (std::string const& argument : command.remaining()) {
+        if (argument.compare(0, 2, "--") == 0) {
+            suggest(argument.substr(0, argument.find('=')), names);
+            return;
+        }
+    }
+}
+
 /// The answer is the exit status.
 int runChosen(std::function<int()> const& chosen)
 {
@@ -73,11 +111,16 @@ int run(int argumentCount, char** arguments)
         std::vector<std::string> const unknown = app.remaining();
         if (!unknown.empty()) {
             std::cerr << "There is no command \"" << unknown.front() << "\".\n";
+            suggestCommand(unknown.front());
         }
         app.exit(error);
         return exitStatus::wrongUsage;
     } catch (CLI::ParseError const& error) {
-        return app.exit(error) == 0 ? exitStatus::fine : exitStatus::wrongUsage;
+        bool const isFine = app.exit(error) == 0;
+        for (CLI::App const* command : app.get_subcommands()) {
+            suggestOption(*command);
+        }
+        return isFine ? exitStatus::fine : exitStatus::wrongUsage;
     }
     return runChosen(chosen);
 }

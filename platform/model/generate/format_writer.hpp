@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// What is written from the tables that the readers obey: here that of the native dialect.
+/// What is written from the tables that the readers and the rules obey: here that of the native dialect.
 namespace Varo::Model::Native {
 
 /// The XML schema (XSD 1.0).
@@ -17,6 +17,9 @@ std::string writeSensorSettingsReference();
 
 /// The part of the documentation that lists every code of a finding, in Markdown.
 std::string writeFindingReference();
+
+/// The part of the documentation that lists every rule, in Markdown.
+std::string writeRuleReference();
 
 }  // namespace Varo::Model::Native
 

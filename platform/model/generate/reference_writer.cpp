@@ -7,6 +7,7 @@
 #include "native/native_codes.hpp"
 #include "urdf/sensor_settings.hpp"
 #include "value_types.hpp"
+#include "varo/model/lint.hpp"
 
 namespace Varo::Model::Native {
 
@@ -116,12 +117,18 @@ private:
     std::map<std::string, std::string> _pathOf;  ///< by the content
 };
 
-void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
+/// The first cells of a row.
+std::string cellsOf(FindingCode const& finding)
 {
     constexpr std::string_view severities[] = {"note", "warning", "error"};
+    return "| " + code(finding.name) + " | " + std::string(severities[static_cast<int>(finding.severity)]) + " | " +
+           std::string(finding.meaning) + " |";
+}
+
+void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
+{
     for (FindingCode const* finding : codes) {
-        out << "| " << code(finding->name) << " | " << severities[static_cast<int>(finding->severity)] << " | "
-            << finding->meaning << " |\n";
+        out << cellsOf(*finding) << '\n';
     }
 }
 
@@ -142,6 +149,16 @@ std::string writeSensorSettingsReference()
     out << "| URDF, in the sensor | unit | must be | native dialect |\n| --- | --- | --- | --- |\n";
     writeSettings(out, "", Urdf::sensorSettings);
     writeSettings(out, "noise/", Urdf::noiseSettings);
+    return out.str();
+}
+
+std::string writeRuleReference()
+{
+    std::ostringstream out;
+    out << "| code | severity | meaning | looks at | tolerance |\n| --- | --- | --- | --- | --- |\n";
+    for (LintRule const& rule : lintRules()) {
+        out << cellsOf(rule.code) << ' ' << rule.subject << " | " << rule.tolerance << " |\n";
+    }
     return out.str();
 }
 

@@ -11,10 +11,11 @@ namespace {
 namespace Native = Varo::Model::Native;
 namespace Urdf = Varo::Model::Urdf;
 
-std::string readFile(std::string const& path)
+void splice(std::string const& file, std::string const& name, std::string const& part)
 {
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), {}};
+    std::ifstream in(file);
+    std::string const text{std::istreambuf_iterator<char>(in), {}};
+    std::ofstream(file) << Native::spliced(text, name, part);
 }
 
 }  // namespace
@@ -27,14 +28,11 @@ int main(int argc, char** argv)
         return 2;
     }
     std::string const tree = argv[1];
-    std::string const formatPage = tree + "/docs/description-format.md";
-    std::string const urdfPage = tree + "/docs/urdf.md";
-    std::string format = Native::spliced(readFile(formatPage), "elements", Native::writeElementReference());
-    format = Native::spliced(format, "findings", Native::writeFindingReference());
-    std::string urdf = Native::spliced(readFile(urdfPage), "elements", Urdf::writeElementReference());
-    urdf = Native::spliced(urdf, "sensor settings", Native::writeSensorSettingsReference());
-    std::ofstream(formatPage) << format;
-    std::ofstream(urdfPage) << urdf;
+    splice(tree + "/docs/description-format.md", "elements", Native::writeElementReference());
+    splice(tree + "/docs/description-format.md", "findings", Native::writeFindingReference());
+    splice(tree + "/docs/urdf.md", "elements", Urdf::writeElementReference());
+    splice(tree + "/docs/urdf.md", "sensor settings", Native::writeSensorSettingsReference());
+    splice(tree + "/docs/checking.md", "rules", Native::writeRuleReference());
     std::ofstream(tree + "/schema/robot-description.xsd") << Native::writeSchema();
     return 0;
 }

@@ -9,6 +9,7 @@
 #include "native/native_writer.hpp"
 #include "robot/ambiguous_names.hpp"
 #include "robot/link_tree_codes.hpp"
+#include "robot/mirror_pairs.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -41,7 +42,8 @@ void reportUnknownRoot(pugi::xml_node root, Diagnostics& diagnostics)
 }
 
 /// Null when a finding is an error.
-std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& source, Diagnostics& diagnostics)
+std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& source, Diagnostics& diagnostics,
+                                      ReadOptions const& options)
 {
     pugi::xml_document document;
     if (!parseXml(*source, document, diagnostics)) {
@@ -54,6 +56,9 @@ std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& s
             if (diagnostics.hasErrors()) {
                 return nullptr;
             }
+            if (options.inferMirrors && !records.statesMirrors) {
+                inferMirrors(records);
+            }
             checkLinkNames(records, diagnostics);
             return std::make_unique<RobotRecord>(std::move(records), source, std::move(diagnostics), dialect.parts);
         }
@@ -64,12 +69,12 @@ std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& s
 
 }  // namespace
 
-Reading read(std::string xml)
+Reading read(std::string xml, ReadOptions const& options)
 {
     auto const source = std::make_shared<SourceText const>(std::move(xml));
     Diagnostics diagnostics(source.get());
     Reading reading;
-    reading.robot = readAnyDialect(source, diagnostics);
+    reading.robot = readAnyDialect(source, diagnostics, options);
     reading.findings = (reading.robot == nullptr ? diagnostics : *reading.robot->diagnostics()).findings();
     reading.text = {source, &source->text()};
     return reading;
@@ -84,7 +89,7 @@ std::unique_ptr<Robot> robotFromXml(std::string&& xml)
 {
     auto const source = std::make_shared<SourceText const>(std::move(xml));
     Diagnostics diagnostics(source.get());
-    std::unique_ptr<Robot> robot = readAnyDialect(source, diagnostics);
+    std::unique_ptr<Robot> robot = readAnyDialect(source, diagnostics, {});
     if (robot == nullptr) {
         Findings findings = diagnostics.findings();
         std::string const what = summaryOf(findings);

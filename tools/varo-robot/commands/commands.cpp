@@ -11,6 +11,12 @@ void declareFile(CLI::App& app, std::string& file)
         ->required();
 }
 
+void declareReading(CLI::App& app, Varo::Model::ModelUtils::ReadOptions& options)
+{
+    app.add_flag_callback(
+        "--no-infer", [&options] { options.inferMirrors = false; }, "Do not pair left and right of a URDF");
+}
+
 void declareJson(CLI::App& app, bool& json, char const* what)
 {
     app.add_flag("--json", json, std::string("Print ") + what + " as JSON");

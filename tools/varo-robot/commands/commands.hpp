@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "varo/model/model_utils.hpp"
+
 namespace CLI {
 class App;
 }
@@ -38,6 +40,8 @@ extern Command const convertCommand;
 
 /// Declares the argument that names the description file.
 void declareFile(CLI::App& app, std::string& file);
+/// Declares --no-infer.
+void declareReading(CLI::App& app, Varo::Model::ModelUtils::ReadOptions& options);
 /// Declares --json.
 void declareJson(CLI::App& app, bool& json, char const* what);
 

@@ -14,6 +14,7 @@ namespace {
 struct Options {
     std::string file;
     std::string output;
+    Varo::Model::ModelUtils::ReadOptions reading;
     bool force = false;
 };
 
@@ -26,7 +27,7 @@ Existing whatBecomesOfOutput(Options const& options)
 
 int convert(Options const& options)
 {
-    Description const description = readAccepted(options.file);
+    Description const description = readAccepted(options.file, options.reading);
     std::string const text = Varo::Model::ModelUtils::toXml(*description.reading.robot);
     if (options.output.empty() || options.output == "-") {
         std::cout << text;
@@ -40,6 +41,7 @@ std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
+    declareReading(app, options->reading);
     app.add_option("-o,--output", options->output, "File to write instead of standard output")->type_name("OUT");
     app.add_flag("-f,--force", options->force, "Replace OUT when it is another file than FILE and there already");
     return [options] { return convert(*options); };

@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
+#include "formats/formats.hpp"
 #include "sim/link.hpp"
 #include "support/description.hpp"
 #include "support/element_json.hpp"
@@ -12,6 +13,11 @@
 namespace Tool {
 
 namespace {
+
+struct Options {
+    std::string file;
+    Varo::Model::ModelUtils::ReadOptions reading;
+};
 
 template <class Element>
 void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vector<Element const*> const& elements)
@@ -57,13 +63,14 @@ std::vector<Json> extensions(Sim::Model const& model)
     return data;
 }
 
-int dump(std::string const& file)
+int dump(Options const& options)
 {
-    Robot const robot = loadRobot(file);
+    Robot const robot = loadRobot(options.file, options.reading);
     Sim::Model const& model = robot.model;
     ElementJson json;
     {
         JsonStream dump(std::cout, '{');
+        dump.add("formatVersion", formatVersion);
         dump.add("name", model.name());
         dump.add("prettyName", model.prettyName(0));
         dump.add("version", robot.records().version());
@@ -84,16 +91,17 @@ int dump(std::string const& file)
 
 std::function<int()> declare(CLI::App& app)
 {
-    auto const file = std::make_shared<std::string>();
-    declareFile(app, *file);
-    return [file] { return dump(*file); };
+    auto const options = std::make_shared<Options>();
+    declareFile(app, options->file);
+    declareReading(app, options->reading);
+    return [options] { return dump(*options); };
 }
 
 }  // namespace
 
 Command const dumpCommand = {"dump", "Print the whole model as JSON",
-                             R"(Prints one JSON object with everything that the model holds: name, prettyName,
-version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
+                             R"(Prints one JSON object with everything that the model holds: formatVersion, name,
+prettyName, version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
 actuators, actuatorGroups and sensors, each in the order in which loading made
 its elements, then transmissions and extensions (what the description has for
 other programs, as text) in the order of the description.

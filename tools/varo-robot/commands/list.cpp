@@ -9,6 +9,7 @@
 #include "support/kinds.hpp"
 #include "support/link_names.hpp"
 #include "support/table.hpp"
+#include "varo/model/spelling.hpp"
 
 namespace Tool {
 
@@ -17,6 +18,7 @@ namespace {
 struct Options {
     std::string kind;
     std::string file;
+    Varo::Model::ModelUtils::ReadOptions reading;
     bool json = false;
 };
 
@@ -73,15 +75,25 @@ std::string knownKinds()
     return text;
 }
 
+std::string suggestion(std::string const& written)
+{
+    Varo::Model::ClosestWord closest(written);
+    for (Kind const& kind : kinds()) {
+        closest.offer(kind.plural);
+    }
+    return closest.word().empty() ? "" : " Did you mean \"" + std::string(closest.word()) + "\"?";
+}
+
 int list(Options const& options)
 {
     Kind const* const kind = findKind(options.kind);
     if (kind == nullptr) {
-        std::cerr << "There are no elements of the kind \"" << options.kind << "\". Known kinds:\n"
+        std::cerr << "There are no elements of the kind \"" << options.kind << "\"." << suggestion(options.kind)
+                  << " Known kinds:\n"
                   << knownKinds() << '\n';
         return exitStatus::wrongUsage;
     }
-    Robot const robot = loadRobot(options.file);
+    Robot const robot = loadRobot(options.file, options.reading);
     Sim::Model const& model = robot.model;
     std::vector<Json> const elements = kind->elements(model);
     options.json ? printForPrograms(elements) : printForEyes(*kind, elements, LinkNames(model));
@@ -93,6 +105,7 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     app.add_option("KIND", options->kind, "What to list, in the plural or the singular")->type_name("")->required();
     declareFile(app, options->file);
+    declareReading(app, options->reading);
     app.add_flag("--json", options->json, "Print a JSON array of the elements, each as `dump` prints it");
     app.footer(listCommand.details + ("\n\nKinds:\n" + knownKinds()));
     return [options] { return list(*options); };

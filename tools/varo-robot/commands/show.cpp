@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <set>
 
 #include <CLI/CLI.hpp>
 #include <unistd.h>
@@ -20,6 +21,8 @@
 #include "support/kinds.hpp"
 #include "support/link_names.hpp"
 #include "support/terminal.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/spelling.hpp"
 
 namespace Tool {
 
@@ -191,7 +194,10 @@ std::string similarNames(Sim::Model const& model, std::string const& name)
 {
     constexpr std::size_t maximum = 5;
     std::vector<std::string> similar;
+    std::set<std::string> candidates;  // which the closest word refers to
+    Varo::Model::ClosestWord closest(name);
     auto const offer = [&](std::string const& candidate) {
+        closest.offer(*candidates.insert(candidate).first);
         auto const sameLetter = [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); };
         bool const holds =
             std::search(candidate.begin(), candidate.end(), name.begin(), name.end(), sameLetter) != candidate.end();
@@ -216,6 +222,9 @@ std::string similarNames(Sim::Model const& model, std::string const& name)
     std::string text;
     for (std::string const& candidate : similar) {
         text += (text.empty() ? "Similar names: " : ", ") + candidate;
+    }
+    if (text.empty() && !closest.word().empty()) {
+        return "Did you mean " + Varo::Model::quoted(closest.word()) + "?";
     }
     return text.empty() ? "" : text + ".";
 }

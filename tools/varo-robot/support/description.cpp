@@ -61,7 +61,7 @@ Finding fileFinding(Severity severity, std::string code, std::string message, st
     return finding;
 }
 
-Description readDescription(std::string const& file)
+Description readDescription(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options)
 {
     Description description;
     description.file = file == "-" ? "<stdin>" : file;
@@ -75,23 +75,23 @@ Description readDescription(std::string const& file)
         findings.push_back(fileFinding(Severity::error, codes::emptyFile, "There is nothing in it.",
                                        "A description begins with <robotDescription> or, in URDF, with <robot>."));
     } else {
-        description.reading = Varo::Model::ModelUtils::read(std::move(text));
+        description.reading = Varo::Model::ModelUtils::read(std::move(text), options);
     }
     return description;
 }
 
-Description readAccepted(std::string const& file)
+Description readAccepted(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options)
 {
-    Description description = readDescription(file);
+    Description description = readDescription(file, options);
     if (description.reading.robot == nullptr) {
         throw Refused(description.file, std::move(description.reading.findings));
     }
     return description;
 }
 
-Robot loadRobot(std::string const& file)
+Robot loadRobot(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options)
 {
-    Description description = readAccepted(file);
+    Description description = readAccepted(file, options);
     try {
         Robot robot = {description.file, Sim::Model(std::move(description.reading))};
         Findings findings = robot.model.findings();

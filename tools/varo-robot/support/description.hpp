@@ -30,7 +30,7 @@ struct Description {
 };
 
 /// Reads the file, or standard input when it is "-". Never throws for what is in the way: that becomes a finding.
-Description readDescription(std::string const& file);
+Description readDescription(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options = {});
 
 /// Thrown when a command cannot do its work: the findings say why.
 class Refused : public std::exception {
@@ -52,7 +52,7 @@ Varo::Model::Finding fileFinding(Varo::Model::Severity severity, std::string cod
                                  std::string hint = {});
 
 /// As readDescription, for commands that need a description without errors. Throws Refused.
-Description readAccepted(std::string const& file);
+Description readAccepted(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options = {});
 
 /// A robot and the file that it is from, as messages name that.
 struct Robot {
@@ -63,7 +63,7 @@ struct Robot {
 };
 
 /// What most commands start from: says on standard error what the model leaves out. Throws Refused.
-Robot loadRobot(std::string const& file);
+Robot loadRobot(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options = {});
 
 }  // namespace Tool
 

@@ -25,6 +25,9 @@ constexpr PartPlace parts[] = {
     {Part::inertia, "inertia", "mass"},
     {Part::material, "value", "attribute", {}, "material"},
     {Part::value, "value"},
+    {Part::placement, {}, "placement"},
+    {Part::damping, "damping"},
+    {Part::friction, "friction"},
     {Part::resolutions, "value", "attribute", {}, "resolutions"},
 };
 

@@ -81,6 +81,19 @@ Math::Transform toTransform(Pose const& pose)
     return Math::Transform::fromRows(rows);
 }
 
+Pose fromTransform(Math::Transform const& transform)
+{
+    Pose pose;
+    for (int row = 0; row < 3; ++row) {
+        auto const at = static_cast<std::size_t>(row);
+        for (int column = 0; column < 3; ++column) {
+            pose.rotation[at][static_cast<std::size_t>(column)] = static_cast<double>(transform(row, column));
+        }
+        pose.translation[at] = static_cast<double>(transform(row, 3));
+    }
+    return pose;
+}
+
 Math::Position3D toPosition(Vector const& vector)
 {
     return {static_cast<float>(vector[0]), static_cast<float>(vector[1]), static_cast<float>(vector[2])};

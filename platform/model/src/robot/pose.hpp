@@ -31,6 +31,7 @@ Pose operator*(Pose const& left, Pose const& right);
 Pose inverse(Pose const& pose);
 
 Math::Transform toTransform(Pose const& pose);
+Pose fromTransform(Math::Transform const& transform);
 Math::Position3D toPosition(Vector const& vector);
 
 }  // namespace Varo::Model

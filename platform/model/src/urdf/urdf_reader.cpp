@@ -33,6 +33,11 @@ constexpr PartPlace parts[] = {
     {Part::mass, "value", "inertial/mass"},
     {Part::centerOfMass, "xyz", "inertial/origin"},
     {Part::inertia, {}, "inertial/inertia"},
+    {Part::placement, {}, "origin"},
+    {Part::axis, {}, "axis"},
+    {Part::damping, "damping", "dynamics"},
+    {Part::friction, "friction", "dynamics"},
+    {Part::mimic, {}, "mimic"},
 };
 
 class Reader {
@@ -111,6 +116,7 @@ void Reader::readIdentity()
     _robot.dialect = "urdf";
     _robot.statesActuators = false;
     _robot.statesPostures = false;
+    _robot.statesMirrors = false;
     _robot.name = _stated.name;
     _robot.version = _stated.version;
     if (_robot.name.empty()) {

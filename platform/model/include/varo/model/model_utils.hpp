@@ -25,8 +25,15 @@ struct Reading {
     std::shared_ptr<std::string const> text;  ///< null for a reading that `read` did not make
 };
 
+/// How a text is read.
+struct ReadOptions {
+    /// Whether left and right are paired where the dialect has no mirrors, as URDF has none: joints that move, whose
+    /// names say that they are counterparts and whose places and axes prove it. They become each other's mirrors.
+    bool inferMirrors = true;
+};
+
 /// Reads the XML text of a description of either dialect. Never throws for what the text says.
-VAROROBOTMODEL_API Reading read(std::string xml);
+VAROROBOTMODEL_API Reading read(std::string xml, ReadOptions const& options = {});
 
 /// As `read`, for those who only want a robot: throws DescriptionError when the text is refused. Never null.
 VAROROBOTMODEL_API std::unique_ptr<Robot> robotFromXml(std::string const& xml);

@@ -64,6 +64,11 @@ enum class Part {
     material,  ///< of the body's surface
     value,  ///< of an angle in a posture
     resolutions,  ///< of a camera's pictures
+    placement,  ///< where it is on what it is attached to
+    axis,  ///< of a joint's motion, where the dialect states one
+    damping,
+    friction,  ///< of a joint
+    mimic,  ///< which joint it follows, and how
 };
 
 /// Where a text says something, and what it has there.

@@ -20,6 +20,7 @@ struct Records {
     std::string dialect;  ///< "native" or "urdf"
     bool statesActuators = true;  ///< whether the dialect has coupled actuators, or they are made of its mimics
     bool statesPostures = true;  ///< whether the dialect has postures
+    bool statesMirrors = true;  ///< whether the dialect has mirrors, or they are inferred
     std::string name;  ///< of the robot
     std::string version;  ///< the description's own; may be empty
     std::map<int, std::string> prettyNames;  ///< by index

@@ -64,6 +64,8 @@ public:
     auto end() const { return _records.end(); }
     /// The record of that index in the order of the description.
     Config const& operator[](std::size_t index) const { return _records[index]; }
+    /// The same, to be changed; its name must stay.
+    Config& operator[](std::size_t index) { return _records[index]; }
 
     /// The indices of the records in ascending order of their names, which are compared byte by byte.
     std::vector<std::uint32_t> const& nameOrder() const { return _nameOrder; }

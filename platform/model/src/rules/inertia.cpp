@@ -2,7 +2,7 @@
 
 #include <Eigen/Eigenvalues>
 
-namespace Tool::Rules {
+namespace Varo::Model::Rules {
 
 Inertia inertiaOf(std::vector<float> const& entries)
 {
@@ -24,4 +24,4 @@ InertiaFault faultOf(Inertia const& inertia, double tolerance)
     return moments[2] > moments[0] + moments[1] + allowed ? InertiaFault::notPossible : InertiaFault::none;
 }
 
-}  // namespace Tool::Rules
+}  // namespace Varo::Model::Rules

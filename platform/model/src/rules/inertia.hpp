@@ -1,11 +1,11 @@
-#ifndef TOOL_RULES_INERTIA_HPP
-#define TOOL_RULES_INERTIA_HPP
+#ifndef VARO_MODEL_RULES_INERTIA_HPP
+#define VARO_MODEL_RULES_INERTIA_HPP
 
 #include <vector>
 
 #include <Eigen/Core>
 
-namespace Tool::Rules {
+namespace Varo::Model::Rules {
 
 using Inertia = Eigen::Matrix3d;
 
@@ -19,6 +19,6 @@ enum class InertiaFault { none, notSymmetric, notPositive, notPossible };
 /// entry.
 InertiaFault faultOf(Inertia const& inertia, double tolerance);
 
-}  // namespace Tool::Rules
+}  // namespace Varo::Model::Rules
 
 #endif

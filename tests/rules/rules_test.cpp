@@ -1,13 +1,13 @@
 #include <algorithm>
-#include <set>
-#include <sstream>
+#include <utility>
 
 #include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
 
-#include "run_tool.hpp"
+#include "files.hpp"
+#include "varo/model/lint.hpp"
+#include "varo/model/model_utils.hpp"
 
-namespace ToolTest {
+namespace Varo::Model {
 
 namespace {
 
@@ -39,24 +39,24 @@ std::string replaced(std::string text, std::vector<Replacement> const& replaceme
     return text;
 }
 
-class Rules : public ToolFixture {
-protected:
-    /// "LINE CODE" of each.
-    Strings findingsOf(std::string const& text, Strings const& options = {}) const
-    {
-        Strings arguments = {"check", "--json", "--silence", "sensor-without-class", "-"};
-        arguments.insert(arguments.end(), options.begin(), options.end());
-        Strings findings;
-        for (auto const& finding : nlohmann::json::parse(run(arguments, text).out)) {
-            findings.push_back(finding["line"].dump() + " " + finding["code"].get<std::string>());
-        }
-        return findings;
+/// "LINE CODE" of each that the reader or the rules give.
+Strings findingsOf(std::string const& text, LintOptions const& options = {})
+{
+    ModelUtils::Reading const reading = ModelUtils::read(text);
+    Findings findings = reading.findings;
+    Findings const more = reading.robot == nullptr ? Findings() : lint(*reading.robot, options);
+    findings.insert(findings.end(), more.begin(), more.end());
+    std::stable_sort(findings.begin(), findings.end(), [](auto const& a, auto const& b) { return a.line < b.line; });
+    Strings texts;
+    for (Finding const& finding : findings) {
+        texts.push_back(std::to_string(finding.line) + " " + finding.code);
     }
-};
+    return texts;
+}
 
 /// Without a fault: a mirror pair whose link frames differ, with hands, a joint that does not move, and a wheel.
 constexpr char pair[] = R"(<robotDescription name="A"><root name="T"><mass value="9"/></root>
-<joint name="L" min="-1" max="0.5" maxSpeed="1"><placement xyz="0 0.1 0"/><end rpy="0 0 1.5707963"/>
+<joint name="L" min="-1" max="0.5" maxSpeed="2.0"><placement xyz="0 0.1 0"/><end rpy="0 0 1.5707963"/>
  <mass value="2" com="0.02 -0.01 0.03" inertia="5 -0.1 0.3 -0.1 4 -0.2 0.3 -0.2 6"/><mirror name="R" reflected="true"/></joint>
 <joint name="R" min="-0.5" max="1" maxSpeed="2"><placement xyz="0 -0.1 0"/>
  <mass value="2.000001" com="0.01 -0.02 0.03" inertia="4 -0.1 0.2 -0.1 5 -0.3 0.2 -0.3 6"/><mirror name="L" reflected="true"/></joint>
@@ -73,7 +73,7 @@ constexpr char pair[] = R"(<robotDescription name="A"><root name="T"><mass value
 </robotDescription>
 )";
 
-TEST_F(Rules, FindWhatIsFalseAndNothingElse)
+TEST(Rules, FindWhatIsFalseAndNothingElse)
 {
     Replacement const moved = {"Fixed\" min=\"0\" max=\"0\" maxSpeed=\"0\"", "Fixed\" min=\"0\" max=\"1\""};
     auto const rootInertia = [](std::string const& inertia) {
@@ -82,22 +82,23 @@ TEST_F(Rules, FindWhatIsFalseAndNothingElse)
     struct Case {
         std::vector<Replacement> replacements;
         Strings expected;
-        Strings options = {};
+        double LintTolerances::*tolerance = nullptr;
+        double value = 0.0;
     };
     for (Case const& given : std::vector<Case>{
              {{}, {}},
              {{{"value=\"9\"", "value=\"-9\""}}, {"1 negative-mass"}},
              {rootInertia("1 0.1 0 0 1 0 0 0 1"), {"1 inertia-not-symmetric"}},
-             {rootInertia("1 0.1 0 0 1 0 0 0 1"), {}, {"--tolerance-inertia", "0.2"}},
+             {rootInertia("1 0.1 0 0 1 0 0 0 1"), {}, &LintTolerances::inertia, 0.2},
              {rootInertia("1 0 0 0 1 2 0 2 1"), {"1 inertia-not-positive"}},
              {rootInertia("1 0 0 0 1 0 0 0 2.01"), {"1 inertia-not-possible"}},
              {rootInertia("1 0 0 0 1 0 0 0 2"), {}},  // a disc
              {rootInertia("0 0 0 0 1 0 0 0 1"), {}},  // a rod
-             {{{"maxSpeed=\"1\"", "maxSpeed=\"0\""}}, {"2 speed-not-positive"}},
+             {{{"maxSpeed=\"2.0\"", "maxSpeed=\"0\""}}, {"2 speed-not-positive"}},
              {{{"maxVelocity=\"3\"", "maxVelocity=\"-3\""}}, {"12 speed-not-positive"}},
              {{moved}, {}},  // no speed stated
              {{{"value=\"0.4\"", "value=\"0.6\""}}, {"13 start-outside-limits"}},
-             {{{"value=\"0.4\"", "value=\"0.6\""}}, {}, {"--tolerance-limit", "0.11"}},
+             {{{"value=\"0.4\"", "value=\"0.6\""}}, {}, &LintTolerances::limit, 0.11},
              {{{"value=\"0.3\"", "value=\"-1.1\""}}, {"14 posture-outside-limits"}},
              {{{"value=\"0.9\"", "value=\"1.1\""}}, {"15 posture-outside-limits"}},
              {{{"Fixed\" min=\"0\" max=\"0\"", "Fixed\" min=\"1\" max=\"1\""}}, {"6 start-outside-limits"}},
@@ -106,15 +107,15 @@ TEST_F(Rules, FindWhatIsFalseAndNothingElse)
              {{{"name=\"L\" reflected", "name=\"Nobody\" reflected"}}, {"5 dangling-reference"}},
              {{{"\"L\" reflected=\"true\"", "\"L\""}}, {"5 mirror-kinds-differ"}},
              {{{"2.000001", "2.01"}}, {"5 mass-not-mirrored"}},
-             {{{"2.000001", "2.01"}}, {}, {"--tolerance-mass", "0.01"}},
+             {{{"2.000001", "2.01"}}, {}, &LintTolerances::mass, 0.01},
              {{{"0.01 -0.02 0.03", "0.01 -0.021 0.03"}}, {"5 com-not-mirrored"}},
-             {{{"0.01 -0.02 0.03", "0.01 -0.021 0.03"}}, {}, {"--tolerance-com", "0.002"}},
+             {{{"0.01 -0.02 0.03", "0.01 -0.021 0.03"}}, {}, &LintTolerances::centerOfMass, 0.002},
              {{{"4 -0.1 0.2 -0.1 5", "4 0.1 0.2 0.1 5"}}, {"5 inertia-not-mirrored"}},
              {{{"4 -0.1 0.2 -0.1 5", "4 -0.1 0.2 -0.1 5.01"}}, {"5 inertia-not-mirrored"}},
-             {{{"4 -0.1 0.2 -0.1 5", "4 -0.1 0.2 -0.1 5.01"}}, {}, {"--tolerance-inertia", "0.01"}},
+             {{{"4 -0.1 0.2 -0.1 5", "4 -0.1 0.2 -0.1 5.01"}}, {}, &LintTolerances::inertia, 0.01},
              {{{"4 -0.1 0.2 -0.1 5", "4 -0.1 0.2 -0.1 50"}}, {"5 inertia-not-possible"}},
              {{{"max=\"1\" maxSpeed=\"2\"", "max=\"1.1\" maxSpeed=\"2\""}}, {"4 limits-not-mirrored"}},
-             {{{"max=\"1\" maxSpeed=\"2\"", "max=\"1.1\" maxSpeed=\"2\""}}, {}, {"--tolerance-limit", "0.11"}},
+             {{{"max=\"1\" maxSpeed=\"2\"", "max=\"1.1\" maxSpeed=\"2\""}}, {}, &LintTolerances::limit, 0.11},
              {{{"\"L\" reflected=\"true\"", "\"L\""}, {"\"R\" reflected=\"true\"", "\"R\""}},
               {"4 limits-not-mirrored"}},
              {{{"R\" min=\"-0.5\"", "R\" min=\"2\""}}, {"4 reversed-limits"}},
@@ -124,18 +125,22 @@ TEST_F(Rules, FindWhatIsFalseAndNothingElse)
              {{{"</robot", "<chain name=\"None\" parent=\"L\"/></robot"}}, {"16 empty-chain"}},
              {{{"rubber", "ruber"}}, {"12 unknown-material"}},
          }) {
-        EXPECT_EQ(findingsOf(replaced(pair, given.replacements), given.options), given.expected)
+        LintOptions options;
+        if (given.tolerance != nullptr) {
+            options.tolerances.*given.tolerance = given.value;
+        }
+        EXPECT_EQ(findingsOf(replaced(pair, given.replacements), options), given.expected)
             << (given.replacements.empty() ? "" : given.replacements[0].to);
     }
 }
 
-TEST_F(Rules, FindTenSeededFaultsEachOnItsLine)
+TEST(Rules, FindTenSeededFaultsEachOnItsLine)
 {
     struct Fault {
         Replacement replacement;
         std::string code;
     };
-    std::string text = readFile(VARO_SOURCE_DIR "/robots/humanoid.xml");
+    std::string text = Tests::readFile(VARO_SOURCE_DIR "/robots/humanoid.xml");
     Strings expected;
     for (auto const& [replacement, code] : std::vector<Fault>{
              {{"63.4e-3 0  1.1e-3 0 48.7e-3", "63.4e-3 0  1.1e-3 0 248.7e-3"}, "inertia-not-possible"},
@@ -156,15 +161,15 @@ TEST_F(Rules, FindTenSeededFaultsEachOnItsLine)
     EXPECT_EQ(findingsOf(text), expected);
 }
 
-TEST_F(Rules, FindAMisplacedLimbOnce)
+TEST(Rules, FindAMisplacedLimbOnce)
 {
     std::string const chain = "<chain name=\"RLeg\" parent=\"Pelvis\" tip=\"RSole\">\n    <placement xyz=\"";
     std::string const text =
-        replaced(readFile(VARO_SOURCE_DIR "/robots/humanoid.xml"), {{chain + "0 -0.075", chain + "0 -0.085"}});
-    EXPECT_EQ(findingsOf(text), Strings{lineOf(text, "com=\"-0.006 -0.003 -0.012\"") + " com-not-mirrored"});
+        replaced(Tests::readFile(VARO_SOURCE_DIR "/robots/humanoid.xml"), {{chain + "0 -0.075", chain + "0 -0.085"}});
+    EXPECT_EQ(findingsOf(text), Strings{lineOf(text, "<joint name=\"RHipTwist\"") + " place-not-mirrored"});
 }
 
-TEST_F(Rules, FindFaultsOfUrdfInItsText)
+TEST(Rules, FindFaultsOfUrdfInItsText)
 {
     EXPECT_EQ(findingsOf(R"(<robot name="A">
 <link name="Base"><inertial>
@@ -183,49 +188,19 @@ TEST_F(Rules, FindFaultsOfUrdfInItsText)
               (Strings{"3 negative-mass", "6 inertia-not-possible", "10 speed-not-positive"}));
 }
 
-TEST_F(Rules, TakeNoToleranceButAPlainNumber)
+TEST(Rules, CanBeSwitchedOnAndOff)
 {
-    for (char const* const wrong : {"-1", "1x", "nan", "inf", ""}) {
-        EXPECT_EQ(run({"check", std::string("--tolerance-mass=") + wrong, "-"}, pair).status, 2) << wrong;
-    }
-}
-
-/// The codes of all rows "| `code` | severity | ...".
-void collectCodes(std::string const& page, std::set<std::string>& codes)
-{
-    std::istringstream lines(page);
-    std::string line;
-    while (std::getline(lines, line)) {
-        std::istringstream words(line);
-        std::string bar;
-        std::string code;
-        std::string severity;
-        words >> bar >> code >> bar >> severity;
-        if (severity == "error" || severity == "warning" || severity == "note") {
-            codes.insert(code.substr(1, code.size() - 2));
-        }
-    }
-}
-
-TEST_F(Rules, AreThoseOfTheDocumentation)
-{
-    Outcome const refusal = run({"check", "--silence", "unheard-of", "-"}, pair);
-    EXPECT_EQ(refusal.status, 2);
-    std::istringstream lines(refusal.err);
-    std::string line;
-    std::getline(lines, line);
-    EXPECT_EQ(line, "There are no findings with the code \"unheard-of\". The codes are:");
-    std::set<std::string> known;
-    while (lines >> line) {
-        known.insert(line);
-    }
-    std::set<std::string> documented;
-    for (char const* const page : {"checking", "description-format", "urdf"}) {
-        collectCodes(readFile(std::string(VARO_SOURCE_DIR "/docs/") + page + ".md"), documented);
-    }
-    EXPECT_EQ(documented, known);
+    std::string const text =
+        replaced(pair, {{"value=\"9\"", "value=\"-9\""}, {"rubber", "ruber"}, {"2.000001", "2.01"}});
+    LintOptions options;
+    options.without = {"negative-mass"};
+    EXPECT_EQ(findingsOf(text, options), (Strings{"5 mass-not-mirrored", "12 unknown-material"}));
+    options.only = {"negative-mass", "unknown-material"};
+    EXPECT_EQ(findingsOf(text, options), Strings{"12 unknown-material"});
+    options.only = {"unheard-of"};
+    EXPECT_THROW(findingsOf(text, options), std::invalid_argument);
 }
 
 }  // namespace
 
-}  // namespace ToolTest
+}  // namespace Varo::Model

@@ -1,0 +1,27 @@
+#include "rules/facts.hpp"
+
+#include "robot/side_names.hpp"
+#include "rules/numbers.hpp"
+
+namespace Varo::Model::Rules {
+
+Facts::Facts(Robot const& robot, LintTolerances const& allowed)
+    : records(recordsOf(robot)),
+      tolerances(allowed),
+      places(placeAtZero(*records)),
+      sides(findSides(*records, places)),
+      actuatorPairs(mutualPairs(records->actuators))
+{
+    for (SidePair const& side : sides.pairs) {
+        JointConfig const& first = records->joints[side.first];
+        pairsOfKind[withoutSides(first.name)].push_back(jointPairs.size());
+        jointPairs.push_back({first, records->joints[side.second], side});
+    }
+}
+
+std::string rangeText(float min, float max)
+{
+    return shortest(min) + " to " + shortest(max);
+}
+
+}  // namespace Varo::Model::Rules

@@ -1,0 +1,191 @@
+#include "varo/model/lint.hpp"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "range.hpp"
+#include "rules/rules.hpp"
+
+namespace Varo::Model {
+
+namespace {
+
+struct Rule {
+    LintRule about;
+    void (*look)(Rules::Facts const& facts, Rules::Report const& report);
+};
+
+/// In the order of the documentation, whose table is written from it.
+constexpr Rule table[] = {
+    {{{"negative-mass", Severity::warning, "A mass is below zero."}, "bodies", {}}, Rules::findNegativeMass},
+    {{{"inertia-not-symmetric", Severity::warning, "An inertia matrix is not symmetric."}, "bodies", "inertia"},
+     Rules::findInertiaNotSymmetric},
+    {{{"inertia-not-positive", Severity::warning, "An inertia has a negative principal moment."}, "bodies", "inertia"},
+     Rules::findInertiaNotPositive},
+    {{{"inertia-not-possible", Severity::warning,
+       "One principal moment of an inertia is greater than the two others together, which no distribution of mass "
+       "gives."},
+      "bodies",
+      "inertia"},
+     Rules::findInertiaNotPossible},
+    {{{"speed-not-positive", Severity::warning,
+       "The greatest speed of something that can move is stated as zero or less."},
+      "joints, actuators and wheels",
+      {}},
+     Rules::findSpeedNotPositive},
+    {{{"start-outside-limits", Severity::warning,
+       "The angle in the posture `StandInit`, or 0 where it states none, is outside the limits. Native dialect only."},
+      "postures",
+      "limit"},
+     Rules::findStartOutsideLimits},
+    {{{"posture-outside-limits", Severity::warning, "The angle that another posture states is outside the limits."},
+      "postures",
+      "limit"},
+     Rules::findPostureOutsideLimits},
+    {{{"mirror-not-mutual", Severity::warning, "A mirror has another mirror than the element that names it, or none."},
+      "joints and actuators",
+      {}},
+     Rules::findMirrorNotMutual},
+    {{{"mirror-kinds-differ", Severity::warning,
+       "Only one of two that mirror each other says that the mirror is reflected."},
+      "joints and actuators",
+      {}},
+     Rules::findMirrorKindsDiffer},
+    {{{"sides-not-mirrored", Severity::note,
+       "Left and right are named, but the places of most that are do not mirror each other at zero, so that they are "
+       "not compared."},
+      "joints",
+      "places"},
+     Rules::findSidesNotMirrored},
+    {{{"place-not-mirrored", Severity::warning,
+       "The places of two counterparts are not each other's reflection. What they carry along is not told again."},
+      "joints",
+      "places"},
+     Rules::findPlaceNotMirrored},
+    {{{"axis-not-mirrored", Severity::warning,
+       "The axes of two counterparts are not each other's reflection, in either direction."},
+      "joints",
+      "places"},
+     Rules::findAxisNotMirrored},
+    {{{"axis-direction-not-mirrored", Severity::warning,
+       "Of a limb of five pairs or more, the axes of one pair are opposite in the frames of their links, those of all "
+       "others "
+       "alike; or the reverse."},
+      "joints",
+      "places"},
+     Rules::findAxisDirectionNotMirrored},
+    {{{"type-not-mirrored", Severity::warning,
+       "Two counterparts are of different types: one moves and the other does not, say."},
+      "joints",
+      ""},
+     Rules::findTypeNotMirrored},
+    {{{"no-counterpart", Severity::warning, "One side has something that moves and that the other side lacks."},
+      "joints",
+      ""},
+     Rules::findNoCounterpart},
+    {{{"mass-not-mirrored", Severity::warning, "The masses of a mirror pair differ."}, "bodies", "mass"},
+     Rules::findMassNotMirrored},
+    {{{"com-not-mirrored", Severity::warning, "The centres of mass of a mirror pair are not each other's reflection."},
+      "bodies",
+      "com"},
+     Rules::findComNotMirrored},
+    {{{"inertia-not-mirrored", Severity::warning, "The inertias of a mirror pair are not each other's reflection."},
+      "bodies",
+      "inertia"},
+     Rules::findInertiaNotMirrored},
+    {{{"limits-not-mirrored", Severity::warning,
+       "The limits of a mirror pair differ or, if the pair is reflected, are not each other's opposites."},
+      "joints and actuators",
+      "limit"},
+     Rules::findLimitsNotMirrored},
+    {{{"effort-not-mirrored", Severity::warning, "The greatest efforts of two counterparts differ."}, "joints", "mass"},
+     Rules::findEffortNotMirrored},
+    {{{"velocity-not-mirrored", Severity::warning, "The greatest velocities of two counterparts differ."},
+      "joints",
+      "mass"},
+     Rules::findVelocityNotMirrored},
+    {{{"damping-not-mirrored", Severity::warning, "The dampings of two counterparts differ."}, "joints", "mass"},
+     Rules::findDampingNotMirrored},
+    {{{"friction-not-mirrored", Severity::warning, "The frictions of two counterparts differ."}, "joints", "mass"},
+     Rules::findFrictionNotMirrored},
+    {{{"mimic-not-mirrored", Severity::warning,
+       "Two counterparts follow other joints in different ratios, or only one of them does."},
+      "joints",
+      "mass"},
+     Rules::findMimicNotMirrored},
+    {{{"sensor-not-mirrored", Severity::warning,
+       "The places of two sensors that are named for the two sides, on joints that mirror, are not each other's "
+       "reflection."},
+      "sensors",
+      "places"},
+     Rules::findSensorNotMirrored},
+    {{{"wheel-not-mirrored", Severity::warning,
+       "Two wheels that are named for the two sides differ in mass, effort or velocity."},
+      "wheels",
+      "mass"},
+     Rules::findWheelNotMirrored},
+    {{{"actuators-not-paired", Severity::warning,
+       "Two actuators mirror each other, but the joints that they are attached to do not."},
+      "actuators",
+      {}},
+     Rules::findActuatorsNotPaired},
+    {{{"actuator-not-reached", Severity::warning,
+       "An actuator is attached to another actuator, where no model contains it."},
+      "actuators",
+      {}},
+     Rules::findActuatorNotReached},
+    {{{"idle-actuator", Severity::warning, "An actuator moves no joint."}, "actuators", {}}, Rules::findIdleActuator},
+    {{{"empty-chain", Severity::warning, "A chain has no joints."}, "chains", {}}, Rules::findEmptyChain},
+    {{{"unknown-material", Severity::warning, "No coefficient of friction is known for the material of a body."},
+      "bodies",
+      {}},
+     Rules::findUnknownMaterial},
+};
+
+bool contains(std::vector<std::string> const& codes, std::string_view code)
+{
+    return std::find(codes.begin(), codes.end(), code) != codes.end();
+}
+
+void checkKnown(std::vector<std::string> const& codes)
+{
+    for (std::string const& code : codes) {
+        auto const isIt = [&code](Rule const& rule) { return rule.about.code.name == code; };
+        if (std::none_of(std::begin(table), std::end(table), isIt)) {
+            throw std::invalid_argument("There is no rule with the code " + quoted(code) + ".");
+        }
+    }
+}
+
+bool applies(Rule const& rule, LintOptions const& options)
+{
+    std::string_view const code = rule.about.code.name;
+    return (options.only.empty() || contains(options.only, code)) && !contains(options.without, code);
+}
+
+}  // namespace
+
+std::vector<LintRule> lintRules()
+{
+    std::vector<LintRule> rules;
+    for (Rule const& rule : table) {
+        rules.push_back(rule.about);
+    }
+    return rules;
+}
+
+Findings lint(Robot const& robot, LintOptions const& options)
+{
+    checkKnown(options.only);
+    checkKnown(options.without);
+    Rules::Facts const facts(robot, options.tolerances);
+    Diagnostics diagnostics(robot.source());
+    for (Rule const& rule : table) {
+        if (applies(rule, options)) {
+            rule.look(facts, Rules::Report(robot, rule.about.code, diagnostics));
+        }
+    }
+    return diagnostics.findings();
+}
+
+}  // namespace Varo::Model

@@ -1,0 +1,160 @@
+#include <cmath>
+
+#include "rules/rules.hpp"
+
+namespace Varo::Model::Rules {
+
+namespace {
+
+/// Whether the mirror that `config` names has another mirror than `config`, or none. That of a mirror whose own
+/// reference leads nowhere is not known.
+template <class Config>
+bool isOneSided(Table<Config> const& table, Config const& config)
+{
+    Config const* const mirror = mirrorOf(table, config);
+    if (mirror == nullptr) {
+        return false;
+    }
+    Config const* const back = mirrorOf(table, *mirror);
+    bool const isUnknown = back == nullptr && mirror->mirrorKind != noMirror;
+    return back != &config && !isUnknown;
+}
+
+/// When L names R, and R one of another pair, neither L nor R is pointed back to; but only R is to blame.
+template <class Config>
+bool isToBlame(Table<Config> const& table, Config const& config)
+{
+    auto const isWrong = [&table](Config const& each) {
+        return isOneSided(table, each) && !isOneSided(table, *mirrorOf(table, each));
+    };
+    return isOneSided(table, config) && !isWrong(*mirrorOf(table, config));
+}
+
+template <class Config>
+void findNotMutual(Report const& report, Table<Config> const& table)
+{
+    for (Config const& each : table) {
+        if (isToBlame(table, each)) {
+            report.at(each, Part::mirror,
+                      "The mirror " + quoted(each.mirrorName) + " does not point back to " + quoted(each.name) + ".");
+        }
+    }
+}
+
+template <class Config>
+void findKindsDiffer(Report const& report, std::vector<Pair<Config>> const& pairs)
+{
+    for (auto const& [first, second] : pairs) {
+        if (first.mirrorKind != second.mirrorKind) {
+            report.at(second, Part::mirror,
+                      "Of " + namesOf(first, second) + " only one says that their mirror is reflected.");
+        }
+    }
+}
+
+bool agree(float a, float b, double tolerance)
+{
+    return a == b || std::abs(static_cast<double>(a) - static_cast<double>(b)) <= tolerance;  // infinities are equal
+}
+
+template <class Driven>
+bool areReversed(Driven const& first, Driven const& second)
+{
+    return first.minAngle > first.maxAngle || second.minAngle > second.maxAngle;  // told already
+}
+
+/// Which limits of the second are not what those of the first make them.
+struct LimitMisses {
+    bool minimum;
+    bool maximum;
+
+    bool any() const { return minimum || maximum; }
+};
+
+template <class Driven>
+LimitMisses limitMisses(Driven const& first, Driven const& second, bool isReflected, double tolerance)
+{
+    return {!agree(second.minAngle, isReflected ? -first.maxAngle : first.minAngle, tolerance),
+            !agree(second.maxAngle, isReflected ? -first.minAngle : first.maxAngle, tolerance)};
+}
+
+template <class Driven>
+void reportLimits(Report const& report, Driven const& first, Driven const& second, bool isReflected,
+                  LimitMisses const& misses)
+{
+    report.ofTwo(
+        second, first, misses.minimum ? Part::minimum : Part::maximum,
+        "The limits of " + namesOf(first, second) + ", " + rangeText(first.minAngle, first.maxAngle) + " and " +
+            rangeText(second.minAngle, second.maxAngle) +
+            (isReflected ? ", are not each other's opposites." : ", do not agree."),
+        isReflected ? "A reflected pair has opposite limits." : "A pair that is not reflected has the same limits.");
+}
+
+bool haveLimits(JointPair const& pair)
+{
+    return pair.side.isLimb && pair.side.isSure && pair.side.isOfOneType && pair.kind() != noMirror &&
+           isMoving(pair.first.jointType) && !areReversed(pair.first, pair.second);
+}
+
+}  // namespace
+
+void findMirrorNotMutual(Facts const& facts, Report const& report)
+{
+    findNotMutual(report, facts.records->joints);
+    findNotMutual(report, facts.records->actuators);
+}
+
+void findMirrorKindsDiffer(Facts const& facts, Report const& report)
+{
+    findKindsDiffer(report, mutualPairs(facts.records->joints));
+    findKindsDiffer(report, facts.actuatorPairs);
+}
+
+void findLimitsNotMirrored(Facts const& facts, Report const& report)
+{
+    bool const areCopies = areSidesCopies(facts);
+    for (JointPair const& pair : facts.jointPairs) {
+        if (!haveLimits(pair)) {
+            continue;
+        }
+        bool const isReflected = pair.kind() == reflectedMirror;
+        LimitMisses const misses = limitMisses(pair.first, pair.second, isReflected, facts.tolerances.limit);
+        bool const isCopy = pair.first.endTransform.isNear(pair.second.endTransform) &&
+                            !limitMisses(pair.first, pair.second, false, facts.tolerances.limit).any();
+        if (misses.any() && !(areCopies && isCopy)) {
+            reportLimits(report, pair.first, pair.second, isReflected, misses);
+        }
+    }
+    for (auto const& [first, second] : facts.actuatorPairs) {
+        if (!facts.records->statesActuators || areReversed(first, second) || first.mirrorKind != second.mirrorKind) {
+            continue;  // that of their joints, or told already
+        }
+        bool const isReflected = first.mirrorKind == reflectedMirror;
+        LimitMisses const misses = limitMisses(first, second, isReflected, facts.tolerances.limit);
+        if (misses.any()) {
+            reportLimits(report, first, second, isReflected, misses);
+        }
+    }
+}
+
+/// A joint that points at the other without being pointed back to has a finding of its own.
+void findActuatorsNotPaired(Facts const& facts, Report const& report)
+{
+    auto const& joints = facts.records->joints;
+    for (auto const& [first, second] : facts.actuatorPairs) {
+        if (!facts.records->statesActuators) {
+            return;  // what their joints are attached to says nothing
+        }
+        auto const* const one = joints.find(first.parentJoint);
+        auto const* const other = joints.find(second.parentJoint);
+        bool const areTwo = one != nullptr && other != nullptr && one != other;
+        if (areTwo && mirrorOf(joints, *one) != other && mirrorOf(joints, *other) != one) {
+            report.at(second, Part::parent,
+                      "The actuators " + namesOf(first, second) +
+                          " mirror each other, but the joints that they are attached to, " + namesOf(*one, *other) +
+                          ", do not.");
+        }
+    }
+}
+
+}  // namespace Varo::Model::Rules

@@ -1,0 +1,159 @@
+#include <cmath>
+#include <cstdlib>
+
+#include "rules/numbers.hpp"
+#include "rules/rules.hpp"
+
+/// What is named for left and right must be there on both sides, and in the places that reflect each other.
+namespace Varo::Model::Rules {
+
+namespace {
+
+double lengthOf(Vector const& v)
+{
+    return std::hypot(v[0], v[1], v[2]);
+}
+
+/// Whether what carries the pair misses as much, or is turned askew: then that is told. Looks no further than the next
+/// few carriers, among which it is if one of them has a fault of its own.
+bool isCarriedOn(Facts const& facts, SidePair const& side)
+{
+    constexpr int farthest = 8;
+    std::size_t carrier = side.carrier;
+    for (int i = 0; i < farthest && carrier != none; ++i) {
+        SidePair const& before = facts.sides.pairs[carrier];
+        Vector const own = {side.miss[0] - before.miss[0], side.miss[1] - before.miss[1],
+                            side.miss[2] - before.miss[2]};
+        if (lengthOf(own) <= 2.0 * facts.sides.tolerance) {
+            return true;
+        }
+        carrier = before.carrier;
+    }
+    return side.isAskew;
+}
+
+/// "y = 0.1": the plane as messages name it.
+std::string textOf(MirrorPlane const& plane)
+{
+    double const offset = std::abs(plane.offset) < 1e-6 ? 0.0 : plane.offset;
+    return std::string(1, "xyz"[plane.axis]) + " = " + rounded(offset);
+}
+
+/// Whether something that does not move is placed alike on its carriers: a camera on hands of one make, say.
+bool isCopy(JointPair const& pair)
+{
+    bool const isFixed = !isMoving(pair.first.jointType) && !isMoving(pair.second.jointType);
+    return isFixed && pair.side.carrier != none && pair.first.placement.isNear(pair.second.placement);
+}
+
+bool hasAxis(JointPair const& pair)
+{
+    return pair.side.isLimb && !pair.side.isStated && pair.side.isSure && pair.side.isProved() &&
+           isMoving(pair.first.jointType);
+}
+
+/// The joints of a limb by whether the two axes of a pair are the same, each in the frame of its link.
+struct Convention {
+    std::vector<JointPair const*> alike;
+    std::vector<JointPair const*> opposite;
+
+    void add(JointPair const& pair)
+    {
+        float cosine = 0.0F;
+        for (int row = 0; row < 3; ++row) {  // the third row of the inverse is the axis
+            cosine += pair.first.endTransform(2, row) * pair.second.endTransform(2, row);
+        }
+        (cosine > 0.0F ? alike : opposite).push_back(&pair);
+    }
+};
+
+bool isReached(Facts const& facts, JointPair const& pair)
+{
+    return facts.placeOf(pair.first).isReached && facts.placeOf(pair.second).isReached;
+}
+
+}  // namespace
+
+void findPlaceNotMirrored(Facts const& facts, Report const& report)
+{
+    for (JointPair const& pair : facts.jointPairs) {
+        if (pair.side.isLimb && isReached(facts, pair) && !pair.side.isPlaced && !isCopy(pair) &&
+            !isCarriedOn(facts, pair.side)) {
+            report.ofTwo(pair.second, pair.first, Part::placement,
+                         "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
+                             textOf(facts.sides.plane) + " by " + rounded(lengthOf(pair.side.miss)) + " m.");
+        }
+    }
+}
+
+void findAxisNotMirrored(Facts const& facts, Report const& report)
+{
+    for (JointPair const& pair : facts.jointPairs) {
+        if (pair.side.isLimb && isReached(facts, pair) && !pair.side.isTurned && !pair.side.isAskew) {
+            report.ofTwo(pair.second, pair.first, Part::axis,
+                         "The axes of " + namesOf(pair.first, pair.second) +
+                             " are not each other's reflection, in either direction.");
+        }
+    }
+}
+
+/// Which convention a limb follows is its author's affair, but it should be one.
+void findAxisDirectionNotMirrored(Facts const& facts, Report const& report)
+{
+    constexpr std::size_t enough = 5;
+    std::vector<Convention> limbs(facts.jointPairs.size());
+    for (JointPair const& pair : facts.jointPairs) {
+        if (hasAxis(pair)) {
+            limbs[pair.side.limb].add(pair);
+        }
+    }
+    for (Convention const& limb : limbs) {
+        JointPair const* const odd = limb.alike.size() == 1      ? limb.alike.front()
+                                     : limb.opposite.size() == 1 ? limb.opposite.front()
+                                                                 : nullptr;
+        if (odd != nullptr && limb.alike.size() + limb.opposite.size() >= enough) {
+            report.ofTwo(odd->second, odd->first, Part::axis,
+                         "The axes of " + namesOf(odd->first, odd->second) +
+                             (limb.alike.size() == 1 ? " have the same direction" : " have opposite directions") +
+                             " in the frames of their links, unlike those of all others of the limb.");
+        }
+    }
+}
+
+void findTypeNotMirrored(Facts const& facts, Report const& report)
+{
+    for (JointPair const& pair : facts.jointPairs) {
+        if (pair.side.isLimb && !pair.side.isOfOneType) {
+            report.ofTwo(pair.second, pair.first, Part::whole,
+                         "The joints " + namesOf(pair.first, pair.second) + " are of different types.");
+        }
+    }
+}
+
+void findNoCounterpart(Facts const& facts, Report const& report)
+{
+    constexpr std::size_t enough = 2;  // pairs, to say what the sides of a robot are
+    for (std::size_t const joint : facts.sides.alone) {
+        JointConfig const& config = facts.records->joints[joint];
+        if (facts.sides.plane.support >= enough) {
+            report.at(config, Part::name,
+                      "The other side has no counterpart of the joint " + quoted(config.name) +
+                          ", nor of what is attached to it.");
+        }
+    }
+}
+
+void findSidesNotMirrored(Facts const& facts, Report const& report)
+{
+    constexpr std::size_t enough = 3;
+    if (!facts.sides.areMirrored && facts.sides.named >= enough) {
+        report.at(facts.records->root, Part::whole,
+                  "At zero, left and right of this robot do not mirror each other: of " +
+                      std::to_string(facts.sides.named) +
+                      " pairs by name, the best plane across an axis of the root "
+                      "proves " +
+                      std::to_string(facts.sides.proved) + ".");
+    }
+}
+
+}  // namespace Varo::Model::Rules
