@@ -50,9 +50,7 @@ Findings findingsOf(Description description, Rules::Tolerances const& tolerances
     } catch (Varo::Model::WithFindings const& reason) {
         append(findings, reason.findings());
     }
-    std::stable_sort(findings.begin(), findings.end(), [](Finding const& a, Finding const& b) {
-        return std::pair(a.line, a.column) < std::pair(b.line, b.column);
-    });
+    Rules::sort(findings);
     return findings;
 }
 

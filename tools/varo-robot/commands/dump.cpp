@@ -4,43 +4,17 @@
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
-#include "sim/link.hpp"
 #include "support/description.hpp"
-#include "support/element_json.hpp"
+#include "support/robot_json.hpp"
 
 namespace Tool {
 
 namespace {
 
-template <class Element>
-void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vector<Element const*> const& elements)
-{
-    dump.next(key);
-    JsonStream array(std::cout, '[', 2);
-    for (Element const* element : elements) {
-        array.add(json.of(*element));
-    }
-}
-
 int dump(std::string const& file)
 {
     Robot const robot = loadRobot(file);
-    Sim::Model const& model = robot.model;
-    ElementJson json;
-    {
-        JsonStream dump(std::cout, '{');
-        dump.add("name", model.name());
-        dump.add("prettyName", model.prettyName(0));
-        dump.add("version", robot.records().version());
-        dump.add("rootLink", model.rootLink()->name());
-        addElements(dump, json, "links", model.links());
-        addElements(dump, json, "joints", model.joints());
-        addElements(dump, json, "jointSymmetries", model.jointSymmetries());
-        addElements(dump, json, "jointGroups", model.jointGroups());
-        addElements(dump, json, "actuators", model.actuators());
-        addElements(dump, json, "actuatorGroups", model.actuatorGroups());
-        addElements(dump, json, "sensors", model.sensors());
-    }
+    printRobot(std::cout, robot.model);
     std::cout << '\n';
     return exitStatus::fine;
 }

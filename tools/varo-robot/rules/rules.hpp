@@ -25,6 +25,12 @@ Varo::Model::Findings apply(Varo::Model::Robot const& robot, Tolerances const& t
 /// Those of the rules that compare poses.
 Varo::Model::Findings applyToPoses(Sim::Model const& model, Tolerances const& tolerances);
 
+/// All that is to say of a model: the findings of reading and building it, and those of all rules, by their places.
+Varo::Model::Findings findingsOf(Sim::Model const& model, Tolerances const& tolerances);
+
+/// By their places in the text.
+void sort(Varo::Model::Findings& findings);
+
 /// The codes that these findings bear.
 std::vector<std::string> codes();
 
