@@ -4,7 +4,7 @@ export default tseslint.config(
   { ignores: ['node_modules/'] },
   ...tseslint.configs.strict,
   {
-    files: ['src/**/*.ts', 'tests/**/*.ts'],
+    files: ['src/**/*.ts', 'tests/**/*.ts', 'bench/**/*.ts'],
     rules: {
       eqeqeq: 'error',
       'no-restricted-properties': [
@@ -15,5 +15,5 @@ export default tseslint.config(
     },
   },
   // A test fails all the same where something is not there.
-  { files: ['tests/**/*.ts'], rules: { '@typescript-eslint/no-non-null-assertion': 'off' } },
+  { files: ['tests/**/*.ts', 'bench/**/*.ts'], rules: { '@typescript-eslint/no-non-null-assertion': 'off' } },
 );

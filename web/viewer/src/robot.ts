@@ -33,6 +33,7 @@ export class Robot {
   readonly inTreeOrder: readonly Link[];
 
   private readonly jointsByName = new Map<string, Joint>();
+  private readonly linksByJoint = new Map<Joint, Link>();
 
   constructor(data: ViewData) {
     this.data = data;
@@ -46,6 +47,11 @@ export class Robot {
       setIfNew(this.jointsByName, joint.data.name, joint);
     }
     this.links = this.tieLinks();
+    for (const link of this.links) {
+      if (link.joint !== null) {
+        setIfNew(this.linksByJoint, link.joint, link);
+      }
+    }
     this.inTreeOrder = orderedFrom(this.links);
   }
 
@@ -55,12 +61,7 @@ export class Robot {
 
   /** The link that a joint moves. */
   linkOf(joint: Joint): Link | undefined {
-    return this.links.find((link) => link.joint === joint);
-  }
-
-  /** The joints that a variable moves. */
-  jointsOf(variable: number): Joint[] {
-    return this.joints.filter((joint) => joint.drive.motion !== 'none' && joint.drive.variable === variable);
+    return this.linksByJoint.get(joint);
   }
 
   private tieLinks(): Link[] {
@@ -97,7 +98,7 @@ function singlePrecision(drive: Drive): Drive {
   return { ...drive, ratio: Math.fround(drive.ratio), offset: Math.fround(drive.offset) };
 }
 
-function setIfNew<Value>(map: Map<string, Value>, key: string, value: Value): void {
+function setIfNew<Key, Value>(map: Map<Key, Value>, key: Key, value: Value): void {
   if (!map.has(key)) {
     map.set(key, value);
   }

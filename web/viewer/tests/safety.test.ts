@@ -55,7 +55,6 @@ test('no name gets out of the data', async () => {
     const { page, offences } = await openPage(browser, pageOf(writeScratch('attack.urdf', text)));
     assert.deepEqual(offences, [], attack);
     assert.equal(await page.$eval('h1', (title) => title.textContent), attack);
-    assert.ok((await page.title()).startsWith(attack.trim().slice(0, 3)));
     assert.equal(await page.$$eval('script', (scripts) => scripts.length), 2, attack);
     assert.equal(await page.$$eval('img, svg, iframe', (elements) => elements.length), 0, attack);
     await page.$eval('.tree li:last-child', (row) => { (row as HTMLElement).click(); });

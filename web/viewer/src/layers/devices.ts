@@ -1,9 +1,12 @@
-import { CanvasTexture, Mesh, MeshBasicMaterial, Object3D, SphereGeometry, Sprite, SpriteMaterial } from 'three';
+import { CanvasTexture, Mesh, MeshBasicMaterial, Object3D, SphereGeometry, Sprite, SpriteMaterial, SRGBColorSpace } from 'three';
 import type { ActuatorData, Place, SensorData } from '../data';
 import { matrixAt, place } from '../picture/matrix';
 import type { Link } from '../robot';
 import { frustumOf } from './frustum';
 import { LinkLayer } from './layer';
+
+/** Sensors that measure a joint: each joint has some, and signs for all of them would hide the rest. */
+const ofJoints = /^(Angle|Torque|Coupled|Wheel|DCM)/;
 
 /** What cameras and scanners see, and a sign for each sensor. */
 export class Sensors extends LinkLayer {
@@ -13,11 +16,12 @@ export class Sensors extends LinkLayer {
 
   protected draw(link: Link): Object3D[] {
     const { dump, sensorPlaces } = this.picture.robot.data;
-    return carriedBy(link, dump.sensors, sensorPlaces).flatMap(([sensor, pose]) => {
+    const carried = carriedBy(link, dump.sensors, sensorPlaces).filter(([{ type }]) => !ofJoints.test(type));
+    return carried.flatMap(([sensor, pose]) => {
       const frustum = frustumOf(sensor, this.picture.stage.robotSize);
       const sign = new Sprite(this.signOf(sensor.type));
       matrixAt(pose).decompose(sign.position, sign.quaternion, sign.scale);
-      sign.scale.setScalar(0.045);
+      sign.scale.setScalar(0.032);
       sign.renderOrder = 3;
       named(sign, sensor);
       return frustum === null ? [sign] : [place(frustum, pose), sign];
@@ -28,6 +32,7 @@ export class Sensors extends LinkLayer {
     let sign = this.signs.get(type);
     if (sign === undefined) {
       const map = new CanvasTexture(signPicture(initials(type)));
+      map.colorSpace = SRGBColorSpace;
       sign = new SpriteMaterial({ map, sizeAttenuation: false, depthTest: false });
       this.signs.set(type, sign);
     }

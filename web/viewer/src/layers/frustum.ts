@@ -14,7 +14,7 @@ interface View {
 
 const color = 0x0ea5e9;
 /** Farther than so many times the robot's size nothing is drawn. */
-const drawnSizes = 0.6;
+const drawnSizes = 0.3;
 
 /** What a camera or scanner sees along the x axis of its frame; null for other sensors. */
 export function frustumOf(sensor: SensorData, robotSize: number): Group | null {
@@ -105,6 +105,6 @@ function scan(view: View, near: number, far: number): Group {
 function drawing(lines: number[], faces: number[]): Group {
   const edges = new BufferGeometry().setAttribute('position', new Float32BufferAttribute(lines, 3));
   const sides = new BufferGeometry().setAttribute('position', new Float32BufferAttribute(faces, 3));
-  const glass = new MeshBasicMaterial({ color, transparent: true, opacity: 0.12, side: DoubleSide, depthWrite: false });
+  const glass = new MeshBasicMaterial({ color, transparent: true, opacity: 0.08, side: DoubleSide, depthWrite: false });
   return new Group().add(new LineSegments(edges, new LineBasicMaterial({ color })), new Mesh(sides, glass));
 }

@@ -10,7 +10,7 @@ import { forEachMesh, type MeshLibrary, unstated } from './mesh_library';
 import { solidOf } from './solid';
 
 const plain = 0xb8bec9;
-const standIn = 0xcfa45a;
+const standIn = 0xe0bb78;
 
 /** The robot in the picture: a frame for each link, with what is shown of it. */
 export class Figure {
@@ -82,6 +82,9 @@ export class Figure {
       }
       hasStandIn ||= isStandIn;
     }
+    if (hasStandIn) {
+      body.add(bonesOf(link, this.robot, size));
+    }
     return body;
   }
 
@@ -95,6 +98,8 @@ export class Figure {
   private standInFor(link: Link, size: number): Object3D {
     const box = equivalentBox(link.data.mass);
     const edges = box?.size ?? new Vector3(1, 1, 1).multiplyScalar(size * 0.03);
+    // Inertias that are only made up may be those of boxes that would hide all else.
+    edges.multiplyScalar(Math.min(1, (size * 0.35) / Math.max(...edges.toArray())));
     const mesh = new Mesh(solidOf({ type: 'box', size: edges.max(least(size)).toArray() }), surface(standIn));
     const object = new Group().add(mesh);
     object.userData.standIn = true;
