@@ -16,7 +16,7 @@ namespace KinematicsTest {
 
 inline std::vector<std::string> ownRobots()
 {
-    std::vector<std::string> files = Tests::filesIn(VARO_SOURCE_DIR "/robots", ".xml");
+    std::vector<std::string> files = Tests::exampleFiles();
     for (std::string const& file : Tests::filesIn(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf")) {
         files.push_back(file);
     }

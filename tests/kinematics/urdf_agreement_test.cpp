@@ -163,8 +163,8 @@ void compare(std::string const& file)
 
 TEST(UrdfBesideKdl, OwnFilesMoveAlike)
 {
-    for (std::string const name : {"awkward_axes", "gripper"}) {
-        compare(VARO_SOURCE_DIR "/tests/urdf/data/" + name + ".urdf");
+    for (std::string const name : {"tests/urdf/data/awkward_axes", "tests/urdf/data/gripper", "robots/quadruped"}) {
+        compare(VARO_SOURCE_DIR "/" + name + ".urdf");
     }
 }
 

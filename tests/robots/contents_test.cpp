@@ -1,3 +1,4 @@
+#include <cmath>
 #include <map>
 
 #include <gmock/gmock.h>
@@ -30,7 +31,9 @@ TEST_P(ExampleRobot, StartsWithinItsLimits)
         for (auto const* actuator : actuators) {
             EXPECT_LE(actuator->minValue(), actuator->startValue()) << actuator->name();
             EXPECT_LE(actuator->startValue(), actuator->maxValue()) << actuator->name();
-            EXPECT_GT(actuator->maxSpeed(), 0) << actuator->name();
+            if (actuator->minValue() < actuator->maxValue() && std::isfinite(actuator->maxValue())) {
+                EXPECT_GT(actuator->maxSpeed(), 0) << actuator->name();
+            }
         }
     };
     expectWithinLimits(model.angleActuators());
@@ -168,6 +171,29 @@ TEST(Rover, DrivesItsFourWheels)
     EXPECT_EQ(lineOf(model.sensors()),
               "LeftRocker FrontLeftSteering RearLeftSteering RightRocker FrontRightSteering RearRightSteering MastLift "
               "MastTurn MastNod FrontBumper FrontSonar Inertial/Gyrometer MastCamera MastDepth");
+}
+
+TEST(Quadruped, HasSensorsInTrunkHeadAndFeet)
+{
+    Sim::Model const model(Tests::examplePath("quadruped"));
+    EXPECT_EQ(lineOf(model.bumperSensors()),
+              "left_front_contact left_hind_contact right_front_contact right_hind_contact");
+    EXPECT_EQ(lineOf(model.inertialSensors()), "trunk_accelerations/Gyrometer trunk_imu/Gyrometer");
+    EXPECT_EQ(lineOf(model.cameraSensors()), "head_camera rear_camera");
+    EXPECT_EQ(model.cameraDepthSensor("head_depth")->width(), 424);
+}
+
+TEST(MobileArm, MovesFingersAndTipsTogether)
+{
+    Sim::Model const model(Tests::examplePath("mobile_arm"));
+    auto const* const gripper = model.coupledActuator("left_finger_slideCoupling");
+    ASSERT_NE(gripper, nullptr);
+    std::vector<std::pair<std::string, float>> ratios;
+    for (auto const& [joint, ratio] : gripper->controlledJointAndRatios()) {
+        ratios.emplace_back(joint->name(), ratio);
+    }
+    EXPECT_THAT(ratios, ElementsAre(std::pair("left_finger_slide", 1.0F), std::pair("left_tip_turn", -8.0F),
+                                    std::pair("right_finger_slide", 1.0F), std::pair("right_tip_turn", 8.0F)));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #ifndef VARO_TESTS_EXAMPLE_ROBOTS_HPP
 #define VARO_TESTS_EXAMPLE_ROBOTS_HPP
 
+#include <filesystem>
 #include <string>
 
 #include "sim/frame.hpp"
@@ -9,11 +10,12 @@
 // The descriptions in robots/, by file name.
 namespace Tests {
 
-inline constexpr char const* exampleRobots[] = {"minimal", "rover", "humanoid", "helvo_arm"};
+inline constexpr char const* exampleRobots[] = {"minimal", "rover", "humanoid", "helvo_arm", "quadruped", "mobile_arm"};
 
 inline std::string examplePath(std::string const& robot)
 {
-    return std::string(VARO_SOURCE_DIR) + "/robots/" + robot + ".xml";
+    std::string const path = std::string(VARO_SOURCE_DIR) + "/robots/" + robot;
+    return path + (std::filesystem::exists(path + ".xml") ? ".xml" : ".urdf");
 }
 
 /// The pose in the root's frame of a frame, or of anything that has one.

@@ -10,6 +10,8 @@
 #include "sim/mass_data.hpp"
 
 using testing::ElementsAreArray;
+using testing::FloatNear;
+using testing::Pointwise;
 using Tests::poseOf;
 using Varo::Math::Position3D;
 
@@ -95,5 +97,42 @@ TEST(SymmetricHumanoid, LeavesNoSidedJointWithoutItsPartner)
         expectReflected(poseOf(left).position(), poseOf(right).position());
     }
 }
+
+/// A URDF names its sides and states no mirrors.
+class SidedUrdf : public testing::TestWithParam<char const*> {};
+
+TEST_P(SidedUrdf, HasARightSideThatReflectsItsLeftOne)
+{
+    Sim::Model const model(Tests::examplePath(GetParam()));
+    std::size_t pairs = 0;
+    for (Sim::Joint const* left : model.joints()) {
+        if (left->name().rfind("left_", 0) != 0) {
+            continue;
+        }
+        SCOPED_TRACE(left->name());
+        ++pairs;
+        Sim::Joint const* const right = model.joint("right_" + left->name().substr(5));
+        ASSERT_NE(right, nullptr);
+        expectReflected(poseOf(left->childLink()).position(), poseOf(right->childLink()).position());
+        Sim::MassData const* const a = left->childLink()->mass();
+        Sim::MassData const* const b = right->childLink()->mass();
+        EXPECT_EQ(a->mass(), b->mass());
+        expectReflected(a->CoM(), b->CoM());
+        EXPECT_THAT(reflected(a->inertiaMatrix()), Pointwise(FloatNear(1e-9F), b->inertiaMatrix()));
+        Sim::AngleActuator const* const motor = model.angleActuator(left->name());
+        Sim::AngleActuator const* const other = model.angleActuator(right->name());
+        if (motor != nullptr && motor->minValue() < motor->maxValue()) {
+            // What slides reflects with its axis, a vector; what turns, with the opposite of that.
+            bool const slides = left->name().find("slide") != std::string::npos;
+            bool const isAlike = (senseOf(left, right) > 0.0F) != slides;
+            EXPECT_EQ(motor->minValue(), isAlike ? other->minValue() : -other->maxValue());
+            EXPECT_EQ(motor->maxValue(), isAlike ? other->maxValue() : -other->minValue());
+        }
+    }
+    EXPECT_GE(pairs, 3U);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, SidedUrdf, testing::Values("quadruped", "mobile_arm"),
+                         [](auto const& robot) { return std::string(robot.param); });
 
 }  // namespace

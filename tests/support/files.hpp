@@ -34,6 +34,16 @@ inline std::vector<std::string> filesIn(std::string const& folder, std::string c
     return files;
 }
 
+/// The example robots, in either dialect.
+inline std::vector<std::string> exampleFiles()
+{
+    std::vector<std::string> files = filesIn(VARO_SOURCE_DIR "/robots", ".xml");
+    for (std::string const& file : filesIn(VARO_SOURCE_DIR "/robots", ".urdf")) {
+        files.push_back(file);
+    }
+    return files;
+}
+
 }  // namespace Tests
 
 #endif

@@ -44,6 +44,7 @@ symmetries    1
 joint groups  2
 chains        LLeg: joints 1, on Pelvis
               RLeg: joints 1, on Pelvis
+meshes        2, of them not found 2
 )");
     Outcome const outcome = run({"info", humanoid});
     EXPECT_LE(std::count(outcome.out.begin(), outcome.out.end(), '\n'), 24);

@@ -60,7 +60,7 @@ void checkFile(std::string const& file)
 
 TEST(UrdfGeometry, OwnFilesStandWhereTheTextSays)
 {
-    auto const files = Tests::filesIn(ownFolder(), ".urdf");
+    auto const files = ownFiles();
     EXPECT_FALSE(files.empty());
     std::for_each(files.begin(), files.end(), checkFile);
 }

@@ -33,8 +33,8 @@ void readSafely(std::string const& text)
 std::vector<std::string> sampleTexts()
 {
     std::vector<std::string> texts;
-    for (std::string const& folder : {ownFolder(), realRobotsFolder()}) {
-        for (std::string const& file : Tests::filesIn(folder, ".urdf")) {
+    for (std::vector<std::string> const& files : {ownFiles(), Tests::filesIn(realRobotsFolder(), ".urdf")}) {
+        for (std::string const& file : files) {
             texts.push_back(readFile(file));
         }
     }

@@ -21,9 +21,14 @@ inline std::string dataFile(std::string const& name)
     return VARO_SOURCE_DIR "/tests/urdf/data/" + name;
 }
 
-inline std::string ownFolder()
+/// The example robots that are in URDF, and the files of these tests.
+inline std::vector<std::string> ownFiles()
 {
-    return VARO_SOURCE_DIR "/tests/urdf/data";
+    std::vector<std::string> files = Tests::filesIn(VARO_SOURCE_DIR "/robots", ".urdf");
+    for (std::string const& file : Tests::filesIn(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf")) {
+        files.push_back(file);
+    }
+    return files;
 }
 
 /// Real robots, which may stand beside the sources; the environment can name another folder.

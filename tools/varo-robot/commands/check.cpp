@@ -13,6 +13,7 @@
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
 #include "support/json.hpp"
+#include "support/meshes.hpp"
 #include "support/numbers.hpp"
 
 namespace Tool {
@@ -27,6 +28,8 @@ struct Options {
     std::vector<std::string> files;
     std::vector<std::string> silenced;
     Rules::Tolerances tolerances;
+    Varo::Model::MeshFolders meshFolders;
+    bool meshes = false;
     bool strict = false;
     bool json = false;
 };
@@ -36,13 +39,17 @@ void append(Findings& findings, Findings const& more)
     findings.insert(findings.end(), more.begin(), more.end());
 }
 
-/// What the text, the rules and the building of the model have to say.
-Findings findingsOf(Description description, Rules::Tolerances const& tolerances)
+/// What the text, the rules and the building of the model have to say; of meshes, when folders to look in are given.
+Findings findingsOf(Description description, Rules::Tolerances const& tolerances,
+                    Varo::Model::MeshFolders const* meshFolders)
 {
     if (description.reading.robot == nullptr) {
         return std::move(description.reading.findings);
     }
     Findings findings = Rules::apply(*description.reading.robot, tolerances);
+    if (meshFolders != nullptr) {
+        append(findings, missingMeshes(*description.reading.robot, *meshFolders));
+    }
     try {
         Sim::Model const model(std::move(description.reading));
         append(findings, model.findings());
@@ -108,7 +115,8 @@ bool hasErrors(Findings const& findings)
 /// The codes that can be silenced.
 std::set<std::string> knownCodes()
 {
-    std::set<std::string> known = {codes::modelNotBuilt, codes::modelIncomplete, codes::sensorWithoutClass};
+    std::set<std::string> known = {codes::modelNotBuilt, codes::modelIncomplete, codes::sensorWithoutClass,
+                                   codes::meshNotFound};
     for (auto const& more : {Varo::Model::ModelUtils::findingCodes(), Rules::codes()}) {
         known.insert(more.begin(), more.end());
     }
@@ -141,7 +149,8 @@ int check(Options const& options)
     for (std::string const& file : options.files) {
         Description description = readDescription(file);
         std::string const name = description.file;
-        Findings findings = findingsOf(std::move(description), options.tolerances);
+        Varo::Model::MeshFolders const folders = besideFile(options.meshFolders, file);
+        Findings findings = findingsOf(std::move(description), options.tolerances, options.meshes ? &folders : nullptr);
         obey(options, findings);
         bad = bad || hasErrors(findings);
         if (options.json) {
@@ -206,6 +215,10 @@ std::function<int()> declare(CLI::App& app)
         ->allow_extra_args(false)
         ->take_all();
     declareTolerances(app, options->tolerances);
+    CLI::Option* const meshes = app.add_flag("--meshes", options->meshes, "Look for the files of meshes, too");
+    for (CLI::Option* const option : declareMeshFolders(app, options->meshFolders)) {
+        option->needs(meshes);
+    }
     app.add_flag("--json", options->json, "Print the findings on standard output, as a JSON array");
     return [options] { return check(*options); };
 }
@@ -225,7 +238,8 @@ meant, and notes say what the reader passed over. What came up while the model
 was built stands at the root element; what concerns the file as a whole bears
 no line. The rules warn of bodies and motors that cannot be, of mirror pairs
 that do not mirror, and of what has no effect; docs/checking.md lists them with
-their codes and tolerances.
+their codes and tolerances. With --meshes, each mesh is looked for by the rules
+in docs/meshes.md, and one that is not found gets a warning.
 
 Standard output gets a summary of each file or, with --json, an array of all
 findings, each an object with file, severity, code, line, column, path, message
@@ -237,6 +251,7 @@ Examples:
   varo-robot check --strict robots/*.xml
   varo-robot check --silence not-carried arm.urdf
   varo-robot check --tolerance-com 0.001 --tolerance-inertia 0.05 walker.xml
+  varo-robot check --meshes --package arm_meshes=../meshes arm.urdf
   xmllint --noent robot.xml | varo-robot check -)",
                               declare};
 

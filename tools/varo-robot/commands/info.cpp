@@ -13,6 +13,7 @@
 #include "support/device_kinds.hpp"
 #include "support/finding_text.hpp"
 #include "support/kinds.hpp"
+#include "support/meshes.hpp"
 #include "support/numbers.hpp"
 #include "support/terminal.hpp"
 
@@ -137,6 +138,15 @@ std::vector<std::string> chains(Varo::Model::Robot const& robot)
     return lines;
 }
 
+/// "7, of them not found 2"; empty for none.
+std::string meshText(MeshCount const& count)
+{
+    std::size_t const total = count.found + count.notFound;
+    return total == 0 ? ""
+                      : std::to_string(total) +
+                            (count.notFound > 0 ? ", of them not found " + std::to_string(count.notFound) : "");
+}
+
 std::string postures(Varo::Model::Robot const& robot)
 {
     std::string text;
@@ -191,7 +201,7 @@ Json findingJson(Findings const& findings)
     return array;
 }
 
-void printForEyes(Sim::Model const& model, Findings const& findings)
+void printForEyes(Sim::Model const& model, Findings const& findings, MeshCount const& meshes)
 {
     Varo::Model::Robot const& robot = model.robot();
     Sheet sheet;
@@ -214,10 +224,11 @@ void printForEyes(Sim::Model const& model, Findings const& findings)
     sheet.add("joint groups", std::to_string(model.jointGroups().size()));
     sheet.add("chains", chains(robot));
     addIfAny("postures", postures(robot));
+    addIfAny("meshes", meshText(meshes));
     sheet.add(recordsOf(robot)->holdsAllStated ? "findings" : "not carried", findingLines(findings));
 }
 
-void printForPrograms(Sim::Model const& model, Findings const& findings)
+void printForPrograms(Sim::Model const& model, Findings const& findings, MeshCount const& meshes)
 {
     Varo::Model::Robot const& robot = model.robot();
     Json prettyNames = Json::object();
@@ -244,6 +255,7 @@ void printForPrograms(Sim::Model const& model, Findings const& findings)
         {"jointGroups", model.jointGroups().size()},
         {"chains", findKind("chains")->elements(model)},
         {"postures", postures},
+        {"meshes", {{"found", meshes.found}, {"notFound", meshes.notFound}}},
         {"findings", findingJson(findings)},
     };
     printJson(std::cout, data);
@@ -252,6 +264,7 @@ void printForPrograms(Sim::Model const& model, Findings const& findings)
 
 struct Options {
     std::string file;
+    Varo::Model::MeshFolders meshFolders;
     bool json = false;
 };
 
@@ -259,7 +272,8 @@ int info(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     Findings const findings = robot.model.findings();
-    options.json ? printForPrograms(robot.model, findings) : printForEyes(robot.model, findings);
+    MeshCount const meshes = countMeshes(robot.records(), besideFile(options.meshFolders, options.file));
+    options.json ? printForPrograms(robot.model, findings, meshes) : printForEyes(robot.model, findings, meshes);
     return exitStatus::fine;
 }
 
@@ -267,6 +281,7 @@ std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
+    declareMeshFolders(app, options->meshFolders);
     declareJson(app, options->json, "the same and the joints of the chains");
     return [options] { return info(*options); };
 }
@@ -276,7 +291,8 @@ std::function<int()> declare(CLI::App& app)
 Command const infoCommand = {"info", "Say on one screen what robot this is",
                              R"(Prints the robot's names and version, the dialect of its description, how many
 links, joints, actuators and sensors of each kind it has, the sum of its masses,
-its chains, and what the reader had to remark, one line for each kind of
+its chains, how many files of meshes it names and how many of them are not found
+(docs/meshes.md), and what the reader had to remark, one line for each kind of
 finding; of a URDF description that is what could not be carried over.
 `varo-robot check` lists the findings one by one.
 

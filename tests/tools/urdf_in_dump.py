@@ -1,0 +1,299 @@
+#!/usr/bin/env python3
+"""urdf_in_dump.py VARO_ROBOT FOLDER [VARIABLE]: is all that URDF files say in what `varo-robot dump` prints of them?
+
+Those of the folder or, where the environment has the variable, of the one that it names; a file will do, too.
+Reads the files with Python's XML parser and by what URDF and SDF say, not by what our reader does. Prints a line for
+each statement of a file that the dump lacks or has otherwise; the exit status is 1 when there is one, and 77 when there
+is no file.
+"""
+import json
+import math
+import os
+import pathlib
+import subprocess
+import sys
+import xml.etree.ElementTree as ElementTree
+import xml.parsers.expat
+
+MOVING = ("revolute", "continuous", "prismatic")
+SOLIDS = {"box": ("size",), "cylinder": ("radius", "length"), "capsule": ("radius", "length"), "sphere": ("radius",)}
+
+
+def parse(data):
+    """The root element; prefixes of namespaces, which robots often leave undeclared, stay in the names."""
+    builder = ElementTree.TreeBuilder()
+    parser = xml.parsers.expat.ParserCreate()
+    parser.StartElementHandler = builder.start
+    parser.EndElementHandler = builder.end
+    parser.CharacterDataHandler = builder.data
+    parser.Parse(data, True)
+    return builder.close()
+
+
+def statement(element):
+    """What an element says but for the elements in it."""
+    return element.tag, tuple(sorted(element.attrib.items())), "" if len(element) else (element.text or "").strip()
+
+
+def numbers(text):
+    return [float(word) for word in text.split()]
+
+
+def bounded(value):
+    """As JSON holds a limit: null for none."""
+    return value if abs(value) < 1e30 else None
+
+
+def agree(expected, actual):
+    if isinstance(expected, (list, tuple)):
+        return isinstance(actual, list) and len(expected) == len(actual) and all(map(agree, expected, actual))
+    if isinstance(expected, dict):
+        return isinstance(actual, dict) and all(agree(value, actual.get(key)) for key, value in expected.items())
+    if isinstance(expected, bool):
+        return actual is expected
+    if isinstance(expected, float):
+        return isinstance(actual, (int, float)) and abs(actual - expected) <= 2e-6 * max(1.0, abs(expected))
+    return (expected or None) == (actual or None)  # no text, or an empty one
+
+
+def pose(origin):
+    x, y, z = numbers(origin.get("xyz", "0 0 0")) if origin is not None else (0.0, 0.0, 0.0)
+    roll, pitch, yaw = numbers(origin.get("rpy", "0 0 0")) if origin is not None else (0.0, 0.0, 0.0)
+    cr, sr, cp, sp, cy, sy = (f(a) for a in (roll, pitch, yaw) for f in (math.cos, math.sin))
+    return [cy * cp, cy * sp * sr - sy * cr, cy * sp * cr + sy * sr, x,
+            sy * cp, sy * sp * sr + cy * cr, sy * sp * cr - cy * sr, y,
+            -sp, cp * sr, cp * cr, z, 0.0, 0.0, 0.0, 1.0]
+
+
+def geometry(element):
+    solid = element.find("geometry")[0]
+    if solid.tag == "mesh":
+        return {"type": "mesh", "uri": solid.get("filename"), "scale": numbers(solid.get("scale", "1 1 1"))}
+    values = {name: numbers(solid.get(name)) for name in SOLIDS[solid.tag]}
+    return {"type": solid.tag, **{name: value if name == "size" else value[0] for name, value in values.items()}}
+
+
+def attribute(element, name, default=0.0):
+    return float(element.get(name, default)) if element is not None else default
+
+
+def is_defined(material):
+    return material.find("color") is not None or material.find("texture") is not None
+
+
+# Where a sensor states what the dump has as settings: attributes behind "@", alternatives one after the other.
+DEGREES = math.pi / 180
+IMAGE = {"width": "width", "height": "height", "format": "format"}
+RAYS = ("ray/scan/", "lidar/scan/", "ray/", "lidar/")
+SETTINGS = {
+    ("updateRate",): ["@update_rate", "update_rate", "updateRate"],
+    ("camera", "horizontalFieldOfView"): ["camera/horizontal_fov", "camera/image@hfov", "hfov*"],
+    ("camera", "nearClip"): ["camera/clip/near", "camera/image@near", "nearClip"],
+    ("camera", "farClip"): ["camera/clip/far", "camera/image@far", "farClip"],
+    ("camera", "format"): ["camera/image/format", "camera/image@format", "imageFormat"],
+    ("camera", "width"): ["camera/image/width", "camera/image@width"],
+    ("camera", "height"): ["camera/image/height", "camera/image@height"],
+    ("horizontalScan", "samples"): ["rayCount"],
+    ("horizontalScan", "minimumAngle"): ["minAngle*"],
+    ("horizontalScan", "maximumAngle"): ["maxAngle*"],
+    ("range", "minimum"): ["ray/range/min", "lidar/range/min", "sonar/min", "minRange"],
+    ("range", "maximum"): ["ray/range/max", "lidar/range/max", "sonar/max", "maxRange"],
+    ("range", "resolution"): ["ray/range/resolution", "lidar/range/resolution", "resRange"],
+}
+for scan in ("horizontal", "vertical"):
+    for key, name in (("samples", "samples"), ("resolution", "resolution"), ("minimumAngle", "min_angle"),
+                      ("maximumAngle", "max_angle")):
+        SETTINGS.setdefault((scan + "Scan", key), []).extend(
+            rays + scan + separator + name for rays in RAYS for separator in "/@")
+
+
+class Comparison:
+    def __init__(self, file, dump):
+        self.robot = parse(file.read_bytes())
+        self.dump = dump
+        self.lacks = []
+        self.kept = {statement(element) for extension in dump.get("extensions", [])
+                     for element in parse("<kept>" + extension["text"] + "</kept>").iter()}
+        self.materials = {}
+        for material in [*self.robot.findall("material"), *self.robot.iterfind("link/visual/material")]:
+            if material.get("name") and is_defined(material):
+                self.materials.setdefault(material.get("name"), material)
+
+    def expect(self, what, expected, actual):
+        if not agree(expected, actual):
+            self.lacks.append(f"{what}: {json.dumps(expected)} in the file, {json.dumps(actual)} in the dump")
+
+    def expect_kept(self, what, *elements):
+        """That the dump has these elements, for which there is no place in a record, as text."""
+        for tag, attributes, text in map(statement, elements):
+            if (tag, attributes, text) not in self.kept:
+                self.lacks.append(f"{what}: <{tag}> {dict(attributes)} {text!r} is lost")
+
+    def run(self):
+        links = {link.get("descriptionName"): link for link in self.dump["links"]}
+        joints = {joint["name"]: joint for joint in self.dump["joints"]}
+        for element in self.robot:
+            name = element.get("name")
+            if element.tag == "link":
+                self.link(name, element, links.get(name) or {})
+            elif element.tag == "joint":
+                self.joint(name, element, joints.get(name) or {})
+            elif element.tag == "transmission":
+                self.transmission(name, element)
+            elif element.tag == "ros2_control":
+                self.control(name, element)
+            elif element.tag not in ("sensor", "material", "gazebo"):
+                self.expect_kept(element.tag, *element.iter())
+        for extension in self.robot.iterfind("gazebo"):
+            for child in extension:
+                if child.tag.split(":")[0] != "sensor":
+                    self.expect_kept(f"gazebo of {extension.get('reference')}", *child.iter())
+        self.sensors()
+        return self.lacks
+
+    def link(self, name, link, dumped):
+        for kind in ("visual", "collision"):
+            shapes = link.findall(kind)
+            self.expect(f"{name}: number of {kind}s", float(len(shapes)), len(dumped.get(kind + "s", [])))
+            for number, (shape, has) in enumerate(zip(shapes, dumped.get(kind + "s", []))):
+                says = {"name": shape.get("name"), "pose": pose(shape.find("origin")), "geometry": geometry(shape)}
+                if kind == "visual":
+                    says["material"] = self.material(shape.find("material"))
+                for key, value in says.items():
+                    self.expect(f"{name}: {key} of {kind} {number}", value, has.get(key))
+        for child in link:
+            if child.tag not in ("inertial", "visual", "collision"):
+                self.expect_kept(name, *child.iter())
+
+    def material(self, material):
+        if material is None:
+            return None
+        source = material if is_defined(material) else self.materials.get(material.get("name"), material)
+        color, texture = source.find("color"), source.find("texture")
+        return {"name": material.get("name"), "rgba": None if color is None else numbers(color.get("rgba")),
+                "texture": None if texture is None else texture.get("filename")}
+
+    def joint(self, name, joint, dumped):
+        kind, limit, mimic = joint.get("type"), joint.find("limit"), joint.find("mimic")
+        safety, calibration = joint.find("safety_controller"), joint.find("calibration")
+        says = {"type": kind, "effort": bounded(attribute(limit, "effort")),
+                "velocity": bounded(attribute(limit, "velocity")),
+                "damping": attribute(joint.find("dynamics"), "damping"),
+                "friction": attribute(joint.find("dynamics"), "friction"),
+                "mimic": mimic if mimic is None else {
+                    "joint": mimic.get("joint"), "multiplier": attribute(mimic, "multiplier", 1.0),
+                    "offset": attribute(mimic, "offset")},
+                "safety": safety if safety is None else {
+                    "lower": attribute(safety, "soft_lower_limit"), "upper": attribute(safety, "soft_upper_limit"),
+                    "positionGain": attribute(safety, "k_position"),
+                    "velocityGain": attribute(safety, "k_velocity")},
+                "calibration": calibration if calibration is None else {
+                    key: float(calibration.get(key)) if calibration.get(key) else None for key in ("rising", "falling")}}
+        if kind in MOVING:
+            says["limits"] = {bound: None if kind == "continuous" else bounded(attribute(limit, bound))
+                              for bound in ("lower", "upper")}
+        for key, value in says.items():
+            self.expect(f"{name}: {key}", value, dumped.get(key, "nothing"))
+        self.expect(f"{name}: moves", kind in MOVING, dumped.get("moves"))
+        for child in joint:
+            if child.tag not in ("parent", "child", "origin", "axis", "limit", "dynamics", "mimic", "calibration",
+                                 "safety_controller"):
+                self.expect_kept(name, *child.iter())
+
+    def transmission(self, name, transmission):
+        has = [each for each in self.dump.get("transmissions", []) if each["name"] == name]
+        known = {"mechanicalReduction": [each["reduction"] for each in has],
+                 "hardwareInterface": [interface for each in has for interface in each["interfaces"]],
+                 **{key: [each[key] for each in has] for key in ("type", "joint", "actuator")}}
+        for element in transmission.iter():
+            value = element.get("name") or (element.text or "").strip()
+            value = float(value) if element.tag == "mechanicalReduction" else value
+            if element is transmission:
+                value, known[element.tag] = element.get("type"), [None, *known["type"]]
+            if not any(agree(value, each) for each in known.get(element.tag, ())):
+                self.expect_kept(name, element)
+
+    def control(self, name, control):
+        for joint in control.findall("joint"):
+            has = [each["interfaces"] for each in self.dump.get("transmissions", [])
+                   if each["name"] == name and each["joint"] == joint.get("name")]
+            stated = [each.get("name") for each in joint.findall("command_interface")]
+            self.expect(f"{name}: interfaces of {joint.get('name')}", stated,
+                        [each for each in has[0] if each in stated] if has else None)
+        for child in control:
+            if child.tag != "joint":
+                self.expect_kept(name, *child.iter())
+
+    def sensors(self):
+        carriers = {element.get("name") for tag in ("link", "joint") for element in self.robot.findall(tag)}
+        named = {sensor["name"]: sensor for sensor in self.dump["sensors"]}
+        count = {}
+        for owner in [self.robot, *self.robot.findall("gazebo")]:
+            for sensor in owner:
+                if sensor.tag.split(":")[0] != "sensor":
+                    continue
+                parent = sensor.find("parent") if owner is self.robot else None
+                carrier = owner.get("reference") if parent is None else parent.get("link") or parent.get("joint")
+                name = sensor.get("name") or carrier
+                if carrier not in carriers:  # there is nothing that could carry it in a model
+                    self.expect_kept(name, *sensor.iter())
+                    continue
+                count[name] = count.get(name, 0) + 1
+                name += f"_{count[name]}" if count[name] > 1 else ""
+                has = named.get(name) or named.get(name + "/Gyrometer")
+                if has is None:
+                    self.lacks.append(f"there is no sensor {name}")
+                else:
+                    self.sensor(name, sensor, has.get("settings") or {})
+
+    def sensor(self, name, sensor, settings):
+        known = set()
+
+        def state(keys, element, text, unit=1.0):
+            is_text = keys[-1] in ("format", "type")
+            has = settings
+            for key in keys:
+                has = (has or {}).get(key)
+            self.expect(f"{name}: {'.'.join(keys)}", text.strip() if is_text else bounded(float(text) * unit), has)
+            known.add(statement(element))
+
+        for keys, paths in SETTINGS.items():
+            for path in paths:
+                path, _, key = path.partition("@")
+                element = sensor.find(path.rstrip("*") or ".")
+                if element is not None and (not key or element.get(key)):
+                    state(keys, element, element.get(key) if key else element.text,
+                          DEGREES if path.endswith("*") else 1.0)
+                    break
+        if sensor.find("imageSize") is not None:
+            for key, text in zip(("width", "height"), sensor.find("imageSize").text.split()):
+                state(("camera", key), sensor.find("imageSize"), text)
+        noise = next(sensor.iter("noise"), None)
+        if noise is not None:
+            for key, tag in (("type", "type"), ("mean", "mean"), ("standardDeviation", "stddev")):
+                element = next(noise.iter(tag), None)
+                if element is not None or noise.get(key):
+                    state(("noise", key), noise if element is None else element,
+                          noise.get(key) if element is None else element.text)
+        for child in sensor.iter():
+            is_setting = child is not sensor and len(child) == 0 and child.tag not in ("pose", "origin", "parent")
+            if is_setting and statement(child) not in known:
+                self.expect_kept(name, child)
+
+
+def main(tool, folder, variable=""):
+    path = pathlib.Path(os.environ.get(variable, folder))
+    files = [path] if path.is_file() else sorted(path.glob("*.urdf"))
+    bad = 0
+    for file in files:
+        printed = subprocess.run([tool, "dump", file], stdout=subprocess.PIPE, check=True).stdout
+        lacks = Comparison(file, json.loads(printed)).run()
+        bad += len(lacks)
+        for line in lacks:
+            print(f"{file.name}: {line}")
+    print(f"{len(files)} files, {bad} statements that the dump lacks")
+    return 77 if not files else 1 if bad else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
