@@ -39,6 +39,9 @@ public:
     Frame const* frame() const;
     /// The name of the joint that moves it (of the root for the root link), with "Link" appended.
     std::string const& name() const;
+    /// What the description itself calls it, where it names links: in URDF, or by the attribute `link` of a joint or
+    /// the root; otherwise name(). Model::link finds the link by either.
+    std::string const& descriptionName() const;
     /// The joint that moves it; null for the root link.
     Joint const* parentJoint() const;
     /// The mass properties; null when the link was made without. Loading makes none without: what the description

@@ -52,10 +52,10 @@ class ModelImpl;
 /// threads may ask them at once. Every pointer that it returns, directly or through an element, is borrowed and stays
 /// valid as long as the model; moving the model keeps them valid.
 ///
-/// Look-ups by name are exact and case-sensitive. Where several elements bear a name the first one made answers, and
-/// where none does the answer is null. Lists are in the order in which the elements were made. Every query on a model
-/// that was moved from throws std::runtime_error, and so does every getter of an element that no model made, such as a
-/// default-constructed Joint.
+/// Look-ups by name are exact and case-sensitive; those of links know the names of the description, too. Where several
+/// elements bear a name the first one made answers, and where none does the answer is null. Lists are in the order in
+/// which the elements were made. Every query on a model that was moved from throws std::runtime_error, and so does
+/// every getter of an element that no model made, such as a default-constructed Joint.
 ///
 /// This header brings those of all elements with it.
 class VAROROBOTMODEL_API Model {
@@ -111,6 +111,8 @@ public:
     /// The first element of the kind that bears the name, null when none does; the plural lists all of the kind.
     Joint const* joint(std::string const& name) const;
     std::vector<Joint const*> joints() const;
+    /// The first link of that name; where there is none, the first one that the description calls so
+    /// (Link::descriptionName); null when there is none either.
     Link const* link(std::string const& name) const;
     std::vector<Link const*> links() const;
     /// The link that no joint moves, the first one made; never null.

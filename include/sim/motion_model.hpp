@@ -33,7 +33,8 @@ class VAROROBOTMODEL_API MotionModel {
 public:
     /// From the XML text of a description (never a path), native or URDF.
     /// Throws Varo::Model::DescriptionError when the text is refused, and StartAngleError, which is a
-    /// std::out_of_range, when its posture "StandInit" gives an angle to a name that no chain leads to.
+    /// std::out_of_range, when its posture "StandInit" gives an angle to a name that no chain leads to, or to a joint
+    /// without a motor.
     explicit MotionModel(std::string const& xml);
     /// From a description that was read before. Throws std::invalid_argument for null and when actuators are attached
     /// to each other in a cycle, and StartAngleError as above.
@@ -46,6 +47,8 @@ public:
     Varo::Model::Robot const& robot() const { return *_robot; }
     /// Its records, which the motion model refers to rather than copies; valid as long as the motion model.
     Varo::Model::Records const& records() const { return *_records; }
+    /// The record of the joint of that name, null for any other name; valid as long as the motion model.
+    Varo::Model::JointConfig const* findJoint(std::string const& name) const;
 
     /// @name Identity
     /// @{
@@ -64,7 +67,8 @@ public:
     std::list<std::string> wheelNames() const;
     /// The joint (or root) that the chain is attached to; empty for an unknown chain.
     std::string parentJointFromChain(std::string const& chain) const;
-    /// The angle (rad, or m) of a joint or actuator in the posture "StandInit"; 0 when the description has no postures.
+    /// The angle (rad, or m) of a joint with a motor, or of an actuator, in the posture "StandInit"; 0 when the
+    /// description has no postures.
     bool startAngle(std::string const& name, float& angle) const;
     /// @}
 
@@ -135,15 +139,16 @@ public:
     std::list<std::string> jointNames(std::string const& chain) const;
     /// The joint lists of all chains, merged as sorted lists are, although they are not sorted.
     std::list<std::string> jointNames() const;
-    /// The chain's joints, each of which has an angle actuator of its name.
+    /// The chain's joints that have a motor: each has an angle actuator of its name.
     std::list<std::string> angleActuatorNames(std::string const& chain) const;
     /// Chain after chain.
     std::list<std::string> angleActuatorNames() const;
-    /// The chain's joints, then the actuators that are attached to them, and on those.
+    /// The chain's joints that have a motor, then the actuators that are attached to joints of the chain, whether those
+    /// have one or not, and to those actuators.
     std::list<std::string> actuatorNames(std::string const& chain) const;
     /// Merged as jointNames().
     std::list<std::string> actuatorNames() const;
-    /// The actuators that are attached to the chain's joints.
+    /// The actuators that are attached to the chain's joints, whether those have a motor or not.
     std::list<std::string> coupledActuatorNames(std::string const& chain) const;
     /// Chain after chain.
     std::list<std::string> coupledActuatorNames() const;

@@ -15,11 +15,17 @@ namespace Sim {
 
 inline constexpr char jointErrorMsg[] = "Could not query Joint as it seems not correctly constructed";
 
+/// What a joint was made of: records of the model's own, which outlive its elements.
+struct JointSource {
+    Varo::Model::JointConfig const* joint = nullptr;  ///< null for wheels and sub-joints
+    Varo::Model::WheelConfig const* wheel = nullptr;  ///< null for what is no wheel
+};
+
 class JointImpl {
 public:
     JointImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-              boost::shared_ptr<Link> const& parentLink)
-        : _frame(frame), _name(name), _parentLink(parentLink)
+              boost::shared_ptr<Link> const& parentLink, JointSource const& source = {})
+        : _frame(frame), _name(name), _parentLink(parentLink), _source(source)
     {}
 
     void setChildLink(boost::shared_ptr<Link> const& link) { _childLink = link; }
@@ -29,12 +35,19 @@ public:
     SharedName const& sharedName() const { return _name; }
     boost::shared_ptr<Link> parentLink() const { return _parentLink.lock(); }
     boost::shared_ptr<Link> childLink() const { return _childLink.lock(); }
+    /// One for all wheels, and one for all sub-joints, says what has no record of its own.
+    Varo::Model::JointConfig const& record() const;
+    float effort() const { return isWheel() ? _source.wheel->maxTorque : record().maxTorque; }
+    float velocity() const { return isWheel() ? _source.wheel->maxVelocity : record().maxAngularSpeed; }
 
 private:
+    bool isWheel() const { return _source.wheel != nullptr; }
+
     boost::weak_ptr<Frame const> _frame;
     SharedName _name;
     boost::weak_ptr<Link> _parentLink;
     boost::weak_ptr<Link> _childLink;
+    JointSource _source;
 };
 
 }  // namespace Sim

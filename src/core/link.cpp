@@ -22,6 +22,11 @@ std::string const& Link::name() const
     return implOf(_impl, linkErrorMsg).name();
 }
 
+std::string const& Link::descriptionName() const
+{
+    return implOf(_impl, linkErrorMsg).descriptionName();
+}
+
 Joint const* Link::parentJoint() const
 {
     return implOf(_impl, linkErrorMsg).parentJoint().get();

@@ -26,10 +26,13 @@ public:
              boost::shared_ptr<VisualData const> const& visualData);
     virtual ~LinkImpl() = default;
 
+    /// `name` must outlive this.
+    void setNameInText(std::string const& name) { _nameInText = name.empty() ? nullptr : &name; }
     void addChildJoint(boost::shared_ptr<Joint> const& joint) { _childrenJoints.push_back(joint); }
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
     std::string const& name() const { return _name; }
+    std::string const& descriptionName() const { return _nameInText == nullptr ? name() : *_nameInText; }
     SharedName const& sharedName() const { return _name; }
     boost::shared_ptr<Joint> parentJoint() const { return _parentJoint.lock(); }
     boost::shared_ptr<MassData const> massData() const { return _massData; }
@@ -42,6 +45,7 @@ public:
 private:
     boost::weak_ptr<Frame const> _frame;
     SharedName _name;
+    std::string const* _nameInText = nullptr;  // the record's
     boost::weak_ptr<Joint> _parentJoint;
     std::vector<boost::weak_ptr<Joint>> _childrenJoints;
     boost::shared_ptr<MassData const> _massData;

@@ -91,7 +91,7 @@ std::vector<Joint const*> Model::joints() const
 
 Link const* Model::link(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).link(name).get();
+    return implOf(_impl, modelErrorMsg).linkByAnyName(name);
 }
 
 std::vector<Link const*> Model::links() const

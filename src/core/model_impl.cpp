@@ -72,6 +72,11 @@ boost::shared_ptr<Link> ModelImpl::link(std::string const& name) const
     return firstNamed(_links, name);
 }
 
+Link const* ModelImpl::linkByAnyName(std::string const& name) const
+{
+    return _linkIndex.find(name, _links);
+}
+
 boost::shared_ptr<JointSymmetry> ModelImpl::jointSymmetry(std::string const& jointName) const
 {
     for (auto const& symmetry : _jointSymmetries) {

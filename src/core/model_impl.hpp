@@ -13,7 +13,9 @@
 #include "actuators/coupled_actuator_impl.hpp"
 #include "core/build_index.hpp"
 #include "core/build_report.hpp"
+#include "core/joint_impl.hpp"
 #include "core/kind_of.hpp"
+#include "core/link_index.hpp"
 #include "core/shared_name.hpp"
 #include "groups/actuator_group_impl.hpp"
 #include "groups/joint_group_impl.hpp"
@@ -72,6 +74,8 @@ public:
     boost::shared_ptr<ActuatorGroup> actuatorGroup(std::string const& name) const;
     boost::shared_ptr<Sensor> sensor(std::string const& name) const;
     boost::shared_ptr<Link> rootLink() const;
+    /// As link(); where no link bears the name, the one that the description calls so. Null when there is none.
+    Link const* linkByAnyName(std::string const& name) const;
 
     // The same among the elements of dynamic type T.
     template <class T>
@@ -163,7 +167,7 @@ private:
 
     // Skeleton
     boost::shared_ptr<Joint> addJoint(FramePtr const& frame, SharedName const& name,
-                                      boost::shared_ptr<Link> const& parentLink);
+                                      boost::shared_ptr<Link> const& parentLink, JointSource const& source);
     boost::shared_ptr<Link> addLink(FramePtr const& frame, SharedName const& name,
                                     boost::shared_ptr<Joint> const& parentJoint,
                                     boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
@@ -178,7 +182,7 @@ private:
                                           std::string const& frictionMaterial,
                                           boost::shared_ptr<VisualData const> const& visual);
     boost::shared_ptr<Joint> attachJoint(SharedName const& name, Varo::Math::Transform const& inParentLink,
-                                         boost::shared_ptr<Link> const& parentLink);
+                                         boost::shared_ptr<Link> const& parentLink, JointSource const& source);
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
     Branch openBranch(boost::shared_ptr<Joint> const& joint);
     void fetchWheel(std::string const& name);
@@ -294,6 +298,7 @@ private:
     std::vector<boost::shared_ptr<ActuatorGroup>> _actuatorGroups;
     std::vector<boost::shared_ptr<Sensor>> _sensors;
     std::unique_ptr<BuildIndex> _index;  // null once the model is built
+    LinkIndex _linkIndex;
 };
 
 }  // namespace Sim

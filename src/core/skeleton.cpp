@@ -11,6 +11,7 @@ namespace Sim {
 
 using Varo::Math::Position3D;
 using Varo::Math::Transform;
+using Varo::Model::JointConfig;
 
 /// A link whose children are still being made.
 struct ModelImpl::Branch {
@@ -36,7 +37,7 @@ void ModelImpl::fetchSkeleton()
         Transform inRoot;
         std::string parent;
         _motionModel->transformFromJointName(name, inRoot, parent);
-        fillInBranch(attachJoint(name, inRoot, rootLink));
+        fillInBranch(attachJoint(name, inRoot, rootLink, {_motionModel->findJoint(name)}));
     }
 }
 
@@ -58,7 +59,7 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
         Transform inLink = branch.end;
         std::string parent = branch.jointName;  // sub-joints are placed relative to the end of what they hang on
         _motionModel->transformFromJointName(name, inLink, parent);
-        open.push_back(openBranch(attachJoint(name, inLink, branch.link)));
+        open.push_back(openBranch(attachJoint(name, inLink, branch.link, {_motionModel->findJoint(name)})));
     }
 }
 
@@ -87,18 +88,18 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,
-                                                boost::shared_ptr<Link> const& parentLink)
+                                                boost::shared_ptr<Link> const& parentLink, JointSource const& source)
 {
     FramePtr const frame = addFrame(name, inParentLink, parentLink->_impl->frame());
-    auto const joint = addJoint(frame, name, parentLink);
+    auto const joint = addJoint(frame, name, parentLink, source);
     parentLink->_impl->addChildJoint(joint);
     return joint;
 }
 
 boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr const& frame, SharedName const& name,
-                                             boost::shared_ptr<Link> const& parentLink)
+                                             boost::shared_ptr<Link> const& parentLink, JointSource const& source)
 {
-    auto const joint = makeElement<Joint, JointImpl>(frame, name, parentLink);
+    auto const joint = makeElement<Joint, JointImpl>(frame, name, parentLink, source);
     _joints.push_back(joint);
     _index->joints.add(joint);
     return joint;
@@ -129,6 +130,8 @@ boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr c
                                                  boost::shared_ptr<VisualData const> const& visual)
 {
     auto const link = makeElement<Link, LinkImpl>(frame, name, parentJoint, mass, frictionMaterial, type, visual);
+    JointConfig const& body = parentJoint == nullptr ? _motionModel->records().root : parentJoint->_impl->record();
+    link->_impl->setNameInText(body.linkName);
     _links.push_back(link);
     _index->links.add(link);
     return link;

@@ -19,7 +19,8 @@ void ModelImpl::fetchWheel(std::string const& name)
     Transform inParentLink;
     require(_motionModel->transformFromWheel(name, inParentLink), Subject::wheel, name,
             "Could not fetch wheel transform for wheel ", name);
-    auto const joint = attachJoint(name, inParentLink, parentLink);
+    auto const joint =
+        attachJoint(name, inParentLink, parentLink, {nullptr, _motionModel->records().wheels.find(name)});
 
     auto const mass = requiredMassOf(Subject::wheel, name);
     std::string material;

@@ -1,7 +1,5 @@
 #include "kinematics/frame_places.hpp"
 
-#include <algorithm>
-
 #include "kinematics/unknown_name.hpp"
 #include "sim/actuator.hpp"
 #include "sim/frame.hpp"
@@ -9,7 +7,6 @@
 #include "sim/link.hpp"
 #include "sim/model.hpp"
 #include "sim/sensor.hpp"
-#include "varo/model/records.hpp"
 
 namespace Sim {
 
@@ -37,15 +34,9 @@ void FramePlaces::addNames(Model const& model)
         }
     };
     addAll(model.links());
-    auto const records = Varo::Model::recordsOf(model.robot());
-    auto const addNameInText = [this](Varo::Model::JointConfig const& body) {
-        auto const link = _byName.find(body.name + "Link");
-        if (!body.linkName.empty() && link != _byName.end()) {
-            _byName.emplace(body.linkName, link->second);
-        }
-    };
-    addNameInText(records->root);
-    std::for_each(records->joints.begin(), records->joints.end(), addNameInText);
+    for (Link const* const link : model.links()) {
+        _byName.try_emplace(link->descriptionName(), link->frame());
+    }
     addAll(model.joints());
     addAll(model.sensors());
     addAll(model.actuators());

@@ -1,6 +1,8 @@
 #include "kinematics/joint_drives.hpp"
 
 #include <limits>
+#include <string_view>
+#include <unordered_set>
 
 #include "kinematics/unknown_name.hpp"
 #include "sim/joint.hpp"
@@ -16,11 +18,10 @@ constexpr double unlimited = std::numeric_limits<double>::infinity();
 
 Motion motionOf(Varo::Model::JointConfig const& joint)
 {
-    switch (joint.jointType) {
-    case Varo::Model::revolute: return Motion::turns;
-    case Varo::Model::prismatic: return Motion::slides;
-    default: return Motion::none;
+    if (!Varo::Model::isMoving(joint.jointType)) {
+        return Motion::none;
     }
+    return joint.jointType == Varo::Model::prismatic ? Motion::slides : Motion::turns;
 }
 
 template <class Record>
@@ -35,9 +36,11 @@ JointVariable variableOf(std::string const& name, Record const& record, Motion m
 
 class JointDrives::Builder {
 public:
-    Builder(Varo::Model::Records const& records, JointDrives& drives);
+    Builder(Varo::Model::Records const& records, std::vector<Joint const*> const& joints, JointDrives& drives);
 
     void add(Joint const& joint, bool isWheel);
+    /// Adds the joints that mimic others, once those are there.
+    void addFollowers();
     /// An actuator's name stands for its variable, unless a joint has that name.
     void addActuatorNames();
 
@@ -50,8 +53,18 @@ private:
         std::uint32_t variable = Drive::noVariable;
     };
 
+    /// A joint that mimics another and is moved by no coupling.
+    struct Follower {
+        Joint const* joint;
+        Varo::Model::MimicConfig const* mimic;
+        Motion motion;
+    };
+
     Varo::Model::JointConfig const* leaderOf(Varo::Model::ActuatorConfig const& actuator) const;
-    Drive driveOf(Joint const& joint);
+    bool follows(Varo::Model::JointConfig const* joint) const;
+    void add(Joint const& joint, Drive const& drive);
+    void add(Follower const& follower);
+    Drive driveOf(std::string const& name, Varo::Model::JointConfig const* record);
     Drive coupledDrive(std::string const& name, Motion motion, Coupling& coupling);
     Drive ownDrive(JointVariable variable, Motion motion);
 
@@ -59,11 +72,26 @@ private:
     JointDrives& _drives;
     std::vector<Coupling> _couplings;
     std::unordered_map<std::string, std::size_t> _couplingOf;  // by the names of the joints that it moves
+    std::unordered_set<std::string_view> _leaders;  // the joints of the model that others mimic
+    std::unordered_map<std::string_view, Follower> _followers;  // by name
 };
 
-JointDrives::Builder::Builder(Varo::Model::Records const& records, JointDrives& drives)
+JointDrives::Builder::Builder(Varo::Model::Records const& records, std::vector<Joint const*> const& joints,
+                              JointDrives& drives)
     : _records(records), _drives(drives)
 {
+    std::unordered_set<std::string_view> mimicked;
+    for (Varo::Model::JointConfig const& joint : records.joints) {
+        if (joint.mimic != nullptr) {
+            mimicked.insert(joint.mimic->joint);
+        }
+    }
+    for (Joint const* const joint : joints) {
+        bool const isDriven = joint->childLink() != nullptr && records.joints.contains(joint->name());
+        if (isDriven && mimicked.count(joint->name()) != 0) {
+            _leaders.insert(joint->name());
+        }
+    }
     for (Varo::Model::ActuatorConfig const& actuator : records.actuators) {
         for (auto const& group : actuator.jointGroups) {
             for (std::string const& member : group) {
@@ -90,16 +118,59 @@ Varo::Model::JointConfig const* JointDrives::Builder::leaderOf(Varo::Model::Actu
 
 void JointDrives::Builder::add(Joint const& joint, bool isWheel)
 {
-    Drive const drive =
-        isWheel ? ownDrive({joint.name(), -unlimited, unlimited, false}, Motion::turns) : driveOf(joint);
+    auto const* const record = isWheel ? nullptr : _records.joints.find(joint.name());
+    if (follows(record)) {
+        _followers.try_emplace(joint.name(), Follower{&joint, record->mimic.get(), motionOf(*record)});
+    } else {
+        add(joint, isWheel ? ownDrive({joint.name(), -unlimited, unlimited, false}, Motion::turns)
+                           : driveOf(joint.name(), record));
+    }
+}
+
+void JointDrives::Builder::add(Joint const& joint, Drive const& drive)
+{
     _drives._byJoint.emplace(&joint, drive);
     _drives._byName.emplace(joint.name(), drive);
 }
 
-Drive JointDrives::Builder::driveOf(Joint const& joint)
+bool JointDrives::Builder::follows(Varo::Model::JointConfig const* joint) const
 {
-    std::string const& name = joint.name();
-    auto const* const record = _records.joints.find(name);
+    return joint != nullptr && joint->mimic != nullptr && motionOf(*joint) != Motion::none &&
+           _leaders.count(joint->mimic->joint) != 0 && _couplingOf.count(joint->name) == 0;
+}
+
+void JointDrives::Builder::addFollowers()
+{
+    std::vector<Follower const*> path;  // from a follower to one whose leader is there
+    for (auto const& each : _followers) {
+        for (Follower const* at = &each.second; at != nullptr;) {
+            path.push_back(at);
+            if (path.size() > _followers.size()) {  // which readers refuse
+                throw std::invalid_argument(quoted(at->joint->name()) + " mimics itself, be it by way of others.");
+            }
+            auto const leader = _followers.find(at->mimic->joint);
+            bool const isThere = leader == _followers.end() || _drives._byName.count(leader->second.joint->name()) != 0;
+            at = isThere ? nullptr : &leader->second;
+        }
+        for (; !path.empty(); path.pop_back()) {
+            add(*path.back());
+        }
+    }
+}
+
+void JointDrives::Builder::add(Follower const& follower)
+{
+    Drive drive = _drives._byName.at(follower.mimic->joint);
+    double const multiplier = static_cast<double>(follower.mimic->multiplier);
+    drive.motion = follower.motion;
+    drive.follows = true;
+    drive.ratio *= multiplier;
+    drive.offset = multiplier * drive.offset + static_cast<double>(follower.mimic->offset);
+    add(*follower.joint, drive);
+}
+
+Drive JointDrives::Builder::driveOf(std::string const& name, Varo::Model::JointConfig const* record)
+{
     auto const coupling = _couplingOf.find(name);
     Motion const motion = record == nullptr ? Motion::turns : motionOf(*record);
     if (coupling != _couplingOf.end() && motion != Motion::none) {
@@ -150,12 +221,13 @@ void JointDrives::Builder::addActuatorNames()
 JointDrives::JointDrives(Model const& model)
 {
     auto const records = Varo::Model::recordsOf(model.robot());
-    Builder builder(*records, *this);
+    Builder builder(*records, model.joints(), *this);
     for (Link const* const link : model.links()) {
         if (Joint const* const joint = link->parentJoint()) {
             builder.add(*joint, link->type() == Link::Wheel);
         }
     }
+    builder.addFollowers();
     builder.addActuatorNames();
 }
 

@@ -64,6 +64,11 @@ std::string MotionModel::parentJointFromChain(std::string const& chain) const
     return parent;
 }
 
+Varo::Model::JointConfig const* MotionModel::findJoint(std::string const& name) const
+{
+    return _index->of(name).joint;
+}
+
 bool MotionModel::startAngle(std::string const& name, float& angle) const
 {
     auto const& known = _index->of(name).startAngle;

@@ -77,7 +77,12 @@ std::list<std::string> MotionModel::jointNames() const
 
 std::list<std::string> MotionModel::angleActuatorNames(std::string const& chain) const
 {
-    return jointNames(chain);
+    auto names = jointNames(chain);
+    names.remove_if([this](std::string const& name) {
+        auto const* const joint = findJoint(name);
+        return joint != nullptr && !joint->hasMotor;
+    });
+    return names;
 }
 
 std::list<std::string> MotionModel::angleActuatorNames() const
@@ -87,12 +92,14 @@ std::list<std::string> MotionModel::angleActuatorNames() const
 
 std::list<std::string> MotionModel::actuatorNames(std::string const& chain) const
 {
-    auto names = jointNames(chain);
-    for (auto const& name : names) {  // reaches the names appended on the way, too
+    auto attached = coupledActuatorNames(chain);
+    for (auto const& name : attached) {  // reaches the names appended on the way, too
         for (auto const actuator : _index->of(name).actuators) {
-            names.push_back(_records->actuators.nameOf(actuator));
+            attached.push_back(_records->actuators.nameOf(actuator));
         }
     }
+    auto names = angleActuatorNames(chain);
+    names.splice(names.end(), attached);
     return names;
 }
 

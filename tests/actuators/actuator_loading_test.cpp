@@ -57,6 +57,22 @@ TEST(CoupledActuators, ComeByNameBehindTheMotorsOfJointsAndMayDriveNothing)
     EXPECT_TRUE(model.coupledActuator("Claw")->controlledJointAndRatios().empty());
 }
 
+TEST(ActuatorLoading, MakesNothingOfJointsWithoutMotorButKeepsTheirSymmetries)
+{
+    std::string const passive = "motor=\"false\"";
+    Sim::Model const model(robot(joint("LToe", mirror("RToe"), passive) + joint("RToe", mirror("LToe"), passive) +
+                                     joint("Knee") + chain("Leg", "Base", {"LToe", "Knee"}) +
+                                     chain("Other", "Base", {"RToe"}) + actuator("Claw", "LToe", ""),
+                                 "SpecialSimulation"));
+    EXPECT_THAT(namesOf(model.actuators()), ElementsAre("Knee", "Knee", "Knee", "Claw"));
+    EXPECT_THAT(namesOf(model.sensors()), ElementsAre("Knee", "Knee", "Knee", "Claw"));
+    EXPECT_THAT(namesOf(model.actuatorGroup("Leg")->actuators()), ElementsAre("Knee", "Claw"));
+    EXPECT_TRUE(model.actuatorGroup("Other")->actuators().empty());
+    EXPECT_THAT(namesOf(model.jointGroup("Leg")->joints()), ElementsAre("LToe", "Knee"));
+    ASSERT_NE(model.jointSymmetry("LToe"), nullptr);
+    EXPECT_EQ(model.jointSymmetry("LToe")->symmetricJoint(model.joint("LToe")), model.joint("RToe"));
+}
+
 TEST(LEDActuators, ComeLastWithTheirGroupsAndColour)
 {
     auto const led = [](std::string const& name, std::string const& groups, std::string const& color) {

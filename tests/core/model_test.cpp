@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/model_impl.hpp"
 #include "descriptions.hpp"
 #include "sim/friction.hpp"
 #include "throws.hpp"
@@ -113,6 +114,21 @@ TEST(Model, GivesEveryKindOfDeviceTheNumberThatConsumersCountOn)
     std::apply([&](auto const&... kind) { (actuators.emplace(kind.type, kind.name), ...); }, Sim::actuatorKinds);
     EXPECT_THAT(actuators, ElementsAre(Pair(0, "Angle"), Pair(1, "Coupled"), Pair(2, "Torque"), Pair(3, "AngleSpeed"),
                                        Pair(4, "WheelTorque"), Pair(5, "WheelVelocity"), Pair(6, "LED")));
+}
+
+TEST(Model, FindsLinksByWhatTheDescriptionCallsThemOnlyWhereNoneHasTheName)
+{
+    std::string const text = robot(joint("J", "", "link=\"arm\"") + joint("K", "", "link=\"JLink\"") + joint("L") +
+                                   chain("C", "Base", {"J", "K", "L"}) + wheel("W", "L"));
+    Model const model(text);
+    EXPECT_THAT(namesOf(std::vector{model.link("arm"), model.link("JLink"), model.link("KLink"), model.link("L")}),
+                ElementsAre("JLink", "JLink", "KLink", "-"));
+    std::vector<std::string> names;
+    for (Sim::Link const* link : model.links()) {
+        names.push_back(link->descriptionName());
+    }
+    EXPECT_THAT(names, ElementsAre("BaseLink", "arm", "JLink", "LLink", "WLink"));
+    EXPECT_EQ(Sim::ModelImpl(text).link("arm"), nullptr) << "loading goes by the model's names";
 }
 
 TEST(Model, AnswersUnknownNamesWithNullOrNothing)

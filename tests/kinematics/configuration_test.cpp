@@ -1,10 +1,12 @@
 #include "sim/configuration.hpp"
 
 #include <limits>
+#include <memory>
 
 #include <gmock/gmock.h>
 
 #include "descriptions.hpp"
+#include "fake_robot.hpp"
 #include "sim/kinematics.hpp"
 #include "sim/model.hpp"
 #include "throws.hpp"
@@ -132,6 +134,54 @@ TEST_F(Configurations, KnowTheirLimits)
     configuration.clampToLimits();
     EXPECT_THAT(configuration.values(), ElementsAre(-1.0, 1.0, 100.0, 100.0, 0.0, 1.0, 100.0));
     configuration.checkLimits();
+}
+
+/// A joint without motor, and joints that mimic others across the tree, one of them what only comes after it.
+std::string const mimics = Tests::robot(
+    Tests::joint("Third", "<mimic joint=\"Second\" multiplier=\"-1\" offset=\"0.5\"/>") +
+    Tests::joint("Second", "<mimic joint=\"Free\" multiplier=\"2\" offset=\"1\"/>", "type=\"prismatic\"") +
+    Tests::joint("Free", "", "motor=\"false\"") + Tests::joint("Plate", "", "type=\"fixed\" motor=\"false\"") +
+    Tests::joint("Held", "<mimic joint=\"Plate\" offset=\"0.25\"/>") +
+    Tests::joint("Finger", "<mimic joint=\"Free\" multiplier=\"9\"/>") +
+    Tests::joint("Alone", "<mimic joint=\"Nobody\"/>") +
+    Tests::chain("Arm", "Base", {"Third", "Second", "Free", "Plate", "Held", "Finger", "Alone"}) +
+    Tests::actuator("Hand", "Plate", "<group><jointRef name=\"Finger\" ratio=\"0.5\"/></group>"));
+
+TEST(ConfigurationOfMimics, FollowsTheirLeadersUnlessAnActuatorMovesThem)
+{
+    Sim::Model const model(mimics);
+    Sim::Kinematics const kinematics(model);
+    std::vector<std::string> names;
+    for (Sim::JointVariable const& variable : kinematics.variables()) {
+        names.push_back(variable.name);
+    }
+    EXPECT_THAT(names, ElementsAre("Free", "Hand", "Alone"));
+    Sim::Configuration configuration(kinematics);
+    configuration.set({{"Free", 0.25}, {"Hand", 0.5}});
+    std::vector<double> values;
+    for (char const* const joint : {"Third", "Second", "Held", "Finger", "Plate"}) {
+        values.push_back(configuration.at(joint));
+    }
+    EXPECT_THAT(values, ElementsAre(-1.0, 1.5, 0.25, 0.25, 0.0));
+    EXPECT_EQ(Tests::messageOf<std::invalid_argument>([&] { configuration.set("Third", 0.0); }),
+              "\"Third\" follows \"Free\": give the value to \"Free\".");
+    // The pose of the second link: turned by Third at -1, then slid by Second at 1.5.
+    Sim::Pose const pose = kinematics.pose(configuration, *model.link("SecondLink")->frame());
+    EXPECT_NEAR(pose(1, 0), std::sin(-1.0), 1e-7);
+    EXPECT_NEAR(pose(2, 3), 1.5, 1e-7);
+}
+
+TEST(ConfigurationOfMimics, ExistsOnlyWithoutCycles)
+{
+    auto robot = std::make_unique<FakeRobot>();
+    robot->addChain("Arm", "Torso", {"A", "B", "C"});
+    for (auto const& [follower, leader] : {std::pair("A", "B"), std::pair("B", "C"), std::pair("C", "B")}) {
+        robot->joints[follower].mimic = std::make_shared<Varo::Model::MimicConfig>(Varo::Model::MimicConfig{leader});
+    }
+    Varo::Model::ModelUtils::Reading reading;
+    reading.robot = std::move(robot);
+    Sim::Model const model(std::move(reading));
+    EXPECT_THROW(Sim::Kinematics kinematics(model), std::invalid_argument);
 }
 
 TEST(ConfigurationOfUrdf, StandsStillBehindALeaderThatDoes)

@@ -115,6 +115,7 @@ private:
             return KDL::Joint::RotZ;
         }
         switch (record->second.jointType) {
+        case Varo::Model::continuous:
         case Varo::Model::revolute: return KDL::Joint::RotZ;
         case Varo::Model::prismatic: return KDL::Joint::TransZ;
         default: return KDL::Joint::None;

@@ -17,5 +17,11 @@ TEST(Cycles, AreFoundOnceEachFromTheirLowestMember)
     EXPECT_THAT(findCycles({3, 2, 3, 1, 4, 4, none}), ElementsAre(Cycle{1, 2, 3}, Cycle{4}));
 }
 
+TEST(Cycles, ThingsWithoutThemCanBePutBehindTheirParents)
+{
+    EXPECT_THAT(parentsFirst({}), IsEmpty());
+    EXPECT_THAT(parentsFirst({2, none, 3, none, 0, 2}), ElementsAre(3, 2, 0, 1, 4, 5));
+}
+
 }  // namespace
 }  // namespace Varo::Model

@@ -61,6 +61,9 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
              {"<actuator name='A' min='0' max='1' parent='J'><group><subJoint ratio='1' "
               "name='JLink'/></group></actuator>",
               {"54 ambiguous-name"}},
+             {angle + "'P'/></posture><joint name='P' min='0' max='1' motor='false'/><chain name='D' "
+                      "parent='B'><jointRef name='P'/></chain>",
+              {"36 angle-of-unknown"}},
              {"<chain parent='X' name='D'><jointRef/></chain>", {"28 missing-attribute refused"}},
              {"<posture><angle value='0' of='X'/></posture>", {"1 missing-attribute refused", "27 angle-of-unknown"}},
              {"<chain nam='E' name='D' parent='X'/>", {"8 unknown-attribute refused", "25 dangling-reference"}},
@@ -68,6 +71,47 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
          }) {
         EXPECT_EQ(placesOf(around(c.elements)), c.places) << c.elements;
     }
+}
+
+/// Three joints: the first mimics `leaders[0]`, and so on; the link of the first is called `firstLink`.
+std::string mimicking(std::vector<std::string> const& leaders, std::string const& multiplier = "2",
+                      std::string const& firstLink = "x")
+{
+    std::string joints;
+    std::string chain;
+    for (std::size_t i = 0; i < leaders.size(); ++i) {
+        std::string const name = "M" + std::to_string(i);
+        joints += "\n<joint name='" + name + "' min='0' max='1' link='" + (i == 0 ? firstLink : name + "y") +
+                  "'><mimic joint='" + leaders[i] + "' multiplier='" + multiplier + "'/></joint>";
+        chain += "<jointRef name='" + name + "'/>";
+    }
+    return around("<chain name='D' parent='B'>" + chain + "</chain>" + joints);
+}
+
+TEST(References, OfMimicsAreCheckedThroughAllLeaders)
+{
+    auto const found = [](std::string const& xml) {
+        std::vector<std::string> lines;
+        for (Finding const& finding : ModelUtils::diagnose(xml)) {
+            lines.push_back(std::to_string(finding.line) + " " + finding.path.substr(finding.path.rfind('/') + 1) +
+                            " " + finding.code);
+        }
+        return lines;
+    };
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(found(mimicking({"J", "M0", "M1"})), Lines());
+    EXPECT_EQ(found(mimicking({"X", "M0"})), Lines{"3 mimic dangling-reference"});
+    EXPECT_EQ(found(mimicking({"M2", "M0", "M1", "M1"})), Lines{"3 mimic mimic-circle"});
+    EXPECT_EQ(found(mimicking({"J", "M1"})), Lines{"4 mimic mimic-circle"});
+    EXPECT_EQ(found(mimicking({"J", "M0", "M1"}, "1e13")), Lines{"5 mimic not-a-number"});
+}
+
+TEST(References, LinksMayNotBeCalledAsModelsCallOthers)
+{
+    EXPECT_THAT(placesOf(mimicking({"J", "J"}, "1", "M0Link")), testing::IsEmpty()) << "its own name";
+    EXPECT_THAT(placesOf(mimicking({"J", "J"}, "1", "M1Link")), testing::ElementsAre("1 ambiguous-link-name"));
+    EXPECT_THAT(placesOf(mimicking({"J", "J"}, "1", "M1y")), testing::ElementsAre("1 ambiguous-link-name"))
+        << "two links of one name";
 }
 
 TEST(References, AMisspeltNameIsFoundOnceWithTheOneThatWasMeant)

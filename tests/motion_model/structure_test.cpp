@@ -43,6 +43,24 @@ TEST(Structure, OfAllChainsIsMergedOrConcatenated)
     EXPECT_THAT(model.coupledActuatorNames(), ElementsAre("HandA", "HandB"));
 }
 
+TEST(Structure, LeavesJointsWithoutMotorOutAndKeepsWhatIsAttachedToThem)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        fill(robot);
+        robot.addActuator("Wrist", "Blade");  // of the name of a joint without motor
+        robot.joints["Wrist"].hasMotor = robot.joints["Tail1"].hasMotor = false;
+    });
+    EXPECT_THAT(model.jointNames("Arm"), ElementsAre("Elbow", "Wrist"));
+    EXPECT_THAT(model.angleActuatorNames(), ElementsAre("Tail2", "Elbow", "Blade"));
+    EXPECT_THAT(model.actuatorNames("Arm"), ElementsAre("Elbow", "HandA", "HandB", "Nail"));
+    EXPECT_THAT(model.actuatorNames(),
+                ElementsAre("Blade", "Elbow", "HandA", "HandB", "Nail", "Tail2", "Wrist", "HandA", "HandB", "Nail"));
+    EXPECT_THAT(model.coupledActuatorNames(), ElementsAre("HandA", "HandB", "Wrist"));
+    float angle = 1.0F;
+    EXPECT_FALSE(model.startAngle("Tail1", angle));
+    EXPECT_TRUE(model.startAngle("HandA", angle));
+}
+
 TEST(Structure, MergesUnsortedListsByWalkingThem)
 {
     using Names = std::vector<std::string>;

@@ -55,6 +55,14 @@ TEST_F(PostureLibraryTest, LaysValuesOutInTheOrderOfAngleNamesWithSurplusBehind)
     EXPECT_THAT(valuesOf("Zero", false), ElementsAre(NanSensitiveFloatEq(unset), 0.0F, NanSensitiveFloatEq(unset)));
 }
 
+TEST_F(PostureLibraryTest, AJointWithoutMotorHasNoPlaceAndWhatIsAttachedToItHas)
+{
+    robot.joints["Neck"].hasMotor = false;
+    robot.postureList = {{"Stand", {{"Knee", 0.5F}, {"Neck", 7.0F}, {"Hand", 0.25F}}}};
+    load();
+    EXPECT_THAT(valuesOf("Stand", true), ElementsAre(0.25F, 0.5F, 7.0F)) << "the surplus is behind";
+}
+
 TEST_F(PostureLibraryTest, ANameListedTwiceHasItsValueTwice)
 {
     robot.addChain("SecondArm", "Torso", {"Neck"});

@@ -40,7 +40,7 @@ TEST_F(Dump, PrintsEveryNumberAndName)
     EXPECT_EQ(dump["rootLink"], "PelvisLink");
     EXPECT_EQ(dump["links"].size(), 3U);
     EXPECT_EQ(dump["links"][0].dump(), Json::parse(R"({
-        "name": "PelvisLink", "frame": "PelvisLink", "type": "regular", "parentJoint": null,
+        "name": "PelvisLink", "descriptionName": "PelvisLink", "frame": "PelvisLink", "type": "regular", "parentJoint": null,
         "childrenJoints": ["LHip", "RHip"],
         "mass": {"mass": 4.5, "com": [0, 0, -0.01], "inertia": [0, 0, 0, 0, 0, 0, 0, 0, 0]},
         "frictionMaterial": "gum",
@@ -51,7 +51,9 @@ TEST_F(Dump, PrintsEveryNumberAndName)
     EXPECT_EQ(dump["joints"][1].dump(), Json::parse(R"({
         "name": "RHip", "frame": "RHip", "parentLink": "PelvisLink", "childLink": "RHipLink",
         "localPosition": [1, 0, 0, 0, 0, 1, 0, -0.1, 0, 0, 1, -0.05, 0, 0, 0, 1],
-        "globalPosition": [1, 0, 0, -0, 0, 1, 0, -0.1, 0, 0, 1, -0.05, 0, 0, 0, 1]})")
+        "globalPosition": [1, 0, 0, -0, 0, 1, 0, -0.1, 0, 0, 1, -0.05, 0, 0, 0, 1],
+        "type": "revolute", "moves": true, "motor": true, "limits": {"lower": -1.1, "upper": null},
+        "effort": 0, "velocity": 6, "damping": 0, "friction": 0, "mimic": null, "safety": null, "calibration": null})")
                                             .dump());
     EXPECT_EQ(dump["jointSymmetries"].dump(), R"([{"joints":["LHip","RHip"],"type":"ReflectedSymmetric"}])");
     EXPECT_EQ(dump["jointGroups"][1].dump(), R"({"name":"RLeg","joints":["RHip"]})");

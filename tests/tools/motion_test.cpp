@@ -35,6 +35,18 @@ TEST_F(Motion, PosesAreThoseOfTheJointValues)
     EXPECT_NEAR(moved["poses"][0]["pose"][11], 0.075 + 0.25 + 0.3 + 0.06 + 0.012, 1e-6);
 }
 
+TEST_F(Motion, LinksHaveTheNamesOfTheText)
+{
+    std::string const urdf = R"(<robot name="r"><link name="base"/><link name="tip"/>
+  <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)";
+    std::string const zero = "xyz 0.000 0.000 0.000  rpy 0.000 0.000 0.000\n";
+    EXPECT_EQ(run({"pose", "-"}, urdf).out, "NAME  POSE\nbase  " + zero + "tip   " + zero);
+    EXPECT_EQ(run({"pose", "-", "tip"}, urdf).out, "NAME  POSE\ntip   " + zero);
+    EXPECT_EQ(Json::parse(run({"pose", "--json", "-"}, urdf).out)["poses"][1]["name"], "jLink");
+    EXPECT_NE(run({"mass", "-"}, urdf).out.find("\ntip   0 kg"), std::string::npos);
+    EXPECT_EQ(Json::parse(run({"mass", "--json", "-"}, urdf).out)["links"][1]["name"], "jLink");
+}
+
 TEST_F(Motion, TreeTakesTheSameOptions)
 {
     EXPECT_EQ(run({"tree", "--pose", "--joint", "Turn=-0.5", "--relative-to", "BaseLink", minimal}, {}, "LC_ALL=C").out,

@@ -17,6 +17,16 @@ std::string const humanoid = robots + "humanoid.xml";
 std::string const urdf = R"(<robot name="r"><link name="base"/><link name="tip"/>
   <joint name="j" type="fixed"><parent link="base"/><child link="tip"/></joint></robot>)";
 
+/// A joint of every way to be driven, or not.
+std::string const driven = R"(<robotDescription name="r"><root name="Base"/>
+  <joint name="Motor" min="-1" max="1" link="arm"/><joint name="Free" min="unlimited" max="1" motor="false"/>
+  <joint name="Copy" min="0" max="0" motor="false"><mimic joint="Free"/></joint>
+  <joint name="Plate" min="0" max="0" type="fixed" motor="false"/>
+  <chain name="C" parent="Base"><jointRef name="Motor"/><jointRef name="Free"/><jointRef name="Copy"/>
+    <jointRef name="Plate"/></chain>
+  <actuator name="Hand" parent="Plate" min="0" max="1"><group><subJoint name="Finger" ratio="1"/></group></actuator>
+</robotDescription>)";
+
 std::size_t countOf(std::string const& text, std::string const& part)
 {
     std::size_t count = 0;
@@ -36,7 +46,7 @@ version       2.1
 dialect       native
 root link     PelvisLink
 links         3
-joints        2
+joints        2: 2 actuated
 total mass    7 kg
 actuators     2: 2 Angle
 sensors       3: 2 Angle, 1 Camera
@@ -48,6 +58,14 @@ meshes        2, of them not found 2
 )");
     Outcome const outcome = run({"info", humanoid});
     EXPECT_LE(std::count(outcome.out.begin(), outcome.out.end(), '\n'), 24);
+}
+
+TEST_F(Info, TellsWhichJointsAreDriven)
+{
+    std::string const info = run({"info", "-"}, driven).out;
+    EXPECT_NE(info.find("\njoints        5: 1 actuated, 1 coupled, 1 fixed, 1 mimic, 1 passive\n"), std::string::npos)
+        << info;
+    EXPECT_NE(run({"info", "-"}, urdf).out.find("\nroot link     base\n"), std::string::npos);
 }
 
 TEST_F(Info, SummarisesWhatCouldNotBeCarriedOver)
@@ -76,9 +94,16 @@ TEST_F(Tree, DrawsBranchesAsTheLocaleCan)
               "`- RHip -> [RHipLink]  1.25 kg     xyz 0.000 -0.100 -0.050  rpy 0.000 0.000 0.000\n");
 }
 
-TEST_F(Tree, NamesUrdfLinksAndMarksWheels)
+TEST_F(Tree, NamesLinksAsTheTextDoesAndMarksWheelsAndWhatHasNoMotor)
 {
-    EXPECT_EQ(run({"tree", "-"}, urdf, "LC_ALL=C").out, "[baseLink] urdf:base\n`- j -> [jLink] urdf:tip\n");
+    EXPECT_EQ(run({"tree", "-"}, urdf, "LC_ALL=C").out, "[base]\n`- j fixed -> [tip]\n");
+    EXPECT_EQ(run({"tree", "-"}, driven, "LC_ALL=C").out, R"([BaseLink]
+`- Motor -> [arm]
+   `- Free passive -> [FreeLink]
+      `- Copy mimic -> [CopyLink]
+         `- Plate fixed -> [PlateLink]
+            `- Finger coupled -> [FingerLink]
+)");
     EXPECT_EQ(countOf(run({"tree", robots + "rover.xml"}).out, "] wheel\n"), 4U);
 }
 
@@ -101,6 +126,17 @@ TEST_F(List, AlignsTheTable)
               R"(NAME  JOINT  MIN   MAX        MIRROR  KEYS
 LHip  LHip   -1.1  unlimited  RHip    LHip/Angle/Actuator
 RHip  RHip   -1.1  unlimited  LHip    RHip/Angle/Actuator
+)");
+    EXPECT_EQ(run({"list", "joints", "-"}, driven).out, R"(NAME    TYPE      MOTOR  LINK
+Motor   revolute  yes    arm
+Free    revolute  no     FreeLink
+Copy    revolute  no     CopyLink
+Plate   fixed     no     PlateLink
+Finger  revolute  no     FingerLink
+)");
+    EXPECT_EQ(run({"list", "links", "-"}, urdf).out, R"(NAME  TYPE     JOINT  MASS  POSITION
+base  regular  -      0     0.000 0.000 0.000
+tip   regular  j      0     0.000 0.000 0.000
 )");
     EXPECT_EQ(run({"list", "cameras", "-"}, legs).out, R"(NAME  WIDTH  HEIGHT  POSITION           BYTES
 Eye   640    480     0.200 0.000 0.000  3686400
@@ -159,8 +195,11 @@ TEST_F(Show, PrintsAllThatBearsTheName)
 TEST_F(Show, FindsLinksByTheirUrdfName)
 {
     std::string const shown = run({"show", "tip", "-"}, urdf).out;
-    EXPECT_EQ(shown.substr(0, shown.find('\n')), "link jLink");
-    EXPECT_NE(shown.find("  urdfName                    tip\n"), std::string::npos);
+    EXPECT_EQ(shown.substr(0, shown.find('\n')), "link tip");
+    EXPECT_NE(shown.find("\n  name                        jLink\n"), std::string::npos) << shown;
+    EXPECT_EQ(run({"show", "jLink", "-"}, urdf).out, shown);
+    EXPECT_NE(run({"show", "j", "-"}, urdf).out.find("\n  childLink                   tip\n"), std::string::npos);
+    EXPECT_EQ(Json::parse(run({"show", "tip", "--json", "-"}, urdf).out)[0]["urdfName"], "tip");
     Outcome const missed = run({"show", "TI", "-"}, urdf);
     EXPECT_EQ(missed.status, 1);
     EXPECT_NE(missed.err.find("Similar names: tip."), std::string::npos) << missed.err;
@@ -188,6 +227,13 @@ TEST_F(Graph, HasEveryLinkJointAndMirrorPair)
             EXPECT_NE(full.find(line), std::string::npos) << line;
         }
     }
+}
+
+TEST_F(Graph, LabelsLinksAsTheTextCallsThem)
+{
+    std::string const graph = run({"graph", "-"}, urdf).out;
+    EXPECT_EQ(countOf(graph, ", label=\"tip\"];\n"), 1U) << graph;
+    EXPECT_EQ(countOf(graph, "\"baseLink\" -> \"jLink\" [label=\"j\""), 1U);
 }
 
 TEST_F(Graph, ChainsHaveColoursOfTheirOwn)

@@ -24,7 +24,8 @@ TEST(UrdfNames, MayBeSharedByLinksAndJoints)
     EXPECT_NE(model.link("baseLink"), nullptr);
     EXPECT_NE(model.link("baseLink"), model.rootLink());
     EXPECT_EQ(model.joint("aLink")->parentLink()->name(), "aLink");
-    EXPECT_THAT(complaintsAbout(text), ElementsAre("renamed", "renamed", "ambiguous-name"));
+    EXPECT_THAT(complaintsAbout(text),
+                ElementsAre("renamed", "renamed", "ambiguous-name", "ambiguous-link-name", "ambiguous-link-name"));
 
     // An actuator of a joint's name would take the joint's limits.
     EXPECT_EQ(model.angleActuator("aCoupling")->minValue(), -0.5F);
@@ -55,6 +56,22 @@ TEST(UrdfNames, WarnOfJointsNamedLikeTheLinkOfAnother)
     EXPECT_THAT(complaintsAbout(robot(link("ALink") + link("a") + joint("A", "ALink", "a"))),
                 ElementsAre("ambiguous-name"));
     EXPECT_THAT(complaintsAbout(robot(links + joint("ALink", "root", "a") + joint("Link", "a", "b"))), ElementsAre());
+}
+
+TEST(UrdfNames, OfLinksFindThemWhereNoLinkOfTheModelIsCalledSo)
+{
+    std::string const text = robot(link("root") + "\n" + link("BLink") + "\n" + link("b") +
+                                   joint("A", "root", "BLink") + joint("B", "BLink", "b"));
+    Findings const findings = ModelUtils::diagnose(text);
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].code, "ambiguous-link-name");
+    EXPECT_EQ(findings[0].line, 2);
+    Sim::Model const model(text);
+    Sim::Link const* const links[] = {model.rootLink(), model.joint("A")->childLink(), model.joint("B")->childLink()};
+    EXPECT_THAT(links, ElementsAre(model.link("root"), model.link("ALink"), model.link("b")));
+    EXPECT_EQ(model.link("BLink"), links[2]) << "the model's own names come first";
+    EXPECT_EQ(links[1]->descriptionName(), "BLink");
+    EXPECT_EQ(model.link("c"), nullptr);
 }
 
 }  // namespace

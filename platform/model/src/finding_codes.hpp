@@ -32,14 +32,18 @@ inline constexpr FindingCode pathNotText{"path-not-text", Severity::error,
 inline constexpr FindingCode ambiguousName{
     "ambiguous-name", Severity::warning,
     "A joint, wheel, sub-joint or the root is named like the link of another, which has `Link` appended."};
+inline constexpr FindingCode ambiguousLinkName{
+    "ambiguous-link-name", Severity::warning,
+    "A link has a name in the text that models, or the text itself, have for another link."};
 inline constexpr FindingCode tooManyFindings{
     "too-many-findings", Severity::error,
     "There are more findings than the 1000 that are listed; of the highest severity among those left out."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofTexts[] = {
-    &textTooLarge, &malformedXml, &documentType, &contentOutsideRoot, &repeatedAttribute, &badReference,
-    &badCharacter, &badEncoding,  &unknownRoot,  &pathNotText,        &ambiguousName,     &tooManyFindings,
+    &textTooLarge,  &malformedXml,      &documentType,    &contentOutsideRoot, &repeatedAttribute,
+    &badReference,  &badCharacter,      &badEncoding,     &unknownRoot,        &pathNotText,
+    &ambiguousName, &ambiguousLinkName, &tooManyFindings,
 };
 
 }  // namespace codes

@@ -39,7 +39,8 @@ meshTransform, in the link frame) are the 16 numbers of the homogeneous matrix,
 row by row, lengths in metres. Numbers are in SI units and the shortest that
 read back as the same single-precision value; an infinite one, such as the
 limit of a joint that turns without end, is null. Elements refer to each other
-by name, with null for none.
+by name, with null for none. What the description itself calls a link, as URDF
+does, is its descriptionName.
 
 Examples:
   varo-robot dump robots/humanoid.xml

@@ -52,6 +52,7 @@ void printLinks(Sim::Model const& model, ChainColours const& colours)
 {
     for (Sim::Link const* link : model.links()) {
         std::cout << "  " << quoted(link->name()) << " [fillcolor=" << quoted(colours.fillOf(*link))
+                  << (link->descriptionName() == link->name() ? "" : ", label=" + quoted(link->descriptionName()))
                   << (link->type() == Sim::Link::Wheel ? ", shape=ellipse" : "") << "];\n";
     }
 }

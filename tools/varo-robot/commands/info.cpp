@@ -12,6 +12,7 @@
 #include "support/description.hpp"
 #include "support/device_kinds.hpp"
 #include "support/finding_text.hpp"
+#include "support/joint_words.hpp"
 #include "support/kinds.hpp"
 #include "support/meshes.hpp"
 #include "support/numbers.hpp"
@@ -67,6 +68,23 @@ std::string linkCount(Sim::Model const& model)
 {
     std::size_t const wheels = wheelCount(model);
     return std::to_string(model.links().size()) + (wheels > 0 ? ", of them wheels " + std::to_string(wheels) : "");
+}
+
+/// "12: 9 actuated, 3 fixed"
+std::string jointCount(Sim::Model const& model)
+{
+    JointWords const words(model);
+    std::map<std::string, std::size_t> counts;
+    for (Sim::Joint const* joint : model.joints()) {
+        ++counts[words.of(*joint)];
+    }
+    std::string text = std::to_string(model.joints().size());
+    char const* separator = ": ";
+    for (auto const& [word, count] : counts) {
+        text += separator + std::to_string(count) + " " + word;
+        separator = ", ";
+    }
+    return text;
 }
 
 /// How many there are of each kind that there is.
@@ -214,9 +232,9 @@ void printForEyes(Sim::Model const& model, Findings const& findings, MeshCount c
     addIfAny("pretty name", prettyNames(robot));
     addIfAny("version", robot.version());
     sheet.add("dialect", robot.dialect());
-    sheet.add("root link", model.rootLink()->name());
+    sheet.add("root link", model.rootLink()->descriptionName());
     sheet.add("links", linkCount(model));
-    sheet.add("joints", std::to_string(model.joints().size()));
+    sheet.add("joints", jointCount(model));
     sheet.add("total mass", rounded(totalMass(model)) + " kg");
     sheet.add("actuators", countText(model.actuators(), Sim::actuatorKinds));
     sheet.add("sensors", countText(model.sensors(), Sim::sensorKinds));
@@ -290,9 +308,11 @@ std::function<int()> declare(CLI::App& app)
 
 Command const infoCommand = {"info", "Say on one screen what robot this is",
                              R"(Prints the robot's names and version, the dialect of its description, how many
-links, joints, actuators and sensors of each kind it has, the sum of its masses,
-its chains, how many files of meshes it names and how many of them are not found
-(docs/meshes.md), and what the reader had to remark, one line for each kind of
+links, joints, actuators and sensors of each kind it has (joints are actuated,
+coupled to others by an actuator, mimics of others, passive, or do not move), the
+sum of its masses, its chains, how many files of meshes it names and how many of
+them are not found (docs/meshes.md), and what the reader had to remark, one line
+for each kind of
 finding; of a URDF description that is what could not be carried over.
 `varo-robot check` lists the findings one by one.
 

@@ -7,6 +7,7 @@
 #include "support/description.hpp"
 #include "support/json_text.hpp"
 #include "support/kinds.hpp"
+#include "support/link_names.hpp"
 #include "support/table.hpp"
 
 namespace Tool {
@@ -19,17 +20,18 @@ struct Options {
     bool json = false;
 };
 
-std::string cellOf(Json const& element, Column const& column)
+std::string cellOf(Json const& element, Column const& column, LinkNames const& names)
 {
     Json::json_pointer const pointer(column.pointer);
     if (!element.contains(pointer)) {
         return "-";
     }
     Json const& value = element.at(pointer);
-    return isPose(value) ? originOf(value) : readable(value);
+    std::string const text = isPose(value) ? originOf(value) : readable(value);
+    return column.isLink ? names.of(text) : text;
 }
 
-void printForEyes(Kind const& kind, std::vector<Json> const& elements)
+void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames const& names)
 {
     std::vector<Row> rows(1);
     for (Column const& column : kind.columns) {
@@ -38,7 +40,7 @@ void printForEyes(Kind const& kind, std::vector<Json> const& elements)
     for (Json const& element : elements) {
         Row row;
         for (Column const& column : kind.columns) {
-            row.push_back(cellOf(element, column));
+            row.push_back(cellOf(element, column, names));
         }
         rows.push_back(std::move(row));
     }
@@ -82,7 +84,7 @@ int list(Options const& options)
     Robot const robot = loadRobot(options.file);
     Sim::Model const& model = robot.model;
     std::vector<Json> const elements = kind->elements(model);
-    options.json ? printForPrograms(elements) : printForEyes(*kind, elements);
+    options.json ? printForPrograms(elements) : printForEyes(*kind, elements, LinkNames(model));
     return exitStatus::fine;
 }
 
@@ -101,7 +103,8 @@ std::function<int()> declare(CLI::App& app)
 Command const listCommand = {"list", "List the elements of one kind as a table",
                              R"(Prints a table with a line for each element of the kind, in the order in which
 the model made them: "-" stands for none, positions are those in the root frame
-(m), numbers are in SI units.
+(m), numbers are in SI units. Links have the names that the description gives
+them.
 
 Examples:
   varo-robot list joints robots/humanoid.xml

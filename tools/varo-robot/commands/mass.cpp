@@ -48,7 +48,7 @@ struct Masses {
     Sim::MassProperties total;
 };
 
-Masses massesOf(Sim::Model const& model, MovedRobot const& moved)
+Masses massesOf(Sim::Model const& model, MovedRobot const& moved, bool forEyes)
 {
     Masses masses;
     masses.total = moved.kinematics().massProperties(moved.configuration());
@@ -58,7 +58,7 @@ Masses massesOf(Sim::Model const& model, MovedRobot const& moved)
     }
     std::vector<Sim::Pose> const poses = moved.kinematics().linkPoses(moved.configuration());
     for (Sim::Link const* const link : model.links()) {
-        Part& part = masses.links.emplace_back(Part{link->name()});
+        Part& part = masses.links.emplace_back(Part{forEyes ? link->descriptionName() : link->name()});
         Sim::MassData const* const data = link->mass();
         if (data == nullptr) {
             continue;
@@ -151,7 +151,7 @@ int mass(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     MovedRobot const moved(robot.model, options.motion, robot.file);
-    Masses const masses = massesOf(robot.model, moved);
+    Masses const masses = massesOf(robot.model, moved, !options.json);
     if (options.json) {
         printJson(std::cout, massJson(masses, moved.configurationJson()));
         std::cout << '\n';

@@ -28,8 +28,9 @@ struct NamedPose {
 };
 
 /// Of what is asked for, or of all links.
-std::vector<NamedPose> posesOf(std::vector<std::string> const& names, Sim::Model const& model, MovedRobot const& moved)
+std::vector<NamedPose> posesOf(Options const& options, Sim::Model const& model, MovedRobot const& moved)
 {
+    std::vector<std::string> const& names = options.names;
     std::vector<NamedPose> poses;
     poses.reserve(names.size());
     for (std::string const& name : names) {
@@ -38,7 +39,7 @@ std::vector<NamedPose> posesOf(std::vector<std::string> const& names, Sim::Model
     if (names.empty()) {
         std::vector<Varo::Math::Transform> const linkPoses = moved.linkPoses();
         for (Sim::Link const* const link : model.links()) {
-            poses.push_back({link->name(), linkPoses[poses.size()]});
+            poses.push_back({options.json ? link->name() : link->descriptionName(), linkPoses[poses.size()]});
         }
     }
     return poses;
@@ -66,7 +67,7 @@ int pose(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     MovedRobot const moved(robot.model, options.motion, robot.file);
-    std::vector<NamedPose> const poses = posesOf(options.names, robot.model, moved);
+    std::vector<NamedPose> const poses = posesOf(options, robot.model, moved);
     if (options.json) {
         std::string const& reference = options.motion.relativeTo;
         Json const data = {

@@ -41,9 +41,7 @@ struct Sighting {
 /// Collects what has a name.
 class Search {
 public:
-    Search(Sim::Model const& model, LinkNames const& linkNames, std::string name)
-        : _model(model), _linkNames(linkNames), _name(std::move(name))
-    {}
+    Search(Sim::Model const& model, std::string name) : _model(model), _name(std::move(name)) {}
 
     std::vector<Sighting> run();
 
@@ -63,7 +61,6 @@ private:
     void addSymmetries();
 
     Sim::Model const& _model;
-    LinkNames const& _linkNames;
     std::string _name;
     ElementJson _json;
     std::vector<Sighting> _found;
@@ -96,14 +93,11 @@ void Search::addRecords(char const* kind)
 /// By the model's name or the one in the description.
 void Search::addLinks()
 {
-    std::vector<std::string> const statedLinks = _linkNames.linksOf(_name);
     for (Sim::Link const* link : _model.links()) {
-        bool const isMeant = std::find(statedLinks.begin(), statedLinks.end(), link->name()) != statedLinks.end();
-        if (link->name() == _name || isMeant) {
-            std::string const statedName = _linkNames.statedNameOf(link->name());
-            _found.push_back({"link", link->name(), _json.of(*link)});
-            if (!statedName.empty()) {
-                _found.back().facts["urdfName"] = statedName;
+        if (link->name() == _name || link->descriptionName() == _name) {
+            _found.push_back({"link", link->descriptionName(), _json.of(*link)});
+            if (_model.robot().dialect() == "urdf") {
+                _found.back().facts["urdfName"] = link->descriptionName();
             }
         }
     }
@@ -133,26 +127,28 @@ void Search::addSymmetries()
 }
 
 /// One line for each fact; those of an object within stand among them.
-void printFacts(Json const& facts)
+void printFacts(Sighting const& sighting, Json const& facts, LinkNames const& names)
 {
     constexpr std::size_t width = 28;
     for (auto const& [key, value] : facts.items()) {
         if (value.is_object() && !value.empty()) {
-            printFacts(value);
-        } else if (key != "name") {
-            std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << readable(value)
-                      << '\n';
+            printFacts(sighting, value, names);
+        } else if (value != sighting.name || (key != "name" && key != "descriptionName" && key != "urdfName")) {
+            bool const isOfLink = key == "parentLink" || key == "childLink";
+            std::string const text = readable(value);
+            std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ')
+                      << (isOfLink ? names.of(text) : text) << '\n';
         }
     }
 }
 
-void printForEyes(std::vector<Sighting> const& found)
+void printForEyes(std::vector<Sighting> const& found, LinkNames const& names)
 {
     Palette const palette(STDOUT_FILENO);
     for (Sighting const& sighting : found) {
         std::string const heading = sighting.kind + " " + sighting.name;
         std::cout << (&sighting == &found.front() ? "" : "\n") << palette.paint(Ink::heading, heading) << '\n';
-        printFacts(sighting.facts);
+        printFacts(sighting, sighting.facts, names);
     }
 }
 
@@ -171,7 +167,7 @@ void printForPrograms(std::vector<Sighting> const& found)
 }
 
 /// Names that hold the one that was not found, whatever the case, as a hint.
-std::string similarNames(Sim::Model const& model, LinkNames const& linkNames, std::string const& name)
+std::string similarNames(Sim::Model const& model, std::string const& name)
 {
     constexpr std::size_t maximum = 5;
     std::vector<std::string> similar;
@@ -190,13 +186,13 @@ std::string similarNames(Sim::Model const& model, LinkNames const& linkNames, st
         }
     };
     offerAll(model.joints());
-    offerAll(model.links());
+    for (Sim::Link const* link : model.links()) {
+        offer(link->descriptionName());
+    }
     offerAll(model.jointGroups());
     offerAll(model.actuators());
     offerAll(model.sensors());
-    for (Sim::Link const* link : model.links()) {
-        offer(linkNames.statedNameOf(link->name()));
-    }
+    offerAll(model.links());
     std::string text;
     for (std::string const& candidate : similar) {
         text += (text.empty() ? "Similar names: " : ", ") + candidate;
@@ -208,14 +204,13 @@ int show(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     Sim::Model const& model = robot.model;
-    LinkNames const linkNames(robot.records());
-    std::vector<Sighting> const found = Search(model, linkNames, options.name).run();
+    std::vector<Sighting> const found = Search(model, options.name).run();
     if (found.empty()) {
         throw Refused(robot.file, {fileFinding(Varo::Model::Severity::error, codes::nameNotFound,
                                                "Nothing in it is called \"" + options.name + "\".",
-                                               similarNames(model, linkNames, options.name))});
+                                               similarNames(model, options.name))});
     }
-    options.json ? printForPrograms(found) : printForEyes(found);
+    options.json ? printForPrograms(found) : printForEyes(found, LinkNames(model));
     return exitStatus::fine;
 }
 
@@ -233,8 +228,9 @@ std::function<int()> declare(CLI::App& app)
 Command const showCommand = {"show", "Show everything of a name",
                              R"(Prints all that the model knows under the name, whatever its kind: links, joints
 with their groups and symmetries, chains, groups, actuators, sensors and
-postures, one after the other when several have it. A link is found, too, by the
-name that a description in URDF gives it.
+postures, one after the other when several have it. A link is found by the name
+that the description gives it, as URDF does, and by the model's, which is that
+of its joint with Link appended.
 
 With --json: an array of objects, each with its kind (link, joint, symmetry,
 chain, joint group, actuator, actuator group, sensor or posture) and then as

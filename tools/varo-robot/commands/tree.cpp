@@ -12,8 +12,8 @@
 #include "sim/link.hpp"
 #include "sim/mass_data.hpp"
 #include "support/description.hpp"
+#include "support/joint_words.hpp"
 #include "support/json_parts.hpp"
-#include "support/link_names.hpp"
 #include "support/moved_robot.hpp"
 #include "support/numbers.hpp"
 #include "support/terminal.hpp"
@@ -88,9 +88,9 @@ struct Line {
 /// Draws a model's tree line by line, depth first.
 class TreePainter {
 public:
-    TreePainter(Options const& options, LinkNames const& names, LinkPoses const& poses)
+    TreePainter(Options const& options, JointWords const& words, LinkPoses const& poses)
         : _options(options),
-          _names(names),
+          _words(words),
           _poses(poses),
           _strokes(isUtf8Locale() ? drawn : typed),
           _palette(STDOUT_FILENO)
@@ -113,7 +113,7 @@ private:
     std::string factsOf(Sim::Link const& link) const;
 
     Options const& _options;
-    LinkNames const& _names;
+    JointWords const& _words;
     LinkPoses const& _poses;
     Strokes _strokes;
     Palette _palette;
@@ -171,20 +171,15 @@ std::string TreePainter::branchOf(Step const& step)
 
 std::string TreePainter::labelOf(Sim::Link const& link, Palette const& palette) const
 {
-    std::string label = palette.paint(Ink::link, "[" + link.name() + "]");
-    if (link.type() == Sim::Link::Wheel) {
-        label += palette.paint(Ink::faint, " wheel");
-    }
-    std::string const statedName = _names.statedNameOf(link.name());
-    if (!statedName.empty()) {
-        label += palette.paint(Ink::faint, " urdf:" + statedName);
-    }
-    return label;
+    std::string const label = palette.paint(Ink::link, "[" + link.descriptionName() + "]");
+    return link.type() == Sim::Link::Wheel ? label + palette.paint(Ink::faint, " wheel") : label;
 }
 
 std::string TreePainter::labelOf(Sim::Joint const& joint, Palette const& palette) const
 {
-    std::string const name = palette.paint(Ink::joint, joint.name());
+    std::string const word = _words.of(joint);
+    std::string const name =
+        palette.paint(Ink::joint, joint.name()) + (word == "actuated" ? "" : palette.paint(Ink::faint, " " + word));
     Sim::Link const* const link = joint.childLink();
     return link == nullptr ? name : name + _strokes.moves + labelOf(*link, palette);
 }
@@ -218,16 +213,16 @@ void printTree(std::vector<Line> const& lines)
 }
 
 /// An array of the links, each with what leads to it.
-void printForPrograms(Sim::Model const& model, LinkNames const& names, LinkPoses const& poses)
+void printForPrograms(Sim::Model const& model, LinkPoses const& poses)
 {
     {
         JsonStream array(std::cout, '[');
         for (Sim::Link const* const link : model.links()) {
             Sim::Joint const* const joint = link->parentJoint();
-            std::string const statedName = names.statedNameOf(link->name());
             array.add({
                 {"link", link->name()},
-                {"urdfName", statedName.empty() ? Json(nullptr) : Json(statedName)},
+                {"descriptionName", link->descriptionName()},
+                {"urdfName", model.robot().dialect() == "urdf" ? Json(link->descriptionName()) : Json(nullptr)},
                 {"joint", nameOrNull(joint)},
                 {"parentLink", joint == nullptr ? Json(nullptr) : Json(joint->parentLink()->name())},
                 {"type", link->type() == Sim::Link::Wheel ? "wheel" : "regular"},
@@ -243,12 +238,11 @@ int tree(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     Sim::Model const& model = robot.model;
-    LinkNames const names(robot.records());
     LinkPoses const poses = posesOf(model, options.motion, robot.file);
     if (options.json) {
-        printForPrograms(model, names, poses);
+        printForPrograms(model, poses);
     } else {
-        printTree(TreePainter(options, names, poses).paint(*model.rootLink()));
+        printTree(TreePainter(options, JointWords(model), poses).paint(*model.rootLink()));
     }
     return exitStatus::fine;
 }
@@ -269,8 +263,9 @@ std::function<int()> declare(CLI::App& app)
 
 Command const treeCommand = {"tree", "Draw the links and joints as a tree",
                              R"(Draws the kinematic tree, one line for each joint: its name, an arrow, and in
-brackets the link that it moves. The root link stands on top. A link of a URDF
-description also shows the name that it has there.
+brackets the link that it moves, as the description calls it. The root link
+stands on top. What has no motor is marked: a joint that is fixed, planar or
+floating, coupled to others by an actuator, a mimic of another, or passive.
 
 Branches are drawn with box-drawing characters in a UTF-8 locale, with plain
 ones otherwise. Colour appears on terminals only; set NO_COLOR to be without.
@@ -280,8 +275,9 @@ Poses are those with all joints at zero, as in `dump`, unless a posture or a
 joint value is given; then joints that follow stand where that puts them, as in
 `pose`.
 
-With --json: an array of the links, parents first, each with link, urdfName,
-joint, parentLink, type, mass and pose, the latter as 16 numbers, row by row.
+With --json: an array of the links, parents first, each with link,
+descriptionName, urdfName (the same in URDF, null elsewhere), joint, parentLink,
+type, mass and pose, the latter as 16 numbers, row by row.
 
 Examples:
   varo-robot tree robots/humanoid.xml

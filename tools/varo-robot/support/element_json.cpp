@@ -9,6 +9,7 @@
 #include "sim/link.hpp"
 #include "sim/mass_data.hpp"
 #include "sim/visual_data.hpp"
+#include "support/joint_words.hpp"
 #include "support/json_parts.hpp"
 
 namespace Tool {
@@ -32,6 +33,34 @@ Json visualJson(Sim::VisualData const* visual)
     return {{"meshPath", visual->meshPath()}, {"meshTransform", matrixOf(visual->meshTransform())}};
 }
 
+Json mimicJson(Varo::Model::MimicConfig const* mimic)
+{
+    if (mimic == nullptr) {
+        return nullptr;
+    }
+    return {{"joint", mimic->joint}, {"multiplier", mimic->multiplier}, {"offset", mimic->offset}};
+}
+
+Json safetyJson(Varo::Model::SafetyConfig const* safety)
+{
+    if (safety == nullptr) {
+        return nullptr;
+    }
+    return {{"lowerLimit", safety->lowerLimit},
+            {"upperLimit", safety->upperLimit},
+            {"positionGain", safety->positionGain},
+            {"velocityGain", safety->velocityGain}};
+}
+
+Json calibrationJson(Varo::Model::CalibrationConfig const* calibration)
+{
+    if (calibration == nullptr) {
+        return nullptr;
+    }
+    auto const orNull = [](std::optional<float> const& position) { return position ? Json(*position) : Json(nullptr); };
+    return {{"rising", orNull(calibration->rising)}, {"falling", orNull(calibration->falling)}};
+}
+
 }  // namespace
 
 Json ElementJson::globalPosition(Sim::Frame const* frame)
@@ -43,6 +72,7 @@ Json ElementJson::of(Sim::Link const& link)
 {
     return {
         {"name", link.name()},
+        {"descriptionName", link.descriptionName()},
         {"frame", nameOrNull(link.frame())},
         {"type", link.type() == Sim::Link::Wheel ? "wheel" : "regular"},
         {"parentJoint", nameOrNull(link.parentJoint())},
@@ -64,6 +94,17 @@ Json ElementJson::of(Sim::Joint const& joint)
         {"childLink", nameOrNull(joint.childLink())},
         {"localPosition", localPosition(joint.frame())},
         {"globalPosition", globalPosition(joint.frame())},
+        {"type", wordOf(joint.type())},
+        {"moves", joint.moves()},
+        {"motor", joint.hasMotor()},
+        {"limits", {{"lower", joint.limits().lower}, {"upper", joint.limits().upper}}},
+        {"effort", joint.effort()},
+        {"velocity", joint.velocity()},
+        {"damping", joint.damping()},
+        {"friction", joint.friction()},
+        {"mimic", mimicJson(joint.mimic())},
+        {"safety", safetyJson(joint.safety())},
+        {"calibration", calibrationJson(joint.calibration())},
     };
 }
 

@@ -138,12 +138,13 @@ std::vector<Kind> makeKinds()
     using Sim::Model;
     Column const joints = {"JOINTS", "/joints"};
     Column const actuators = {"ACTUATORS", "/actuators"};
-    Columns const ofLinks = {name, type, {"JOINT", "/parentJoint"}, {"MASS", "/mass/mass"}, position};
+    Columns const ofLinks = {
+        {"NAME", "/name", true}, type, {"JOINT", "/parentJoint"}, {"MASS", "/mass/mass"}, position};
 
     std::vector<Kind> kinds = {
         {"links", {"link"}, ofLinks, all<&Model::links>},
         {"wheels", {"wheel"}, ofLinks, wheels},
-        {"joints", {"joint"}, {name, {"FROM", "/parentLink"}, {"TO", "/childLink"}, position}, all<&Model::joints>},
+        {"joints", {"joint"}, {name, type, {"MOTOR", "/motor"}, {"LINK", "/childLink", true}}, all<&Model::joints>},
         {"symmetries",
          {"symmetry", "joint-symmetry", "joint-symmetries"},
          {joints, type},

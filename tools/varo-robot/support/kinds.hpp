@@ -13,6 +13,7 @@ namespace Tool {
 struct Column {
     char const* title;
     char const* pointer;  ///< to the value in the element's JSON, such as "/mass/mass"
+    bool isLink = false;  ///< whether the value is the model's name of a link
 };
 
 /// A kind of elements that users can ask for.

@@ -3,25 +3,22 @@
 
 #include <map>
 #include <string>
-#include <vector>
 
-#include "varo/model/robot.hpp"
+#include "sim/model.hpp"
 
 namespace Tool {
 
-/// The names that a description gives its links where its dialect names them; in the model a link is called after its
+/// What people call the links of a model: as the description does where it names them; models call a link after its
 /// joint.
 class LinkNames {
 public:
-    explicit LinkNames(Varo::Model::Robot const& robot);
+    explicit LinkNames(Sim::Model const& model);
 
-    /// The name that the description gives the model's link; empty when it gives none.
-    std::string statedNameOf(std::string const& link) const;
-    /// The model's links to which the description gives that name.
-    std::vector<std::string> linksOf(std::string const& statedName) const;
+    /// Of the link that the model calls so; the same name where there is no such link.
+    std::string of(std::string const& link) const;
 
 private:
-    std::map<std::string, std::string> _statedNames;  // by the model's name of the link
+    std::map<std::string, std::string> _names;  // by the model's name, where the two differ
 };
 
 }  // namespace Tool

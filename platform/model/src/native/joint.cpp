@@ -1,3 +1,6 @@
+#include <memory>
+#include <utility>
+
 #include "native/body.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
@@ -51,14 +54,42 @@ constexpr Attribute<JointReading> jointAttributes[] = {
     numberRow<&JointConfig::damping>("damping", "N*m*s/rad (N*s/m)", "viscous damping; carried"),
     numberRow<&JointConfig::friction>("friction", "N*m (N)", "Coulomb friction; carried"),
     optional<&JointConfig::jointType, JointTypes, JointReading>("type", "revolute", "", "how the joint moves"),
+    optional<&JointConfig::hasMotor, DefaultType<&JointConfig::hasMotor>, JointReading>(
+        "motor", "true", "",
+        "whether a motor of its own drives the joint; one without has no angle actuator and no place in postures"),
     optional<&JointReading::reflectionForced>("reflectionForced", "false", "",
                                               "whether a symmetric motion reflects the joint whatever its mirror says"),
 };
+
+constexpr Attribute<MimicConfig> mimicAttributes[] = {
+    named<&MimicConfig::joint>("joint", names::mimicLeader, "the joint that this one follows"),
+    optional<&MimicConfig::multiplier>("multiplier", "1", "", "joint value per value of the other"),
+    optional<&MimicConfig::offset>("offset", "0", "rad (m)",
+                                   "joint value where the other stands at 0; the zero pose of the model leaves it out"),
+};
+constexpr Element<MimicConfig> mimicElement{
+    "mimic", "that the joint follows another one, unless a group of an actuator holds it", mimicAttributes};
+
+void readMimic(ElementReader& reader, pugi::xml_node node, JointReading& joint)
+{
+    MimicConfig mimic;
+    reader.read(mimicElement, node, mimic);
+    mimic.textOffset = at(node);
+    joint.mimic = std::make_shared<MimicConfig const>(std::move(mimic));
+}
+void writeMimic(ElementWriter& writer, JointReading const& joint)
+{
+    if (joint.mimic != nullptr) {
+        writer.write(mimicElement, *joint.mimic);
+    }
+}
+
 constexpr Child<JointReading> jointChildren[] = {
     poseChild<&JointConfig::placement, jointPlacementElement, JointReading>(),
     poseChild<&JointConfig::endTransform, jointEndElement, JointReading>(),
     massChild<JointReading>,
     mirrorChild<JointReading, names::jointMirror>,
+    {{&mimicElement, Occurrence::optional}, readMimic, writeMimic},
     freeAttributeChild<JointReading>,
 };
 constexpr Rule<JointReading> jointRules[] = {

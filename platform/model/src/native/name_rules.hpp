@@ -50,7 +50,7 @@ enum NameKind : unsigned {
     root = 16,
     rootLink = 32,
     inChain = 64,  ///< a joint or a mere name that a chain lists
-    hasAngle = 128,  ///< stands in a chain, or is an actuator that hangs on what does
+    hasAngle = 128,  ///< stands in a chain and has a motor, or is an actuator that hangs on what stands in one
     referable = 255,  ///< all kinds that names refer to
     chain = 256,
     sensor = 512,
@@ -88,6 +88,8 @@ inline constexpr NameRule chainParent{
 inline constexpr NameRule chainJoint{nameInChain, oneOf(joint, "The chain's joint, %, is not the name of a joint.")};
 inline constexpr NameRule jointMirror{{},
                                       oneOf(joint | subJoint, "The joint's mirror, %, is not the name of a joint.")};
+inline constexpr NameRule mimicLeader{
+    {}, oneOf(joint, "The mimic's joint, %, is not the name of a joint, so that the joint moves on its own.")};
 inline constexpr NameRule actuatorParent{
     {}, oneOf(joint | actuator, "The actuator's parent, %, is not the name of a joint or an actuator.")};
 inline constexpr NameRule actuatorMirror{{},
@@ -102,7 +104,8 @@ inline constexpr NameRule sensorParent{
           "it.")};
 inline constexpr NameRule angleOwner{
     unique(postureAngle, "Another angle of this posture is already that of %.", true),
-    {hasAngle, {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain and no actuator on one."}}};
+    {hasAngle,
+     {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain that has a motor, and no actuator on one."}}};
 
 /// Things that hang on each other must not do so in a circle.
 struct Loop {

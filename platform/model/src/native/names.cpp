@@ -78,6 +78,11 @@ void Names::checkReferences(Records const& robot)
     }
     entryOf(keep(robot.root.name + "Link")).second |= names::rootLink;
     checkUses(false);
+    for (JointConfig const& config : robot.joints) {
+        if (!config.hasMotor) {
+            entryOf(config.name).second &= ~static_cast<unsigned>(names::hasAngle);
+        }
+    }
     for (ActuatorConfig const& config : robot.actuators) {
         entryOf(config.name).second |= entryOf(config.parentJoint).second & names::inChain ? names::hasAngle : 0U;
     }

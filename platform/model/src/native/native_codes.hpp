@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "finding_codes.hpp"
+#include "robot/link_tree_codes.hpp"
 
 namespace Varo::Model::Native {
 
@@ -64,12 +65,30 @@ inline constexpr FindingCode angleOfUnknown{
     "angle-of-unknown", Severity::warning,
     "A posture gives an angle to what has none; as start posture it keeps a model from being built."};
 
-/// In the order of the documentation.
+/// In the order of the documentation. What is said of mimics comes from the layer of links and joints.
 inline constexpr FindingCode const* ofDialect[] = {
-    &unknownElement,    &unknownAttribute,  &missingElement,        &missingAttribute, &repeatedElement,
-    &unexpectedText,    &wrongValue,        &conflictingAttributes, &duplicateName,    &reversedLimits,
-    &missingMaterial,   &missingSensorText, &wrongSensorText,       &wrongKeyCount,    &actuatorLoop,
-    &danglingReference, &jointInNoChain,    &jointInTwoChains,      &chainLoop,        &angleOfUnknown,
+    &unknownElement,
+    &unknownAttribute,
+    &missingElement,
+    &missingAttribute,
+    &repeatedElement,
+    &unexpectedText,
+    &wrongValue,
+    &conflictingAttributes,
+    &duplicateName,
+    &reversedLimits,
+    &missingMaterial,
+    &missingSensorText,
+    &wrongSensorText,
+    &wrongKeyCount,
+    &actuatorLoop,
+    &Model::codes::mimicCycle,
+    &Model::codes::notANumber,
+    &danglingReference,
+    &jointInNoChain,
+    &jointInTwoChains,
+    &chainLoop,
+    &angleOfUnknown,
 };
 
 }  // namespace codes

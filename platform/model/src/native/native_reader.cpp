@@ -4,6 +4,7 @@
 
 #include "native/element_reader.hpp"
 #include "native/elements.hpp"
+#include "robot/mimics.hpp"
 
 namespace Varo::Model {
 
@@ -48,6 +49,7 @@ Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
     Native::ElementReader reader(diagnostics, robot);
     reader.read(Native::robotDescriptionElement, root, robot);
     reader.names().checkReferences(robot);
+    checkMimics(robot, diagnostics);
     return robot;
 }
 

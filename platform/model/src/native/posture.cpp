@@ -6,7 +6,8 @@ namespace Varo::Model::Native {
 namespace {
 
 constexpr Attribute<PostureAngle> angleAttributes[] = {
-    named<&PostureAngle::name>("of", names::angleOwner, "a joint of a chain, or an actuator that hangs on one"),
+    named<&PostureAngle::name>("of", names::angleOwner,
+                               "a joint of a chain that has a motor, or an actuator that hangs on one"),
     required<&PostureAngle::value>("value", "rad (m)", "where it stands in this posture"),
 };
 constexpr Element<PostureAngle> angleElement{"angle", "the value of one joint or actuator", angleAttributes};

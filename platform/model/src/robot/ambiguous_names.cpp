@@ -40,9 +40,54 @@ void forEachMover(Records const& records, Visit const& visit)
     visitAll(records.subActuators, "sub-joint");
 }
 
-}  // namespace
+/// The links that the text itself names, by the name that it gives each.
+using NamedLinks = std::unordered_map<std::string_view, JointConfig const*>;
 
-void checkLinkNames(Records const& records, Diagnostics& diagnostics)
+/// Warns of the links that share their name in the text with one before.
+NamedLinks linksNamedInText(Records const& records, Diagnostics& diagnostics)
+{
+    NamedLinks links;
+    auto const add = [&](JointConfig const& body) {
+        if (!body.linkName.empty() && !links.try_emplace(body.linkName, &body).second) {
+            diagnostics.report(body.bodyOffset, codes::ambiguousLinkName,
+                               "There is another link " + quoted(body.linkName) +
+                                   " before this one: look-ups by that name find only one of them.",
+                               "Rename one of the two.");
+        }
+    };
+    add(records.root);
+    std::for_each(records.joints.begin(), records.joints.end(), add);
+    return links;
+}
+
+/// Warns of the links that the text calls what models call another one.
+void checkNamesInText(Records const& records, Diagnostics& diagnostics)
+{
+    NamedLinks suspects;  // by the name of the joint that models would call the link after
+    for (auto const& [name, body] : linksNamedInText(records, diagnostics)) {
+        if (isLinkName(name) && name != body->name) {  // what is named so itself is told of above
+            suspects.emplace(name.substr(0, name.size() - suffix.size()), body);
+        }
+    }
+    forEachMover(records, [&](std::string_view name, Mover const& mover) {
+        auto const found = suspects.find(name);
+        if (found == suspects.end()) {
+            return;
+        }
+        JointConfig const& body = *found->second;
+        if (body.name != name) {
+            diagnostics.report(body.bodyOffset, codes::ambiguousLinkName,
+                               "This link, " + quoted(body.linkName) +
+                                   ", is named like what models call the link of the " + mover.kind + " " +
+                                   quoted(name) + ": look-ups by that name find the latter.",
+                               "Rename one of the two.");
+        }
+        suspects.erase(found);  // a follower of a mimic is a joint, too
+    });
+}
+
+/// Warns of joints, wheels, sub-joints and roots that are named like links of models.
+void checkNamesInModels(Records const& records, Diagnostics& diagnostics)
 {
     std::unordered_map<std::string_view, Mover> suspects;  // hardly any robot has one
     forEachMover(records, [&](std::string_view name, Mover const& mover) {
@@ -67,6 +112,14 @@ void checkLinkNames(Records const& records, Diagnostics& diagnostics)
                            "Rename one of the two.");
         suspects.erase(found);
     });
+}
+
+}  // namespace
+
+void checkLinkNames(Records const& records, Diagnostics& diagnostics)
+{
+    checkNamesInModels(records, diagnostics);
+    checkNamesInText(records, diagnostics);
 }
 
 }  // namespace Varo::Model

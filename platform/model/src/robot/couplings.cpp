@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "robot/link_tree_codes.hpp"
+#include "robot/mimics.hpp"
 
 namespace Varo::Model {
 
@@ -40,19 +41,22 @@ std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics&
     return leader;
 }
 
-/// Reports each cycle at its first joint, which then follows none.
-void cutCycles(LinkTree& tree, Diagnostics& diagnostics)
+std::vector<std::size_t> leadersOf(LinkTree const& tree)
 {
     std::vector<std::size_t> leaders;
     leaders.reserve(tree.joints.size());
     for (Joint const& joint : tree.joints) {
         leaders.push_back(joint.mimic.leaderJoint);
     }
-    for (Cycle const& cycle : findCycles(leaders)) {
+    return leaders;
+}
+
+/// Reports each cycle at its first joint, which then follows none.
+void cutCycles(LinkTree& tree, Diagnostics& diagnostics)
+{
+    for (Cycle const& cycle : findCycles(leadersOf(tree))) {
         Mimic& mimic = tree.joints[cycle.front()].mimic;
-        diagnostics.report(mimic.textOffset, codes::mimicCycle,
-                           cycle.size() == 1 ? "This joint mimics itself."
-                                             : "This joint mimics one that, by way of others, mimics this joint.");
+        diagnostics.report(mimic.textOffset, codes::mimicCycle, mimicCycleText(cycle));
         mimic = {};
     }
 }
@@ -66,28 +70,17 @@ void multiplyThrough(Mimic& mimic, Mimic const& leader, Diagnostics& diagnostics
         mimic.ratio *= leader.ratio;
     }
     if (std::abs(mimic.ratio) > largestNumber || std::abs(mimic.offset) > largestNumber) {
-        diagnostics.report(mimic.textOffset, codes::notANumber,
-                           "The multipliers of this mimic and of those that it leads to exceed all bounds together.");
+        diagnostics.report(mimic.textOffset, codes::notANumber, multipliersTooLarge);
         mimic = {};
     }
 }
 
-/// Goes up from each joint to one that is settled or follows none, and multiplies through on the way back.
 void settleMimics(LinkTree& tree, Diagnostics& diagnostics)
 {
-    std::vector<bool> isSettled(tree.joints.size());
-    std::vector<std::size_t> path;
-    for (std::size_t start = 0; start < tree.joints.size(); ++start) {
-        for (std::size_t joint = start; joint != none && !isSettled[joint];
-             joint = tree.joints[joint].mimic.leaderJoint) {
-            path.push_back(joint);
-        }
-        for (; !path.empty(); path.pop_back()) {
-            Mimic& mimic = tree.joints[path.back()].mimic;
-            isSettled[path.back()] = true;
-            if (mimic.leaderJoint != none) {
-                multiplyThrough(mimic, tree.joints[mimic.leaderJoint].mimic, diagnostics);
-            }
+    for (std::size_t const joint : parentsFirst(leadersOf(tree))) {
+        Mimic& mimic = tree.joints[joint].mimic;
+        if (mimic.leaderJoint != none) {
+            multiplyThrough(mimic, tree.joints[mimic.leaderJoint].mimic, diagnostics);
         }
     }
 }

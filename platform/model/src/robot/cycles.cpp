@@ -36,4 +36,20 @@ std::vector<Cycle> findCycles(std::vector<std::size_t> const& parents)
     return cycles;
 }
 
+std::vector<std::size_t> parentsFirst(std::vector<std::size_t> const& parents)
+{
+    std::vector<std::size_t> order;
+    order.reserve(parents.size());
+    std::vector<bool> isPlaced(parents.size());
+    for (std::size_t start = 0; start < parents.size(); ++start) {
+        std::size_t const placed = order.size();
+        for (std::size_t at = start; at != none && !isPlaced[at]; at = parents[at]) {
+            isPlaced[at] = true;
+            order.push_back(at);
+        }
+        std::reverse(order.begin() + static_cast<std::ptrdiff_t>(placed), order.end());
+    }
+    return order;
+}
+
 }  // namespace Varo::Model

@@ -21,6 +21,9 @@ using Cycle = std::vector<std::size_t>;
 ///     }
 std::vector<Cycle> findCycles(std::vector<std::size_t> const& parents);
 
+/// The same things, each behind its parent. There must be no cycles among them.
+std::vector<std::size_t> parentsFirst(std::vector<std::size_t> const& parents);
+
 }  // namespace Varo::Model
 
 #endif

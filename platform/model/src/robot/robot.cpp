@@ -1,6 +1,7 @@
 #include "varo/model/robot.hpp"
 
 #include <unordered_map>
+#include <unordered_set>
 
 #include "robot/cycles.hpp"
 
@@ -54,6 +55,17 @@ Records copyOfListings(Robot const& robot)
     return records;
 }
 
+std::unordered_set<std::string_view> jointsWithoutMotor(Records const& records)
+{
+    std::unordered_set<std::string_view> names;
+    for (std::size_t joint = 0; joint < records.joints.size(); ++joint) {
+        if (!records.joints[joint].hasMotor) {
+            names.insert(records.joints.nameOf(joint));
+        }
+    }
+    return names;
+}
+
 }  // namespace
 
 Statement Robot::locate(TextOffset /*record*/, Part /*part*/) const
@@ -89,6 +101,7 @@ ActuatorConfig const* findActuatorCycle(Records const& records)
 
 std::vector<std::string const*> angleNames(Records const& records)
 {
+    std::unordered_set<std::string_view> const passive = jointsWithoutMotor(records);
     std::unordered_map<std::string_view, std::vector<std::string const*>> actuatorsOfJoint;
     for (std::uint32_t const index : records.actuators.nameOrder()) {
         ActuatorConfig const& actuator = records.actuators[index];
@@ -97,7 +110,9 @@ std::vector<std::string const*> angleNames(Records const& records)
     std::vector<std::string const*> names;
     for (std::uint32_t const chain : records.chainOrder) {
         for (std::string const& joint : records.chains[chain].jointNames) {
-            names.push_back(&joint);
+            if (passive.count(joint) == 0) {
+                names.push_back(&joint);
+            }
             if (auto const found = actuatorsOfJoint.find(joint); found != actuatorsOfJoint.end()) {
                 names.insert(names.end(), found->second.begin(), found->second.end());
             }

@@ -123,6 +123,7 @@ Joint readJoint(pugi::xml_node node, Report const& report)
     joint.config.name = readName(node, diagnostics);
     joint.nameOffset = at(node, "name");
     joint.config.jointType = kind.type;
+    joint.config.hasMotor = !joint.isFixed();
     joint.config.textOffset = at(node);
     if (kind.motion == Motion::lost) {
         diagnostics.report(at(node, "type"), codes::jointFrozen,

@@ -76,6 +76,7 @@ struct MimicConfig {
     std::string joint;  ///< the other
     float multiplier = 1.0F;  ///< 1 when not stated
     float offset = 0.0F;  ///< rad (m)
+    TextOffset textOffset = {};  ///< of its element
 };
 
 /// Bounds that a joint's controller keeps inside of its limits.

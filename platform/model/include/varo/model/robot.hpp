@@ -87,9 +87,9 @@ public:
 /// all that readers accept.
 VAROROBOTMODEL_API ActuatorConfig const* findActuatorCycle(Records const& records);
 
-/// The names that have a joint value, in the order in which postures lay them out: chain by chain, each joint followed
-/// by the actuators that are attached to it in ascending order of their names. A name stands as often as chains list
-/// it. Refers into the records.
+/// The names that have a joint value, in the order in which postures lay them out: chain by chain, each joint that has
+/// a motor, and behind each joint the actuators that are attached to it in ascending order of their names. A name
+/// stands as often as chains list it. Refers into the records.
 VAROROBOTMODEL_API std::vector<std::string const*> angleNames(Records const& records);
 
 }  // namespace Varo::Model
