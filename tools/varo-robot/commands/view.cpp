@@ -9,6 +9,7 @@
 #include "rules/rules.hpp"
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
+#include "support/meshes.hpp"
 #include "support/moved_robot.hpp"
 #include "support/output_file.hpp"
 #include "view/embedding.hpp"
@@ -34,6 +35,7 @@ struct Options {
     std::string file;
     std::string page;
     MotionOptions motion;
+    Varo::Model::MeshFolders meshFolders;
     std::size_t meshLimit = 64;  ///< MB
     bool allowOutside = false;
     bool open = false;
@@ -43,17 +45,6 @@ struct Options {
 std::string pageFor(std::string const& file)
 {
     return file == "-" ? "robot.html" : fs::path(file).stem().string() + ".html";
-}
-
-FoundFile findFile(fs::path const& folder, std::string const& uri)
-{
-    std::error_code error;
-    std::string const file = uri.rfind("file://", 0) == 0 ? uri.substr(7) : uri;
-    if (file.find("://") != std::string::npos) {
-        return {"", "Its package is not found."};
-    }
-    fs::path const path = folder / file;
-    return fs::exists(path, error) ? FoundFile{path.string(), ""} : FoundFile{"", "There is no file of that name."};
 }
 
 /// What is read of each of the URIs. Says on standard error what the page will not show.
@@ -79,11 +70,15 @@ std::string jsonOf(Robot const& robot, Options const& options)
 {
     MovedRobot const moved(robot.model, options.motion, robot.file);
     ShapeUris const uris = shapeUrisOf(robot.model);
-    fs::path const folder = options.file == "-" ? fs::path(".") : fs::path(options.file).parent_path();
-    EmbeddingRules const rules = {folder.empty() ? "." : folder, options.allowOutside, options.meshLimit * megabyte};
+    Varo::Model::MeshFolders const folders = besideFile(options.meshFolders, options.file);
+    Varo::Model::MeshSearch const search(folders);
+    EmbeddingRules rules = {{folders.description}, options.allowOutside, options.meshLimit * megabyte};
+    for (auto const& [name, folder] : options.meshFolders.packages) {
+        rules.folders.emplace_back(folder);
+    }
     std::vector<std::string> all(uris.meshes.begin(), uris.meshes.end());
     all.insert(all.end(), uris.textures.begin(), uris.textures.end());
-    Embedding embedding([&](std::string const& uri) { return findFile(rules.folder, uri); }, rules, all);
+    Embedding embedding([&](std::string const& uri) { return search.find(uri); }, std::move(rules), all);
     ViewContents contents = {
         fs::path(robot.file).filename().string(),
         robot.model,
@@ -129,6 +124,7 @@ std::function<int()> declare(CLI::App& app)
         ->type_name("PAGE");
     app.add_flag("--open", options->open, "Show the page in the browser");
     declareMotion(app, options->motion);
+    declareMeshFolders(app, options->meshFolders);
     app.add_option("--mesh-limit", options->meshLimit, "How much meshes and images may take in all")
         ->type_name("MB")
         ->check(CLI::Range(std::size_t{0}, std::size_t{100'000}))
@@ -148,9 +144,9 @@ nothing of the network, so that it can be mailed. docs/viewing.md says what
 there is on it.
 
 The page carries the meshes (STL, OBJ, COLLADA) and images (PNG, JPEG) that the
-description names, if they are in its folder or in a package; a warning says
-which it does not carry, and boxes stand for them. A file of that name is
-replaced.
+description names (docs/meshes.md), if they are in its folder or in a package; a
+warning says which it does not carry, and boxes stand for them. A page of that
+name is replaced.
 
 Examples:
   varo-robot view robots/humanoid.xml

@@ -13,6 +13,7 @@ namespace Tool {
 namespace {
 
 namespace fs = std::filesystem;
+using Varo::Model::MeshFile;
 
 Json because(std::string const& reason)
 {
@@ -33,6 +34,13 @@ bool isInside(fs::path const& file, fs::path const& folder)
     return restOfFolder == folder.end() && restOfFile != file.end();
 }
 
+/// A folder that only bears the name of a package may be anybody's.
+bool isPackage(fs::path const& folder)
+{
+    std::error_code error;
+    return fs::exists(folder / "package.xml", error) || fs::exists(folder / "model.config", error);
+}
+
 /// The folder of the package that the file was found in; empty for URIs that name no package.
 fs::path packageOf(std::string const& uri, fs::path const& file)
 {
@@ -51,7 +59,7 @@ fs::path packageOf(std::string const& uri, fs::path const& file)
         }
         folder = folder.parent_path();
     }
-    return realPath(folder);
+    return isPackage(folder) ? realPath(folder) : fs::path();
 }
 
 }  // namespace
@@ -59,9 +67,11 @@ fs::path packageOf(std::string const& uri, fs::path const& file)
 Embedding::Embedding(FindFile find, EmbeddingRules rules, std::vector<std::string> const& uris)
     : _find(std::move(find)), _rules(std::move(rules))
 {
-    _folders.insert(realPath(_rules.folder));
+    for (fs::path const& folder : _rules.folders) {
+        _folders.insert(realPath(folder));
+    }
     for (std::string const& uri : uris) {
-        FoundFile const file = _find(uri);
+        MeshFile const file = _find(uri);
         if (!file.path.empty()) {
             _folders.insert(packageOf(uri, file.path));
         }
@@ -71,7 +81,7 @@ Embedding::Embedding(FindFile find, EmbeddingRules rules, std::vector<std::strin
 
 Json Embedding::mesh(std::string const& uri)
 {
-    FoundFile const file = _find(uri);
+    MeshFile const file = _find(uri);
     std::string bytes;
     if (std::string const reason = read(file, bytes); !reason.empty()) {
         return because(reason);
@@ -107,7 +117,7 @@ Json Embedding::image(std::string const& uri)
 }
 
 /// The answer is the reason why nothing came of it; empty when the bytes are there.
-std::string Embedding::read(FoundFile const& file, std::string& bytes) const
+std::string Embedding::read(MeshFile const& file, std::string& bytes) const
 {
     if (file.path.empty()) {
         return file.reason;
@@ -167,7 +177,7 @@ Json Embedding::filesOf(std::string const& format, std::string const& bytes, fs:
 std::string Embedding::addFile(Json& files, std::string const& name, fs::path const& folder)
 {
     std::string bytes;
-    if (name.empty() || files.contains(name) || !read({(folder / name).string(), ""}, bytes).empty()) {
+    if (name.empty() || files.contains(name) || !read({(folder / name).string(), "", {}}, bytes).empty()) {
         return {};
     }
     bool const isLibrary = isMaterialLibrary(bytes);

@@ -9,21 +9,16 @@
 #include <vector>
 
 #include "support/json.hpp"
+#include "varo/model/mesh_search.hpp"
 
 namespace Tool {
 
-/// Where the file of a URI is.
-struct FoundFile {
-    std::string path;  ///< empty when it was not found
-    std::string reason;  ///< a sentence: why it was not
-};
-
-using FindFile = std::function<FoundFile(std::string const& uri)>;
+using FindFile = std::function<Varo::Model::MeshFile(std::string const& uri)>;
 
 /// What a page may carry. A page is mailed, and the robot that it shows may come from anybody: no other file of who
 /// writes the page gets into it.
 struct EmbeddingRules {
-    std::filesystem::path folder;  ///< of the description: what is in it may be carried
+    std::vector<std::filesystem::path> folders;  ///< of the description and of packages: what is in them may be carried
     bool allowsOutside = false;  ///< whether files that are neither there nor in a package may be, too
     std::size_t maximumBytes = 0;  ///< of all files together
 };
@@ -40,7 +35,7 @@ public:
     Json image(std::string const& uri);
 
 private:
-    std::string read(FoundFile const& file, std::string& bytes) const;
+    std::string read(Varo::Model::MeshFile const& file, std::string& bytes) const;
     bool isAllowed(std::filesystem::path const& file) const;
     bool fits(std::size_t bytes);
     std::string tooMuch() const;
@@ -49,7 +44,7 @@ private:
 
     FindFile _find;
     EmbeddingRules _rules;
-    std::set<std::filesystem::path> _folders;  // what is in them may be carried
+    std::set<std::filesystem::path> _folders;  // real paths of those of the rules, and of packages that were found
     std::size_t _used = 0;
 };
 

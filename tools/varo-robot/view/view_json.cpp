@@ -16,7 +16,6 @@
 #include "support/json_parts.hpp"
 #include "support/link_chains.hpp"
 #include "support/robot_json.hpp"
-#include "varo/model/records.hpp"
 #include "view/finding_links.hpp"
 
 namespace Tool {
@@ -77,19 +76,17 @@ std::optional<std::size_t> variableOf(Sim::Joint const& joint, Sim::Kinematics c
     }
 }
 
-char const* motionOf(Sim::Joint const& joint, Varo::Model::Records const& records)
+char const* motionOf(Sim::Joint const& joint)
 {
-    auto const* const record = records.joints.find(joint.name());
-    if (record == nullptr || record->jointType == Varo::Model::revolute) {
-        return "turns";  // wheels and sub-joints have no record as joints
+    if (!joint.moves()) {
+        return "none";
     }
-    return record->jointType == Varo::Model::prismatic ? "slides" : "none";
+    return joint.type() == Sim::Joint::Type::prismatic ? "slides" : "turns";
 }
 
 /// What moves each joint: two configurations tell ratio and offset.
 Json drivesOf(Sim::Model const& model, Sim::Kinematics const& kinematics)
 {
-    auto const records = Varo::Model::recordsOf(model.robot());
     Sim::Configuration const zeros(kinematics);
     Sim::Configuration ones(kinematics);
     ones.setValues(std::vector<double>(ones.size(), 1.0));
@@ -98,7 +95,7 @@ Json drivesOf(Sim::Model const& model, Sim::Kinematics const& kinematics)
         auto const variable = variableOf(*joint, kinematics);
         double const offset = zeros.at(joint->name());
         double const ratio = variable ? ones.at(joint->name()) - offset : 1.0;
-        drives.push_back({{"motion", motionOf(*joint, *records)},
+        drives.push_back({{"motion", motionOf(*joint)},
                           {"variable", variable ? Json(*variable) : Json(nullptr)},
                           {"ratio", static_cast<float>(ratio)},
                           {"offset", static_cast<float>(offset)}});
