@@ -4,9 +4,9 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <new>
 #include <random>
 
+#include "allocations.hpp"
 #include "serial_robot.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
@@ -19,38 +19,7 @@
 
 namespace {
 
-std::size_t allocations = 0;
-
-}  // namespace
-
-// Counted, and otherwise as the standard library does it.
-[[gnu::noinline]] void* operator new(std::size_t size)
-{
-    ++allocations;
-    if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-[[gnu::noinline]] void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-
-namespace {
-
-std::size_t allocationsOf(Bench::Action const& action)
-{
-    std::size_t const before = allocations;
-    action();
-    return allocations - before;
-}
+using Tests::allocationsOf;
 
 /// The least that any library has to do for all link poses: one product for each, of poses that are stored.
 class PlainLoop {

@@ -5,7 +5,7 @@
 
 namespace Bench {
 
-/// How the chains of ten joints hang together: each on the one before, or all on the root.
+/// What the chains of ten joints are attached to: each to the one before, or all to the root.
 enum class Shape { serial, limbs };
 
 /// A native description with that many joints in chains of ten, each joint with all that a real one has.

@@ -25,7 +25,7 @@ class WheelVelocityActuator;
 /// within which limits it works and, for a DCMActuator, under which keys the device layer takes its commands. What is
 /// commanded, and in which unit, the concrete class says, from which nothing derives; type() says the same as a number.
 ///
-/// A motor bears the name of its joint, wheel or coupling. Several actuators that drive one joint share its name and
+/// A motor has the name of its joint, wheel or coupling. Several actuators that drive one joint share its name and
 /// one frame; the look-ups of Model by kind tell them apart.
 ///
 /// An element of a Model, which says how long it lives and who may ask it at once. That holds for all actuators, but

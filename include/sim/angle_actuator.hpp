@@ -11,7 +11,7 @@ class Joint;
 
 /// The motor of a joint, commanded by angle (rad; m for a sliding joint).
 ///
-/// It bears the name of the joint. Its frame lies where the joint's frame does, but is fixed to the link that the joint
+/// It has the name of the joint. Its frame lies where the joint's frame does, but is fixed to the link that the joint
 /// moves.
 class VAROROBOTMODEL_API AngleActuator final : public DCMActuator {
 public:

@@ -38,7 +38,7 @@ public:
     CoupledActuator const* reflectedSymmetric() const;
     /// Whether the partner mirrors this one at the opposite value.
     bool reflectedSymmetricReversed() const;
-    /// As AngleActuator::reflectionForced, of the joint that bears the actuator's name; false when none does.
+    /// As AngleActuator::reflectionForced, of the joint that has the actuator's name; false when none does.
     bool reflectionForced() const;
     /// The driven joints that the model has, in the description's order, never null inside, each with its ratio.
     std::vector<std::pair<Joint const*, float>> controlledJointAndRatios() const;

@@ -28,7 +28,7 @@ public:
     Frame& operator=(Frame const&) = delete;
     ~Frame();
 
-    /// The name of the element that sits at it. Several frames may bear one name.
+    /// The name of the element that sits at it. Several frames may have one name.
     std::string const& name() const;
     /// The frame in which this one is posed; null for a root frame.
     Frame const* parentFrame() const;

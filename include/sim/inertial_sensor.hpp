@@ -9,7 +9,7 @@ namespace Sim {
 /// An inertial unit: measures angular velocities (rad/s) about the axes of its frame, and accelerations (m/s^2) along
 /// them.
 ///
-/// It bears the name that the description gives it with "/Gyrometer" appended: Model::inertialSensor("Imu/Gyrometer")
+/// It has the name that the description gives it with "/Gyrometer" appended: Model::inertialSensor("Imu/Gyrometer")
 /// finds the one described as "Imu". Its frame has the plain name.
 class VAROROBOTMODEL_API InertialSensor final : public DCMSensor {
 public:

@@ -24,7 +24,7 @@ public:
     /// Leaves the data of the group alone: the model frees it with itself.
     ~JointGroup();
 
-    /// The name of the chain or of the coupled actuator. Several groups may bear one name.
+    /// The name of the chain or of the coupled actuator. Several groups may have one name.
     std::string const& name() const;
     /// The members from the parent outward; null for a name that the model has no joint for.
     std::vector<Joint const*> joints() const;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "sim/shape.hpp"
 #include "varo/export.hpp"
 
 namespace Sim {
@@ -18,7 +19,7 @@ class VisualData;
 ///
 /// Links and joints alternate in a tree whose root is Model::rootLink(): a link has one joint that moves it, but for
 /// the root link, and any number of joints attached to it that move others. What belongs to the body as a body is here:
-/// its frame, its mass, what it looks like and what its surface is made of.
+/// its frame, its mass, what it looks like and collides with, and what its surface is made of.
 ///
 /// An element of a Model, which says how long it lives and who may ask it at once.
 class VAROROBOTMODEL_API Link {
@@ -51,9 +52,14 @@ public:
     std::string const& frictionMaterial() const;
     /// Whether it is a wheel.
     LinkType type() const;
-    /// What it looks like; null when the link was made without. Loading makes none without: what the description
-    /// leaves out is empty.
+    /// Its mesh file, which is one of visuals() or stands for them in programs that show one file a link; null when the
+    /// link was made without. Loading makes none without: what the description leaves out is empty.
     VisualData const* visual() const;
+    /// All that is shown of it, in the order of the description: what it states as visuals, or else its one mesh at its
+    /// place. Made anew from the description at each call; empty when there is nothing, or the model is gone.
+    std::vector<Visual> visuals() const;
+    /// What it collides with; as visuals(), but a mesh that is only shown is none.
+    std::vector<Collision> collisions() const;
     /// The joints attached to it, in building order; never null inside.
     std::vector<Joint const*> childrenJoints() const;
 

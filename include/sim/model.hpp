@@ -53,7 +53,7 @@ class ModelImpl;
 /// valid as long as the model; moving the model keeps them valid.
 ///
 /// Look-ups by name are exact and case-sensitive; those of links know the names of the description, too. Where several
-/// elements bear a name the first one made answers, and where none does the answer is null. Lists are in the order in
+/// elements have a name the first one made answers, and where none does the answer is null. Lists are in the order in
 /// which the elements were made. Every query on a model that was moved from throws std::runtime_error, and so does
 /// every getter of an element that no model made, such as a default-constructed Joint.
 ///
@@ -108,7 +108,7 @@ public:
     /// @name Links and joints
     /// @{
 
-    /// The first element of the kind that bears the name, null when none does; the plural lists all of the kind.
+    /// The first element of the kind that has the name, null when none does; the plural lists all of the kind.
     Joint const* joint(std::string const& name) const;
     std::vector<Joint const*> joints() const;
     /// The first link of that name; where there is none, the first one that the description calls so
@@ -141,10 +141,10 @@ public:
     /// @}
 
     /// @name Actuators
-    /// A look-up by kind passes over actuators of other kinds that bear the name.
+    /// A look-up by kind passes over actuators of other kinds that have the name.
     /// @{
 
-    /// The first actuator of the kind that bears the name, null when none does; the plural lists all of the kind.
+    /// The first actuator of the kind that has the name, null when none does; the plural lists all of the kind.
     Actuator const* actuator(std::string const& name) const;
     std::vector<Actuator const*> actuators() const;
     AngleActuator const* angleActuator(std::string const& name) const;
@@ -165,10 +165,10 @@ public:
     /// @}
 
     /// @name Sensors
-    /// A look-up by kind passes over sensors of other kinds that bear the name.
+    /// A look-up by kind passes over sensors of other kinds that have the name.
     /// @{
 
-    /// The first sensor of the kind that bears the name, null when none does; the plural lists all of the kind.
+    /// The first sensor of the kind that has the name, null when none does; the plural lists all of the kind.
     Sensor const* sensor(std::string const& name) const;
     std::vector<Sensor const*> sensors() const;
     AngleSensor const* angleSensor(std::string const& name) const;

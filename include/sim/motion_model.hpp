@@ -125,7 +125,7 @@ public:
     bool inertiaMatrix(std::string const& name, std::vector<float>& inertia) const;
     /// The surface material of a joint's, the root's or a wheel's body. `material` is "gum" whenever this is false.
     bool frictionMaterial(std::string const& name, std::string& material) const;
-    /// Of a joint (rad, or m) or an actuator (rad); of the actuator when both bear the name. Minus infinity when
+    /// Of a joint (rad, or m) or an actuator (rad); of the actuator when both have the name. Minus infinity when
     /// unlimited.
     bool minAngle(std::string const& name, float& angle) const;
     bool maxAngle(std::string const& name, float& angle) const;  ///< as minAngle

@@ -35,7 +35,7 @@ class WheelVelocitySensor;
 ///
 /// A sensor that the description places has a frame of its own, posed in the frame of the link that carries it. One
 /// that comes with an actuator (AngleSensor, AngleSpeedSensor, TorqueSensor, CoupledSensor) has the actuator's name and
-/// frame; several sensors may therefore bear one name, and the look-ups of Model by kind tell them apart.
+/// frame; several sensors may therefore have one name, and the look-ups of Model by kind tell them apart.
 ///
 /// An element of a Model, which says how long it lives and who may ask it at once. That holds for all sensors.
 class VAROROBOTMODEL_API Sensor {

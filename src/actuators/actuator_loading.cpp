@@ -51,16 +51,16 @@ void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSp
     bool reflectionForced = false;
     _motionModel->reflectionForcedFromJointName(name, reflectionForced);
 
-    addAngleActuator(frame, sharedName, getJointDCMKeys({name}, 64), startValue, minValue, maxValue, maxSpeed, joint,
-                     reflectionForced);
+    addAngleActuator(frame, sharedName, DeviceKeys(getJointDCMKeys, 64), startValue, minValue, maxValue, maxSpeed,
+                     joint, reflectionForced);
     if (withTorqueAndSpeed) {
-        addTorqueActuator(frame, sharedName, getJointDCMKeys({name}, 256), 0.0F, -100.0F, 100.0F, joint);
-        addAngleSpeedActuator(frame, sharedName, getJointDCMKeys({name}, 128), 0.0F, -10.0F, 10.0F, joint);
+        addTorqueActuator(frame, sharedName, DeviceKeys(getJointDCMKeys, 256), 0.0F, -100.0F, 100.0F, joint);
+        addAngleSpeedActuator(frame, sharedName, DeviceKeys(getJointDCMKeys, 128), 0.0F, -10.0F, 10.0F, joint);
     }
 }
 
 boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& frame, SharedName const& name,
-                                                             Keys dcmKeys, float startValue, float minValue,
+                                                             DeviceKeys dcmKeys, float startValue, float minValue,
                                                              float maxValue, float maxSpeed,
                                                              boost::shared_ptr<Joint const> const& joint,
                                                              bool reflectionForced)
@@ -70,7 +70,7 @@ boost::shared_ptr<AngleActuator> ModelImpl::addAngleActuator(FramePtr const& fra
 }
 
 boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& frame, SharedName const& name,
-                                                               Keys dcmKeys, float startValue, float minValue,
+                                                               DeviceKeys dcmKeys, float startValue, float minValue,
                                                                float maxValue,
                                                                boost::shared_ptr<Joint const> const& joint)
 {
@@ -78,8 +78,8 @@ boost::shared_ptr<TorqueActuator> ModelImpl::addTorqueActuator(FramePtr const& f
 }
 
 boost::shared_ptr<AngleSpeedActuator> ModelImpl::addAngleSpeedActuator(FramePtr const& frame, SharedName const& name,
-                                                                       Keys dcmKeys, float startValue, float minValue,
-                                                                       float maxValue,
+                                                                       DeviceKeys dcmKeys, float startValue,
+                                                                       float minValue, float maxValue,
                                                                        boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<AngleSpeedActuatorImpl>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, joint);

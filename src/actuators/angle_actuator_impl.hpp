@@ -14,9 +14,9 @@ inline constexpr char angleActuatorErrorMsg[] = "Could not query AngleActuator a
 
 class AngleActuatorImpl : public JointActuatorImpl<AngleActuator> {
 public:
-    AngleActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                      std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue,
-                      float maxSpeed, boost::shared_ptr<Joint const> const& joint, bool reflectionForced)
+    AngleActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                      float startValue, float minValue, float maxValue, float maxSpeed,
+                      boost::shared_ptr<Joint const> const& joint, bool reflectionForced)
         : JointActuatorImpl(frame, name, std::move(dcmKeys), startValue, minValue, maxValue, joint),
           _maxSpeed(maxSpeed),
           _reflectionForced(reflectionForced)

@@ -18,9 +18,9 @@ class CoupledActuatorImpl : public MirroredActuatorImpl<CoupledActuator> {
 public:
     using JointsAndRatios = std::vector<std::pair<boost::shared_ptr<Joint const>, float>>;
 
-    CoupledActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                        std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue,
-                        float maxSpeed, JointsAndRatios jointsAndRatios, bool reflectionForced)
+    CoupledActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                        float startValue, float minValue, float maxValue, float maxSpeed,
+                        JointsAndRatios jointsAndRatios, bool reflectionForced)
         : MirroredActuatorImpl(frame, name, std::move(dcmKeys), startValue, minValue, maxValue),
           _maxSpeed(maxSpeed),
           _controlledJointAndRatios(jointsAndRatios.begin(), jointsAndRatios.end()),

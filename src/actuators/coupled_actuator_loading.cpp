@@ -35,8 +35,8 @@ void ModelImpl::fetchCoupledActuator(std::string const& name)
     SharedName const sharedName(name);
     FramePtr const frame = addFrame(sharedName, transform.inverse(), parentJoint->_impl->frame());
 
-    addCoupledActuator(frame, sharedName, Varo::Model::ModelUtils::getActuatorDCMKeys({name}, 64), startValue, minValue,
-                       maxValue, maxSpeed, jointsAndRatios, reflectionForced);
+    addCoupledActuator(frame, sharedName, DeviceKeys(Varo::Model::ModelUtils::getActuatorDCMKeys, 64), startValue,
+                       minValue, maxValue, maxSpeed, jointsAndRatios, reflectionForced);
 }
 
 CoupledActuatorImpl::JointsAndRatios ModelImpl::jointsAndRatiosOf(std::string const& actuator) const
@@ -55,7 +55,7 @@ CoupledActuatorImpl::JointsAndRatios ModelImpl::jointsAndRatiosOf(std::string co
 }
 
 boost::shared_ptr<CoupledActuator> ModelImpl::addCoupledActuator(FramePtr const& frame, SharedName const& name,
-                                                                 Keys dcmKeys, float startValue, float minValue,
+                                                                 DeviceKeys dcmKeys, float startValue, float minValue,
                                                                  float maxValue, float maxSpeed,
                                                                  CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                                  bool reflectionForced)

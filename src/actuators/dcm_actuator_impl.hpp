@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "actuators/actuator_impl.hpp"
+#include "core/device_keys.hpp"
 #include "sim/dcm_actuator.hpp"
 
 namespace Sim {
@@ -15,17 +16,17 @@ inline constexpr char dcmActuatorMsg[] = "Could not query DCMActuator as it seem
 class DCMActuatorImpl : public ActuatorImpl {
 public:
     DCMActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Actuator::Type type,
-                    std::vector<std::string> dcmKeys)
+                    DeviceKeys dcmKeys)
         : ActuatorImpl(frame, name, type), _dcmKeys(std::move(dcmKeys))
     {}
 
-    std::vector<std::string> const& dcmKeys() const { return _dcmKeys; }
+    std::vector<std::string> const& dcmKeys() const { return _dcmKeys.of(name()); }
 
     /// Every kind takes one single-precision value.
     int bufferSize() const { return 4; }
 
 private:
-    std::vector<std::string> _dcmKeys;
+    DeviceKeys _dcmKeys;
 };
 
 }  // namespace Sim

@@ -14,9 +14,8 @@ namespace Sim {
 template <class Device>
 class JointActuatorImpl : public MirroredActuatorImpl<Device> {
 public:
-    JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                      std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue,
-                      boost::shared_ptr<Joint const> const& joint)
+    JointActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                      float startValue, float minValue, float maxValue, boost::shared_ptr<Joint const> const& joint)
         : MirroredActuatorImpl<Device>(frame, name, std::move(dcmKeys), startValue, minValue, maxValue),
           _controlledJoint(joint)
     {}

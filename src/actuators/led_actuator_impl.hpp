@@ -17,9 +17,8 @@ class LEDActuatorImpl : public DCMActuatorImpl {
 public:
     using Handle = LEDActuator;
 
-    LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                    std::vector<std::string> dcmKeys, std::string const& shortname,
-                    std::vector<std::string> const& groups, LEDActuator::Color color)
+    LEDActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                    std::string const& shortname, std::vector<std::string> const& groups, LEDActuator::Color color)
         : DCMActuatorImpl(frame, name, kindOf<LEDActuator>().type, std::move(dcmKeys)),
           _shortname(shortname),
           _groups(groups),

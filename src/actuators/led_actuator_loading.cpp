@@ -5,8 +5,8 @@
 
 namespace Sim {
 
-boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
-                                                         std::string const& shortname,
+boost::shared_ptr<LEDActuator> ModelImpl::addLEDActuator(FramePtr const& frame, SharedName const& name,
+                                                         DeviceKeys dcmKeys, std::string const& shortname,
                                                          std::vector<std::string> const& groups,
                                                          LEDActuator::Color color)
 {

@@ -18,8 +18,8 @@ class MirroredActuatorImpl : public DCMActuatorImpl {
 public:
     using Handle = Device;
 
-    MirroredActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                         std::vector<std::string> dcmKeys, float startValue, float minValue, float maxValue)
+    MirroredActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                         float startValue, float minValue, float maxValue)
         : DCMActuatorImpl(frame, name, kindOf<Device>().type, std::move(dcmKeys)),
           _startValue(startValue),
           _minValue(minValue),

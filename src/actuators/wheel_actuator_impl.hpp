@@ -19,8 +19,8 @@ class WheelActuatorImpl : public DCMActuatorImpl {
 public:
     using Handle = Device;
 
-    WheelActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                      std::vector<std::string> dcmKeys, float limit, boost::shared_ptr<Joint const> const& joint)
+    WheelActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                      float limit, boost::shared_ptr<Joint const> const& joint)
         : DCMActuatorImpl(frame, name, kindOf<Device>().type, std::move(dcmKeys)),
           _limit(limit),
           _controlledJoint(joint)

@@ -26,19 +26,19 @@ void ModelImpl::fetchWheelActuator(std::string const& name)
     require(link != nullptr, Subject::wheel, name, "Could not find the link of wheel ", name);
     Joint const* const parentJoint = link->parentJoint();
     require(parentJoint != nullptr, Subject::wheel, name, "Could not find the joint of wheel ", name);
-    auto const keys = Varo::Model::ModelUtils::getWheelDCMKeys({name}, 128);
+    DeviceKeys const keys(Varo::Model::ModelUtils::getWheelDCMKeys, 128);
     addWheelVelocityActuator(link->_impl->frame(), name, keys, maxVelocity, _index->joints.find(parentJoint->name()));
 }
 
 boost::shared_ptr<WheelTorqueActuator> ModelImpl::addWheelTorqueActuator(FramePtr const& frame, SharedName const& name,
-                                                                         Keys dcmKeys, float maxTorque,
+                                                                         DeviceKeys dcmKeys, float maxTorque,
                                                                          boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<WheelTorqueActuatorImpl>(frame, name, std::move(dcmKeys), maxTorque, joint);
 }
 
 boost::shared_ptr<WheelVelocityActuator> ModelImpl::addWheelVelocityActuator(
-    FramePtr const& frame, SharedName const& name, Keys dcmKeys, float maxVelocity,
+    FramePtr const& frame, SharedName const& name, DeviceKeys dcmKeys, float maxVelocity,
     boost::shared_ptr<Joint const> const& joint)
 {
     return addActuator<WheelVelocityActuatorImpl>(frame, name, std::move(dcmKeys), maxVelocity, joint);

@@ -52,6 +52,16 @@ VisualData const* Link::visual() const
     return implOf(_impl, linkErrorMsg).visualData().get();
 }
 
+std::vector<Visual> Link::visuals() const
+{
+    return implOf(_impl, linkErrorMsg).body().visuals();
+}
+
+std::vector<Collision> Link::collisions() const
+{
+    return implOf(_impl, linkErrorMsg).body().collisions();
+}
+
 std::vector<Joint const*> Link::childrenJoints() const
 {
     return rawPointers(implOf(_impl, linkErrorMsg).childrenJoints());

@@ -7,6 +7,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include "core/body_record.hpp"
 #include "core/shared_name.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
@@ -28,6 +29,7 @@ public:
 
     /// `name` must outlive this.
     void setNameInText(std::string const& name) { _nameInText = name.empty() ? nullptr : &name; }
+    void setBody(BodyRecord const& body) { _body = body; }
     void addChildJoint(boost::shared_ptr<Joint> const& joint) { _childrenJoints.push_back(joint); }
 
     boost::shared_ptr<Frame const> frame() const { return _frame.lock(); }
@@ -39,6 +41,7 @@ public:
     std::string const& frictionMaterial() const { return _frictionMaterial; }
     Link::LinkType type() const { return _type; }
     boost::shared_ptr<VisualData const> visualData() const { return _visualData; }
+    BodyRecord const& body() const { return _body; }
     /// Those that still exist, in the order in which they were added.
     std::vector<boost::shared_ptr<Joint>> childrenJoints() const;
 
@@ -52,6 +55,7 @@ private:
     std::string _frictionMaterial;
     Link::LinkType _type;
     boost::shared_ptr<VisualData const> _visualData;
+    BodyRecord _body;
 };
 
 }  // namespace Sim

@@ -11,8 +11,11 @@
 #include <boost/shared_ptr.hpp>
 
 #include "actuators/coupled_actuator_impl.hpp"
+#include "core/body_record.hpp"
 #include "core/build_index.hpp"
 #include "core/build_report.hpp"
+#include "core/device_keys.hpp"
+#include "core/element_arena.hpp"
 #include "core/joint_impl.hpp"
 #include "core/kind_of.hpp"
 #include "core/link_index.hpp"
@@ -109,29 +112,29 @@ public:
                                                  std::vector<float> inertiaMatrix);
     boost::shared_ptr<VisualData const> createVisual(std::string const& meshPath,
                                                      Varo::Math::Transform const& meshTransform);
-    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+    boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, SharedName const& name, DeviceKeys dcmKeys,
                                                       float startValue, float minValue, float maxValue, float maxSpeed,
                                                       boost::shared_ptr<Joint const> const& joint,
                                                       bool reflectionForced);
-    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
-                                                        float startValue, float minValue, float maxValue,
-                                                        boost::shared_ptr<Joint const> const& joint);
+    boost::shared_ptr<TorqueActuator> addTorqueActuator(FramePtr const& frame, SharedName const& name,
+                                                        DeviceKeys dcmKeys, float startValue, float minValue,
+                                                        float maxValue, boost::shared_ptr<Joint const> const& joint);
     boost::shared_ptr<AngleSpeedActuator> addAngleSpeedActuator(FramePtr const& frame, SharedName const& name,
-                                                                Keys dcmKeys, float startValue, float minValue,
+                                                                DeviceKeys dcmKeys, float startValue, float minValue,
                                                                 float maxValue,
                                                                 boost::shared_ptr<Joint const> const& joint);
     boost::shared_ptr<WheelTorqueActuator> addWheelTorqueActuator(FramePtr const& frame, SharedName const& name,
-                                                                  Keys dcmKeys, float maxTorque,
+                                                                  DeviceKeys dcmKeys, float maxTorque,
                                                                   boost::shared_ptr<Joint const> const& joint);
     boost::shared_ptr<WheelVelocityActuator> addWheelVelocityActuator(FramePtr const& frame, SharedName const& name,
-                                                                      Keys dcmKeys, float maxVelocity,
+                                                                      DeviceKeys dcmKeys, float maxVelocity,
                                                                       boost::shared_ptr<Joint const> const& joint);
-    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
-                                                          float startValue, float minValue, float maxValue,
-                                                          float maxSpeed,
+    boost::shared_ptr<CoupledActuator> addCoupledActuator(FramePtr const& frame, SharedName const& name,
+                                                          DeviceKeys dcmKeys, float startValue, float minValue,
+                                                          float maxValue, float maxSpeed,
                                                           CoupledActuatorImpl::JointsAndRatios jointsAndRatios,
                                                           bool reflectionForced);
-    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+    boost::shared_ptr<LEDActuator> addLEDActuator(FramePtr const& frame, SharedName const& name, DeviceKeys dcmKeys,
                                                   std::string const& shortname, std::vector<std::string> const& groups,
                                                   LEDActuator::Color color);
     boost::shared_ptr<CameraSensor> addCameraSensor(FramePtr const& frame, SharedName const& name, int width,
@@ -139,11 +142,11 @@ public:
     boost::shared_ptr<CameraDepthSensor> addCameraDepthSensor(FramePtr const& frame, SharedName const& name, int width,
                                                               int height);
     boost::shared_ptr<MicrophoneSensor> addMicrophoneSensor(FramePtr const& frame, SharedName const& name);
-    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
+    boost::shared_ptr<SonarSensor> addSonarSensor(FramePtr const& frame, SharedName const& name, DeviceKeys dcmKeys,
                                                   SonarSensorImpl::SonarType sonarType);
-    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
-                                                            int width, int height, Keys const& dcmStateKeys,
-                                                            Keys const& dcmCommandKeys);
+    boost::shared_ptr<ArrayDepthSensor> addArrayDepthSensor(FramePtr const& frame, SharedName const& name,
+                                                            DeviceKeys dcmKeys, int width, int height,
+                                                            Keys const& dcmStateKeys, Keys const& dcmCommandKeys);
 
 private:
     struct Branch;
@@ -186,6 +189,7 @@ private:
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
     Branch openBranch(boost::shared_ptr<Joint> const& joint);
     void fetchWheel(std::string const& name);
+    BodyRecord bodyMovedBy(std::string const& jointName) const;
     boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
     boost::shared_ptr<MassData const> massOf(std::string const& name);
     boost::shared_ptr<MassData const> requiredMassOf(Subject subject, std::string const& name);
@@ -218,12 +222,27 @@ private:
     void fetchArrayDepthSensor(std::string const& name, FramePtr const& frame, Keys const& keys);
     void fetchSonarSensor(std::string const& name, FramePtr const& frame, Keys const& keys);
 
+    /// A handle beside its data. Handles free their data, but not what belongs to such a block.
+    template <class Handle, class Impl>
+    struct Element {
+        template <class... Arguments>
+        explicit Element(Arguments&&... arguments) : data(std::forward<Arguments>(arguments)...)
+        {
+            handle._impl = &data;
+        }
+        Element(Element const&) = delete;
+        Element& operator=(Element const&) = delete;
+        ~Element() { handle._impl = nullptr; }
+
+        Impl data;
+        Handle handle;
+    };
+
     template <class Handle, class Impl, class... Arguments>
-    static boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)
+    boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)
     {
-        auto const handle = boost::make_shared<Handle>();
-        handle->_impl = new Impl(std::forward<Arguments>(arguments)...);
-        return handle;
+        auto const element = _arena.make<Element<Handle, Impl>>(std::forward<Arguments>(arguments)...);
+        return boost::shared_ptr<Handle>(element, &element->handle);
     }
 
     template <class Impl, class... Arguments>
@@ -237,9 +256,7 @@ private:
     template <class Impl, class... Arguments>
     boost::shared_ptr<typename Impl::Handle> addActuator(Arguments&&... arguments)
     {
-        auto impl = std::make_unique<Impl>(std::forward<Arguments>(arguments)...);
-        auto const actuator = boost::make_shared<typename Impl::Handle>(impl.get());
-        static_cast<void>(impl.release());  // the handle has it
+        auto const actuator = makeElement<typename Impl::Handle, Impl>(std::forward<Arguments>(arguments)...);
         _actuators.push_back(actuator);
         return actuator;
     }
@@ -282,6 +299,7 @@ private:
     }
 
     boost::shared_ptr<MotionModel> _motionModel;
+    ElementArena _arena;
     std::unique_ptr<BuildReport> _report;
     bool _saysAloud;  ///< whether the building also prints and logs what it notices
     // The handles of these kinds leave their data to the model, which frees it after them.

@@ -9,7 +9,7 @@
 
 namespace Sim {
 
-/// A name that is held once for all the elements that bear it: a joint's frames, its motor and its sensors have one.
+/// A name that is held once for all the elements that have it: a joint's frames, its motor and its sensors have one.
 /// Whoever holds it keeps it alive, so that an actuator's copy has it when the model is gone.
 class SharedName {
 public:

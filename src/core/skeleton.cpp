@@ -32,6 +32,7 @@ void ModelImpl::fetchSkeleton()
     std::string material;
     _motionModel->frictionMaterial(root, material);
     auto const rootLink = addLink(rootFrame, linkName, {}, mass, material, visual);
+    rootLink->_impl->setBody(&_motionModel->records().root);
 
     for (std::string const& name : _motionModel->followingJoints(root)) {
         Transform inRoot;
@@ -57,7 +58,7 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
             continue;
         }
         Transform inLink = branch.end;
-        std::string parent = branch.jointName;  // sub-joints are placed relative to the end of what they hang on
+        std::string parent = branch.jointName;  // sub-joints are placed relative to what they are attached to
         _motionModel->transformFromJointName(name, inLink, parent);
         open.push_back(openBranch(attachJoint(name, inLink, branch.link, {_motionModel->findJoint(name)})));
     }
@@ -83,8 +84,17 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
     std::string material;
     _motionModel->frictionMaterial(branch.jointName, material);
     branch.link = addLink(linkFrame, linkName, joint, mass, material, visual);
+    branch.link->_impl->setBody(bodyMovedBy(branch.jointName));
     joint->_impl->setChildLink(branch.link);
     return branch;
+}
+
+BodyRecord ModelImpl::bodyMovedBy(std::string const& jointName) const
+{
+    if (auto const* const joint = _motionModel->findJoint(jointName)) {
+        return joint;
+    }
+    return _motionModel->records().subActuators.find(jointName);
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,

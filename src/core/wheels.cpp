@@ -31,7 +31,9 @@ void ModelImpl::fetchWheel(std::string const& name)
     _motionModel->endTransformFromJointName(name, end);
     SharedName const linkName(name + "Link");
     FramePtr const linkFrame = addFrame(linkName, end, joint->_impl->frame());
-    joint->_impl->setChildLink(addWheel(linkFrame, linkName, joint, mass, material, visual));
+    auto const link = addWheel(linkFrame, linkName, joint, mass, material, visual);
+    link->_impl->setBody(_motionModel->records().wheels.find(name));
+    joint->_impl->setChildLink(link);
 }
 
 boost::shared_ptr<Link> ModelImpl::parentLinkOfWheel(std::string const& wheel) const

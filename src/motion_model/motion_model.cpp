@@ -66,39 +66,39 @@ std::string MotionModel::parentJointFromChain(std::string const& chain) const
 
 Varo::Model::JointConfig const* MotionModel::findJoint(std::string const& name) const
 {
-    return _index->of(name).joint;
+    return _index->of(name).joint();
 }
 
 bool MotionModel::startAngle(std::string const& name, float& angle) const
 {
-    auto const& known = _index->of(name).startAngle;
+    auto const known = _index->of(name).startAngle();
     angle = known.value_or(angle);
     return known.has_value();
 }
 
 bool MotionModel::parentJointFromActuator(std::string const& name, std::string& parent) const
 {
-    return readField(_index->of(name).actuator, &Varo::Model::ActuatorConfig::parentJoint, parent);
+    return readField(_index->of(name).actuator(), &Varo::Model::ActuatorConfig::parentJoint, parent);
 }
 
 bool MotionModel::parentJointFromWheel(std::string const& name, std::string& parent) const
 {
-    return readField(_index->of(name).wheel, &Varo::Model::WheelConfig::parentJoint, parent);
+    return readField(_index->of(name).wheel(), &Varo::Model::WheelConfig::parentJoint, parent);
 }
 
 bool MotionModel::maxTorqueFromWheel(std::string const& name, float& torque) const
 {
-    return readField(_index->of(name).wheel, &Varo::Model::WheelConfig::maxTorque, torque);
+    return readField(_index->of(name).wheel(), &Varo::Model::WheelConfig::maxTorque, torque);
 }
 
 bool MotionModel::maxVelocityFromWheel(std::string const& name, float& velocity) const
 {
-    return readField(_index->of(name).wheel, &Varo::Model::WheelConfig::maxVelocity, velocity);
+    return readField(_index->of(name).wheel(), &Varo::Model::WheelConfig::maxVelocity, velocity);
 }
 
 bool MotionModel::ratioFromJoint(std::string const& name, float& ratio) const
 {
-    return readField(_index->of(name).subActuator, &Varo::Model::SubActuatorConfig::ratio, ratio);
+    return readField(_index->of(name).subActuator(), &Varo::Model::SubActuatorConfig::ratio, ratio);
 }
 
 }  // namespace Sim

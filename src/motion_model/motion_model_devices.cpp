@@ -79,14 +79,14 @@ std::list<std::string> MotionModel::sensorNames() const
 std::int32_t MotionModel::sensorType(std::string const& name) const
 {
     std::int32_t type = Varo::Model::unknownSensor;
-    readField(_index->of(name).sensor, &SensorConfig::type, type);
+    readField(_index->of(name).sensor(), &SensorConfig::type, type);
     return type;
 }
 
 bool MotionModel::transformFromSensorName(std::string const& name, Varo::Math::Transform& transform,
                                           std::string& parent) const
 {
-    auto const* sensor = _index->of(name).sensor;
+    auto const* sensor = _index->of(name).sensor();
     if (sensor == nullptr) {
         return false;
     }
@@ -97,22 +97,22 @@ bool MotionModel::transformFromSensorName(std::string const& name, Varo::Math::T
 
 bool MotionModel::dcmKeysFromSensorName(std::string const& name, std::vector<std::string>& keys) const
 {
-    return readField(_index->of(name).sensor, &SensorConfig::keys, keys);
+    return readField(_index->of(name).sensor(), &SensorConfig::keys, keys);
 }
 
 bool MotionModel::dcmCommandKeys(std::string const& name, std::vector<std::string>& keys) const
 {
-    return appendAttributes(_index->of(name).sensor, k_dcmCommandKeyNames, keys);
+    return appendAttributes(_index->of(name).sensor(), k_dcmCommandKeyNames, keys);
 }
 
 bool MotionModel::dcmStateKeys(std::string const& name, std::vector<std::string>& keys) const
 {
-    return appendAttributes(_index->of(name).sensor, k_stateDcmKeyNames, keys);
+    return appendAttributes(_index->of(name).sensor(), k_stateDcmKeyNames, keys);
 }
 
 bool MotionModel::shortnameFromLED(std::string const& led, std::string& shortname) const
 {
-    auto const* value = attributeOf(_index->of(led).sensor, "shortname");
+    auto const* value = attributeOf(_index->of(led).sensor(), "shortname");
     if (value == nullptr) {
         return false;
     }
@@ -122,7 +122,7 @@ bool MotionModel::shortnameFromLED(std::string const& led, std::string& shortnam
 
 bool MotionModel::groupsFromLED(std::string const& led, std::vector<std::string>& groups) const
 {
-    auto const* value = attributeOf(_index->of(led).sensor, "groups");
+    auto const* value = attributeOf(_index->of(led).sensor(), "groups");
     if (value == nullptr) {
         return false;
     }
@@ -132,7 +132,7 @@ bool MotionModel::groupsFromLED(std::string const& led, std::vector<std::string>
 
 bool MotionModel::colorFromLED(std::string const& led, int* color) const
 {
-    auto const* value = attributeOf(_index->of(led).sensor, "color");
+    auto const* value = attributeOf(_index->of(led).sensor(), "color");
     if (value == nullptr) {
         return false;
     }
@@ -148,7 +148,7 @@ bool MotionModel::colorFromLED(std::string const& led, int* color) const
 
 bool MotionModel::resolutionsFromCamera(std::string const& camera, std::vector<std::pair<int, int>>& resolutions) const
 {
-    auto const* value = attributeOf(_index->of(camera).sensor, "resolutions");
+    auto const* value = attributeOf(_index->of(camera).sensor(), "resolutions");
     if (value == nullptr) {
         return false;
     }

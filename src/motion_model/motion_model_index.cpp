@@ -2,97 +2,106 @@
 
 namespace Sim {
 
-MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const& startAngles)
+MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const& startAngles) : _records(records)
 {
-    _entries.reserve(records.joints.size() + records.subActuators.size() + records.actuators.size() +
-                     records.wheels.size() + records.sensors.size() + 1);
-    addRecords(records.joints, &NameEntry::joint);
-    addRecords(records.subActuators, &NameEntry::subActuator);
-    addRecords(records.actuators, &NameEntry::actuator);
-    addRecords(records.wheels, &NameEntry::wheel);
-    addRecords(records.sensors, &NameEntry::sensor);
-    _entries[records.root.name].root = &records.root;
+    std::size_t const names = records.joints.size() + records.subActuators.size() + records.actuators.size() +
+                              records.wheels.size() + records.sensors.size() + 1;
+    _ids.reserve(names);
+    _facts.reserve(names);
+    addRecords(records.joints, &Facts::joint);
+    addRecords(records.subActuators, &Facts::subActuator);
+    addRecords(records.actuators, &Facts::actuator);
+    addRecords(records.wheels, &Facts::wheel);
+    addRecords(records.sensors, &Facts::sensor);
+    factsOf(records.root.name).isRoot = true;
 
     _branches.reserve(records.joints.size() + records.chains.size());
     for (std::uint32_t const& listed : records.chainOrder) {
-        addListedChain(listed, records.chains);
+        addListedChain(listed);
     }
     for (std::uint32_t const chain : records.chains.nameOrder()) {
-        addChainPlaces(records.chains[chain]);
+        addChainPlaces(chain);
     }
     for (std::uint32_t const actuator : records.actuators.nameOrder()) {
-        addGroups(records.actuators[actuator], actuator);
+        addGroups(actuator);
     }
     for (auto const& [name, angle] : startAngles) {
-        auto& known = _entries[*name].startAngle;
-        known = known.value_or(angle);  // the first one counts
+        Facts& facts = factsOf(*name);
+        if (!facts.hasStartAngle) {  // the first one counts
+            facts.startAngle = angle;
+            facts.hasStartAngle = true;
+        }
     }
     for (auto const& name : records.reflectionForced) {
-        _entries[name].reflectionForced = true;
+        factsOf(name).reflectionForced = true;
     }
 }
 
-NameEntry const& MotionModel::Index::of(std::string const& name) const
+MotionModel::Index::Entry MotionModel::Index::of(std::string const& name) const
 {
-    static NameEntry const none;
-    auto const found = _entries.find(name);
-    return found == _entries.end() ? none : found->second;
+    static Facts const nothing;
+    std::uint32_t const id = _ids.find(name);
+    return {*this, id == NameIds::none ? nothing : _facts[id]};
+}
+
+MotionModel::Index::Facts& MotionModel::Index::factsOf(std::string const& name)
+{
+    std::uint32_t const id = _ids.add(name);
+    if (id == _facts.size()) {
+        _facts.emplace_back();
+    }
+    return _facts[id];
 }
 
 template <typename Record>
-void MotionModel::Index::addRecords(Varo::Model::Table<Record> const& table, Record const* NameEntry::*record)
+void MotionModel::Index::addRecords(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record)
 {
     for (std::size_t index = 0; index < table.size(); ++index) {
-        _entries[table.nameOf(index)].*record = &table[index];
+        factsOf(table.nameOf(index)).*record = static_cast<std::uint32_t>(index);
     }
 }
 
-void MotionModel::Index::addListedChain(std::uint32_t const& listed,
-                                        Varo::Model::Table<Varo::Model::ChainConfig> const& chains)
+void MotionModel::Index::addListedChain(std::uint32_t const& listed)
 {
-    Varo::Model::ChainConfig const& chain = chains[listed];
+    Varo::Model::ChainConfig const& chain = _records.chains[listed];
     auto const& joints = chain.jointNames;
     for (std::size_t position = 0; position < joints.size(); ++position) {
-        auto& joint = _entries[joints[position]];
-        if (joint.lastBranch != NameEntry::none && _branches[joint.lastBranch].chain == &listed) {
+        Facts& joint = factsOf(joints[position]);
+        if (!_branches.of(joint.branches).empty() && _branches.lastOf(joint.branches).chain == &listed) {
             continue;  // listed twice
         }
-        if (joint.firstChain == nullptr) {
-            joint.firstChain = &chains.nameOf(listed);
+        if (joint.firstChain == none) {
+            joint.firstChain = listed;
         }
-        addBranch(joint, {&listed, position + 1 < joints.size() ? &joints[position + 1] : nullptr, true});
+        _branches.append(joint.branches,
+                         {&listed, position + 1 < joints.size() ? &joints[position + 1] : nullptr, true});
     }
     if (!joints.empty()) {
-        addBranch(_entries[chain.parentJoint], {&listed, &joints.front(), false});
+        _branches.append(factsOf(chain.parentJoint).branches, {&listed, &joints.front(), false});
     }
 }
 
-void MotionModel::Index::addBranch(NameEntry& joint, NameEntry::Branch const& branch)
+void MotionModel::Index::addChainPlaces(std::uint32_t chain)
 {
-    auto const index = static_cast<std::uint32_t>(_branches.size());
-    (joint.lastBranch == NameEntry::none ? joint.firstBranch : _branches[joint.lastBranch].following) = index;
-    joint.lastBranch = index;
-    _branches.push_back(branch);
-}
-
-void MotionModel::Index::addChainPlaces(Varo::Model::ChainConfig const& chain)
-{
-    for (std::size_t position = 0; position < chain.jointNames.size(); ++position) {
-        auto& place = _entries[chain.jointNames[position]].lastPlace;
-        if (place.chain != &chain) {
-            place = {&chain, position};
+    auto const& joints = _records.chains[chain].jointNames;
+    for (std::size_t position = 0; position < joints.size(); ++position) {
+        Facts& joint = factsOf(joints[position]);
+        if (joint.lastChain != chain) {
+            joint.lastChain = chain;
+            joint.positionInLast = static_cast<std::uint32_t>(position);
         }
     }
 }
 
-void MotionModel::Index::addGroups(Varo::Model::ActuatorConfig const& actuator, std::uint32_t index)
+void MotionModel::Index::addGroups(std::uint32_t actuator)
 {
-    _entries[actuator.parentJoint].actuators.push_back(index);
-    for (auto const& group : actuator.jointGroups) {
+    Varo::Model::ActuatorConfig const& record = _records.actuators[actuator];
+    _actuators.append(factsOf(record.parentJoint).actuators, actuator);
+    for (auto const& group : record.jointGroups) {
         for (std::size_t position = 0; position < group.size(); ++position) {
-            auto& places = _entries[group[position]].groupPlaces;
-            if (places.empty() || places.back().group != &group) {
-                places.push_back({&actuator, &group, position});
+            auto& places = factsOf(group[position]).groupPlaces;
+            if (_groupPlaces.of(places).empty() || _groupPlaces.lastOf(places).group != &group) {
+                _groupPlaces.append(places, {&record, &group, position});
             }
         }
     }

@@ -6,83 +6,129 @@
 #include <limits>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "motion_model/name_ids.hpp"
+#include "motion_model/short_lists.hpp"
 #include "motion_model/start_angles.hpp"
 #include "sim/motion_model.hpp"
+#include "varo/model/records.hpp"
 
 namespace Sim {
 
-/// What the records say of one name. Everything pointed to belongs to them.
-struct NameEntry {
-    /// Where a chain lists the joint: the first place, if it does so twice.
-    struct ChainPlace {
-        Varo::Model::ChainConfig const* chain = nullptr;
-        std::size_t position = 0;
-    };
-    /// How one chain goes on from the joint.
-    static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
-    struct Branch {
-        std::uint32_t const* chain = nullptr;  ///< its place in the list of chains
-        std::string const* next = nullptr;  ///< null at the chain's end
-        bool listsJoint = false;  ///< true when the chain runs through the joint, false when it is attached to it
-        std::uint32_t following = none;  ///< the joint's next branch, as an index of all of them
-    };
-    /// Where a group of an actuator holds the sub-joint: the first place, if it does so twice.
-    struct GroupPlace {
-        Varo::Model::ActuatorConfig const* actuator = nullptr;
-        std::vector<std::string> const* group = nullptr;
-        std::size_t position = 0;
-    };
-
-    // The records of that name, null where there is none.
-    Varo::Model::JointConfig const* joint = nullptr;
-    Varo::Model::JointConfig const* root = nullptr;
-    Varo::Model::SubActuatorConfig const* subActuator = nullptr;
-    Varo::Model::ActuatorConfig const* actuator = nullptr;
-    Varo::Model::WheelConfig const* wheel = nullptr;
-    Varo::Model::SensorConfig const* sensor = nullptr;
-
-    // What records of other names say of it.
-    std::string const* firstChain = nullptr;  ///< name of the first chain, in the description's order, that lists it
-    ChainPlace lastPlace;  ///< in the last chain, in order of name, that lists it
-    std::uint32_t firstBranch = none;  ///< in the description's order of chains; mostly there is just this one
-    std::uint32_t lastBranch = none;
-    std::vector<std::uint32_t> actuators;  ///< indices of those that are attached to it, in order of name
-    std::vector<GroupPlace> groupPlaces;  ///< actuators in order of name, their groups in order
-    std::optional<float> startAngle;
-    bool reflectionForced = false;
+/// Where a chain lists a joint.
+struct ChainPlace {
+    Varo::Model::ChainConfig const* chain = nullptr;
+    std::size_t position = 0;
 };
 
-/// The entries of all names, found in constant time. Refers into the records that it was made of, which must neither
-/// change nor move.
+/// How one chain goes on from a joint.
+struct Branch {
+    std::uint32_t const* chain = nullptr;  ///< its place in the list of chains
+    std::string const* next = nullptr;  ///< null at the chain's end
+    bool listsJoint = false;  ///< true when the chain runs through the joint, false when it is attached to it
+};
+
+/// Where a group of an actuator holds a sub-joint.
+struct GroupPlace {
+    Varo::Model::ActuatorConfig const* actuator = nullptr;
+    std::vector<std::string> const* group = nullptr;
+    std::size_t position = 0;
+};
+
+/// What the records say by names, found in constant time. Refers into the records that it was made of, which must
+/// neither change nor move.
 struct __attribute__((visibility("hidden"))) MotionModel::Index {
+    class Entry;
+
     Index(Varo::Model::Records const& records, StartAngles const& startAngles);
 
     /// An empty entry for a name that nothing is known of.
-    NameEntry const& of(std::string const& name) const;
-
-    /// Calls `visit` for each way in which a chain goes on from a joint.
-    template <typename Visit>
-    void forEachBranch(NameEntry const& joint, Visit visit) const
-    {
-        for (auto branch = joint.firstBranch; branch != NameEntry::none; branch = _branches[branch].following) {
-            visit(_branches[branch]);
-        }
-    }
+    Entry of(std::string const& name) const;
 
 private:
-    void addBranch(NameEntry& joint, NameEntry::Branch const& branch);
-    template <typename Record>
-    void addRecords(Varo::Model::Table<Record> const& table, Record const* NameEntry::*record);
-    void addListedChain(std::uint32_t const& listed, Varo::Model::Table<Varo::Model::ChainConfig> const& chains);
-    void addChainPlaces(Varo::Model::ChainConfig const& chain);
-    void addGroups(Varo::Model::ActuatorConfig const& actuator, std::uint32_t index);
+    static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
 
-    std::unordered_map<std::string_view, NameEntry> _entries;
-    std::vector<NameEntry::Branch> _branches;  ///< of all joints
+    /// Records by their indices in their tables.
+    struct Facts {
+        std::uint32_t joint = none;
+        std::uint32_t subActuator = none;
+        std::uint32_t actuator = none;
+        std::uint32_t wheel = none;
+        std::uint32_t sensor = none;
+        // What records of other names say of it.
+        std::uint32_t firstChain = none;  ///< in the description's order, of those that list it
+        std::uint32_t lastChain = none;  ///< in order of name, of those that list it
+        std::uint32_t positionInLast = 0;
+        ShortLists<Branch>::List branches;
+        ShortLists<std::uint32_t>::List actuators;
+        ShortLists<GroupPlace>::List groupPlaces;
+        float startAngle = 0.0F;
+        bool hasStartAngle = false;
+        bool isRoot = false;
+        bool reflectionForced = false;
+    };
+
+    Facts& factsOf(std::string const& name);
+    template <typename Record>
+    void addRecords(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record);
+    void addListedChain(std::uint32_t const& listed);
+    void addChainPlaces(std::uint32_t chain);
+    void addGroups(std::uint32_t actuator);
+
+    Varo::Model::Records const& _records;
+    NameIds _ids;
+    std::vector<Facts> _facts;  ///< by number of the name
+    ShortLists<Branch> _branches;
+    ShortLists<std::uint32_t> _actuators;
+    ShortLists<GroupPlace> _groupPlaces;
+};
+
+/// What is known of one name. Everything pointed to belongs to the records.
+class MotionModel::Index::Entry {
+public:
+    Entry(Index const& index, Facts const& facts) : _index(index), _facts(facts) {}
+
+    // The records of that name, null where there is none.
+    Varo::Model::JointConfig const* joint() const { return in(_index._records.joints, _facts.joint); }
+    Varo::Model::JointConfig const* root() const { return _facts.isRoot ? &_index._records.root : nullptr; }
+    Varo::Model::SubActuatorConfig const* subActuator() const
+    {
+        return in(_index._records.subActuators, _facts.subActuator);
+    }
+    Varo::Model::ActuatorConfig const* actuator() const { return in(_index._records.actuators, _facts.actuator); }
+    Varo::Model::WheelConfig const* wheel() const { return in(_index._records.wheels, _facts.wheel); }
+    Varo::Model::SensorConfig const* sensor() const { return in(_index._records.sensors, _facts.sensor); }
+
+    // What records of other names say of it.
+    /// Name of the first chain, in the description's order, that lists it; null for none.
+    std::string const* firstChain() const
+    {
+        return _facts.firstChain == none ? nullptr : &_index._records.chains.nameOf(_facts.firstChain);
+    }
+    /// In the last chain, in order of name, that lists it: the first place, if it does so twice.
+    ChainPlace lastPlace() const { return {in(_index._records.chains, _facts.lastChain), _facts.positionInLast}; }
+    /// In the description's order of chains; mostly there is just one.
+    auto branches() const { return _index._branches.of(_facts.branches); }
+    /// Indices of those that are attached to it, in order of name.
+    auto actuators() const { return _index._actuators.of(_facts.actuators); }
+    /// Actuators in order of name, their groups in order, and in each the first place.
+    auto groupPlaces() const { return _index._groupPlaces.of(_facts.groupPlaces); }
+    std::optional<float> startAngle() const
+    {
+        return _facts.hasStartAngle ? std::optional<float>(_facts.startAngle) : std::nullopt;
+    }
+    bool reflectionForced() const { return _facts.reflectionForced; }
+
+private:
+    template <typename Record>
+    static Record const* in(Varo::Model::Table<Record> const& table, std::uint32_t index)
+    {
+        return index == none ? nullptr : &table[index];
+    }
+
+    Index const& _index;
+    Facts const& _facts;
 };
 
 }  // namespace Sim

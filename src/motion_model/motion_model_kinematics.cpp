@@ -31,15 +31,15 @@ Transform underParentOfWheel(MotionModel const& model, std::string const& name, 
 }
 
 /// Calls `read` with the record of the body that the name stands for: a joint's, the root's or a wheel's.
-template <typename Read>
-bool readBody(NameEntry const& named, Read read)
+template <typename Entry, typename Read>
+bool readBody(Entry const& named, Read read)
 {
-    if (named.joint != nullptr) {
-        read(*named.joint);
-    } else if (named.root != nullptr) {
-        read(*named.root);
-    } else if (named.wheel != nullptr) {
-        read(*named.wheel);
+    if (named.joint() != nullptr) {
+        read(*named.joint());
+    } else if (named.root() != nullptr) {
+        read(*named.root());
+    } else if (named.wheel() != nullptr) {
+        read(*named.wheel());
     } else {
         return false;
     }
@@ -47,10 +47,11 @@ bool readBody(NameEntry const& named, Read read)
 }
 
 /// The actuator's limit replaces that of a joint of the same name.
-bool readLimit(NameEntry const& named, float JointConfig::*ofJoint, float ActuatorConfig::*ofActuator, float& limit)
+template <typename Entry>
+bool readLimit(Entry const& named, float JointConfig::*ofJoint, float ActuatorConfig::*ofActuator, float& limit)
 {
-    bool const isJoint = readField(named.joint, ofJoint, limit);
-    bool const isActuator = readField(named.actuator, ofActuator, limit);
+    bool const isJoint = readField(named.joint(), ofJoint, limit);
+    bool const isActuator = readField(named.actuator(), ofActuator, limit);
     return isJoint || isActuator;
 }
 
@@ -58,14 +59,14 @@ bool readLimit(NameEntry const& named, float JointConfig::*ofJoint, float Actuat
 
 bool MotionModel::endTransformFromJointName(std::string const& name, Transform& end) const
 {
-    auto const& named = _index->of(name);
-    if (readField(named.joint, &JointConfig::endTransform, end)) {
+    auto const named = _index->of(name);
+    if (readField(named.joint(), &JointConfig::endTransform, end)) {
         return true;
     }
-    if (named.subActuator != nullptr) {
+    if (named.subActuator() != nullptr) {
         return endTransformFromSubactuatorName(name, end);
     }
-    return named.wheel != nullptr && endTransformFromWheelName(name, end);
+    return named.wheel() != nullptr && endTransformFromWheelName(name, end);
 }
 
 bool MotionModel::endTransformFromSubactuatorName(std::string const& /*name*/, Transform& end) const
@@ -85,42 +86,42 @@ bool MotionModel::transformFromJointName(std::string const& name, Transform& tra
     if (name.empty()) {
         return false;
     }
-    auto const& named = _index->of(name);
-    if (named.joint == nullptr) {
+    auto const named = _index->of(name);
+    if (named.joint() == nullptr) {
         return transformFromSubactuatorName(name, transform, parent);
     }
-    auto const [chain, position] = named.lastPlace;
+    auto const [chain, position] = named.lastPlace();
     if (chain == nullptr) {
         return true;
     }
     if (position == 0) {
         parent = "rootFrame";
-        transform = endOf(*this, chain->parentJoint).inverse() * chain->placement * named.joint->placement;
+        transform = endOf(*this, chain->parentJoint).inverse() * chain->placement * named.joint()->placement;
     } else {
         parent = chain->jointNames[position - 1];
-        transform = endOf(*this, parent).inverse() * named.joint->placement;
+        transform = endOf(*this, parent).inverse() * named.joint()->placement;
     }
     return true;
 }
 
 bool MotionModel::transformFromSubactuatorName(std::string const& name, Transform& transform, std::string& parent) const
 {
-    auto const& named = _index->of(name);
-    if (name.empty() || named.subActuator == nullptr) {
+    auto const named = _index->of(name);
+    if (name.empty() || named.subActuator() == nullptr) {
         return false;
     }
-    transform = pinv(endOf(*this, parent)) * named.subActuator->placement;
-    if (named.groupPlaces.empty()) {
+    transform = pinv(endOf(*this, parent)) * named.subActuator()->placement;
+    if (named.groupPlaces().empty()) {
         return false;
     }
-    auto const [actuator, group, position] = named.groupPlaces.front();
+    auto const [actuator, group, position] = named.groupPlaces().front();
     parent = position == 0 ? actuator->parentJoint : (*group)[position - 1];
     return true;
 }
 
 bool MotionModel::transformFromWheel(std::string const& name, Transform& transform) const
 {
-    auto const* wheel = _index->of(name).wheel;
+    auto const* wheel = _index->of(name).wheel();
     if (wheel == nullptr) {
         return false;
     }
@@ -130,7 +131,7 @@ bool MotionModel::transformFromWheel(std::string const& name, Transform& transfo
 
 bool MotionModel::transformFromActuator(std::string const& name, Transform& transform) const
 {
-    auto const* actuator = _index->of(name).actuator;
+    auto const* actuator = _index->of(name).actuator();
     if (actuator == nullptr) {
         return false;
     }
@@ -141,18 +142,18 @@ bool MotionModel::transformFromActuator(std::string const& name, Transform& tran
 
 bool MotionModel::meshNameFromJointName(std::string const& name, std::string& mesh) const
 {
-    auto const& named = _index->of(name);
-    return readField(named.joint, &JointConfig::meshName, mesh) ||
-           readField(named.subActuator, &Varo::Model::SubActuatorConfig::meshName, mesh) ||
-           readField(named.wheel, &Varo::Model::WheelConfig::meshName, mesh) ||
-           readField(named.root, &JointConfig::meshName, mesh);
+    auto const named = _index->of(name);
+    return readField(named.joint(), &JointConfig::meshName, mesh) ||
+           readField(named.subActuator(), &Varo::Model::SubActuatorConfig::meshName, mesh) ||
+           readField(named.wheel(), &Varo::Model::WheelConfig::meshName, mesh) ||
+           readField(named.root(), &JointConfig::meshName, mesh);
 }
 
 bool MotionModel::meshTransformFromJointName(std::string const& name, Transform& transform) const
 {
-    auto const& named = _index->of(name);
-    bool const hasMesh =
-        named.joint != nullptr || named.subActuator != nullptr || named.wheel != nullptr || named.root != nullptr;
+    auto const named = _index->of(name);
+    bool const hasMesh = named.joint() != nullptr || named.subActuator() != nullptr || named.wheel() != nullptr ||
+                         named.root() != nullptr;
     if (hasMesh) {
         transform = Transform();
     }

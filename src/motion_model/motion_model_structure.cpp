@@ -94,7 +94,7 @@ std::list<std::string> MotionModel::actuatorNames(std::string const& chain) cons
 {
     auto attached = coupledActuatorNames(chain);
     for (auto const& name : attached) {  // reaches the names appended on the way, too
-        for (auto const actuator : _index->of(name).actuators) {
+        for (auto const actuator : _index->of(name).actuators()) {
             attached.push_back(_records->actuators.nameOf(actuator));
         }
     }
@@ -113,7 +113,7 @@ std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chai
     std::list<std::string> names;
     if (auto const* record = _records->chains.find(chain)) {
         for (auto const& joint : record->jointNames) {
-            for (auto const actuator : _index->of(joint).actuators) {
+            for (auto const actuator : _index->of(joint).actuators()) {
                 names.push_back(_records->actuators.nameOf(actuator));
             }
         }
@@ -130,7 +130,7 @@ std::list<std::string> MotionModel::coupledActuatorNames() const
 // constructor gives each of those an empty record, there is never anything left to insert.
 std::string MotionModel::chainNameFromJoint(std::string const& joint)
 {
-    auto const* chain = _index->of(joint).firstChain;
+    auto const* chain = _index->of(joint).firstChain();
     return chain == nullptr ? std::string() : *chain;
 }
 
@@ -138,14 +138,14 @@ std::vector<std::string> MotionModel::followingJoints(std::string const& joint) 
 {
     std::vector<std::string> following;
     auto const anchors = chainAnchorJoints(joint);
-    _index->forEachBranch(_index->of(joint), [&](NameEntry::Branch const& branch) {
+    for (Branch const& branch : _index->of(joint).branches()) {
         if (branch.next != nullptr) {
             following.push_back(*branch.next);
         }
         if (branch.listsJoint) {
             following.insert(following.end(), anchors.begin(), anchors.end());
         }
-    });
+    }
     followingJointsFromSubactuators(joint, following);
     return following;
 }
@@ -153,7 +153,7 @@ std::vector<std::string> MotionModel::followingJoints(std::string const& joint) 
 std::vector<std::string> MotionModel::chainAnchorJoints(std::string const& joint) const
 {
     std::vector<std::string> anchors;
-    for (auto const actuator : _index->of(joint).actuators) {
+    for (auto const actuator : _index->of(joint).actuators()) {
         for (auto const& group : _records->actuators[actuator].jointGroups) {
             if (!group.empty()) {
                 anchors.push_back(group.front());
@@ -165,7 +165,7 @@ std::vector<std::string> MotionModel::chainAnchorJoints(std::string const& joint
 
 void MotionModel::followingJointsFromSubactuators(std::string const& name, std::vector<std::string>& out) const
 {
-    for (auto const& place : _index->of(name).groupPlaces) {
+    for (auto const& place : _index->of(name).groupPlaces()) {
         if (place.position + 1 < place.group->size()) {
             out.push_back((*place.group)[place.position + 1]);
         }
@@ -174,7 +174,7 @@ void MotionModel::followingJointsFromSubactuators(std::string const& name, std::
 
 bool MotionModel::jointsFromActuator(std::string const& actuator, std::list<std::string>& joints) const
 {
-    auto const* record = _index->of(actuator).actuator;
+    auto const* record = _index->of(actuator).actuator();
     if (record == nullptr) {
         return false;
     }
@@ -185,7 +185,7 @@ bool MotionModel::jointsFromActuator(std::string const& actuator, std::list<std:
 bool MotionModel::coupledJointGroupFromParentJoint(std::string const& joint, std::string& actuator,
                                                    std::vector<std::string>& joints) const
 {
-    auto const& attached = _index->of(joint).actuators;
+    auto const attached = _index->of(joint).actuators();
     if (attached.empty()) {
         return false;
     }
@@ -196,7 +196,7 @@ bool MotionModel::coupledJointGroupFromParentJoint(std::string const& joint, std
 
 bool MotionModel::mirrorNameFromJointName(std::string const& name, std::string& mirror, bool& reflected) const
 {
-    if (auto const* joint = _index->of(name).joint) {
+    if (auto const* joint = _index->of(name).joint()) {
         return readMirror(*joint, mirror, reflected);
     }
     if (mirrorNameFromSubjointName(name, mirror, reflected)) {
@@ -207,7 +207,7 @@ bool MotionModel::mirrorNameFromJointName(std::string const& name, std::string& 
 
 bool MotionModel::mirrorNameFromSubjointName(std::string const& name, std::string& mirror, bool& reflected) const
 {
-    if (_index->of(name).groupPlaces.empty()) {
+    if (_index->of(name).groupPlaces().empty()) {
         return false;
     }
     mirror = exchangedSide(name);
@@ -217,7 +217,7 @@ bool MotionModel::mirrorNameFromSubjointName(std::string const& name, std::strin
 
 bool MotionModel::mirrorNameFromActuatorName(std::string const& name, std::string& mirror, bool& reflected) const
 {
-    auto const* actuator = _index->of(name).actuator;
+    auto const* actuator = _index->of(name).actuator();
     if (actuator == nullptr) {
         return false;
     }
@@ -227,9 +227,9 @@ bool MotionModel::mirrorNameFromActuatorName(std::string const& name, std::strin
 
 bool MotionModel::reflectionForcedFromJointName(std::string const& name, bool& forced) const
 {
-    auto const& named = _index->of(name);
-    forced = named.reflectionForced;
-    return forced || named.joint != nullptr;
+    auto const named = _index->of(name);
+    forced = named.reflectionForced();
+    return forced || named.joint() != nullptr;
 }
 
 }  // namespace Sim

@@ -15,17 +15,16 @@ void ModelImpl::fetchAngleSensors()
     bool const withTorqueAndSpeed = name().find("SpecialSimulation") != std::string::npos;
     for (auto const& actuator : _actuators) {
         SharedName const& sharedName = actuator->_impl->sharedName();
-        std::string const& name = sharedName;
         FramePtr const frame = actuator->_impl->frame();
         if (actuator->type() == Actuator::Angle) {
-            addSensor<AngleSensorImpl>(frame, sharedName, getJointDCMKeys({name}, 1));
+            addSensor<AngleSensorImpl>(frame, sharedName, DeviceKeys(getJointDCMKeys, 1));
             if (withTorqueAndSpeed) {
-                addSensor<TorqueSensorImpl>(frame, sharedName, getJointDCMKeys({name}, 32));
-                addSensor<AngleSpeedSensorImpl>(frame, sharedName, getJointDCMKeys({name}, 2));
+                addSensor<TorqueSensorImpl>(frame, sharedName, DeviceKeys(getJointDCMKeys, 32));
+                addSensor<AngleSpeedSensorImpl>(frame, sharedName, DeviceKeys(getJointDCMKeys, 2));
             }
         } else if (actuator->type() == Actuator::WheelTorque) {
-            addSensor<TorqueSensorImpl>(frame, sharedName, getWheelDCMKeys({name}, 32));
-            addSensor<AngleSpeedSensorImpl>(frame, sharedName, getWheelDCMKeys({name}, 2));
+            addSensor<TorqueSensorImpl>(frame, sharedName, DeviceKeys(getWheelDCMKeys, 32));
+            addSensor<AngleSpeedSensorImpl>(frame, sharedName, DeviceKeys(getWheelDCMKeys, 2));
         }
     }
 }
@@ -35,7 +34,7 @@ void ModelImpl::fetchCoupledSensors()
     for (auto const& actuator : _actuators) {
         if (actuator->type() == Actuator::Coupled) {
             SharedName const& sharedName = actuator->_impl->sharedName();
-            addSensor<CoupledSensorImpl>(actuator->_impl->frame(), sharedName, getActuatorDCMKeys({sharedName}, 1));
+            addSensor<CoupledSensorImpl>(actuator->_impl->frame(), sharedName, DeviceKeys(getActuatorDCMKeys, 1));
         }
     }
 }

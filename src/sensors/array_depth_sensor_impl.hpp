@@ -18,9 +18,9 @@ class ArrayDepthSensorImpl : public DCMSensorImpl {
 public:
     using Handle = ArrayDepthSensor;
 
-    ArrayDepthSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                         std::vector<std::string> dcmKeys, int width, int height,
-                         std::vector<std::string> const& dcmStateKeys, std::vector<std::string> const& dcmCommandKeys)
+    ArrayDepthSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                         int width, int height, std::vector<std::string> const& dcmStateKeys,
+                         std::vector<std::string> const& dcmCommandKeys)
         : DCMSensorImpl(frame, name, kindOf<ArrayDepthSensor>().type, std::move(dcmKeys)),
           _width(width),
           _height(height),

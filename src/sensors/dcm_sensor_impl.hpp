@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/device_keys.hpp"
 #include "sensors/sensor_impl.hpp"
 
 namespace Sim {
@@ -14,11 +15,11 @@ inline constexpr char dcmSensorErrMsg[] = "Could not query DCMSensor as it seems
 class DCMSensorImpl : public SensorImpl {
 public:
     DCMSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Sensor::Type type,
-                  std::vector<std::string> dcmKeys)
+                  DeviceKeys dcmKeys)
         : SensorImpl(frame, name, type), _dcmKeys(std::move(dcmKeys))
     {}
 
-    std::vector<std::string> const& dcmKeys() const { return _dcmKeys; }
+    std::vector<std::string> const& dcmKeys() const { return _dcmKeys.of(name()); }
     /// Of the few kinds that have a mode of operation.
     virtual std::vector<std::string> const& dcmStateKeys() const { return noKeys(); }
     virtual std::vector<std::string> const& dcmCommandKeys() const { return noKeys(); }
@@ -30,7 +31,7 @@ private:
         return none;
     }
 
-    std::vector<std::string> _dcmKeys;
+    DeviceKeys _dcmKeys;
 };
 
 }  // namespace Sim

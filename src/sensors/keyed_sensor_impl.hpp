@@ -16,8 +16,7 @@ class KeyedSensorImpl : public DCMSensorImpl {
 public:
     using Handle = Device;
 
-    KeyedSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                    std::vector<std::string> dcmKeys)
+    KeyedSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys)
         : DCMSensorImpl(frame, name, kindOf<Device>().type, std::move(dcmKeys))
     {}
 

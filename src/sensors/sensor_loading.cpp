@@ -175,14 +175,14 @@ boost::shared_ptr<MicrophoneSensor> ModelImpl::addMicrophoneSensor(FramePtr cons
     return addSensor<MicrophoneSensorImpl>(frame, name);
 }
 
-boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, SharedName const& name, Keys dcmKeys,
-                                                         SonarSensorImpl::SonarType sonarType)
+boost::shared_ptr<SonarSensor> ModelImpl::addSonarSensor(FramePtr const& frame, SharedName const& name,
+                                                         DeviceKeys dcmKeys, SonarSensorImpl::SonarType sonarType)
 {
     return addSensor<SonarSensorImpl>(frame, name, std::move(dcmKeys), sonarType);
 }
 
 boost::shared_ptr<ArrayDepthSensor> ModelImpl::addArrayDepthSensor(FramePtr const& frame, SharedName const& name,
-                                                                   Keys dcmKeys, int width, int height,
+                                                                   DeviceKeys dcmKeys, int width, int height,
                                                                    Keys const& dcmStateKeys, Keys const& dcmCommandKeys)
 {
     return addSensor<ArrayDepthSensorImpl>(frame, name, std::move(dcmKeys), width, height, dcmStateKeys,

@@ -22,8 +22,8 @@ public:
         TenValues = 1,
     };
 
-    SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
-                    std::vector<std::string> dcmKeys, SonarType sonarType)
+    SonarSensorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, DeviceKeys dcmKeys,
+                    SonarType sonarType)
         : DCMSensorImpl(frame, name, kindOf<SonarSensor>().type, std::move(dcmKeys)), _sonarType(sonarType)
     {}
 

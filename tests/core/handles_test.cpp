@@ -45,7 +45,8 @@ TEST(Handles, OfTheBodyWithoutImplementationThrowTheMessageOfTheirClass)
     expectMessage<Frame>(correctly("Frame"), &Frame::name, &Frame::parentFrame, &Frame::localPosition, &Frame::position,
                          [](Frame const& frame) { Frame::globalPosition(&frame); });
     expectMessage<Link>(correctly("Link"), &Link::frame, &Link::name, &Link::descriptionName, &Link::parentJoint,
-                        &Link::mass, &Link::frictionMaterial, &Link::type, &Link::visual, &Link::childrenJoints);
+                        &Link::mass, &Link::frictionMaterial, &Link::type, &Link::visual, &Link::visuals,
+                        &Link::collisions, &Link::childrenJoints);
     expectMessage<Joint>("Could not query Joint as it seems not correctly constructed", &Joint::frame, &Joint::name,
                          &Joint::parentLink, &Joint::childLink, &Joint::type, &Joint::moves, &Joint::hasMotor,
                          &Joint::limits, &Joint::effort, &Joint::velocity, &Joint::damping, &Joint::friction,

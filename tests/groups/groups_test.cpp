@@ -20,15 +20,6 @@ std::string const hand = actuator("Hand", "A3", "<group>" + subJoint("F1") + sub
 
 }  // namespace
 
-TEST(JointGroups, AreOnePerChainWithTheCoupledOnesInFront)
-{
-    Sim::Model const model(robot(joints + hand + chainB + chainA));
-    EXPECT_THAT(namesOf(model.jointGroups()), ElementsAre("B", "Hand", "A"));
-    EXPECT_THAT(namesOf(model.jointGroup("Hand")->joints()), ElementsAre("F1", "F2"));
-    EXPECT_THAT(namesOf(model.jointGroupsOfJoint("A1")), ElementsAre("A"));
-    EXPECT_THAT(model.jointGroupsOfJoint("Base"), IsEmpty());
-}
-
 TEST(JointGroups, ListAJointAsOftenAsChainsDo)
 {
     Sim::Model const model(robot(joints + chain("A", "Base", {"A1", "A2", "A1"}) + chain("Z", "A2", {"A1", "A3"})));

@@ -1,49 +1,15 @@
-#include <cstdlib>
-#include <new>
-
 #include <gtest/gtest.h>
 
+#include "allocations.hpp"
 #include "configurations.hpp"
 #include "sim/link.hpp"
 #include "sim/model.hpp"
-
-namespace {
-
-thread_local std::size_t allocations = 0;
-
-}  // namespace
-
-// Counted for the whole program, and otherwise as the standard library does it.
-[[gnu::noinline]] void* operator new(std::size_t size)
-{
-    ++allocations;
-    if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-[[gnu::noinline]] void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace KinematicsTest {
 
 namespace {
 
-template <class Action>
-std::size_t allocationsOf(Action const& action)
-{
-    std::size_t const before = allocations;
-    action();
-    return allocations - before;
-}
+using Tests::allocationsOf;
 
 TEST(Allocations, PosesAndJacobiansNeedNone)
 {

@@ -9,7 +9,13 @@
 #include <vector>
 
 #include "files.hpp"
+#include "sim/actuator.hpp"
+#include "sim/frame.hpp"
+#include "sim/joint.hpp"
 #include "sim/kinematics.hpp"
+#include "sim/link.hpp"
+#include "sim/model.hpp"
+#include "sim/sensor.hpp"
 
 // Robots, and joint values that come as they may.
 namespace KinematicsTest {
@@ -43,6 +49,22 @@ inline Sim::Configuration randomConfiguration(Sim::Kinematics const& kinematics,
         configuration.set(i, values(generator));
     }
     return configuration;
+}
+
+/// Calls `visit` with the frame of each link, joint, sensor and actuator.
+template <class Visit>
+void forEachFrame(Sim::Model const& model, Visit const& visit)
+{
+    auto const visitAll = [&](auto const& elements) {
+        for (auto const* const element : elements) {
+            SCOPED_TRACE(element->name());
+            visit(*element->frame());
+        }
+    };
+    visitAll(model.links());
+    visitAll(model.joints());
+    visitAll(model.sensors());
+    visitAll(model.actuators());
 }
 
 /// What tolerances are meant per: the greatest distance of a link from the root (m).

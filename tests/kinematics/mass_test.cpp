@@ -47,19 +47,6 @@ TEST(Masses, AddUpToOneBody)
     expectInertia(arm, {2, 0, 0, 0, 1, 0, 0, 0, 4});
 }
 
-TEST(Masses, OfABranchCountWhatItCarries)
-{
-    Sim::Model const model(VARO_SOURCE_DIR "/robots/rover.xml");
-    Sim::Kinematics const kinematics(model);
-    Sim::Configuration const configuration(kinematics);
-    auto const massBehind = [&](std::string const& link) {
-        return kinematics.massProperties(configuration, *model.link(link)).mass;
-    };
-    EXPECT_NEAR(massBehind("FrontLeftSteeringLink"), 0.9 + 1.2, tolerance);  // with its wheel, which is made last
-    EXPECT_NEAR(massBehind("LeftRockerLink"), 2.2 + 2 * (0.9 + 1.2), tolerance);
-    EXPECT_NEAR(massBehind("ChassisLink"), kinematics.massProperties(configuration).mass, tolerance);
-}
-
 TEST(Masses, OfARobotWithoutMassAreZero)
 {
     Sim::Model const model("<robot name=\"r\"><link name=\"base\"/></robot>");

@@ -21,32 +21,21 @@ protected:
     std::vector<std::string> const& lines = log.lines;
 };
 
-TEST_F(LogTest, CategoriesStandAtErrorUntilSetOtherwise)
+TEST_F(LogTest, CategoriesStandAtErrorUntilSetOtherwiseEachForItself)
 {
-    EXPECT_EQ(zu::log::level("nobody"), zu::log::error);
-    zu::log::log("nobody", zu::log::error, "here", "heard");
-    zu::log::log("nobody", zu::log::warning, "here", "not heard");
-    EXPECT_THAT(lines, ElementsAre("nobody|2|here|heard"));
-}
-
-TEST_F(LogTest, ALevelHoldsForItsCategoryAlone)
-{
+    EXPECT_EQ(zu::log::level("plain"), zu::log::error);
     zu::log::setLevel("chatty", zu::log::verbose);
     zu::log::setLevel("mute", zu::log::silent);
-    zu::log::log("chatty", zu::log::verbose, "f", "1");
-    zu::log::log("chatty", zu::log::debug, "f", "2");
-    zu::log::log("chattier", zu::log::verbose, "f", "3");
-    zu::log::log("mute", zu::log::fatal, "f", "4");
-    EXPECT_THAT(lines, ElementsAre("chatty|5|f|1"));
-}
-
-TEST_F(LogTest, AddingAKnownCategoryKeepsItsLevel)
-{
-    zu::log::addCategory("added");
-    EXPECT_EQ(zu::log::level("added"), zu::log::error);
-    zu::log::setLevel("added", 17);
-    zu::log::addCategory("added");
-    EXPECT_EQ(zu::log::level("added"), 17);
+    zu::log::addCategory("plain");
+    zu::log::addCategory("chatty");  // which keeps its level
+    EXPECT_EQ(zu::log::level("chatty"), zu::log::verbose);
+    zu::log::log("plain", zu::log::error, "here", "1");
+    zu::log::log("plain", zu::log::warning, "here", "2");
+    zu::log::log("chatty", zu::log::verbose, "there", "3");
+    zu::log::log("chatty", zu::log::debug, "there", "4");
+    zu::log::log("chattier", zu::log::verbose, "there", "5");
+    zu::log::log("mute", zu::log::fatal, "there", "6");
+    EXPECT_THAT(lines, ElementsAre("plain|2|here|1", "chatty|5|there|3"));
 }
 
 TEST_F(LogTest, WhatTheSinkThrowsReachesTheCallerAndHarmsNobodyElse)

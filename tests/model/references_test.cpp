@@ -39,6 +39,9 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
              {"<chain name='D' parent='J'><jointRef name='X'/></chain>", {"38 dangling-reference"}},
              {"<chain name='D' parent='B'><jointRef name='J'/></chain>", {"38 joint-in-two-chains"}},
              {"<joint name='K' min='0' max='1'/>", {"1 joint-in-no-chain"}},
+             {"<joint name='K' min='0' max='1'><mimic joint='X'/></joint><chain name='D' parent='B'>"
+              "<jointRef name='K'/></chain>",
+              {"40 dangling-reference"}},
              {"<sensor name='S' type='fsr' parent='JLink'/>", {"29 dangling-reference"}},
              {"<sensor name='S' type='fsr' parent='B'/>", {}},
              {"<wheel name='W' maxTorque='1' maxVelocity='1' parent='J'/>", {"1 missing-material"}},

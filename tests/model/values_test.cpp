@@ -1,4 +1,4 @@
-#include "native/values.hpp"
+#include "schema/values.hpp"
 
 #include <charconv>
 #include <clocale>
@@ -12,7 +12,7 @@
 
 #include "short_decimal.hpp"
 
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 namespace {
 
 constexpr float infinity = std::numeric_limits<float>::infinity();
@@ -174,4 +174,4 @@ TEST(Values, NumbersReadTheSameUnderADecimalComma)
 }
 
 }  // namespace
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema

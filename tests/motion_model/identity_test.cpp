@@ -48,10 +48,6 @@ TEST(Identity, RefusesARobotThatIsNone)
 {
     EXPECT_THROW(Sim::MotionModel(std::unique_ptr<Varo::Model::Robot>()), std::invalid_argument);
     EXPECT_THROW(Sim::MotionModel("<robotDescription"), Varo::Model::DescriptionError);
-}
-
-TEST(Identity, PassesOnWhatAListingThrows)
-{
     struct Broken : FakeRobot {
         void listWheels(std::vector<std::string>&, Varo::Model::WheelTable&) const override
         {
@@ -61,53 +57,40 @@ TEST(Identity, PassesOnWhatAListingThrows)
     EXPECT_THROW(Sim::MotionModel(std::make_unique<Broken>()), std::domain_error);
 }
 
-void fillArm(FakeRobot& robot)
+TEST(StartAngle, IsThatOfTheStandingPostureAndZeroWhereNoneTells)
 {
-    robot.addChain("Arm", "Torso", {"Shoulder", "Wrist"});
-    robot.addChain("Unrecorded", "", {});
-    robot.chains.erase("Unrecorded");
-    robot.addActuator("Hand", "Wrist");
-    robot.addActuator("Ear", "Head");
-}
-
-TEST(StartAngle, IsZeroWithoutPostures)
-{
-    auto const model = modelOf(fillArm);
-    EXPECT_EQ(startAngle(model, "Wrist"), 0.0F);
-    EXPECT_EQ(startAngle(model, "Hand"), 0.0F);
-    EXPECT_EQ(startAngle(model, "Ear"), std::nullopt);
-    EXPECT_EQ(startAngle(model, ""), std::nullopt);
-}
-
-TEST(StartAngle, IsThatOfTheStandingPosture)
-{
-    auto const model = modelOf([](FakeRobot& robot) {
-        fillArm(robot);
-        robot.postureList = {{"Rest", {{"Shoulder", 9.0F}}}, {"StandInit", {{"Hand", 3.0F}, {"Shoulder", 1.0F}}}};
-    });
-    EXPECT_EQ(startAngle(model, "Shoulder"), 1.0F);
-    EXPECT_EQ(startAngle(model, "Wrist"), 0.0F);
-    EXPECT_EQ(startAngle(model, "Hand"), 3.0F);
-}
-
-TEST(StartAngle, IsZeroWhenThePosturesDoNotTellHowToStand)
-{
-    auto const model = modelOf([](FakeRobot& robot) {
-        fillArm(robot);
-        robot.postureList = {{"Rest", {{"Shoulder", 9.0F}}}};
-    });
-    EXPECT_EQ(startAngle(model, "Shoulder"), 0.0F);
-}
-
-TEST(StartAngle, RefusesAPostureForAnUnlistedName)
-{
-    auto const build = [] {
-        modelOf([](FakeRobot& robot) {
-            fillArm(robot);
-            robot.postureList = {{"StandInit", {{"Ear", 1.0F}}}};
-        });
+    struct {
+        std::vector<Varo::Model::PostureConfig> postures;
+        std::vector<std::optional<float>> angles;  ///< of Shoulder, Wrist, Hand, Ear and ""
+    } const cases[] = {
+        {{}, {0.0F, 0.0F, 0.0F, std::nullopt, std::nullopt}},
+        {{{"Rest", {{"Shoulder", 9.0F}}}}, {0.0F, 0.0F, 0.0F, std::nullopt, std::nullopt}},
+        {{{"Rest", {{"Shoulder", 9.0F}}}, {"StandInit", {{"Hand", 3.0F}, {"Shoulder", 1.0F}}}},
+         {1.0F, 0.0F, 3.0F, std::nullopt, std::nullopt}},
+        {{{"StandInit", {{"Ear", 1.0F}}}}, {}},
     };
-    EXPECT_THROW(build(), std::out_of_range);
+    for (auto const& [postures, angles] : cases) {
+        auto const build = [&postures = postures] {
+            return modelOf([&](FakeRobot& robot) {
+                robot.addChain("Arm", "Torso", {"Shoulder", "Wrist"});
+                robot.addChain("Unrecorded", "", {});
+                robot.chains.erase("Unrecorded");
+                robot.addActuator("Hand", "Wrist");
+                robot.addActuator("Ear", "Head");  // on no joint of a chain, so that no posture may list it
+                robot.postureList = postures;
+            });
+        };
+        if (angles.empty()) {
+            EXPECT_THROW(build(), std::out_of_range);
+            continue;
+        }
+        auto const model = build();
+        std::vector<std::optional<float>> found;
+        for (char const* name : {"Shoulder", "Wrist", "Hand", "Ear", ""}) {
+            found.push_back(startAngle(model, name));
+        }
+        EXPECT_EQ(found, angles);
+    }
 }
 
 }  // namespace

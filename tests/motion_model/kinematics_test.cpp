@@ -121,7 +121,7 @@ TEST(WheelFrame, IsTurnedInTheLinkOfTheParentOfTheWheel)
     expectWheel("Wheel", underTurned);
     expectWheel("DoubledWheel", Transform::fromRows({0, 0, -0.5F, 0.5F, 0, 0.5F, 0, 1, 0.5F, 0, 0, 1.5F}));
     expectWheel("Both", underTurned);
-    expectActuator("Both", underTurned);  // though it hangs elsewhere itself
+    expectActuator("Both", underTurned);  // though it is attached elsewhere itself
     expectActuator("Hand", Transform::fromRows({0, 0, -1, 1, 0, 1, 0, 2, 1, 0, 0, 3}));  // without its own parent
     EXPECT_EQ(answerOf(model, &Sim::MotionModel::transformFromWheel, "Hand"), std::nullopt);
     EXPECT_EQ(answerOf(model, &Sim::MotionModel::transformFromActuator, "Wheel"), std::nullopt);

@@ -50,7 +50,7 @@ TEST(Body, IsThatOfTheFirstTableThatKnowsTheName)
 TEST(Body, OfAJointHidesTheRootsOfTheSameName)
 {
     auto const model = modelOf([](FakeRobot& robot) {
-        fill(robot);
+        giveBody(robot.root, 2.0F);
         giveBody(robot.addJoint("Torso"), 8.0F);
     });
     EXPECT_EQ(answerOf(model, &Motion::mass, "Torso"), 8.0F);

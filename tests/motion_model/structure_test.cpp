@@ -8,7 +8,7 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 
-/// The torso carries Arm and Tail; on the arm's Wrist hang two hands and the chain Tool; on HandA hangs Nail.
+/// The torso carries Arm and Tail; two hands and the chain Tool are attached to the arm's Wrist, Nail to HandA.
 void fill(FakeRobot& robot)
 {
     robot.addChain("Tail", "Torso", {"Tail2", "Tail1"});
@@ -20,7 +20,7 @@ void fill(FakeRobot& robot)
     robot.addActuator("Adrift", "Nowhere");
 }
 
-TEST(Structure, OfAChainIsItsJointsAndWhatHangsOnThem)
+TEST(Structure, OfAChainIsItsJointsAndWhatIsAttachedToThem)
 {
     auto const model = modelOf(fill);
     EXPECT_THAT(model.jointNames("Arm"), ElementsAre("Elbow", "Wrist"));
@@ -96,7 +96,7 @@ TEST(Structure, GivesAJointToTheFirstChainOfTheDescription)
     EXPECT_EQ(model.chainNameFromJoint("Torso"), "");
 }
 
-TEST(Following, IsWhatHangsOnAJointInBuildingOrder)
+TEST(Following, IsWhatIsAttachedToAJointInBuildingOrder)
 {
     auto const model = modelOf(fill);
     EXPECT_THAT(model.followingJoints("Torso"), ElementsAre("Tail2", "Elbow"));

@@ -52,7 +52,7 @@ protected:
         }
     }
 
-    /// Where a joint hangs and stands in the frame of the link before it.
+    /// What a joint is attached to, and its pose in the frame of the link before it.
     std::pair<std::string, Transform> placeOf(std::string const& joint, std::string const& linkBefore)
     {
         Transform pose;
@@ -246,7 +246,7 @@ TEST_P(Agreement, OnGroups)
         foundParents.push_back(group->parent() == nullptr ? "" : group->parent()->name());
     }
     EXPECT_EQ(foundActuators, actuators);
-    EXPECT_EQ(foundParents, parents) << "the example robots list each chain behind the one it hangs on";
+    EXPECT_EQ(foundParents, parents) << "the example robots list each chain behind the one it is attached to";
 }
 
 TEST_P(Agreement, OnMotorsOfJoints)

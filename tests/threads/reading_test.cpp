@@ -37,28 +37,20 @@ std::vector<std::string> inThreads(std::function<std::string()> const& action)
     return results;
 }
 
-template <class Element>
-void print(std::ostream& out, std::vector<Element const*> const& elements)
-{
-    for (Element const* const element : elements) {
-        Varo::Math::Transform const pose = Sim::Frame::globalPosition(element->frame());
-        out << element->name();
-        for (float const entry : pose.rows()) {
-            out << ' ' << entry;
-        }
-        out << '\n';
-    }
-}
-
 /// All elements with their names and poses, and what the look-ups by name find.
 std::string contentsOf(Sim::Model const& model)
 {
     std::ostringstream out;
     out << model.name() << model.prettyName(0) << model.rootLink()->name() << '\n';
-    print(out, model.links());
-    print(out, model.joints());
-    print(out, model.sensors());
-    print(out, model.actuators());
+    auto const print = [&](auto const& elements) {
+        for (auto const* const element : elements) {
+            out << element->name() << testing::PrintToString(Sim::Frame::globalPosition(element->frame()).rows());
+        }
+    };
+    print(model.links());
+    print(model.joints());
+    print(model.sensors());
+    print(model.actuators());
     for (Sim::Link const* const link : model.links()) {
         out << (model.link(link->name()) == link) << (model.link(link->descriptionName()) == link);
     }

@@ -45,6 +45,9 @@ TEST_F(Dump, PrintsEveryNumberAndName)
         "mass": {"mass": 4.5, "com": [0, 0, -0.01], "inertia": [0, 0, 0, 0, 0, 0, 0, 0, 0]},
         "frictionMaterial": "gum",
         "visual": {"meshPath": "pelvis.dae", "meshTransform": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1]},
+        "visuals": [{"name": "", "pose": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1],
+                     "geometry": {"type": "mesh", "uri": "pelvis.dae", "scale": [1, 1, 1]}, "material": null}],
+        "collisions": [],
         "localPosition": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1],
         "globalPosition": [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1]})")
                                            .dump());
@@ -63,6 +66,37 @@ TEST_F(Dump, PrintsEveryNumberAndName)
         "globalPosition": [1, 0, 0, 0.2, 0, 1, 0, -0, 0, 0, 1, -0, 0, 0, 0, 1],
         "bufferSize": 3686400, "width": 640, "height": 480})")
                                              .dump());
+}
+
+TEST_F(Dump, PrintsShapesWithWhatTheirKindHas)
+{
+    Json const link = Json::parse(run({"dump", "-"}, R"(<robotDescription name="R"><root name="B">
+      <visual name="top"><placement xyz="1 2 3"/><box size="1 2 3"/>
+        <material name="red" color="1 0 0 1"/></visual>
+      <visual><mesh file="m.dae" scale="1 1 0.5"/><material texture="t.png"/></visual>
+      <collision name="hull"><cylinder radius="0.5" length="2"/></collision>
+      <collision><capsule radius="0.5" length="2"/></collision><collision><sphere radius="0.5"/></collision>
+    </root></robotDescription>)")
+                                      .out)["links"][0];
+    Json visuals = link["visuals"];
+    EXPECT_EQ(visuals[0]["pose"].dump(), "[1,0,0,1,0,1,0,2,0,0,1,3,0,0,0,1]");
+    for (Json& visual : visuals) {
+        visual.erase("pose");
+    }
+    EXPECT_EQ(visuals.dump(), Json::parse(R"([
+        {"name": "top", "geometry": {"type": "box", "size": [1, 2, 3]},
+         "material": {"name": "red", "rgba": [1, 0, 0, 1], "texture": ""}},
+        {"name": "", "geometry": {"type": "mesh", "uri": "m.dae", "scale": [1, 1, 0.5]},
+         "material": {"name": "", "rgba": null, "texture": "t.png"}}])")
+                                  .dump());
+    std::string geometries;
+    for (Json const& collision : link["collisions"]) {
+        EXPECT_EQ(keysOf(collision), (Keys{"name", "pose", "geometry"}));
+        geometries += collision["geometry"].dump();
+    }
+    EXPECT_EQ(geometries, R"({"type":"cylinder","radius":0.5,"length":2})"
+                          R"({"type":"capsule","radius":0.5,"length":2}{"type":"sphere","radius":0.5})");
+    EXPECT_EQ(link["visual"]["meshPath"], "m.dae") << "the first mesh";
 }
 
 TEST_F(Dump, PrintsTheShortestNumbersWhateverTheLocale)

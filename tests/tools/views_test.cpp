@@ -48,6 +48,7 @@ root link     PelvisLink
 links         3
 joints        2: 2 actuated
 total mass    7 kg
+visuals       3: 3 mesh
 actuators     2: 2 Angle
 sensors       3: 2 Angle, 1 Camera
 symmetries    1
@@ -71,7 +72,7 @@ TEST_F(Info, TellsWhichJointsAreDriven)
 TEST_F(Info, SummarisesWhatCouldNotBeCarriedOver)
 {
     std::string const info = run({"info", "-"}, R"(<robot name="r">
-  <link name="base"><collision/></link><link name="tip"><collision/></link>
+  <link name="base"><self_filter/></link><link name="tip"><self_filter/></link>
   <joint name="j" type="floating"><parent link="base"/><child link="tip"/></joint>
 </robot>)")
                                  .out;
@@ -190,6 +191,24 @@ TEST_F(Show, PrintsAllThatBearsTheName)
           "\n  reflectedSymmetricReversed  no\n"}) {
         EXPECT_NE(shown.find(fact), std::string::npos) << fact << shown;
     }
+}
+
+TEST_F(Show, PrintsALineForEachShapeOfALink)
+{
+    std::string const rover = robots + "rover.xml";
+    std::string const shown = run({"show", "ChassisLink", rover}).out;
+    std::string const bar =
+        "name FrontBar, pose xyz 0.265 0.000 -0.060  rpy 0.000 0.000 0.000, geometry type box, "
+        "size 0.03 0.32 0.04";
+    EXPECT_NE(shown.find("\n                              " + bar + ", material name black, rgba 0.05 0.05 0.05 1\n"),
+              std::string::npos)
+        << shown;
+    EXPECT_NE(shown.find("\n  collisions                  name Hull, pose "), std::string::npos) << shown;
+    std::string const info = run({"info", rover}).out;
+    EXPECT_NE(info.find("\nvisuals       15: 14 mesh, 1 box\ncollisions    8: 3 box, 5 cylinder\n"), std::string::npos)
+        << info;
+    Json const counts = Json::parse(run({"info", "--json", rover}).out);
+    EXPECT_EQ(counts["collisions"].dump(), R"({"box":3,"cylinder":5})");
 }
 
 TEST_F(Show, FindsLinksByTheirUrdfName)

@@ -57,27 +57,4 @@ TEST(UrdfChains, KeepTheOrderOfSiblingsBehindTheContinuation)
     }
 }
 
-TEST(UrdfJoints, KeepTheirKindAndLimits)
-{
-    Tables const tables = tablesOf(readFile(dataFile("awkward_axes.urdf")));
-    JointConfig const& down = tables.joints.at("down");
-    EXPECT_EQ(down.jointType, revolute);
-    EXPECT_EQ(down.minAngle, -1.0F);
-    EXPECT_EQ(down.maxAngle, 1.0F);
-    EXPECT_EQ(down.maxTorque, 10.0F);
-    EXPECT_EQ(down.maxAngularSpeed, 2.0F);
-    EXPECT_TRUE(down.hasMotor);
-    EXPECT_EQ(tables.joints.at("skew").minAngle, -INFINITY);
-    EXPECT_EQ(tables.joints.at("skew").maxAngle, INFINITY);
-    EXPECT_EQ(tables.joints.at("slide").jointType, prismatic);
-    for (char const* still : {"tool", "afloat", "on_a_plane"}) {
-        JointConfig const& config = tables.joints.at(still);
-        EXPECT_EQ(config.jointType, fixed) << still;
-        EXPECT_FALSE(config.hasMotor) << still;
-        EXPECT_EQ(config.minAngle, 0.0F);
-        EXPECT_EQ(config.maxAngle, 0.0F);
-    }
-    EXPECT_THAT(complaintsAbout(readFile(dataFile("awkward_axes.urdf"))), ElementsAre("joint-frozen", "joint-frozen"));
-}
-
 }  // namespace

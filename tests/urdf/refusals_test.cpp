@@ -77,7 +77,19 @@ std::vector<Refusal> const refusals = {
      twoLinks("<link name=\"b\"><inertial><mass @value=\"heavy\"/><inertia ixx=\"1\"/></inertial></link>" +
               joint("A", "root", "a") + joint("B", "root", "b")),
      "not-a-number"},
-    {"mimic of nobody", jointWith("<mimic @joint=\"B\"/>"), "unknown-leader"},
+    {"radius that is none",
+     "<robot name=\"r\"><link name=\"root\"><collision><geometry>\n<sphere "
+     "@radius=\"nan\"/></geometry></collision></link>"
+     "</robot>",
+     "not-a-number"},
+    {"scale without bound",
+     "<robot name=\"r\"><link name=\"root\"><visual><geometry><mesh filename=\"m\" @scale=\"1 inf "
+     "1\"/></geometry></visual>"
+     "</link></robot>",
+     "not-a-number"},
+    {"word for a colour",
+     "<robot name=\"r\"><link name=\"root\"/><material name=\"m\"><color @rgba=\"red\"/></material></robot>",
+     "not-a-number"},
     {"mimic of itself", jointWith("@<mimic joint=\"A\"/>"), "mimic-circle"},
     {"multipliers beyond all bounds",
      twoLinks("<link name=\"b\"/><link name=\"c\"/>" + joint("A", "root", "a") +

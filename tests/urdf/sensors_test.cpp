@@ -59,32 +59,4 @@ TEST(UrdfSensors, StandWhereTheTextSaysWithTheirSizes)
     EXPECT_EQ(model.arrayDepthSensor("scan")->height(), 2);
 }
 
-TEST(UrdfVisuals, KeepTheFirstMeshAndSayWhatIsLost)
-{
-    std::string const mesh = "<geometry><mesh filename=\"first.dae\"/></geometry>";
-    auto const withVisuals = [](std::string const& visuals) {
-        return robot("<link name=\"root\">" + visuals + "</link>");
-    };
-    std::string const box = "<visual><geometry><box size=\"1 1 1\"/></geometry></visual>";
-    std::string const offset = "<origin xyz=\"0 0 2\" rpy=\"0 0.5 0\"/>";
-    struct Case {
-        std::string visuals;
-        std::vector<std::string> complaints;
-        char const* mesh;
-    };
-    for (Case const& c : {Case{"<visual>" + mesh + "</visual>", {}, "first.dae"}, Case{box, {}, ""},
-                          Case{box + "<visual>" + mesh + "</visual>", {"visuals-lost"}, "first.dae"},
-                          Case{"<visual>" + offset + mesh + "</visual>", {"mesh-offset-lost"}, "first.dae"},
-                          Case{"<visual><geometry><mesh filename=\"m\" scale=\"1 1 2\"/></geometry></visual>",
-                               {"mesh-scale-lost"},
-                               "m"}}) {
-        SCOPED_TRACE(c.visuals);
-        EXPECT_EQ(complaintsAbout(withVisuals(c.visuals)), c.complaints);
-        EXPECT_EQ(tablesOf(withVisuals(c.visuals)).root.meshName, c.mesh);
-    }
-    JointConfig const root = tablesOf(withVisuals("<visual>" + offset + mesh + "</visual>")).root;
-    EXPECT_EQ(root.meshPosition.z, 2.0F);
-    EXPECT_EQ(root.meshOrientation.y, 0.5F);
-}
-
 }  // namespace

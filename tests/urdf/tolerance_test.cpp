@@ -66,11 +66,11 @@ TEST(UrdfTolerance, TakesLimitsWithoutBoundsAsNone)
 {
     std::string const text = robot(link("root") + link("a") +
                                    joint("A", "root", "a", "<limit lower=\"-inf\" upper=\"1e308\" effort=\"inf\"/>"));
-    EXPECT_THAT(complaintsAbout(text), ElementsAre("unlimited"));
+    EXPECT_THAT(complaintsAbout(text), ElementsAre());
     JointConfig const boundless = tablesOf(text).joints.at("A");
     EXPECT_EQ(boundless.minAngle, -INFINITY);
     EXPECT_EQ(boundless.maxAngle, INFINITY);
-    EXPECT_EQ(boundless.maxTorque, 0.0F);
+    EXPECT_EQ(boundless.maxTorque, INFINITY);
 
     auto const limited = [](std::string const& limits) {
         return robot(link("root") + link("a") + joint("A", "root", "a", "<limit " + limits + "/>"));
@@ -78,7 +78,7 @@ TEST(UrdfTolerance, TakesLimitsWithoutBoundsAsNone)
     JointConfig const farthest = tablesOf(limited("lower=\"-1e30\" upper=\"1e30\"")).joints.at("A");
     EXPECT_EQ(farthest.minAngle, -1e30F);
     EXPECT_EQ(farthest.maxAngle, 1e30F);
-    for (char const* const limits : {"lower=\"1e31\"", "upper=\"-inf\"", "velocity=\"-1e31\""}) {
+    for (char const* const limits : {"lower=\"1e31\"", "upper=\"-inf\"", "upper=\"1\" velocity=\"-1e31\""}) {
         EXPECT_THAT(complaintsAbout(limited(limits)), ElementsAre("not-a-number")) << limits;
     }
 }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// What is written from the tables that the reader of the native dialect obeys.
+/// What is written from the tables that the readers obey: here that of the native dialect.
 namespace Varo::Model::Native {
 
 /// The XML schema (XSD 1.0).
@@ -16,5 +16,12 @@ std::string writeElementReference();
 std::string writeFindingReference();
 
 }  // namespace Varo::Model::Native
+
+namespace Varo::Model::Urdf {
+
+/// The part of the documentation that lists every element, attribute and type of URDF, in Markdown.
+std::string writeElementReference();
+
+}  // namespace Varo::Model::Urdf
 
 #endif

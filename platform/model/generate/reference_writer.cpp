@@ -1,3 +1,4 @@
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -47,6 +48,17 @@ void writeChildren(std::ostream& out, ElementInfo const& element)
     }
 }
 
+std::string defaultOf(AttributeInfo const& attribute)
+{
+    if (attribute.required) {
+        return "required";
+    }
+    if (attribute.isDefault == nullptr) {
+        return "not stated";
+    }
+    return attribute.defaultText.empty() ? "empty" : code(attribute.defaultText);
+}
+
 void writeAttributes(std::ostream& out, ElementInfo const& element)
 {
     if (element.attributes.size() == 0) {
@@ -54,23 +66,54 @@ void writeAttributes(std::ostream& out, ElementInfo const& element)
     }
     out << "| attribute | type | unit | default | meaning |\n| --- | --- | --- | --- | --- |\n";
     for (AttributeInfo const& attribute : element.attributes) {
-        std::string const defaultText = attribute.defaultText.empty() ? "empty" : code(attribute.defaultText);
         out << "| " << code(attribute.name) << " | " << attribute.type->name << " | " << attribute.unit << " | "
-            << (attribute.required ? "required" : defaultText) << " | " << attribute.meaning << " |\n";
+            << defaultOf(attribute) << " | " << attribute.meaning << " |\n";
     }
     out << '\n';
 }
 
-/// One element, and below it those that stand in it.
-void writeElement(std::ostream& out, ElementInfo const& element, std::string const& path)
+std::string contentOf(ElementInfo const& element)
 {
-    out << "#### `" << path << "`\n\n" << sentence(element.meaning) << "\n\n";
+    std::ostringstream out;
+    out << sentence(element.meaning) << "\n\n";
     writeChildren(out, element);
     writeAttributes(out, element);
-    for (ChildInfo const& child : element.children) {
-        writeElement(out, *child.element, path + "/" + std::string(child.element->name));
-    }
+    return out.str();
 }
+
+/// All that is to be said of an element and those inside, but for where it stands.
+std::string wholeContentOf(ElementInfo const& element)
+{
+    std::string content = contentOf(element);
+    for (ChildInfo const& child : element.children) {
+        content += wholeContentOf(*child.element);
+    }
+    return content;
+}
+
+/// One element, and below it those that stand in it; what stands in several places is written at the first of them.
+class ElementSections {
+public:
+    explicit ElementSections(std::ostream& out) : _out(out) {}
+
+    void write(ElementInfo const& element, std::string const& path)
+    {
+        _out << "#### `" << path << "`\n\n";
+        auto const [first, isNew] = _pathOf.try_emplace(wholeContentOf(element), path);
+        if (!isNew) {
+            _out << "As " << code(first->second) << ".\n\n";
+            return;
+        }
+        _out << contentOf(element);
+        for (ChildInfo const& child : element.children) {
+            write(*child.element, path + "/" + std::string(child.element->name));
+        }
+    }
+
+private:
+    std::ostream& _out;
+    std::map<std::string, std::string> _pathOf;  ///< by the content
+};
 
 void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
 {
@@ -86,9 +129,9 @@ void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
 std::string writeElementReference()
 {
     std::ostringstream out;
-    writeElement(out, robotDescriptionElement, std::string(robotDescriptionElement.name));
+    ElementSections(out).write(robotDescriptionElement, std::string(robotDescriptionElement.name));
     out << "| type | a value is |\n| --- | --- |\n";
-    for (ValueType const* type : usedTypes()) {
+    for (ValueType const* type : usedTypes(robotDescriptionElement)) {
         out << "| " << type->name << " | " << type->meaning;
         for (Word const& word : type->words) {
             out << (&word == type->words.begin() ? ": " : ", ") << code(word.word);

@@ -46,11 +46,11 @@ void writeRestriction(Lines& out, std::string const& name, std::string const& ba
     out.close("xs:simpleType");
 }
 
-void writeList(Lines& out, std::string const& name, int length)
+void writeList(Lines& out, std::string const& name, std::string const& item, int length)
 {
     out.open("xs:simpleType name=\"" + name + "\"");
     out.open("xs:restriction");
-    out.line("<xs:simpleType><xs:list itemType=\"number\"/></xs:simpleType>");
+    out.line("<xs:simpleType><xs:list itemType=\"" + item + "\"/></xs:simpleType>");
     out.empty("xs:length value=\"" + std::to_string(length) + "\"");
     out.close("xs:restriction");
     out.close("xs:simpleType");
@@ -61,16 +61,23 @@ void writeTypes(Lines& out)
     std::string const number = "[+\\-]?([0-9]+(\\.[0-9]*)?|\\.[0-9]+)([eE][+\\-]?[0-9]+)?";
     writeRestriction(out, "text", "xs:string", "<xs:minLength value=\"0\"/>");
     writeRestriction(out, "line", "xs:token", "<xs:minLength value=\"1\"/>");
+    writeRestriction(out, "file", "xs:string", "<xs:minLength value=\"1\"/>");
     writeRestriction(out, "name", "xs:string",
                      "<xs:minLength value=\"1\"/><xs:maxLength value=\"" + std::to_string(longestName) + "\"/>");
-    writeRestriction(out, "number", "xs:token", "<xs:pattern value=\"" + number + "\"/>");
+    std::string const numberFacet = "<xs:pattern value=\"" + number + "\"/>";
+    writeRestriction(out, "number", "xs:token", numberFacet);
+    writeRestriction(out, "length", "xs:float", "<xs:minInclusive value=\"0\"/>" + numberFacet);
+    writeRestriction(out, "channel", "xs:float",
+                     "<xs:minInclusive value=\"0\"/><xs:maxInclusive value=\"1\"/>" + numberFacet);
     writeRestriction(out, "limit", "xs:token", "<xs:pattern value=\"" + number + "|unlimited\"/>");
     writeRestriction(out, "integer", "xs:int", "<xs:pattern value=\"[+\\-]?[0-9]+\"/>");
     writeRestriction(out, "boolean", "xs:boolean", "<xs:pattern value=\"true|false|1|0\"/>");
-    writeList(out, "vector3", 3);
-    writeList(out, "matrix9", 9);
-    writeList(out, "matrix12", 12);
-    for (ValueType const* type : usedTypes()) {
+    writeList(out, "vector3", "number", 3);
+    writeList(out, "lengths3", "length", 3);
+    writeList(out, "color", "channel", 4);
+    writeList(out, "matrix9", "number", 9);
+    writeList(out, "matrix12", "number", 12);
+    for (ValueType const* type : usedTypes(robotDescriptionElement)) {
         if (type->words.size() > 0) {
             std::string facets;
             for (Word const& word : type->words) {
@@ -144,8 +151,9 @@ void writeGroup(Lines& out, ElementInfo const& element)
 
 void writeAttribute(Lines& out, AttributeInfo const& attribute)
 {
-    std::string const use =
-        attribute.required ? "use=\"required\"" : "default=\"" + escaped(attribute.defaultText) + "\"";
+    std::string const use = attribute.required               ? "use=\"required\""
+                            : attribute.isDefault == nullptr ? "use=\"optional\""
+                                                             : "default=\"" + escaped(attribute.defaultText) + "\"";
     out.open("xs:attribute name=\"" + std::string(attribute.name) + "\" type=\"" + std::string(attribute.type->name) +
              "\" " + use);
     std::string const unit = attribute.unit.empty() ? "" : " [" + std::string(attribute.unit) + "]";
@@ -231,7 +239,7 @@ std::string writeSchema()
     out.line("<!-- Written by the program write_format from the tables of the reader; not to be edited. -->");
     out.open("xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"");
     writeTypes(out);
-    for (ElementInfo const* element : allElements()) {
+    for (ElementInfo const* element : allElements(robotDescriptionElement)) {
         if (holds(*element, Occurrence::once)) {
             writeGroup(out, *element);
         }

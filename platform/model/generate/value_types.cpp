@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "native/elements.hpp"
-
 namespace Varo::Model::Native {
 
 namespace {
@@ -18,9 +16,9 @@ void addTypeOf(AttributeInfo const& attribute, std::vector<ValueType const*>& ty
 
 }  // namespace
 
-std::vector<ElementInfo const*> allElements()
+std::vector<ElementInfo const*> allElements(ElementInfo const& root)
 {
-    std::vector<ElementInfo const*> elements = {&robotDescriptionElement};
+    std::vector<ElementInfo const*> elements = {&root};
     for (std::size_t i = 0; i < elements.size(); ++i) {
         for (ChildInfo const& child : elements[i]->children) {
             if (std::find(elements.begin(), elements.end(), child.element) == elements.end()) {
@@ -31,10 +29,10 @@ std::vector<ElementInfo const*> allElements()
     return elements;
 }
 
-std::vector<ValueType const*> usedTypes()
+std::vector<ValueType const*> usedTypes(ElementInfo const& root)
 {
     std::vector<ValueType const*> types;
-    for (ElementInfo const* element : allElements()) {
+    for (ElementInfo const* element : allElements(root)) {
         for (AttributeInfo const& attribute : element->attributes) {
             addTypeOf(attribute, types);
         }

@@ -7,11 +7,11 @@
 
 namespace Varo::Model::Native {
 
-/// Every element of the dialect, from the root inward, each table once.
-std::vector<ElementInfo const*> allElements();
+/// Every element of the dialect whose root that is, from the root inward, each table once.
+std::vector<ElementInfo const*> allElements(ElementInfo const& root);
 
 /// Every type that attributes and texts of the dialect have, in the order of their first use.
-std::vector<ValueType const*> usedTypes();
+std::vector<ValueType const*> usedTypes(ElementInfo const& root);
 
 }  // namespace Varo::Model::Native
 

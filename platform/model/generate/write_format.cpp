@@ -6,21 +6,34 @@
 #include "format_writer.hpp"
 #include "spliced.hpp"
 
+namespace {
+
+namespace Native = Varo::Model::Native;
+namespace Urdf = Varo::Model::Urdf;
+
+std::string readFile(std::string const& path)
+{
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+}  // namespace
+
 /// Writes the schema and the generated parts of the documentation into the source tree given as argument.
 int main(int argc, char** argv)
 {
-    namespace Native = Varo::Model::Native;
     if (argc != 2) {
         std::cerr << "Usage: write_format SOURCE_TREE\n";
         return 2;
     }
     std::string const tree = argv[1];
-    std::string const docs = tree + "/docs/description-format.md";
-    std::ifstream in(docs);
-    std::string text{std::istreambuf_iterator<char>(in), {}};
-    text = Native::spliced(text, "elements", Native::writeElementReference());
-    text = Native::spliced(text, "findings", Native::writeFindingReference());
-    std::ofstream(docs) << text;
+    std::string const formatPage = tree + "/docs/description-format.md";
+    std::string const urdfPage = tree + "/docs/urdf.md";
+    std::string format = Native::spliced(readFile(formatPage), "elements", Native::writeElementReference());
+    format = Native::spliced(format, "findings", Native::writeFindingReference());
+    std::string const urdf = Native::spliced(readFile(urdfPage), "elements", Urdf::writeElementReference());
+    std::ofstream(formatPage) << format;
+    std::ofstream(urdfPage) << urdf;
     std::ofstream(tree + "/schema/robot-description.xsd") << Native::writeSchema();
     return 0;
 }

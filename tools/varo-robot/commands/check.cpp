@@ -235,7 +235,7 @@ run, a line each on standard error:
 
 Errors refuse the description, warnings are about what loads but is hardly
 meant, and notes say what the reader passed over. What came up while the model
-was built stands at the root element; what concerns the file as a whole bears
+was built stands at the root element; what concerns the file as a whole has
 no line. The rules warn of bodies and motors that cannot be, of mirror pairs
 that do not mirror, and of what has no effect; docs/checking.md lists them with
 their codes and tolerances. With --meshes, each mesh is looked for by the rules

@@ -34,8 +34,13 @@ version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
 actuators, actuatorGroups and sensors, each in the order in which loading made
 its elements.
 
+The visuals and collisions of a link each have a name, a pose and a geometry: its
+type (mesh, box, cylinder, sphere or capsule), the uri and scale of a mesh, the
+size of a box, the radius and length of the others. A visual also has a material
+or null: name, rgba (0 to 1, or null) and texture.
+
 Poses (localPosition, in the parent frame; globalPosition, in the root frame;
-meshTransform, in the link frame) are the 16 numbers of the homogeneous matrix,
+meshTransform and those of shapes, in the link frame) are the 16 numbers of the homogeneous matrix,
 row by row, lengths in metres. Numbers are in SI units and the shortest that
 read back as the same single-precision value; an infinite one, such as the
 limit of a joint that turns without end, is null. Elements refer to each other

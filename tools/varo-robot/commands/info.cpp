@@ -16,6 +16,7 @@
 #include "support/kinds.hpp"
 #include "support/meshes.hpp"
 #include "support/numbers.hpp"
+#include "support/shape_json.hpp"
 #include "support/terminal.hpp"
 
 namespace Tool {
@@ -124,6 +125,42 @@ Json countJson(std::vector<Device const*> const& devices, Kinds const& kinds)
         counts[kind] = count;
     }
     return counts;
+}
+
+/// How many shapes there are of each kind that there is.
+using ShapeCounts = std::map<Varo::Model::GeometryType, std::size_t>;
+
+template <auto shapes>
+ShapeCounts shapeCounts(Sim::Model const& model)
+{
+    ShapeCounts counts;
+    for (Sim::Link const* link : model.links()) {
+        for (Sim::Shape const& shape : (link->*shapes)()) {
+            ++counts[shape.geometry.type];
+        }
+    }
+    return counts;
+}
+
+/// "5: 2 mesh, 3 box"; empty for none.
+std::string countText(ShapeCounts const& counts)
+{
+    std::size_t sum = 0;
+    std::string text;
+    for (auto const& [type, count] : counts) {
+        sum += count;
+        text += (text.empty() ? ": " : ", ") + std::to_string(count) + " " + nameOf(type);
+    }
+    return text.empty() ? "" : std::to_string(sum) + text;
+}
+
+Json countJson(ShapeCounts const& counts)
+{
+    Json json = Json::object();
+    for (auto const& [type, count] : counts) {
+        json[nameOf(type)] = count;
+    }
+    return json;
 }
 
 std::string prettyNames(Varo::Model::Robot const& robot)
@@ -236,6 +273,8 @@ void printForEyes(Sim::Model const& model, Findings const& findings, MeshCount c
     sheet.add("links", linkCount(model));
     sheet.add("joints", jointCount(model));
     sheet.add("total mass", rounded(totalMass(model)) + " kg");
+    addIfAny("visuals", countText(shapeCounts<&Sim::Link::visuals>(model)));
+    addIfAny("collisions", countText(shapeCounts<&Sim::Link::collisions>(model)));
     sheet.add("actuators", countText(model.actuators(), Sim::actuatorKinds));
     sheet.add("sensors", countText(model.sensors(), Sim::sensorKinds));
     sheet.add("symmetries", std::to_string(model.jointSymmetries().size()));
@@ -267,6 +306,8 @@ void printForPrograms(Sim::Model const& model, Findings const& findings, MeshCou
         {"wheels", wheelCount(model)},
         {"joints", model.joints().size()},
         {"mass", static_cast<float>(totalMass(model))},
+        {"visuals", countJson(shapeCounts<&Sim::Link::visuals>(model))},
+        {"collisions", countJson(shapeCounts<&Sim::Link::collisions>(model))},
         {"actuators", countJson(model.actuators(), Sim::actuatorKinds)},
         {"sensors", countJson(model.sensors(), Sim::sensorKinds)},
         {"symmetries", model.jointSymmetries().size()},
@@ -310,9 +351,10 @@ Command const infoCommand = {"info", "Say on one screen what robot this is",
                              R"(Prints the robot's names and version, the dialect of its description, how many
 links, joints, actuators and sensors of each kind it has (joints are actuated,
 coupled to others by an actuator, mimics of others, passive, or do not move), the
-sum of its masses, its chains, how many files of meshes it names and how many of
-them are not found (docs/meshes.md), and what the reader had to remark, one line
-for each kind of
+sum of its masses, how many meshes, boxes, cylinders, spheres and capsules are
+shown of it and collided with, its chains, how many files of meshes it names and
+how many of them are not found (docs/meshes.md), and what the reader had to
+remark, one line for each kind of
 finding; of a URDF description that is what could not be carried over.
 `varo-robot check` lists the findings one by one.
 

@@ -31,7 +31,7 @@ struct Options {
     bool json = false;
 };
 
-/// An element that bears the name.
+/// An element that has the name.
 struct Sighting {
     std::string kind;
     std::string name;
@@ -126,18 +126,25 @@ void Search::addSymmetries()
     }
 }
 
-/// One line for each fact; those of an object within stand among them.
-void printFacts(Sighting const& sighting, Json const& facts, LinkNames const& names)
+void printFact(std::string const& key, std::string const& text)
 {
     constexpr std::size_t width = 28;
+    std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << text << '\n';
+}
+
+/// One line for each fact and each object of a list; the facts of an object within stand among the others.
+void printFacts(Sighting const& sighting, Json const& facts, LinkNames const& names)
+{
     for (auto const& [key, value] : facts.items()) {
         if (value.is_object() && !value.empty()) {
             printFacts(sighting, value, names);
+        } else if (value.is_array() && !value.empty() && value[0].is_object()) {
+            for (Json const& entry : value) {
+                printFact(&entry == &value[0] ? key : "", readable(entry));
+            }
         } else if (value != sighting.name || (key != "name" && key != "descriptionName" && key != "urdfName")) {
             bool const isOfLink = key == "parentLink" || key == "childLink";
-            std::string const text = readable(value);
-            std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ')
-                      << (isOfLink ? names.of(text) : text) << '\n';
+            printFact(key, isOfLink ? names.of(readable(value)) : readable(value));
         }
     }
 }

@@ -31,7 +31,7 @@ Varo::Model::Findings findingsOf(Sim::Model const& model, Tolerances const& tole
 /// By their places in the text.
 void sort(Varo::Model::Findings& findings);
 
-/// The codes that these findings bear.
+/// The codes that these findings have.
 std::vector<std::string> codes();
 
 }  // namespace Tool::Rules

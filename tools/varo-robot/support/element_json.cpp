@@ -11,6 +11,7 @@
 #include "sim/visual_data.hpp"
 #include "support/joint_words.hpp"
 #include "support/json_parts.hpp"
+#include "support/shape_json.hpp"
 
 namespace Tool {
 
@@ -80,6 +81,8 @@ Json ElementJson::of(Sim::Link const& link)
         {"mass", massJson(link.mass())},
         {"frictionMaterial", link.frictionMaterial()},
         {"visual", visualJson(link.visual())},
+        {"visuals", shapesJson(link.visuals())},
+        {"collisions", shapesJson(link.collisions())},
         {"localPosition", localPosition(link.frame())},
         {"globalPosition", globalPosition(link.frame())},
     };

@@ -12,7 +12,7 @@ namespace Tool {
 char const* nameOf(Varo::Model::Severity severity);
 
 /// A line for each, `FILE:LINE:COLUMN: error: sentence [code]`, with its hint indented below. What concerns the whole
-/// file bears no line and column. Coloured when standard error is a terminal.
+/// file has no line and column. Coloured when standard error is a terminal.
 void printFindings(std::ostream& out, std::string const& file, Varo::Model::Findings const& findings);
 
 }  // namespace Tool

@@ -19,12 +19,17 @@ bool isPair(Json const& value)
     return value.is_array() && value.size() == 2 && value[1].is_number_float() && !value[0].is_number();
 }
 
-/// "name value, name value"
+constexpr char nothing[] = "-";
+
+/// "name value, name value", without what has no value.
 std::string members(Json const& object)
 {
     std::string text;
     for (auto const& [key, value] : object.items()) {
-        text += (text.empty() ? "" : ", ") + key + " " + readable(value);
+        std::string const readableValue = readable(value);
+        if (readableValue != nothing) {
+            text += (text.empty() ? "" : ", ") + key + " " + readableValue;
+        }
     }
     return text;
 }
@@ -58,10 +63,10 @@ bool isPose(Json const& value)
 std::string readable(Json const& value)
 {
     if (value.is_null() || (value.is_structured() && value.empty())) {
-        return "-";
+        return nothing;
     }
     if (value.is_string()) {
-        return value.get<std::string>().empty() ? "-" : value.get<std::string>();
+        return value.get<std::string>().empty() ? nothing : value.get<std::string>();
     }
     if (value.is_number_float()) {
         return readableNumber(value.get<float>());

@@ -7,7 +7,8 @@
 
 namespace Tool {
 
-/// A value of an element's JSON for eyes: "-" for none, names separated by commas, poses as origin and angles.
+/// A value of an element's JSON for eyes: "-" for none, names separated by commas, poses as origin and angles, objects
+/// as those of their members that have a value.
 std::string readable(Json const& value);
 
 /// The origin of a pose, for eyes.

@@ -5,6 +5,7 @@
 #include "native/body.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "native/shapes.hpp"
 
 namespace Varo::Model::Native {
 
@@ -18,12 +19,15 @@ constexpr auto offsetRow = optional<&SubActuatorConfig::offset>(
 
 constexpr Attribute<SubActuatorConfig> subJointAttributes[] = {
     named<&SubActuatorConfig::name>("name", names::ofSubJoint, "what the sub-joint is called"),
-    optional<&SubActuatorConfig::meshName>("mesh", "", "", "mesh file of the sub-joint's body"),
+    meshRow<SubActuatorConfig>,
     ratioRow,
     offsetRow,
 };
 constexpr Child<SubActuatorConfig> subJointChildren[] = {
-    poseChild<&SubActuatorConfig::placement, subJointPlacementElement>()};
+    poseChild<&SubActuatorConfig::placement, subJointPlacementElement>(),
+    visualChild<SubActuatorConfig>,
+    collisionChild<SubActuatorConfig>,
+};
 constexpr Element<SubActuatorConfig> subJointElement{
     "subJoint", "a joint of its own without a motor, the next of the group outward", subJointAttributes,
     subJointChildren};
@@ -49,7 +53,8 @@ void readMember(ElementReader& reader, pugi::xml_node node, Group& group)
 /// Whether a reference to the joint of that name says it all.
 bool isFollower(SubActuatorConfig const& subJoint, Records const& robot)
 {
-    return robot.joints.contains(subJoint.name) && subJoint.meshName.empty() && subJoint.placement == Transform();
+    return robot.joints.contains(subJoint.name) && subJoint.meshName.empty() && subJoint.shapes.visuals.empty() &&
+           subJoint.shapes.collisions.empty() && subJoint.placement == Transform();
 }
 
 /// Both kinds of a group's members, because they stand in one order.
@@ -71,11 +76,13 @@ constexpr Element<Group> groupElement{
 constexpr Attribute<ActuatorConfig> attributes[] = {
     named<&ActuatorConfig::name>("name", names::ofActuator, "what the actuator is called"),
     named<&ActuatorConfig::parentJoint>("parent", names::actuatorParent,
-                                        "the joint, or the actuator, that it hangs on"),
+                                        "the joint, or the actuator, that it is attached to"),
     required<&ActuatorConfig::minAngle, LowerLimit>("min", "rad", "smallest value, or `unlimited`"),
     required<&ActuatorConfig::maxAngle, UpperLimit>("max", "rad", "greatest value, or `unlimited`"),
-    optional<&ActuatorConfig::maxAngularSpeed>("maxSpeed", "0", "rad/s", "greatest speed; 0 when not stated"),
-    optional<&ActuatorConfig::maxTorque>("maxTorque", "0", "N*m", "greatest torque; 0 when not stated; carried"),
+    optional<&ActuatorConfig::maxAngularSpeed, UpperLimit>("maxSpeed", "0", "rad/s",
+                                                           "greatest speed, or `unlimited`; 0 when not stated"),
+    optional<&ActuatorConfig::maxTorque, UpperLimit>("maxTorque", "0", "N*m",
+                                                     "greatest torque, or `unlimited`; 0 when not stated; carried"),
 };
 constexpr Child<ActuatorConfig> children[] = {
     poseChild<&ActuatorConfig::placement, devicePlacementElement>(),

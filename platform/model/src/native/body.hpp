@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "native/children.hpp"
 #include "native/schema.hpp"
+#include "schema/children.hpp"
 
 /// What several kinds of elements say in the same way: mass, free attributes and mirror. The record only has to name
 /// its members as the others do.

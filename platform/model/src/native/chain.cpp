@@ -1,9 +1,9 @@
 #include <string>
 #include <utility>
 
-#include "native/children.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "schema/children.hpp"
 
 namespace Varo::Model::Native {
 
@@ -23,7 +23,8 @@ void readJointRef(ElementReader& reader, pugi::xml_node node, ChainConfig& chain
 
 constexpr Attribute<ChainConfig> attributes[] = {
     named<&ChainConfig::name>("name", names::ofChain, "what the chain is called"),
-    named<&ChainConfig::parentJoint>("parent", names::chainParent, "the joint that the chain hangs on, or the root"),
+    named<&ChainConfig::parentJoint>("parent", names::chainParent,
+                                     "the joint that the chain is attached to, or the root"),
     optional<&ChainConfig::tipName>("tip", "", "", "what the chain's tool is called; carried"),
 };
 constexpr Child<ChainConfig> children[] = {

@@ -4,30 +4,12 @@
 #include <string_view>
 
 #include "native/native_codes.hpp"
+#include "schema/name_rule.hpp"
 
 /// All that is to be known of the names in a description: which attributes give names to what, and which refer to it.
 namespace Varo::Model::Native {
 
-/// What a name is from where it stands on, which it must not have been before.
-struct GivenName {
-    unsigned kinds = 0;
-    Complaint twice = {};
-    bool isLocal = false;  ///< whether only elements of one parent must not share it
-    bool isNumber = false;  ///< which may be written in several ways
-};
-
-/// What a name must be anywhere in the text.
-struct WantedName {
-    unsigned kinds = 0;  ///< one of them; 0 when all is right
-    Complaint unknown = {};  ///< without a hint, the name that was probably meant is suggested
-    bool blamesElement = false;  ///< whether that is reported at the element and not at the attribute
-};
-
-/// What it means that a name stands in an attribute.
-struct NameRule {
-    GivenName gives;
-    WantedName wants = {};
-};
+using namespace Schema;
 
 constexpr GivenName unique(unsigned kind, std::string_view twice, bool isLocal = false)
 {
@@ -41,7 +23,7 @@ constexpr WantedName oneOf(unsigned kinds, std::string_view unknown)
 
 namespace names {
 
-/// What bears a name: bits, for one name may be that of several things.
+/// What has a name: bits, for one name may be that of several things.
 enum NameKind : unsigned {
     joint = 1,
     subJoint = 2,
@@ -50,7 +32,7 @@ enum NameKind : unsigned {
     root = 16,
     rootLink = 32,
     inChain = 64,  ///< a joint or a mere name that a chain lists
-    hasAngle = 128,  ///< stands in a chain and has a motor, or is an actuator that hangs on what stands in one
+    hasAngle = 128,  ///< stands in a chain and has a motor, or is an actuator that is attached to what stands in one
     referable = 255,  ///< all kinds that names refer to
     chain = 256,
     sensor = 512,
@@ -107,19 +89,19 @@ inline constexpr NameRule angleOwner{
     {hasAngle,
      {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain that has a motor, and no actuator on one."}}};
 
-/// Things that hang on each other must not do so in a circle.
+/// Things that are attached to each other must not be so in a cycle.
 struct Loop {
-    NameRule const* parent;  ///< the attribute that says what a thing hangs on
-    NameRule const* part;  ///< the attribute, of the thing or its children, by whose name others hang on it
+    NameRule const* parent;  ///< the attribute that says what a thing is attached to
+    NameRule const* part;  ///< the attribute, of the thing or its children, by whose name others are attached to it
     Complaint complaint;  ///< in which % is the thing
 };
 inline constexpr Loop loops[] = {
     {&actuatorParent,
      &ofActuator,
-     {&codes::actuatorLoop, "The parents of the actuator % lead back to it.", "Hang one of them on a joint."}},
+     {&codes::actuatorLoop, "The parents of the actuator % lead back to it.", "Attach one of them to a joint."}},
     {&chainParent,
      &chainJoint,
-     {&codes::chainLoop, "The parents of the chain % lead back to it, so that it does not hang on the root."}},
+     {&codes::chainLoop, "The parents of the chain % lead back to it, so that it is not attached to the root."}},
 };
 
 }  // namespace names

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "native/values.hpp"
+#include "schema/values.hpp"
 #include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
 
@@ -19,10 +19,11 @@ std::string filledIn(std::string_view message, std::string_view name)
 
 constexpr std::size_t nothing = static_cast<std::size_t>(-1);
 
-/// The first thing of every circle, where each hangs on the one at that index or on nothing. Each is visited once.
-std::vector<std::size_t> findCircles(std::vector<std::size_t> const& parents)
+/// The first thing of every cycle, where each is attached to the one at that index or to nothing. Each is visited
+/// once.
+std::vector<std::size_t> findCycles(std::vector<std::size_t> const& parents)
 {
-    std::vector<std::size_t> circles;
+    std::vector<std::size_t> cycles;
     std::vector<std::size_t> visitedFrom(parents.size(), nothing);
     for (std::size_t start = 0; start < parents.size(); ++start) {
         std::size_t at = start;
@@ -37,9 +38,9 @@ std::vector<std::size_t> findCircles(std::vector<std::size_t> const& parents)
         for (std::size_t next = parents[at]; next != at; next = parents[next]) {
             first = std::min(first, next);
         }
-        circles.push_back(first);
+        cycles.push_back(first);
     }
-    return circles;
+    return cycles;
 }
 
 }  // namespace
@@ -135,31 +136,31 @@ Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
 
 void Names::checkLoop(names::Loop const& loop)
 {
-    std::vector<Use const*> hanging;
+    std::vector<Use const*> attached;
     std::unordered_map<void const*, std::size_t> indexOfNode;
-    std::unordered_map<Entry const*, std::size_t> bearers;  // of the names that something hangs on
+    std::unordered_map<Entry const*, std::size_t> owners;  // of the names that something is attached to
     for (Use const& use : _uses) {
         if (use.rule == loop.parent) {
-            indexOfNode.emplace(use.node.internal_object(), hanging.size());
-            bearers.emplace(use.entry, nothing);
-            hanging.push_back(&use);
+            indexOfNode.emplace(use.node.internal_object(), attached.size());
+            owners.emplace(use.entry, nothing);
+            attached.push_back(&use);
         }
     }
     for (Use const& use : _uses) {
-        auto const bearer = use.rule == loop.part ? bearers.find(use.entry) : bearers.end();
-        if (bearer != bearers.end() && bearer->second == nothing) {
+        auto const owner = use.rule == loop.part ? owners.find(use.entry) : owners.end();
+        if (owner != owners.end() && owner->second == nothing) {
             auto const own = indexOfNode.find(use.node.internal_object());
             auto const found = own != indexOfNode.end() ? own : indexOfNode.find(use.node.parent().internal_object());
-            bearer->second = found == indexOfNode.end() ? nothing : found->second;
+            owner->second = found == indexOfNode.end() ? nothing : found->second;
         }
     }
     std::vector<std::size_t> parents;
-    for (Use const* use : hanging) {
-        parents.push_back(bearers[use->entry]);
+    for (Use const* use : attached) {
+        parents.push_back(owners[use->entry]);
     }
-    for (std::size_t const first : findCircles(parents)) {
-        pugi::xml_node const node = hanging[first]->node;
-        _diagnostics.report(at(node, hanging[first]->attribute), *loop.complaint.code,
+    for (std::size_t const first : findCycles(parents)) {
+        pugi::xml_node const node = attached[first]->node;
+        _diagnostics.report(at(node, attached[first]->attribute), *loop.complaint.code,
                             filledIn(loop.complaint.message, node.attribute("name").value()),
                             std::string(loop.complaint.hint));
     }

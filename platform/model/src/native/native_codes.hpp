@@ -1,19 +1,10 @@
 #ifndef VARO_MODEL_NATIVE_CODES_HPP
 #define VARO_MODEL_NATIVE_CODES_HPP
 
-#include <string_view>
-
 #include "finding_codes.hpp"
 #include "robot/link_tree_codes.hpp"
 
 namespace Varo::Model::Native {
-
-/// What a table finds fault with, and how it says so.
-struct Complaint {
-    FindingCode const* code = nullptr;  ///< null when nothing can be wrong
-    std::string_view message = {};  ///< in which % stands for the name that it is about
-    std::string_view hint = {};
-};
 
 /// The kinds of findings that only texts of the native dialect give.
 namespace codes {
@@ -37,6 +28,8 @@ inline constexpr FindingCode duplicateName{"duplicate-name", Severity::error,
                                            "Two elements of one kind have the same name."};
 inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning,
                                             "The smallest value is greater than the greatest."};
+inline constexpr FindingCode mirroredMesh{"mirrored-mesh", Severity::warning,
+                                          "A mesh has a negative scale, which mirrors it."};
 inline constexpr FindingCode missingMaterial{"missing-material", Severity::warning,
                                              "A wheel has no material; no model can be built of the robot."};
 
@@ -59,8 +52,9 @@ inline constexpr FindingCode jointInNoChain{"joint-in-no-chain", Severity::warni
                                             "A joint stands in no chain, so that no model will contain it."};
 inline constexpr FindingCode jointInTwoChains{"joint-in-two-chains", Severity::warning,
                                               "A joint stands in chains more than once."};
-inline constexpr FindingCode chainLoop{"chain-loop", Severity::warning,
-                                       "Chains hang on each other in a circle, so that none hangs on the root."};
+inline constexpr FindingCode chainLoop{
+    "chain-loop", Severity::warning,
+    "Chains are attached to each other in a cycle, so that none is attached to the root."};
 inline constexpr FindingCode angleOfUnknown{
     "angle-of-unknown", Severity::warning,
     "A posture gives an angle to what has none; as start posture it keeps a model from being built."};
@@ -77,6 +71,7 @@ inline constexpr FindingCode const* ofDialect[] = {
     &conflictingAttributes,
     &duplicateName,
     &reversedLimits,
+    &mirroredMesh,
     &missingMaterial,
     &missingSensorText,
     &wrongSensorText,

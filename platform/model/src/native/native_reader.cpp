@@ -2,8 +2,8 @@
 
 #include <iterator>
 
-#include "native/element_reader.hpp"
 #include "native/elements.hpp"
+#include "native/strict_reader.hpp"
 #include "robot/mimics.hpp"
 
 namespace Varo::Model {
@@ -46,7 +46,7 @@ Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
     reserve(robot.joints, root, "joint");
     reserve(robot.chains, root, "chain");
     reserve(robot.sensors, root, "sensor");
-    Native::ElementReader reader(diagnostics, robot);
+    Native::StrictReader reader(diagnostics, robot);
     reader.read(Native::robotDescriptionElement, root, robot);
     reader.names().checkReferences(robot);
     checkMimics(robot, diagnostics);

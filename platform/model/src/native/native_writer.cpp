@@ -1,14 +1,14 @@
 #include "native/native_writer.hpp"
 
-#include "native/element_writer.hpp"
 #include "native/elements.hpp"
+#include "schema/element_writer.hpp"
 
 namespace Varo::Model {
 
 std::string writeNative(Robot const& robot)
 {
     auto const records = recordsOf(robot);
-    Native::ElementWriter writer(*records);
+    Schema::ElementWriter writer(*records);
     writer.write(Native::robotDescriptionElement, *records);
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + writer.text();
 }

@@ -52,7 +52,7 @@ constexpr Element<Pose> tipPlacementElement =
 constexpr Element<Pose> devicePlacementElement =
     poseElement("placement", "the device's frame, in the frame of its parent joint");
 constexpr Element<Pose> sensorPlacementElement = poseElement(
-    "placement", "the sensor's frame, in the link frame of its parent (of the root, when it hangs on that)");
+    "placement", "the sensor's frame, in the link frame of its parent (of the root, when it is attached to that)");
 constexpr Element<Pose> subJointPlacementElement = poseElement(
     "placement", "the sub-joint's frame at zero position, in the frame of the joint or sub-joint before it");
 

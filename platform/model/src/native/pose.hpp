@@ -3,9 +3,9 @@
 
 #include <array>
 
-#include "native/element_reader.hpp"
-#include "native/element_writer.hpp"
 #include "native/schema.hpp"
+#include "schema/element_reader.hpp"
+#include "schema/element_writer.hpp"
 
 namespace Varo::Model::Native {
 

@@ -1,5 +1,5 @@
-#include "native/children.hpp"
 #include "native/elements.hpp"
+#include "schema/children.hpp"
 
 namespace Varo::Model::Native {
 
@@ -7,7 +7,7 @@ namespace {
 
 constexpr Attribute<PostureAngle> angleAttributes[] = {
     named<&PostureAngle::name>("of", names::angleOwner,
-                               "a joint of a chain that has a motor, or an actuator that hangs on one"),
+                               "a joint of a chain that has a motor, or an actuator that is attached to one"),
     required<&PostureAngle::value>("value", "rad (m)", "where it stands in this posture"),
 };
 constexpr Element<PostureAngle> angleElement{"angle", "the value of one joint or actuator", angleAttributes};

@@ -4,9 +4,10 @@
 #include <string_view>
 #include <utility>
 
-#include "native/children.hpp"
 #include "native/elements.hpp"
 #include "native/sensor_needs.hpp"
+#include "native/strict_reader.hpp"
+#include "schema/children.hpp"
 
 namespace Varo::Model::Native {
 
@@ -56,7 +57,7 @@ void readSensor(ElementReader& reader, pugi::xml_node node, Records& robot)
     SensorConfig sensor;
     reader.read(sensorElement, node, sensor);
     sensor.textOffset = at(node);
-    bool const isWhole = !reader.names().isAnyLost() && sensor.attributes.count({}) == 0;
+    bool const isWhole = !static_cast<StrictReader&>(reader).names().isAnyLost() && sensor.attributes.count({}) == 0;
     if (isWhole) {
         checkNeeds(sensor, node, reader.diagnostics());
     }

@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "native/native_codes.hpp"
-#include "native/values.hpp"
 #include "range.hpp"
+#include "schema/values.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Native {
+
+using namespace Schema;
 
 namespace {
 

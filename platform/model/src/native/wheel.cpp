@@ -1,6 +1,7 @@
 #include "native/body.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "native/shapes.hpp"
 
 namespace Varo::Model::Native {
 
@@ -8,14 +9,16 @@ namespace {
 
 constexpr Attribute<WheelConfig> attributes[] = {
     named<&WheelConfig::name>("name", names::ofWheel, "what the wheel is called"),
-    named<&WheelConfig::parentJoint>("parent", names::wheelParent, "the joint that the wheel hangs on"),
-    optional<&WheelConfig::meshName>("mesh", "", "", "mesh file of the wheel"),
+    named<&WheelConfig::parentJoint>("parent", names::wheelParent, "the joint that the wheel is attached to"),
+    meshRow<WheelConfig>,
     required<&WheelConfig::maxTorque>("maxTorque", "N*m", "greatest torque of the wheel's motor"),
     required<&WheelConfig::maxVelocity>("maxVelocity", "rad/s", "greatest speed of the wheel"),
 };
 constexpr Child<WheelConfig> children[] = {
     poseChild<&WheelConfig::placement, devicePlacementElement>(),
     massChild<WheelConfig>,
+    visualChild<WheelConfig>,
+    collisionChild<WheelConfig>,
     freeAttributeChild<WheelConfig>,
 };
 

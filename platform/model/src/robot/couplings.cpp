@@ -19,18 +19,19 @@ std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics&
     if (!mimic.textOffset.isKnown()) {
         return none;
     }
-    if (follower.isFixed()) {
+    if (!follower.moves()) {
         diagnostics.report(mimic.textOffset, codes::frozenMimic, "This joint does not move: its mimic means nothing.");
         return none;
     }
     std::size_t const leader = find(tree.jointByName, mimic.leader.name);
     if (leader == none) {
         diagnostics.report(mimic.leader.offset, codes::unknownLeader,
-                           mimic.leader.name.empty() ? "This mimic does not say which joint it follows."
-                                                     : "There is no joint " + quoted(mimic.leader.name) + ".");
+                           mimic.leader.name.empty()
+                               ? "This mimic does not say which joint it follows: the joint moves on its own."
+                               : "There is no joint " + quoted(mimic.leader.name) + ": this one moves on its own.");
         return none;
     }
-    if (tree.joints[leader].isFixed()) {
+    if (!tree.joints[leader].moves()) {
         diagnostics.report(mimic.textOffset, codes::frozenLeader,
                            "The joint " + quoted(mimic.leader.name) + " does not move, and so neither does this one.");
     }
@@ -126,6 +127,7 @@ void followMimics(LinkTree& tree, Diagnostics& diagnostics)
     for (Joint& joint : tree.joints) {
         std::size_t const leader = findLeader(tree, joint, diagnostics);
         joint.mimic = leader == none ? Mimic() : joint.mimic;
+        joint.config.mimic = leader == none && joint.moves() ? nullptr : joint.config.mimic;
         joint.mimic.leaderJoint = leader;
     }
     cutCycles(tree, diagnostics);

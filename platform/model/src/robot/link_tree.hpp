@@ -55,7 +55,7 @@ struct Joint {
     std::size_t parentLink = none;
     std::size_t childLink = none;
 
-    bool isFixed() const { return !isMoving(config.jointType); }
+    bool moves() const { return isMoving(config.jointType); }
 };
 
 struct LinkTree {

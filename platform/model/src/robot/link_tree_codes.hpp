@@ -18,8 +18,9 @@ inline constexpr FindingCode unattachedJoint{"unattached-joint", Severity::error
 inline constexpr FindingCode unknownLink{"unknown-link", Severity::error, "A joint names a link that does not exist."};
 inline constexpr FindingCode twoParents{"two-parents", Severity::error, "A link is the child of two joints."};
 inline constexpr FindingCode jointCycle{"joint-cycle", Severity::error, "Joints lead from a link back to itself."};
-inline constexpr FindingCode unknownLeader{"unknown-leader", Severity::error,
-                                           "A joint mimics one that does not exist, or does not say which."};
+inline constexpr FindingCode unknownLeader{
+    "unknown-leader", Severity::warning,
+    "A joint mimics one that does not exist, or does not say which: it moves on its own."};
 inline constexpr FindingCode mimicCycle{"mimic-circle", Severity::error,
                                         "A joint mimics itself, be it by way of others."};
 

@@ -2,26 +2,21 @@
 
 #include <string>
 
+#include "urdf/values.hpp"
+
 namespace Varo::Model::Urdf {
 
-namespace {
-
-constexpr std::size_t longestName = 1000;  // bytes
-
-}  // namespace
+void reportLongName(TextOffset place, Diagnostics& diagnostics)
+{
+    diagnostics.report(place, codes::nameTooLong, "This name has more than " + std::to_string(longestName) + " bytes.");
+}
 
 std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics)
 {
-    std::string_view const name = node.attribute("name").value();
-    if (name.empty()) {
-        diagnostics.report(at(node), codes::missingName, "This " + std::string(node.name()) + " has no name.",
-                           "Give it an attribute \"name\".");
-        return {};
-    }
-    if (name.size() > longestName) {
-        diagnostics.report(at(node, "name"), codes::nameTooLong,
-                           "This name has more than " + std::to_string(longestName) + " bytes.");
-        return {};
+    std::string_view const stated = node.attribute("name").value();
+    std::string_view name;
+    if (!Name::parse(stated, name)) {
+        reportLongName(at(node, "name"), diagnostics);
     }
     return name;
 }

@@ -1,143 +1,150 @@
-#include <cmath>
 #include <limits>
+#include <memory>
 #include <string>
-#include <utility>
 
-#include "urdf/elements.hpp"
-#include "urdf/numbers.hpp"
+#include "urdf/translation.hpp"
+#include "urdf/urdf_codes.hpp"
+#include "urdf/values.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
 namespace {
 
-enum class Motion { none, limited, unlimited, lost };
-
-struct Kind {
-    std::string_view name;
-    JointType type;
-    Motion motion;
-};
-
-constexpr Kind kinds[] = {
-    {"revolute", revolute, Motion::limited},   {"continuous", revolute, Motion::unlimited},
-    {"prismatic", prismatic, Motion::limited}, {"fixed", fixed, Motion::none},
-    {"planar", fixed, Motion::lost},           {"floating", fixed, Motion::lost},
-};
-
-Kind readKind(pugi::xml_node node, Diagnostics& diagnostics)
+void translateAxis(Joint const& stated, Matrix& axis, Diagnostics& diagnostics)
 {
-    pugi::xml_attribute const type = node.attribute("type");
-    for (Kind const& kind : kinds) {
-        if (kind.name == type.value()) {
-            return kind;
-        }
-    }
-    diagnostics.report(at(node, type), codes::unknownJointType,
-                       type ? "There is no joint type " + quoted(type.value()) + "." : "This joint has no type.",
-                       "The types are revolute, continuous, prismatic, fixed, planar and floating.");
-    return {"fixed", fixed, Motion::none};
-}
-
-void readAxis(pugi::xml_node node, pugi::xml_node element, Matrix& axis, Diagnostics& diagnostics)
-{
-    Vector const direction = readVector(element, "xyz", {1.0, 0.0, 0.0}, diagnostics);
+    Vector const direction = stated.axis.value_or(Axis()).xyz;
     if (direction == Vector{0.0, 0.0, 0.0}) {
-        diagnostics.report(at(element ? element : node, "xyz"), codes::zeroAxis,
-                           "The axis of a moving joint cannot be zero.");
+        diagnostics.report(at(stated.axis->node, "xyz"), codes::zeroAxis, "The axis of a moving joint cannot be zero.");
         return;
     }
     axis = rotationFromZ(direction);
 }
 
-/// The greatest effort or velocity; 0, as when none is stated, for one without bounds.
-float readCapacity(pugi::xml_node limit, char const* attribute, Diagnostics& diagnostics)
+/// Those of a joint that turns or slides within limits.
+void checkLimits(Joint const& stated, Diagnostics& diagnostics)
 {
-    double const value = readLimit(limit, attribute, 1, diagnostics);
-    if (std::isinf(value)) {
-        diagnostics.report(at(limit, attribute), codes::unlimited,
-                           "An infinite " + std::string(attribute) + " is kept as 0, which stands for not stated.");
-        return 0.0F;
-    }
-    return static_cast<float>(value);
-}
-
-void readLimits(pugi::xml_node node, pugi::xml_node limit, Motion motion, JointConfig& config, Diagnostics& diagnostics)
-{
-    config.maxTorque = readCapacity(limit, "effort", diagnostics);
-    config.maxAngularSpeed = readCapacity(limit, "velocity", diagnostics);
-    config.minAngle = static_cast<float>(readLimit(limit, "lower", -1, diagnostics));
-    config.maxAngle = static_cast<float>(readLimit(limit, "upper", 1, diagnostics));
-    if (motion == Motion::unlimited) {  // whatever the limits are, as long as they are numbers
-        config.minAngle = -std::numeric_limits<float>::infinity();
-        config.maxAngle = std::numeric_limits<float>::infinity();
+    std::string const hint = "Give it a limit element, or the type continuous.";
+    if (!stated.limit) {
+        diagnostics.report(at(stated.node), codes::missingLimit, "This joint states no limits; it stays at 0.", hint);
         return;
     }
-    if (!limit) {
-        diagnostics.report(at(node), codes::missingLimit, "This joint states no limits; it stays at 0.",
-                           "Give it a limit element, or the type continuous.");
+    pugi::xml_node const limit = stated.limit->node;
+    if (!limit.attribute("lower") && !limit.attribute("upper")) {
+        diagnostics.report(at(limit), codes::missingLimit,
+                           "This states neither a lower nor an upper limit; the joint stays at 0.", hint);
     }
-    if (config.minAngle > config.maxAngle) {
+    if (stated.limit->lower > stated.limit->upper) {
         diagnostics.report(at(limit), codes::reversedLimits, "The lower limit is above the upper one.");
     }
 }
 
-/// The link that a child element of the joint names.
-Reference readLink(pugi::xml_node joint, pugi::xml_node element, std::string const& role, Diagnostics& diagnostics)
+void translateLimits(Joint const& stated, JointConfig& config, Diagnostics& diagnostics)
 {
-    if (pugi::xml_attribute const link = element.attribute("link")) {
-        return {link.value(), at(element, link)};
+    Limit const limit = stated.limit.value_or(Limit());
+    config.maxTorque = static_cast<float>(limit.effort);
+    config.maxAngularSpeed = static_cast<float>(limit.velocity);
+    if (stated.type == continuous) {
+        config.minAngle = -std::numeric_limits<float>::infinity();
+        config.maxAngle = std::numeric_limits<float>::infinity();
+    } else if (isMoving(stated.type)) {
+        config.minAngle = static_cast<float>(limit.lower);
+        config.maxAngle = static_cast<float>(limit.upper);
+        checkLimits(stated, diagnostics);
     }
-    diagnostics.report(at(element ? element : joint), codes::unattachedJoint,
-                       "This joint does not say which link is its " + role + ".",
+}
+
+void translateDynamics(Joint const& stated, JointConfig& config)
+{
+    Dynamics const dynamics = stated.dynamics.value_or(Dynamics());
+    config.damping = static_cast<float>(dynamics.damping);
+    config.friction = static_cast<float>(dynamics.friction);
+}
+
+float toFloat(double value)
+{
+    return static_cast<float>(value);
+}
+
+std::optional<float> toFloat(std::optional<double> value)
+{
+    return value ? std::optional<float>(toFloat(*value)) : std::nullopt;
+}
+
+void translateExtras(Joint const& stated, JointConfig& config)
+{
+    if (stated.mimic && !stated.mimic->joint.empty()) {
+        config.mimic = std::make_shared<MimicConfig const>(MimicConfig{
+            std::string(stated.mimic->joint), toFloat(stated.mimic->multiplier), toFloat(stated.mimic->offset)});
+    }
+    if (stated.calibration) {
+        config.calibration = std::make_shared<CalibrationConfig const>(
+            CalibrationConfig{toFloat(stated.calibration->rising), toFloat(stated.calibration->falling)});
+    }
+    if (stated.safety) {
+        SafetyController const& safety = *stated.safety;
+        config.safety = std::make_shared<SafetyConfig const>(
+            SafetyConfig{toFloat(safety.softLowerLimit), toFloat(safety.softUpperLimit), toFloat(safety.positionGain),
+                         toFloat(safety.velocityGain)});
+    }
+}
+
+/// The link that is the joint's parent or child, which `role` says.
+Reference toReference(Joint const& joint, std::optional<LinkReference> const& link, std::string const& role,
+                      Diagnostics& diagnostics)
+{
+    pugi::xml_node const node = link ? link->node : joint.node;
+    if (link && node.attribute("link")) {
+        return {link->link, at(node, "link")};
+    }
+    diagnostics.report(at(node), codes::unattachedJoint, "This joint does not say which link is its " + role + ".",
                        "Write <" + role + " link=\"...\"/>.");
     return {};
 }
 
-/// The mimic of a joint that does not move means nothing, whatever its numbers are.
-Mimic readMimic(pugi::xml_node node, bool moves, Diagnostics& diagnostics)
+Model::Mimic toMimic(Mimic const& stated)
 {
-    Mimic mimic;
-    if (node) {
-        mimic.textOffset = at(node);
-        mimic.leader = {node.attribute("joint").value(), at(node, "joint")};
-        mimic.offsetOffset = at(node, "offset");
-    }
-    if (moves) {
-        mimic.ratio = readNumber(node, "multiplier", 1.0, diagnostics);
-        mimic.offset = readNumber(node, "offset", 0.0, diagnostics);
-    }
+    Model::Mimic mimic;
+    mimic.textOffset = at(stated.node);
+    mimic.leader = {stated.joint, at(stated.node, "joint")};
+    mimic.offsetOffset = at(stated.node, "offset");
+    mimic.ratio = stated.multiplier;
+    mimic.offset = stated.offset;
     return mimic;
+}
+
+void translateType(Joint const& stated, JointConfig& config, Diagnostics& diagnostics)
+{
+    config.jointType = stated.type == noJointType ? fixed : stated.type;
+    config.hasMotor = isMoving(config.jointType);
+    if (stated.type == planar || stated.type == floating) {
+        diagnostics.report(
+            at(stated.node, "type"), codes::jointFrozen,
+            "A " + JointTypes::print(stated.type) + " joint cannot be modelled; it is held where it is.");
+    }
 }
 
 }  // namespace
 
-Joint readJoint(pugi::xml_node node, Report const& report)
+Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics)
 {
-    Diagnostics& diagnostics = report.diagnostics;
-    auto const [parent, child, origin, axis, limit, dynamics, mimic] =
-        childrenOf<7>(node, {"parent", "child", "origin", "axis", "limit", "dynamics", "mimic"}, report);
-    Kind const kind = readKind(node, diagnostics);
-    Joint joint;
-    joint.origin = readOrigin(origin, diagnostics);
-    joint.config.name = readName(node, diagnostics);
-    joint.nameOffset = at(node, "name");
-    joint.config.jointType = kind.type;
-    joint.config.hasMotor = !joint.isFixed();
-    joint.config.textOffset = at(node);
-    if (kind.motion == Motion::lost) {
-        diagnostics.report(at(node, "type"), codes::jointFrozen,
-                           "A " + std::string(kind.name) + " joint cannot be modelled; it is held where it is.");
+    Model::Joint joint;
+    joint.config.name = stated.name;
+    joint.config.textOffset = at(stated.node);
+    joint.nameOffset = at(stated.node, "name");
+    joint.origin = stated.origin.value_or(Origin()).pose();
+    translateType(stated, joint.config, diagnostics);
+    translateLimits(stated, joint.config, diagnostics);
+    translateDynamics(stated, joint.config);
+    translateExtras(stated, joint.config);
+    if (joint.moves()) {
+        translateAxis(stated, joint.axis, diagnostics);
     }
-    if (!joint.isFixed()) {
-        readAxis(node, axis, joint.axis, diagnostics);
-        readLimits(node, limit, kind.motion, joint.config, diagnostics);
-        joint.config.damping = static_cast<float>(readNumber(dynamics, "damping", 0.0, diagnostics));
-        joint.config.friction = static_cast<float>(readNumber(dynamics, "friction", 0.0, diagnostics));
+    if (stated.mimic) {
+        joint.mimic = toMimic(*stated.mimic);
     }
-    joint.mimic = readMimic(mimic, !joint.isFixed(), diagnostics);
-    joint.parent = readLink(node, parent, "parent", diagnostics);
-    joint.child = readLink(node, child, "child", diagnostics);
+    joint.parent = toReference(stated, stated.parent, "parent", diagnostics);
+    joint.child = toReference(stated, stated.child, "child", diagnostics);
     return joint;
 }
 

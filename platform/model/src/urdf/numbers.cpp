@@ -49,78 +49,92 @@ bool parseWord(std::string_view word, double& value)
     return true;
 }
 
+}  // namespace
+
+bool parseNumber(std::string_view text, double& value)
+{
+    double number = 0.0;
+    if (!text.empty() && parseShortDecimal(text, number) == text.size()) {
+        value = number;
+        return true;
+    }
+    std::string_view const word = takeWord(text);
+    return parseWord(word, value) && takeWord(text).empty();
+}
+
 void reportNotANumber(TextOffset place, std::string_view text, Diagnostics& diagnostics)
 {
     diagnostics.report(place, codes::notANumber, quoted(text) + " is not a number that can be used here.",
                        "Write a finite decimal number, such as 0.5 or -2e-3.");
 }
 
-}  // namespace
-
-bool parseNumber(std::string_view text, double& value)
+bool isInBounds(double value)
 {
-    std::string_view const word = takeWord(text);
-    return parseWord(word, value) && takeWord(text).empty();
+    return std::abs(value) <= largestNumber;
 }
 
-double readNumber(pugi::xml_node node, char const* attribute, double fallback, Diagnostics& diagnostics)
+bool parseNumbers(std::string_view text, double* values, std::size_t count, std::size_t& found)
 {
-    pugi::xml_attribute const found = node.attribute(attribute);
-    if (!found) {
-        return fallback;
-    }
-    double value = 0.0;
-    if (!parseNumber(found.value(), value) || std::abs(value) > largestNumber) {
-        reportNotANumber(at(node, found), found.value(), diagnostics);
-        return fallback;
-    }
-    return value;
-}
-
-double readLimit(pugi::xml_node node, char const* attribute, int sign, Diagnostics& diagnostics)
-{
-    double value = 0.0;
-    bool const unlimited = parseNumber(node.attribute(attribute).value(), value) && sign * value > largestNumber;
-    return unlimited ? sign * std::numeric_limits<double>::infinity() : readNumber(node, attribute, 0.0, diagnostics);
-}
-
-bool readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* values, std::size_t count,
-                 Diagnostics& diagnostics)
-{
-    std::string_view text = attribute ? attribute.value() : node.child_value();
-    std::size_t found = 0;
-    for (std::string_view word = takeWord(text); !word.empty(); word = takeWord(text)) {
+    text.remove_prefix(endOf(text, 0, isXmlSpace));
+    for (found = 0; !text.empty(); ++found) {
         double value = 0.0;
-        if (!parseWord(word, value) || std::abs(value) > largestNumber) {
-            reportNotANumber(at(node, attribute), word, diagnostics);
+        std::size_t length = parseShortDecimal(text, value);
+        if (length == 0 || (length < text.size() && !isXmlSpace(text[length]))) {
+            length = endOf(text, 0, isOfWord);
+            if (!parseWord(text.substr(0, length), value)) {
+                return false;
+            }
+        }
+        if (!isInBounds(value)) {
             return false;
         }
         if (found < count) {
             values[found] = value;
         }
-        ++found;
-    }
-    if (found != count) {
-        diagnostics.report(at(node, attribute), codes::wrongCount,
-                           "The list has " + std::to_string(found) + " numbers where " + std::to_string(count) +
-                               " belong; missing ones are read as 0, surplus ones are ignored.");
+        text.remove_prefix(endOf(text, length, isXmlSpace));
     }
     return true;
 }
 
-Vector readVector(pugi::xml_node node, char const* attribute, Vector const& fallback, Diagnostics& diagnostics)
+void reportWrongList(TextOffset place, std::string_view text, std::size_t count, std::string_view missing,
+                     Diagnostics& diagnostics)
 {
-    pugi::xml_attribute const found = node.attribute(attribute);
-    if (!found) {
-        return fallback;
+    std::size_t found = 0;
+    for (std::string_view word = takeWord(text); !word.empty(); word = takeWord(text)) {
+        double value = 0.0;
+        if (!parseWord(word, value) || !isInBounds(value)) {
+            reportNotANumber(place, word, diagnostics);
+            return;
+        }
+        ++found;
     }
-    Vector values = {0.0, 0.0, 0.0};
-    return readNumbers(node, found, values.data(), values.size(), diagnostics) ? values : fallback;
+    if (found != count) {
+        diagnostics.report(place, codes::wrongCount,
+                           "The list has " + std::to_string(found) + " numbers where " + std::to_string(count) +
+                               " belong; " + std::string(missing) + ", surplus ones are ignored.");
+    }
+}
+
+void readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* values, std::size_t count,
+                 Diagnostics& diagnostics)
+{
+    std::string_view const text = attribute ? attribute.value() : node.child_value();
+    std::size_t found = 0;
+    if (!parseNumbers(text, values, count, found) || found != count) {
+        reportWrongList(at(node, attribute), text, count, missingIsZero, diagnostics);
+    }
 }
 
 Pose readOrigin(pugi::xml_node origin, Diagnostics& diagnostics)
 {
-    return poseFrom(readVector(origin, "xyz", {}, diagnostics), readVector(origin, "rpy", {}, diagnostics));
+    auto const vector = [&](char const* name) {
+        Vector values = {0.0, 0.0, 0.0};
+        if (pugi::xml_attribute const attribute = origin.attribute(name)) {
+            readNumbers(origin, attribute, values.data(), values.size(), diagnostics);
+        }
+        return values;
+    };
+    return poseFrom(vector("xyz"), vector("rpy"));
 }
 
 }  // namespace Varo::Model::Urdf

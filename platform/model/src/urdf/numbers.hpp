@@ -17,20 +17,26 @@ namespace Varo::Model::Urdf {
 /// the range of numbers.
 bool parseNumber(std::string_view text, double& value);
 
-/// The attribute's value; `fallback` when there is no such attribute.
-double readNumber(pugi::xml_node node, char const* attribute, double fallback, Diagnostics& diagnostics);
+/// Whether products of a few such numbers are still finite in single precision.
+bool isInBounds(double value);
 
-/// As readNumber, but minus infinity (`sign` -1) or infinity (1), which mean "no limit", for one beyond the largest
-/// number on that side.
-double readLimit(pugi::xml_node node, char const* attribute, int sign, Diagnostics& diagnostics);
+/// The numbers of a list, as far as there is room for them, and how many there are. False when one is no number or out
+/// of bounds.
+bool parseNumbers(std::string_view text, double* values, std::size_t count, std::size_t& found);
+
+constexpr std::string_view missingIsZero = "missing ones are read as 0";
+constexpr std::string_view missingIsOpaque = "missing ones are read as 0, a missing opacity as 1";
+
+void reportNotANumber(TextOffset place, std::string_view text, Diagnostics& diagnostics);
+
+/// What is wrong with a list that should have `count` numbers; `missing` says what is made of those that it lacks.
+void reportWrongList(TextOffset place, std::string_view text, std::size_t count, std::string_view missing,
+                     Diagnostics& diagnostics);
 
 /// The first numbers of the list that is the attribute's value or, when `attribute` is null, the element's text; those
-/// that it lacks are 0. False when one is no number.
-bool readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* values, std::size_t count,
+/// that it lacks are left as they are.
+void readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* values, std::size_t count,
                  Diagnostics& diagnostics);
-
-/// The attribute's three numbers; `fallback` when there is no such attribute.
-Vector readVector(pugi::xml_node node, char const* attribute, Vector const& fallback, Diagnostics& diagnostics);
 
 /// The pose that an `origin` element states; the identity for a null node.
 Pose readOrigin(pugi::xml_node origin, Diagnostics& diagnostics);

@@ -20,21 +20,34 @@ inline constexpr FindingCode wrongCount{"wrong-count", Severity::warning,
                                         "A list of numbers is longer or shorter than it should be."};
 inline constexpr FindingCode surplusElement{"surplus-element", Severity::warning,
                                             "An element that may stand once stands again; the first one counts."};
+inline constexpr FindingCode unknownAttribute{
+    "unknown-attribute", Severity::warning, "An attribute is named nearly like one that URDF defines for its element."};
+inline constexpr FindingCode unknownElement{"unknown-element", Severity::warning,
+                                            "An element is named nearly like one that URDF defines where it stands."};
+inline constexpr FindingCode misplacedElement{"misplaced-element", Severity::warning,
+                                              "An element stands where URDF defines none of that name."};
 inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::warning,
                                          "A planar or floating joint is held in its zero position."};
 inline constexpr FindingCode missingLimit{"missing-limit", Severity::warning,
-                                          "A revolute or prismatic joint without a limit element cannot move."};
+                                          "A revolute or prismatic joint without lower and upper limits cannot move."};
 inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning,
                                             "The lower limit of a joint is above the upper one."};
-inline constexpr FindingCode unlimited{"unlimited", Severity::warning,
-                                       "An infinite effort or velocity is kept as 0, which stands for not stated."};
 inline constexpr FindingCode incompleteInertial{
     "incomplete-inertial", Severity::warning, "An inertial states no mass or no inertia; what is missing counts as 0."};
-inline constexpr FindingCode visualsLost{"visuals-lost", Severity::warning,
-                                         "A link has several visuals, of which one mesh is kept."};
-inline constexpr FindingCode meshOffsetLost{"mesh-offset-lost", Severity::warning,
-                                            "The model shows the mesh at the link frame, not where its origin says."};
-inline constexpr FindingCode meshScaleLost{"mesh-scale-lost", Severity::warning, "The scale of a mesh is not kept."};
+inline constexpr FindingCode incompleteShape{
+    "incomplete-shape", Severity::warning, "A visual or collision says no solid, or a mesh no file, and is left out."};
+inline constexpr FindingCode negativeLength{"negative-length", Severity::warning,
+                                            "A length or radius is negative; its magnitude is taken."};
+inline constexpr FindingCode colorRange{"color-range", Severity::warning,
+                                        "A number of a colour is not between 0 and 1; what is beyond is cut."};
+inline constexpr FindingCode unknownMaterial{"unknown-material", Severity::warning,
+                                             "A visual names a material that nothing in the text says more of."};
+inline constexpr FindingCode duplicateMaterial{"duplicate-material", Severity::warning,
+                                               "Two materials of the robot have the same name; the first one counts."};
+inline constexpr FindingCode missingAttribute{"missing-attribute", Severity::warning,
+                                              "An element lacks an attribute that it needs; a number counts as 0."};
+inline constexpr FindingCode unknownTransmissionJoint{"unknown-transmission-joint", Severity::warning,
+                                                      "A transmission drives a joint that does not exist."};
 inline constexpr FindingCode sensorLost{"sensor-lost", Severity::warning,
                                         "A sensor is left out, because no link of the robot carries it."};
 inline constexpr FindingCode sensorKindLost{"sensor-kind-lost", Severity::warning,
@@ -44,12 +57,20 @@ inline constexpr FindingCode sensorFrameLost{"sensor-frame-lost", Severity::warn
 inline constexpr FindingCode sensorSize{"sensor-size", Severity::warning,
                                         "A camera or scanner states no usable number of pixels or points."};
 
+inline constexpr FindingCode foreignAttribute{"foreign-attribute", Severity::note,
+                                              "Attributes that URDF does not define are passed over."};
+
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &missingName, &nameTooLong,        &unknownJointType, &zeroAxis,       &unnamedRobot,
-    &wrongCount,  &surplusElement,     &jointFrozen,      &missingLimit,   &reversedLimits,
-    &unlimited,   &incompleteInertial, &visualsLost,      &meshOffsetLost, &meshScaleLost,
-    &sensorLost,  &sensorKindLost,     &sensorFrameLost,  &sensorSize,
+    &missingName,      &nameTooLong,       &unknownJointType,
+    &zeroAxis,         &unnamedRobot,      &wrongCount,
+    &missingAttribute, &surplusElement,    &unknownAttribute,
+    &unknownElement,   &misplacedElement,  &jointFrozen,
+    &missingLimit,     &reversedLimits,    &incompleteInertial,
+    &incompleteShape,  &negativeLength,    &colorRange,
+    &unknownMaterial,  &duplicateMaterial, &unknownTransmissionJoint,
+    &sensorLost,       &sensorKindLost,    &sensorFrameLost,
+    &sensorSize,       &foreignAttribute,
 };
 
 }  // namespace Varo::Model::Urdf::codes

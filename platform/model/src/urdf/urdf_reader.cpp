@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <iterator>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -10,7 +9,10 @@
 #include "robot/tree_records.hpp"
 #include "robot/unsupported.hpp"
 #include "urdf/elements.hpp"
+#include "urdf/schema.hpp"
 #include "urdf/sensors.hpp"
+#include "urdf/tolerant_reader.hpp"
+#include "urdf/translation.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model {
@@ -39,6 +41,7 @@ public:
 
 private:
     void readElements();
+    void fillTree();
     void readIdentity();
     void readBodies();
     void readSensors();
@@ -47,10 +50,8 @@ private:
     Diagnostics& _diagnostics;
     Unsupported _unsupported;
     Report _report = {_diagnostics, _unsupported};
+    Robot _stated;
     LinkTree _tree;
-    std::vector<pugi::xml_node> _links;  ///< one for one as in the tree
-    std::vector<pugi::xml_node> _extensions;
-    std::vector<pugi::xml_node> _sensors;
     Records _robot;
 };
 
@@ -59,10 +60,12 @@ private:
 Records Reader::read()
 {
     readElements();
+    fillTree();
     connect(_tree, _diagnostics);
     readIdentity();
     readBodies();
     readSensors();
+    translateTransmissions(_stated, _tree, _robot, _diagnostics);
     _unsupported.report(_diagnostics);
     if (!_diagnostics.hasErrors()) {
         addRecords(std::move(_tree), _robot, _diagnostics);
@@ -70,25 +73,32 @@ Records Reader::read()
     return std::move(_robot);
 }
 
+template <class Item>
+void reserve(std::vector<Item>& items, pugi::xml_node root, char const* element)
+{
+    auto const elements = root.children(element);
+    items.reserve(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
+}
+
 void Reader::readElements()
 {
-    auto const joints = _root.children("joint");
+    reserve(_stated.links, _root, "link");
+    reserve(_stated.joints, _root, "joint");
+    TolerantReader reader(_report, _robot);
+    reader.read(robotElement, _root, _stated);
+    reader.reportKinds();
+}
+
+void Reader::fillTree()
+{
     _tree.textOffset = at(_root);
-    _tree.joints.reserve(static_cast<std::size_t>(std::distance(joints.begin(), joints.end())));
-    for (pugi::xml_node child : _root.children()) {
-        std::string_view const name = child.name();
-        if (name == "link") {
-            _links.push_back(child);
-            _tree.links.push_back({readName(child, _diagnostics), at(child), at(child, "name")});
-        } else if (name == "joint") {
-            _tree.joints.push_back(readJoint(child, _report));
-        } else if (name == "gazebo") {
-            _extensions.push_back(child);
-        } else if (name == "sensor") {
-            _sensors.push_back(child);
-        } else if (child.type() == pugi::node_element) {
-            _report.passOver(child);
-        }
+    _tree.links.reserve(_stated.links.size());
+    for (Link const& link : _stated.links) {
+        _tree.links.push_back({link.name, at(link.node), at(link.node, "name")});
+    }
+    _tree.joints.reserve(_stated.joints.size());
+    for (Joint const& joint : _stated.joints) {
+        _tree.joints.push_back(toJoint(joint, _diagnostics));
     }
 }
 
@@ -98,8 +108,8 @@ void Reader::readIdentity()
     _robot.statesActuators = false;
     _robot.statesPostures = false;
     _robot.holdsAllStated = false;
-    _robot.name = _root.attribute("name").value();
-    _robot.version = _root.attribute("version").value();
+    _robot.name = _stated.name;
+    _robot.version = _stated.version;
     if (_robot.name.empty()) {
         _diagnostics.report(at(_root), codes::unnamedRobot, "This robot has no name; it is called \"robot\".");
         _robot.name = "robot";
@@ -108,18 +118,19 @@ void Reader::readIdentity()
 
 void Reader::readBodies()
 {
-    for (std::size_t link = 0; link < _links.size(); ++link) {
-        readBody(_links[link], _tree.bodyOf(_tree.links[link]), _report);
+    Materials const materials(_stated, _diagnostics);
+    for (std::size_t link = 0; link < _stated.links.size(); ++link) {
+        translateBody(_stated.links[link], materials, _tree.bodyOf(_tree.links[link]), _diagnostics);
     }
 }
 
 void Reader::readSensors()
 {
     SensorReader reader(_tree, _robot, _report);
-    for (pugi::xml_node sensor : _sensors) {
+    for (pugi::xml_node const sensor : _root.children("sensor")) {
         reader.readSensor(sensor);
     }
-    for (pugi::xml_node extension : _extensions) {
+    for (pugi::xml_node const extension : _root.children("gazebo")) {
         reader.readExtension(extension);
     }
 }

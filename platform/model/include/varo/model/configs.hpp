@@ -97,7 +97,8 @@ struct CalibrationConfig {
 /// and attributes mean something.
 struct JointConfig {
     std::string name;  ///< under which the table holds the record
-    std::string meshName;  ///< mesh file, as the description states it
+    std::string meshName;  ///< mesh file, as the description states it: its own, or else that of the first mesh among
+                           ///< the visuals, with its place
     float minAngle = 0.0F;  ///< rad (m for prismatic joints); minus infinity when unlimited
     float maxAngle = 0.0F;  ///< rad (m for prismatic joints); infinity when unlimited
     float maxTorque = 0.0F;  ///< N*m (N for prismatic joints); 0 when not stated, infinity when unlimited
@@ -106,10 +107,10 @@ struct JointConfig {
     std::vector<float> inertiaMatrix = std::vector<float>(9, 0.0F);  ///< kg*m^2, 3x3 row by row, about the body's
                                                                      ///< centre of mass, in the axes of the link frame
     Position3D centerOfMass;  ///< m, in the link frame
-    Position3D meshPosition;  ///< m, origin of the mesh in the link frame; carried for displays, the models ignore it
+    Position3D meshPosition;  ///< m, origin of the mesh in the link frame; VisualData leaves it out
     Transform placement;  ///< the joint frame at zero position, in the frame of the joint (or root) before it
     Transform endTransform;  ///< the link frame in the joint frame
-    Position3D meshOrientation;  ///< rad, roll, pitch and yaw of the mesh in the link frame; carried like meshPosition
+    Position3D meshOrientation;  ///< rad, roll, pitch and yaw of the mesh in the link frame; as meshPosition
     std::int32_t mirrorKind = noMirror;  ///< a MirrorKind
     std::string mirrorName;  ///< the symmetric joint, when mirrorKind is not noMirror
     std::int32_t jointType = revolute;  ///< a JointType
@@ -244,6 +245,35 @@ inline TextOffset offsetOf(JointConfig const& joint, Part part)
     bool const isOfBody =
         part == Part::mass || part == Part::centerOfMass || part == Part::inertia || part == Part::material;
     return isOfBody ? joint.bodyOffset : joint.textOffset;
+}
+
+/// The mesh of a record, which alone is shown of a body without visuals, as a visual.
+inline VisualConfig meshVisualOf(JointConfig const& body)
+{
+    VisualConfig visual;
+    visual.position = body.meshPosition;
+    visual.orientation = body.meshOrientation;
+    visual.geometry.uri = body.meshName;
+    visual.textOffset = body.bodyOffset;
+    return visual;
+}
+/// Of a wheel or a sub-joint, whose mesh is at the link frame.
+template <class Config>
+VisualConfig meshVisualOf(Config const& body)
+{
+    VisualConfig visual;
+    visual.geometry.uri = body.meshName;
+    visual.textOffset = body.textOffset;
+    return visual;
+}
+
+/// All that is shown of the body of a joint, the root, a wheel or a sub-joint: its visuals, or else the mesh of the
+/// record alone, if there is one.
+template <class Config>
+std::vector<VisualConfig> visualsOf(Config const& body)
+{
+    bool const isMeshAlone = body.shapes.visuals.empty() && !body.meshName.empty();
+    return isMeshAlone ? std::vector<VisualConfig>{meshVisualOf(body)} : body.shapes.visuals;
 }
 
 /// Joints by their names.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "varo/math/position3d.hpp"
+#include "varo/math/transform.hpp"
 #include "varo/model/place.hpp"
 
 /// What a body looks like and what it collides with. Plain data: copy it freely; reading from several threads is safe.
@@ -55,9 +56,30 @@ struct CollisionConfig : ShapeConfig {};
 
 /// All shapes of one body, in the order of the description.
 struct BodyShapes {
-    std::vector<VisualConfig> visuals;  ///< empty where the mesh of the record, at its place there, is all that is shown
+    std::vector<VisualConfig>
+        visuals;  ///< empty where the mesh of the record, at its place there, is all that is shown
     std::vector<CollisionConfig> collisions;  ///< as stated
 };
+
+/// The pose of the shape's frame in the link frame (m).
+inline Math::Transform poseOf(ShapeConfig const& shape)
+{
+    auto const& [x, y, z] = shape.position;
+    auto const& [roll, pitch, yaw] = shape.orientation;
+    return Math::Transform::fromPosition(x, y, z) * Math::Transform::fromRpy(roll, pitch, yaw);
+}
+
+/// The first visual that is a mesh, which a record of the body has as its mesh where the description states no other;
+/// null when none is.
+inline VisualConfig const* firstMeshOf(BodyShapes const& shapes)
+{
+    for (VisualConfig const& visual : shapes.visuals) {
+        if (visual.geometry.type == GeometryType::mesh) {
+            return &visual;
+        }
+    }
+    return nullptr;
+}
 
 }  // namespace Varo::Model
 

@@ -1,5 +1,6 @@
-#include "values.hpp"
+#include "schema/values.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -9,7 +10,7 @@
 #include "xml/utf8.hpp"
 #include "xml/words.hpp"
 
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 namespace {
 
@@ -172,12 +173,38 @@ bool Line::parse(std::string_view text, std::string& value)
     return !value.empty();
 }
 
+bool File::parse(std::string_view text, std::string& value)
+{
+    value = text;
+    return !value.empty();
+}
+
 bool Name::parse(std::string_view text, std::string& value)
 {
     if (text.empty() || (text.size() > longestName && countCharacters(text) > longestName)) {
         return false;
     }
     value = text;
+    return true;
+}
+
+bool Length::parse(std::string_view text, float& value)
+{
+    float number = 0.0F;
+    if (!parseNumber(text, number) || number < 0.0F) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+bool OptionalNumber::parse(std::string_view text, std::optional<float>& value)
+{
+    float number = 0.0F;
+    if (!parseNumber(text, number)) {
+        return false;
+    }
+    value = number;
     return true;
 }
 
@@ -228,6 +255,28 @@ std::string Vector3::print(Position3D const& value)
     return printNumbers(numbers.data(), numbers.size());
 }
 
+bool Lengths3::parse(std::string_view text, Position3D& value)
+{
+    Position3D lengths;
+    if (!Vector3::parse(text, lengths) || std::min({lengths.x, lengths.y, lengths.z}) < 0.0F) {
+        return false;
+    }
+    value = lengths;
+    return true;
+}
+
+bool Color::parse(std::string_view text, std::array<float, 4>& value)
+{
+    std::array<float, 4> channels{};
+    auto const isChannel = [](float number) { return number >= 0.0F && number <= 1.0F; };
+    if (!parseNumbers(text, channels.data(), channels.size()) ||
+        !std::all_of(channels.begin(), channels.end(), isChannel)) {
+        return false;
+    }
+    value = channels;
+    return true;
+}
+
 bool Matrix9::parse(std::string_view text, std::vector<float>& value)
 {
     std::array<float, 9> numbers{};
@@ -248,4 +297,4 @@ bool Matrix12::parse(std::string_view text, std::array<float, 12>& value)
     return true;
 }
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema

@@ -1,15 +1,15 @@
-#ifndef VARO_MODEL_NATIVE_ELEMENT_WRITER_HPP
-#define VARO_MODEL_NATIVE_ELEMENT_WRITER_HPP
+#ifndef VARO_MODEL_SCHEMA_ELEMENT_WRITER_HPP
+#define VARO_MODEL_SCHEMA_ELEMENT_WRITER_HPP
 
 #include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "native/schema.hpp"
+#include "schema/schema.hpp"
 #include "varo/model/records.hpp"
 
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 /// Writes elements as their tables say: what equals its default is left out, the rest stands in the tables' order, so
 /// that one record has one text.
@@ -79,6 +79,6 @@ void ElementWriter::writeUnlessDefault(Element<Record> const& element, Record co
     }
 }
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema
 
 #endif

@@ -1,6 +1,6 @@
-#include "native/element_writer.hpp"
+#include "schema/element_writer.hpp"
 
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 namespace {
 
@@ -70,4 +70,4 @@ void ElementWriter::closeTag(std::string_view name)
     _isTextLast = false;
 }
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema

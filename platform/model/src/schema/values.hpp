@@ -1,8 +1,10 @@
-#ifndef VARO_MODEL_NATIVE_VALUES_HPP
-#define VARO_MODEL_NATIVE_VALUES_HPP
+#ifndef VARO_MODEL_SCHEMA_VALUES_HPP
+#define VARO_MODEL_SCHEMA_VALUES_HPP
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +14,7 @@
 
 /// The types of values that attributes and texts of the native dialect may have: for each its name, what it means, how
 /// it is read, and how it is written such that reading gives the same value, bit by bit. Neither knows of locales.
-namespace Varo::Model::Native {
+namespace Varo::Model::Schema {
 
 /// Names are shorter than this, in characters.
 constexpr std::size_t longestName = 1024;
@@ -24,6 +26,7 @@ struct ValueType {
     std::string_view name;  ///< in the documentation and the schema
     std::string_view meaning;  ///< completes the sentence "The value is not ..."
     Range<Word> words = {};  ///< all possible values, when they are words
+    std::size_t count = 0;  ///< how many numbers the value is, for dialects that take fewer or more
 };
 
 /// The text without the white space around it.
@@ -61,6 +64,12 @@ struct Line : Text {
     static bool parse(std::string_view text, std::string& value);
 };
 
+/// A text that says something, kept as it is.
+struct File : Text {
+    static constexpr ValueType type{"file", "the name of a file: a text of at least one character"};
+    static bool parse(std::string_view text, std::string& value);
+};
+
 struct Name : Text {
     static constexpr ValueType type{"name", "a name: a text of 1 to 1024 characters"};
     static bool parse(std::string_view text, std::string& value);
@@ -70,6 +79,19 @@ struct Number {
     static constexpr ValueType type{"number", "a finite decimal number, such as 0.5 or -2e-3"};
     static bool parse(std::string_view text, float& value) { return parseNumber(text, value); }
     static std::string print(float value) { return printNumber(value); }
+};
+
+/// The measure of a solid.
+struct Length : Number {
+    static constexpr ValueType type{"length", "a finite decimal number that is not negative"};
+    static bool parse(std::string_view text, float& value);
+};
+
+/// A number that need not be there.
+struct OptionalNumber {
+    static constexpr ValueType const& type = Number::type;
+    static bool parse(std::string_view text, std::optional<float>& value);
+    static std::string print(std::optional<float> value) { return value ? printNumber(*value) : std::string(); }
 };
 
 /// A number, or the word `unlimited` for the infinity on its side.
@@ -100,6 +122,20 @@ struct Vector3 {
     static std::string print(Position3D const& value);
 };
 
+/// The measures of a solid along its axes.
+struct Lengths3 : Vector3 {
+    static constexpr ValueType type{"lengths3",
+                                    "three finite decimal numbers, none negative, separated by white space"};
+    static bool parse(std::string_view text, Position3D& value);
+};
+
+struct Color {
+    static constexpr ValueType type{
+        "color", "four decimal numbers from 0 to 1 separated by white space: red, green, blue and opacity"};
+    static bool parse(std::string_view text, std::array<float, 4>& value);
+    static std::string print(std::array<float, 4> const& value) { return printNumbers(value.data(), value.size()); }
+};
+
 struct Matrix9 {
     static constexpr ValueType type{"matrix9", "nine finite decimal numbers separated by white space"};
     static bool parse(std::string_view text, std::vector<float>& value);
@@ -127,6 +163,8 @@ struct TypeOf<std::string> : Text {};
 template <>
 struct TypeOf<float> : Number {};
 template <>
+struct TypeOf<std::optional<float>> : OptionalNumber {};
+template <>
 struct TypeOf<std::int32_t> : Integer {};
 template <>
 struct TypeOf<bool> : Boolean {};
@@ -137,6 +175,6 @@ struct TypeOf<std::vector<float>> : Matrix9 {};
 template <>
 struct TypeOf<std::array<float, 12>> : Matrix12 {};
 
-}  // namespace Varo::Model::Native
+}  // namespace Varo::Model::Schema
 
 #endif

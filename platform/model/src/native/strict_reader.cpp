@@ -1,0 +1,134 @@
+#include "native/strict_reader.hpp"
+
+#include <string>
+#include <utility>
+
+#include "native/native_codes.hpp"
+#include "varo/model/spelling.hpp"
+#include "xml/node_offset.hpp"
+
+namespace Varo::Model::Native {
+
+namespace {
+
+/// What to write instead of an unknown name, and the row that is meant.
+template <class Info>
+std::pair<std::string, std::size_t> suggest(Infos<Info> const& rows, std::string_view written)
+{
+    ClosestWord closest(written);
+    std::size_t meant = noRow;
+    std::string known;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        meant = closest.offer(nameOf(rows[i])) ? i : meant;
+        known += (known.empty() ? "" : ", ") + std::string(nameOf(rows[i]));
+    }
+    if (meant != noRow) {
+        return {"Did you mean " + quoted(closest.word()) + "?", meant};
+    }
+    return {known.empty() ? "" : "Known here: " + known + ".", meant};
+}
+
+/// Attributes that tell XML editors where the schema is.
+bool isForEditors(std::string_view attribute)
+{
+    return attribute.substr(0, 6) == "xmlns:" || attribute.substr(0, 4) == "xsi:";
+}
+
+}  // namespace
+
+std::size_t StrictReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
+                                             pugi::xml_attribute attribute)
+{
+    if (isForEditors(attribute.name()) || diagnostics().countIfFull(codes::unknownAttribute)) {
+        return noRow;
+    }
+    std::string message = std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ".";
+    auto [hint, meant] = suggest(element.attributes, attribute.name());
+    diagnostics().report(at(node, attribute), codes::unknownAttribute, std::move(message), std::move(hint));
+    if (meant == noRow || node.attribute(element.attributes[meant].name.data())) {
+        return noRow;
+    }
+    loseName(element.attributes[meant]);
+    return meant;
+}
+
+std::size_t StrictReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
+{
+    _names.loseAny();
+    if (diagnostics().countIfFull(codes::unknownElement)) {
+        return noRow;
+    }
+    std::string message = std::string(element.name) + " holds no element " + quoted(child.name()) + ".";
+    auto [hint, meant] = suggest(element.children, child.name());
+    diagnostics().report(at(child), codes::unknownElement, std::move(message), std::move(hint));
+    return meant;
+}
+
+void StrictReader::onRepeatedChild(ElementInfo const& element, pugi::xml_node child)
+{
+    diagnostics().report(at(child), codes::repeatedElement,
+                         std::string(element.name) + " may hold only one " + child.name() + ".",
+                         "Leave one of them out; only the first is read.");
+}
+
+/// Where it says something: the white space before that is looked at in the source, which has it as it was written.
+void StrictReader::onUnexpectedText(ElementInfo const& element, pugi::xml_node text)
+{
+    std::string const& source = diagnostics().source()->text();
+    diagnostics().report(
+        TextOffset(source.find_first_not_of(" \t\r\n", at(text).value())), codes::unexpectedText,
+        std::string(element.name) + " holds no text, but here stands " + quoted(trimmed(text.value())) + ".");
+}
+
+void StrictReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
+{
+    diagnostics().report(at(node), codes::missingAttribute,
+                         std::string(element.name) + " lacks its attribute " + quoted(attribute.name) + ".",
+                         "Add it: " + std::string(attribute.meaning) + ".");
+    loseName(attribute);
+}
+
+void StrictReader::onMissingChild(ElementInfo const& element, ChildInfo const& child, pugi::xml_node node)
+{
+    diagnostics().report(at(node), codes::missingElement,
+                         std::string(element.name) + " lacks its element " + quoted(child.element->name) + ".",
+                         "Add it: " + std::string(child.element->meaning));
+}
+
+void StrictReader::onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
+                                std::string_view value)
+{
+    loseName(row);
+    if (diagnostics().countIfFull(codes::wrongValue)) {
+        return;
+    }
+    std::string const subject = row.name.empty() ? "The text" : "The value of " + quoted(row.name);
+    std::string hint;
+    ClosestWord closest(value);
+    for (Word const& word : row.type->words) {
+        closest.offer(word.word);
+        hint += (hint.empty() ? "Possible are: " : ", ") + std::string(word.word);
+    }
+    hint += hint.empty() ? "" : ".";
+    if (!closest.word().empty()) {
+        hint = "Did you mean " + quoted(closest.word()) + "?";
+    }
+    diagnostics().report(at(node, attribute), codes::wrongValue,
+                         subject + ", " + quoted(value) + ", is not " + std::string(row.type->meaning) + ".",
+                         std::move(hint));
+}
+
+void StrictReader::onName(NameRule const& rule, std::string_view name, pugi::xml_node node,
+                          pugi::xml_attribute attribute)
+{
+    _names.use(rule, name, node, attribute);
+}
+
+void StrictReader::loseName(AttributeInfo const& attribute)
+{
+    if (attribute.names != nullptr) {
+        _names.lose(*attribute.names);
+    }
+}
+
+}  // namespace Varo::Model::Native

@@ -1,0 +1,135 @@
+#ifndef VARO_MODEL_SCHEMA_ELEMENT_READER_HPP
+#define VARO_MODEL_SCHEMA_ELEMENT_READER_HPP
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <pugixml.hpp>
+
+#include "schema/schema.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/records.hpp"
+
+namespace Varo::Model::Schema {
+
+/// The index of a row that is not there.
+constexpr std::size_t noRow = static_cast<std::size_t>(-1);
+
+/// Reads elements as their tables say. What to make of a text that the tables do not allow, each dialect decides.
+class ElementReader {
+public:
+    /// `robot` is what is read into in the end, for those children that need more than the record of their parent.
+    ElementReader(Diagnostics& diagnostics, Records& robot) : _diagnostics(diagnostics), _robot(robot) {}
+    ElementReader(ElementReader const&) = delete;
+    ElementReader& operator=(ElementReader const&) = delete;
+
+    template <class Record>
+    void read(Element<Record> const& element, pugi::xml_node node, Record& record);
+
+    Diagnostics& diagnostics() { return _diagnostics; }
+    Records& robot() { return _robot; }
+
+protected:
+    ~ElementReader() = default;
+
+private:
+    // The first two answer the row that was probably meant; noRow for none.
+    virtual std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
+                                           pugi::xml_attribute attribute) = 0;
+    virtual std::size_t onUnknownChild(ElementInfo const& element, pugi::xml_node child) = 0;
+    virtual void onRepeatedChild(ElementInfo const& element, pugi::xml_node child) = 0;
+    virtual void onUnexpectedText(ElementInfo const& element, pugi::xml_node text) = 0;
+    virtual void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute,
+                                    pugi::xml_node node) = 0;
+    virtual void onMissingChild(ElementInfo const& element, ChildInfo const& child, pugi::xml_node node) = 0;
+    /// `attribute` is null for the text of the element, `value`.
+    virtual void onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
+                              std::string_view value) = 0;
+    /// `attribute` is null for one that is left out, of which `name` is the default.
+    virtual void onName(NameRule const& rule, std::string_view name, pugi::xml_node node,
+                        pugi::xml_attribute attribute) = 0;
+
+    template <class Record>
+    void readAttributes(Element<Record> const& element, pugi::xml_node node, Record& record);
+    template <class Record>
+    void readChildren(Element<Record> const& element, pugi::xml_node node, Record& record);
+
+    std::size_t findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
+                              std::size_t start, RowSet& seen);
+    std::size_t findChild(ElementInfo const& element, pugi::xml_node child, std::size_t start, RowSet& seen);
+    void noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, RowSet seen);
+    void noteMissingChildren(ElementInfo const& element, pugi::xml_node node, RowSet seen);
+    void reportBroken(Complaint const& complaint, pugi::xml_node node, char const* attribute);
+
+    Diagnostics& _diagnostics;
+    Records& _robot;
+};
+
+/// All text of an element, without that of its children.
+std::string textOf(pugi::xml_node node);
+
+bool isText(pugi::xml_node node);
+
+template <class Record>
+void ElementReader::readAttributes(Element<Record> const& element, pugi::xml_node node, Record& record)
+{
+    RowSet seen = 0;
+    std::size_t next = 0;
+    for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
+        std::size_t const index = findAttribute(element, node, attribute, next, seen);
+        if (index == noRow) {
+            continue;
+        }
+        next = index + 1;
+        Attribute<Record> const& row = element.attributeRows[index];
+        std::string_view const value = attribute.value();
+        if (!row.store(value, record)) {
+            onWrongValue(row, node, attribute, value);
+        } else if (row.names != nullptr) {
+            onName(*row.names, value, node, attribute);
+        }
+    }
+    if ((element.notableAttributes & ~seen) != 0) {
+        noteMissingAttributes(element, node, seen);
+    }
+}
+
+template <class Record>
+void ElementReader::readChildren(Element<Record> const& element, pugi::xml_node node, Record& record)
+{
+    RowSet seen = 0;
+    std::size_t last = 0;
+    for (auto child = node.first_child(); child; child = child.next_sibling()) {
+        std::size_t const index = findChild(element, child, last, seen);
+        if (index != noRow) {
+            last = index;
+            element.childRows[index].read(*this, child, record);
+        }
+    }
+    if ((element.requiredChildren & ~seen) != 0) {
+        noteMissingChildren(element, node, seen);
+    }
+}
+
+template <class Record>
+void ElementReader::read(Element<Record> const& element, pugi::xml_node node, Record& record)
+{
+    readAttributes(element, node, record);
+    readChildren(element, node, record);
+    if (element.textRow != nullptr) {
+        std::string const text = textOf(node);
+        if (!element.textRow->store(text, record)) {
+            onWrongValue(*element.textRow, node, {}, text);
+        }
+    }
+    for (Rule<Record> const& rule : element.rules) {
+        if (rule.isBroken(record, node)) {
+            reportBroken(rule.complaint, node, rule.attribute);
+        }
+    }
+}
+
+}  // namespace Varo::Model::Schema
+
+#endif

@@ -1,0 +1,110 @@
+#include "urdf/tolerant_reader.hpp"
+
+#include <string>
+
+#include "urdf/numbers.hpp"
+#include "urdf/schema.hpp"
+#include "urdf/surplus.hpp"
+#include "urdf/values.hpp"
+#include "xml/node_offset.hpp"
+
+namespace Varo::Model::Urdf {
+
+namespace {
+
+void reportMissing(AttributeInfo const& attribute, pugi::xml_node node, Diagnostics& diagnostics)
+{
+    diagnostics.report(at(node), *attribute.missing.code, std::string(attribute.missing.message),
+                       std::string(attribute.missing.hint));
+}
+
+void reportUnknownType(TextOffset place, std::string_view value, Diagnostics& diagnostics)
+{
+    diagnostics.report(place, codes::unknownJointType, "There is no joint type " + quoted(value) + ".",
+                       std::string(jointTypeHint));
+}
+
+/// Elements of the robot that others than the tables read.
+bool isReadElsewhere(std::string_view name)
+{
+    return name == "sensor" || name == "gazebo";
+}
+
+/// Numbers that are ones, as many as there should be, but not such as there should be.
+void reportOddNumbers(ValueType const& type, TextOffset place, std::string_view value, Diagnostics& diagnostics)
+{
+    if (&type == &Channels::type) {
+        diagnostics.report(place, codes::colorRange,
+                           "The colour " + quoted(value) + " is not between 0 and 1; what is beyond is cut.",
+                           "The numbers of a colour are from 0 to 1, not to 255.");
+    } else {
+        diagnostics.report(place, codes::negativeLength,
+                           quoted(value) + " has a negative length, of which the magnitude is taken.");
+    }
+}
+
+void reportWrongNumbers(ValueType const& type, TextOffset place, std::string_view value, Diagnostics& diagnostics)
+{
+    Rgba numbers = {};  // no list is longer
+    std::size_t found = 0;
+    bool const areNumbers = parseNumbers(value, numbers.data(), type.count, found);
+    if (areNumbers && found == type.count) {
+        reportOddNumbers(type, place, value, diagnostics);
+    } else if (type.count == 1) {
+        reportNotANumber(place, value, diagnostics);
+    } else {
+        std::string_view const missing = &type == &Channels::type ? missingIsOpaque : missingIsZero;
+        reportWrongList(place, value, type.count, missing, diagnostics);
+    }
+}
+
+}  // namespace
+
+std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
+                                               pugi::xml_attribute attribute)
+{
+    return _unknown.noteAttribute(element, node, attribute);
+}
+
+std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
+{
+    if (&element != &robotElement || !isReadElsewhere(child.name())) {
+        _report.passOver(child);
+        _unknown.noteChild(element, child);
+    }
+    return noRow;
+}
+
+void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_node child)
+{
+    reportSurplus(child, diagnostics());
+}
+
+void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
+{
+    if (attribute.missing.code != nullptr) {
+        reportMissing(attribute, node, diagnostics());
+    } else if (attribute.type->count > 0) {
+        diagnostics().report(at(node), codes::missingAttribute,
+                             "This " + std::string(element.name) + " lacks its attribute " + quoted(attribute.name) +
+                                 ", which counts as 0.",
+                             "Add it: " + std::string(attribute.meaning) + ".");
+    }
+}
+
+void TolerantReader::onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
+                                  std::string_view value)
+{
+    TextOffset const place = at(node, attribute);
+    if (row.type->words.size() > 0) {
+        reportUnknownType(place, value, diagnostics());
+    } else if (row.type->count > 0) {
+        reportWrongNumbers(*row.type, place, value, diagnostics());
+    } else if (row.type == &Name::type && !value.empty()) {
+        reportLongName(place, diagnostics());
+    } else if (row.missing.code != nullptr) {
+        reportMissing(row, node, diagnostics());
+    }
+}
+
+}  // namespace Varo::Model::Urdf

@@ -1,0 +1,38 @@
+#ifndef VARO_MODEL_URDF_TOLERANT_READER_HPP
+#define VARO_MODEL_URDF_TOLERANT_READER_HPP
+
+#include "schema/element_reader.hpp"
+#include "urdf/elements.hpp"
+#include "urdf/unknown_names.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// Takes what the tables of URDF allow, passes over what is for other programs, and says what it makes of the rest.
+class TolerantReader final : public Schema::ElementReader {
+public:
+    TolerantReader(Report const& report, Records& robot) : ElementReader(report.diagnostics, robot), _report(report) {}
+
+    /// What is said of each kind of thing once. To be called when all is read.
+    void reportKinds() { _unknown.report(); }
+
+private:
+    std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
+                                   pugi::xml_attribute attribute) override;
+    std::size_t onUnknownChild(ElementInfo const& element, pugi::xml_node child) override;
+    void onRepeatedChild(ElementInfo const& element, pugi::xml_node child) override;
+    void onUnexpectedText(ElementInfo const& /*element*/, pugi::xml_node /*text*/) override {}
+    void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node) override;
+    void onMissingChild(ElementInfo const& /*element*/, ChildInfo const& /*child*/, pugi::xml_node /*node*/) override {}
+    void onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
+                      std::string_view value) override;
+    void onName(NameRule const& /*rule*/, std::string_view /*name*/, pugi::xml_node /*node*/,
+                pugi::xml_attribute /*attribute*/) override
+    {}
+
+    Report const& _report;
+    UnknownNames _unknown{_report.diagnostics};
+};
+
+}  // namespace Varo::Model::Urdf
+
+#endif

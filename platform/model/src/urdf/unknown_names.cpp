@@ -1,0 +1,136 @@
+#include "urdf/unknown_names.hpp"
+
+#include <string>
+#include <unordered_set>
+
+#include "schema/element_reader.hpp"
+#include "urdf/urdf_codes.hpp"
+#include "varo/model/spelling.hpp"
+#include "xml/node_offset.hpp"
+
+namespace Varo::Model::Urdf {
+
+namespace {
+
+/// What other formats call the same.
+struct Confusion {
+    std::string_view element;
+    std::string_view written;
+    std::string_view meant;
+};
+constexpr Confusion confusions[] = {
+    {"origin", "quat", "rpy"},     {"origin", "quat_xyzw", "rpy"},  {"origin", "pos", "xyz"},
+    {"sphere", "size", "radius"},  {"cylinder", "size", "radius"},  {"cylinder", "height", "length"},
+    {"capsule", "size", "radius"}, {"capsule", "height", "length"}, {"mesh", "file", "filename"},
+    {"mesh", "uri", "filename"},   {"mesh", "url", "filename"},     {"texture", "file", "filename"},
+    {"limit", "min", "lower"},     {"limit", "max", "upper"},       {"mimic", "ratio", "multiplier"},
+    {"mass", "mass", "value"},
+};
+
+/// One letter may be wrong, and two in a long name.
+bool isNear(std::string_view written, std::string_view known)
+{
+    std::size_t const distance = spellingDistance(written, known);
+    return distance <= 1 || (distance == 2 && known.size() >= 6);
+}
+
+/// The row that was meant by a name that none has.
+template <class Info>
+std::size_t findMeant(Infos<Info> const& rows, std::string_view element, std::string_view written)
+{
+    std::size_t meant = noRow;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        std::string_view const known = nameOf(rows[i]);
+        bool const isCloser =
+            meant == noRow || spellingDistance(written, known) < spellingDistance(written, nameOf(rows[meant]));
+        meant = isNear(written, known) && isCloser ? i : meant;
+    }
+    for (Confusion const& confusion : confusions) {
+        for (std::size_t i = 0; meant == noRow && i < rows.size(); ++i) {
+            bool const isIt = confusion.element == element && confusion.written == written;
+            meant = isIt && nameOf(rows[i]) == confusion.meant ? i : noRow;
+        }
+    }
+    return meant;
+}
+
+bool isPrefixed(std::string_view name)
+{
+    return name.find(':') != name.npos || name == "xmlns";
+}
+
+void addNames(ElementInfo const& element, std::unordered_set<std::string_view>& names)
+{
+    names.insert(element.name);
+    for (ChildInfo const& child : element.children) {
+        addNames(*child.element, names);
+    }
+}
+
+/// Whether URDF has elements of that name, wherever they may stand.
+bool isDefined(std::string_view element)
+{
+    static auto const names = [] {
+        std::unordered_set<std::string_view> all;
+        addNames(robotElement, all);
+        return all;
+    }();
+    return names.count(element) > 0;
+}
+
+std::string didYouMean(std::string_view name)
+{
+    return "Did you mean " + quoted(name) + "?";
+}
+
+}  // namespace
+
+std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute)
+{
+    std::string_view const name = attribute.name();
+    if (isPrefixed(name)) {
+        return noRow;
+    }
+    std::size_t const meant = findMeant(element.attributes, element.name, name);
+    if (meant == noRow) {
+        ++_foreign.try_emplace({element.name, name}, Kind{at(node, attribute)}).first->second.count;
+        return noRow;
+    }
+    AttributeInfo const& row = element.attributes[meant];
+    _diagnostics.report(at(node, attribute), codes::unknownAttribute,
+                        std::string(element.name) + " has no attribute " + quoted(name) + ": it is passed over.",
+                        didYouMean(row.name));
+    bool const isRefused = row.missing.code != nullptr && row.missing.code->severity == Severity::error;
+    return isRefused || node.attribute(row.name.data()) ? noRow : meant;
+}
+
+void UnknownNames::noteChild(ElementInfo const& element, pugi::xml_node child)
+{
+    std::string_view const name = child.name();
+    if (isPrefixed(name)) {
+        return;
+    }
+    std::size_t const meant = findMeant(element.children, element.name, name);
+    if (meant != noRow) {
+        _diagnostics.report(at(child), codes::unknownElement,
+                            std::string(element.name) + " holds no element " + quoted(name) + ": it is passed over.",
+                            didYouMean(nameOf(element.children[meant])));
+    } else if (isDefined(name)) {
+        _diagnostics.report(at(child), codes::misplacedElement,
+                            "URDF has no " + quoted(name) + " in " + std::string(element.name) + ": it is passed over.",
+                            "Put it where it belongs, or leave it out.");
+    }
+}
+
+void UnknownNames::report()
+{
+    for (auto const& [names, kind] : _foreign) {
+        auto const& [element, attribute] = names;
+        std::string message =
+            "The attribute " + quoted(attribute) + " of " + quoted(element) + " means nothing in URDF";
+        message += kind.count > 1 ? ", here and in " + std::to_string(kind.count - 1) + " more places." : ".";
+        _diagnostics.report(kind.first, codes::foreignAttribute, std::move(message));
+    }
+}
+
+}  // namespace Varo::Model::Urdf

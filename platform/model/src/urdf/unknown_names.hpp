@@ -1,0 +1,44 @@
+#ifndef VARO_MODEL_URDF_UNKNOWN_NAMES_HPP
+#define VARO_MODEL_URDF_UNKNOWN_NAMES_HPP
+
+#include <cstddef>
+#include <map>
+#include <string_view>
+#include <utility>
+
+#include <pugixml.hpp>
+
+#include "urdf/schema.hpp"
+#include "varo/model/diagnostics.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// Tells names that were meant for URDF, and misspelt or misplaced, from those that are for other programs.
+///
+/// Names with a prefix are always for others, and so is all that stands in an element that is.
+class UnknownNames {
+public:
+    explicit UnknownNames(Diagnostics& diagnostics) : _diagnostics(diagnostics) {}
+
+    /// An attribute that the element does not define; answers the row that was meant, if nothing more need be said of
+    /// its absence, and noRow otherwise.
+    std::size_t noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute);
+    /// A child that it does not define.
+    void noteChild(ElementInfo const& element, pugi::xml_node child);
+
+    /// Notes on the attributes that nobody meant for URDF, each kind once. To be called once, in the end.
+    void report();
+
+private:
+    struct Kind {
+        TextOffset first;
+        std::size_t count = 0;
+    };
+
+    Diagnostics& _diagnostics;
+    std::map<std::pair<std::string_view, std::string_view>, Kind> _foreign;  // by names of element and attribute
+};
+
+}  // namespace Varo::Model::Urdf
+
+#endif

@@ -1,0 +1,58 @@
+#ifndef VARO_CORE_DEVICE_KEYS_HPP
+#define VARO_CORE_DEVICE_KEYS_HPP
+
+#include <atomic>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Sim {
+
+/// The keys of a device: those that a description states, or those that follow from the device's name. The latter are
+/// made when somebody first asks, which few do of few devices. Several threads may ask at once.
+class DeviceKeys {
+public:
+    using Keys = std::vector<std::string>;
+    using Make = Keys (*)(std::vector<std::string> const& names, int kinds);
+
+    DeviceKeys(Keys keys)  // NOLINT(google-explicit-constructor): devices take any keys
+        : _keys(new Keys(std::move(keys)))
+    {}
+    DeviceKeys(std::initializer_list<std::string> keys) : DeviceKeys(Keys(keys)) {}
+    DeviceKeys(Make make, int kinds) : _make(make), _kinds(kinds) {}
+    DeviceKeys(DeviceKeys const& other) : _make(other._make), _kinds(other._kinds)
+    {
+        if (_make == nullptr) {
+            _keys = new Keys(*other._keys.load());
+        }
+    }
+    DeviceKeys(DeviceKeys&& other) noexcept
+        : _keys(other._keys.exchange(nullptr)), _make(other._make), _kinds(other._kinds)
+    {}
+    DeviceKeys& operator=(DeviceKeys const&) = delete;
+    ~DeviceKeys() { delete _keys.load(); }
+
+    /// Of the device of that name, always the same. Valid as long as this.
+    Keys const& of(std::string const& name) const
+    {
+        Keys const* keys = _keys.load(std::memory_order_acquire);
+        if (keys == nullptr) {
+            auto made = std::make_unique<Keys const>(_make({name}, _kinds));
+            if (_keys.compare_exchange_strong(keys, made.get())) {
+                keys = made.release();  // else another thread was first
+            }
+        }
+        return *keys;
+    }
+
+private:
+    mutable std::atomic<Keys const*> _keys = nullptr;
+    Make _make = nullptr;  ///< null where the keys were stated
+    int _kinds = 0;
+};
+
+}  // namespace Sim
+
+#endif
