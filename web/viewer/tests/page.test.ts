@@ -2,7 +2,7 @@ import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
 import type { Browser, Page } from 'puppeteer-core';
 import { ask, openBrowser, openPage, picture } from './browser';
-import { otherRobots, ourRobot, ourRobots, pageOf, run } from './robots';
+import { otherRobots, ourRobot, ourRobots, pageOf, run, writeScratch } from './robots';
 
 let browser: Browser;
 before(async () => {
@@ -73,6 +73,35 @@ test('the poses of links are those of varo-robot pose', { timeout: 120_000 }, as
       const expected = poses.flatMap(({ pose }) => pose);
       assert.ok(greatestDifference(shown, expected) <= 1e-6, `${file}, posture ${String(seed)}`);
     }
+    await page.close();
+  }
+});
+
+test('shapes are as large as described, where they are described, in their colours', async () => {
+  const shape = (geometry: string) => `<visual><origin xyz="1 2 3" rpy="0 1.5707963267948966 0"/><geometry>${geometry}</geometry>
+    <material name="m"><color rgba="1 0 0 0.5"/></material></visual>`;
+  for (const [geometry, size] of [
+    ['<box size="1 2 3"/>', [3, 2, 1]],
+    ['<cylinder radius="0.5" length="4"/>', [4, 1, 1]],
+    ['<sphere radius="0.5"/>', [1, 1, 1]],
+  ] as const) {
+    const file = writeScratch('shape.urdf', `<robot name="r"><link name="l">${shape(geometry)}</link></robot>`);
+    const { page, offences } = await openPage(browser, pageOf(file));
+    const shown = await page.evaluate(() => {
+      const { figure } = window.viewer!.picture!;
+      const bounds = figure.bounds();
+      const materials: unknown[] = [];
+      figure.bodies[0].traverse((object) => {
+        const { material } = object as { material?: { color: { getHex(): number }; opacity: number } };
+        if (material !== undefined) materials.push([material.color.getHex(), material.opacity]);
+      });
+      const middle = bounds.max.clone().add(bounds.min).multiplyScalar(0.5);
+      return { size: bounds.max.clone().sub(bounds.min).toArray(), middle: middle.toArray(), materials };
+    });
+    assert.deepEqual(shown.size.map((length) => Number(length.toFixed(4))), size, geometry);
+    assert.deepEqual(shown.middle.map((length) => Number(length.toFixed(4))), [1, 2, 3], geometry);
+    assert.deepEqual(shown.materials, [[0xff0000, 0.5]], geometry);
+    assert.deepEqual(offences, []);
     await page.close();
   }
 });
