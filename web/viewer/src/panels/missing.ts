@@ -10,7 +10,7 @@ export function missingSection(missing: ReadonlyMap<string, string>): HTMLElemen
   );
   const made = section(
     `Not shown (${String(missing.size)})`,
-    element('p', { className: 'quiet', textContent: 'Boxes stand for these meshes.' }),
+    element('p', { className: 'quiet', textContent: 'Other shapes stand for these meshes.' }),
     element('ul', { className: 'findings missing' }, ...rows),
   );
   made.open = false;

@@ -1,22 +1,43 @@
-import { BufferGeometry, Float32BufferAttribute, Group, Mesh, MeshStandardMaterial, Quaternion, SphereGeometry, Vector3 } from 'three';
+import {
+  BufferGeometry,
+  CylinderGeometry,
+  Float32BufferAttribute,
+  Group,
+  Mesh,
+  MeshStandardMaterial,
+  Quaternion,
+  SphereGeometry,
+  Vector3,
+} from 'three';
 import type { Link, Robot } from '../robot';
+import { place } from './matrix';
 
-/** From the origin to the joints that a link carries, for links without any shape. `size` is that of the robot. */
+/** From the origin to the joints that a link carries, with their axes; `size` is that of the robot. */
 export function bonesOf(link: Link, robot: Robot, size: number): Group {
   const group = new Group();
-  const joint = new SphereGeometry(size * 0.008, 12, 8);
+  const ball = new SphereGeometry(size * 0.008, 12, 8);
   const material = new MeshStandardMaterial();
-  group.add(new Mesh(joint, material));
+  group.add(new Mesh(ball, material));
   for (const child of link.children) {
-    const pose = robot.links[child].joint?.pose;
-    if (pose !== undefined) {
-      const end = new Vector3(pose[3], pose[7], pose[11]);
-      if (end.length() > size * 1e-3) {
-        group.add(bone(end, size, material));
-      }
+    const joint = robot.links[child].joint;
+    if (joint === null) {
+      continue;
+    }
+    const end = new Vector3(joint.pose[3], joint.pose[7], joint.pose[11]);
+    if (end.length() > size * 1e-3) {
+      group.add(bone(end, size, material));
+    }
+    if (joint.drive.motion !== 'none') {
+      group.add(place(axis(size), joint.pose));
     }
   }
   return group;
+}
+
+/** Along z. */
+function axis(size: number): Mesh {
+  const geometry = new CylinderGeometry(size * 0.0025, size * 0.0025, size * 0.06, 8).rotateX(Math.PI / 2);
+  return new Mesh(geometry, new MeshStandardMaterial({ color: 0x2563eb }));
 }
 
 /** Thick near its beginning, and pointed. */

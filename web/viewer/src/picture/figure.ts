@@ -73,17 +73,13 @@ export class Figure {
     if (link.visuals.length === 0) {
       return body.add(bonesOf(link, this.robot, size));
     }
-    let hasStandIn = false;
-    for (const shape of link.visuals) {
-      const object = this.shapeOf(shape, link, size);
-      const isStandIn = object.userData.standIn === true;
-      if (!isStandIn || !hasStandIn) {
-        body.add(object);
-      }
-      hasStandIn ||= isStandIn;
+    const shapes = link.visuals.map((shape) => this.shapeOf(shape, link, size));
+    const there = shapes.filter((object) => object.userData.standIn !== true);
+    for (const object of there) {
+      body.add(object);
     }
-    if (hasStandIn) {
-      body.add(bonesOf(link, this.robot, size));
+    if (there.length < shapes.length) {
+      body.add(...this.standInsFor(link, size), bonesOf(link, this.robot, size));
     }
     return body;
   }
@@ -92,6 +88,18 @@ export class Figure {
     const mesh = this.meshes.mesh(uri);
     mesh?.scale.set(scale[0], scale[1], scale[2]);
     return mesh;
+  }
+
+  /** The solids that the link collides with, where these say what it looks like, and otherwise a box. */
+  private standInsFor(link: Link, size: number): Object3D[] {
+    const solids: Object3D[] = [];
+    for (const { geometry, pose } of link.collisions) {
+      if (geometry.type === 'mesh') {
+        return [this.standInFor(link, size)];
+      }
+      solids.push(place(new Mesh(solidOf(geometry), surface(standIn)), pose));
+    }
+    return solids.length > 0 ? solids : [this.standInFor(link, size)];
   }
 
   /** Of the link's mass where it says enough of that. */

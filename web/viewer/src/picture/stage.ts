@@ -50,8 +50,10 @@ export class Stage {
     const sun = new DirectionalLight(0xffffff, 1.6);
     sun.position.set(3, -4, 6);
     this.scene.add(this.root, sun, new HemisphereLight(0xffffff, 0x8d8d99, 1.3), new AmbientLight(0xffffff, 0.5));
+    this.fitToBox();
     new ResizeObserver(() => {
       this.fitToBox();
+      this.draw(); // resizing has wiped the picture
     }).observe(box);
     settings.changed.listen(() => {
       this.obeySettings();
@@ -88,9 +90,11 @@ export class Stage {
     this.size = Math.max(sphere.radius * 2, 1e-3);
     this.turnRoot();
     const center = sphere.center.clone().applyMatrix4(this.root.matrix);
-    const distance = (sphere.radius || 1) / Math.sin(((this.camera.fov / 2) * Math.PI) / 180) / Math.min(1, this.camera.aspect);
+    const upward = ((this.camera.fov / 2) * Math.PI) / 180;
+    const across = Math.atan(Math.tan(upward) * this.camera.aspect);
+    const distance = (sphere.radius || 1) / Math.sin(Math.min(upward, across));
     this.controls.target.copy(center);
-    this.camera.position.copy(center).addScaledVector(new Vector3(1, -0.62, 0.42).normalize(), distance * 1.08);
+    this.camera.position.copy(center).addScaledVector(new Vector3(1, -0.62, 0.42).normalize(), distance);
     this.camera.near = distance / 200;
     this.camera.far = distance * 50;
     this.camera.updateProjectionMatrix();
@@ -105,7 +109,6 @@ export class Stage {
       this.camera.aspect = width / height;
       this.camera.updateProjectionMatrix();
       this.renderer.setSize(width, height);
-      this.draw(); // resizing has wiped the picture
     }
   }
 
