@@ -30,6 +30,13 @@ export class Picture {
     selection.changed.listen(() => {
       this.repaint();
     });
+    let { upAxis } = settings;
+    settings.changed.listen(() => {
+      if (settings.upAxis !== upAxis) {
+        upAxis = settings.upAxis;
+        this.frameAll();
+      }
+    });
     this.frameAll();
   }
 

@@ -90,17 +90,32 @@ export class Stage {
     this.size = Math.max(sphere.radius * 2, 1e-3);
     this.turnRoot();
     const center = sphere.center.clone().applyMatrix4(this.root.matrix);
-    const upward = ((this.camera.fov / 2) * Math.PI) / 180;
-    const across = Math.atan(Math.tan(upward) * this.camera.aspect);
-    const distance = (sphere.radius || 1) / Math.sin(Math.min(upward, across));
+    const direction = new Vector3(1, -0.62, 0.42).normalize();
+    const distance = this.distanceToSee(bounds, center, direction);
     this.controls.target.copy(center);
-    this.camera.position.copy(center).addScaledVector(new Vector3(1, -0.62, 0.42).normalize(), distance);
+    this.camera.position.copy(center).addScaledVector(direction, distance);
     this.camera.near = distance / 200;
     this.camera.far = distance * 50;
     this.camera.updateProjectionMatrix();
     this.controls.update();
     this.layGround(bounds.clone().applyMatrix4(this.root.matrix).min.z);
     this.obeySettings();
+  }
+
+  /** From where all corners of the box are in view, with a margin. */
+  private distanceToSee(bounds: Box3, center: Vector3, direction: Vector3): number {
+    const upward = Math.tan(((this.camera.fov / 2) * Math.PI) / 180);
+    const right = new Vector3(0, 0, 1).cross(direction).normalize();
+    const up = direction.clone().cross(right);
+    const distances = [0, 1, 2, 3, 4, 5, 6, 7].map((corner) => {
+      const [x, y, z] = [1, 2, 4].map((bit) => (corner & bit) !== 0);
+      const { min, max } = bounds;
+      const at = new Vector3(x ? max.x : min.x, y ? max.y : min.y, z ? max.z : min.z);
+      at.applyMatrix4(this.root.matrix).sub(center);
+      const across = Math.abs(at.dot(right)) / (upward * this.camera.aspect);
+      return Math.max(across, Math.abs(at.dot(up)) / upward) + at.dot(direction);
+    });
+    return Math.max(1.12 * Math.max(...distances), this.size * 0.5);
   }
 
   private fitToBox(): void {
