@@ -56,7 +56,7 @@ public:
     /// link was made without. Loading makes none without: what the description leaves out is empty.
     VisualData const* visual() const;
     /// All that is shown of it, in the order of the description: what it states as visuals, or else its one mesh at its
-    /// place. Made anew from the description at each call; empty when there is nothing, or the model is gone.
+    /// place. Made anew from the description at each call; empty when there is nothing.
     std::vector<Visual> visuals() const;
     /// What it collides with; as visuals(), but a mesh that is only shown is none.
     std::vector<Collision> collisions() const;

@@ -6,6 +6,7 @@
 
 #include "sim/device_kind.hpp"
 #include "varo/export.hpp"
+#include "varo/model/sensor_settings.hpp"
 
 namespace Sim {
 
@@ -70,6 +71,10 @@ public:
     Frame const* frame() const;
     /// The kind, which the concrete class stands for.
     Type type() const;
+    /// How the sensor is set, as far as the description says: its rate (Hz), what its camera, scan and range are like
+    /// (m, rad, pixels) and the noise of its values. Null when the description states nothing of that, as for every
+    /// sensor that comes with an actuator. Belongs to the sensor.
+    Varo::Model::SensorSettings const* settings() const;
 
 protected:
     Sensor();

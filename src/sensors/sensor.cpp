@@ -24,4 +24,9 @@ Sensor::Type Sensor::type() const
     return implOf(_impl, sensorErrMsg).type();
 }
 
+Varo::Model::SensorSettings const* Sensor::settings() const
+{
+    return implOf(_impl, sensorErrMsg).settings();
+}
+
 }  // namespace Sim

@@ -1,7 +1,9 @@
 #ifndef VARO_SENSORS_SENSOR_IMPL_HPP
 #define VARO_SENSORS_SENSOR_IMPL_HPP
 
+#include <memory>
 #include <string>
+#include <utility>
 
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
@@ -9,6 +11,7 @@
 #include "core/shared_name.hpp"
 #include "sim/frame.hpp"
 #include "sim/sensor.hpp"
+#include "varo/model/sensor_settings.hpp"
 
 namespace Sim {
 
@@ -25,11 +28,15 @@ public:
     std::string const& name() const { return _name; }
     SharedName const& sharedName() const { return _name; }
     Sensor::Type type() const { return _type; }
+    Varo::Model::SensorSettings const* settings() const { return _settings.get(); }
+    /// What the record holds, of which the sensor is another owner.
+    void shareSettings(std::shared_ptr<Varo::Model::SensorSettings const> settings) { _settings = std::move(settings); }
 
 private:
     boost::weak_ptr<Frame const> _frame;
     SharedName _name;
     Sensor::Type _type;
+    std::shared_ptr<Varo::Model::SensorSettings const> _settings;  ///< null when the description states none
 };
 
 }  // namespace Sim

@@ -80,7 +80,11 @@ bool ModelImpl::fetchSensor(std::string const& name)
         parentLink = _index->links.find(_motionModel->rootName() + "Link");
     }
     SharedName const sharedName(name);
+    std::size_t const before = _sensors.size();
     addDevice(sharedName, addFrame(sharedName, inParent, parentLink->_impl->frame()), keys);
+    if (_sensors.size() > before) {  // lights and kinds without a class are no sensors
+        _sensors.back()->_impl->shareSettings(_motionModel->records().sensors.find(name)->settings);
+    }
     return true;
 }
 

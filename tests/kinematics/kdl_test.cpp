@@ -298,7 +298,7 @@ TEST(ModelBesideKdl, RealRobotsMoveAlike)
 TEST(UrdfBesideKdl, OwnFilesMoveAlike)
 {
     std::string const folder = VARO_SOURCE_DIR "/tests/urdf/data/";
-    compare({folder + "awkward_axes.urdf", folder + "gripper.urdf"}, true);
+    compare({folder + "awkward_axes.urdf", folder + "gripper.urdf", VARO_SOURCE_DIR "/robots/quadruped.urdf"}, true);
 }
 
 TEST(UrdfBesideKdl, RealRobotsMoveAlike)

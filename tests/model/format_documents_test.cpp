@@ -40,6 +40,7 @@ TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
     EXPECT_EQ(docs, Native::spliced(docs, "findings", Native::writeFindingReference()));
     std::string const urdf = Tests::readFile(tree + "/docs/urdf.md");
     EXPECT_EQ(urdf, Native::spliced(urdf, "elements", Urdf::writeElementReference()));
+    EXPECT_EQ(urdf, Native::spliced(urdf, "sensor settings", Native::writeSensorSettingsReference()));
 }
 
 int compareDefaults(Schema::ElementInfo const& root)

@@ -145,5 +145,66 @@ TEST(NativeRecords, HoldEveryFieldOfWhatHangsOnJoints)
     EXPECT_THAT(tables.postures[0].angles, ElementsAre(isAngle("J1", 0.5F), isAngle("A", -0.5F)));
 }
 
+/// As it is written.
+char const* const carried = R"(<?xml version="1.0" encoding="UTF-8"?>
+<robotDescription name="R">
+  <root name="B"/>
+  <joint name="J" min="0" max="1"/>
+  <sensor name="S" parent="J" type="sonar">
+    <key>k</key>
+    <settings updateRate="1">
+      <camera name="c" fieldOfView="2" width="3" height="4" format="f" near="5" far="6"/>
+      <horizontalScan samples="7" resolution="8" min="9" max="10"/>
+      <verticalScan samples="11" resolution="12" min="13" max="14"/>
+      <range min="15" max="16" resolution="17"/>
+      <noise quantity="q" type="t" mean="18" deviation="19" biasMean="20" biasDeviation="21" driftDeviation="22" driftTime="23" precision="24"/>
+      <noise/>
+    </settings>
+  </sensor>
+  <sensor name="T" parent="J" type="sonar">
+    <key>k</key>
+    <settings>
+      <camera/>
+    </settings>
+  </sensor>
+  <transmission name="t" type="p" joint="J" actuator="a" reduction="50" source="ros2Control">
+    <interface name=" x "/>
+    <stateInterface name="y"/>
+  </transmission>
+  <transmission joint=""/>
+  <extension link="B" within="visual[2]">&lt;a b=&quot;&amp;amp;&quot;&gt;&#13;&#10;&lt;!-- --&gt;&lt;/a&gt;</extension>
+  <extension joint="J">a = &apos;1&apos;</extension>
+  <extension sensor="S">&lt;x:a/&gt;</extension>
+  <extension>&lt;a/&gt;</extension>
+</robotDescription>
+)";
+
+TEST(NativeRecords, CarryWhatOtherProgramsNeed)
+{
+    std::string expected = carried;
+    expected.replace(expected.find("&apos;1&apos;"), 13, "'1'");  // both read the same
+    auto const robot = ModelUtils::robotFromXml(carried);
+    EXPECT_EQ(ModelUtils::toXml(*robot), expected);
+    SensorSettings const& settings = *robot->records()->sensors.find("S")->settings;
+    EXPECT_EQ(settings.verticalScan->maximumAngle, 14.0F);
+    EXPECT_EQ(settings.noises.at(0).precision, 24.0F);
+    EXPECT_EQ(robot->records()->sensors.find("T")->settings->camera->farClip, std::numeric_limits<float>::infinity());
+    EXPECT_EQ(robot->records()->extensions.at(0).text, "<a b=\"&amp;\">\r\n<!-- --></a>");
+}
+
+TEST(NativeRecords, RefuseMarkupThatWouldBreakAnotherText)
+{
+    for (char const* text : {"", "word", "&lt;a&gt;", "&lt;a/&gt;&lt;b/&gt;", "&lt;a/&gt; more",
+                             "&lt;a/&gt;&lt;!-- --&gt;", "&lt;!-- --&gt;", "&lt;?xml version='1.0'?&gt;&lt;a/&gt;",
+                             "&lt;/a&gt;", "&lt;a b=c/&gt;", "&lt;a&gt;&amp;no;&lt;/a&gt;", "a='1' b='2'",
+                             "a='1'&gt;&lt;b c='2'", "a='&lt;'", "='1'", "a='1' a='1'", "/&gt;&lt;b a='1'"}) {
+        SCOPED_TRACE(text);
+        Findings const findings = ModelUtils::diagnose("<robotDescription name='R'><root name='B'/><extension>" +
+                                                       std::string(text) + "</extension></robotDescription>");
+        ASSERT_EQ(findings.size(), 1U);
+        EXPECT_EQ(findings[0].code, "wrong-value");
+    }
+}
+
 }  // namespace
 }  // namespace Varo::Model

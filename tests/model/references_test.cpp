@@ -36,6 +36,11 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
     };
     for (Case const& c : std::vector<Case>{
              {"<chain name='D' parent='X'/>", {"17 dangling-reference"}},
+             {"<transmission joint='X'/>", {"15 dangling-reference"}},
+             {"<extension joint='B'>a='b'</extension>", {"12 dangling-reference"}},
+             {"<extension link='X'>a='b'</extension>", {"12 dangling-reference"}},
+             {"<extension sensor='J'>a='b'</extension>", {"12 dangling-reference"}},
+             {"<extension link='J' joint='J'>a='b'</extension>", {"1 conflicting-attributes refused"}},
              {"<chain name='D' parent='J'><jointRef name='X'/></chain>", {"38 dangling-reference"}},
              {"<chain name='D' parent='B'><jointRef name='J'/></chain>", {"38 joint-in-two-chains"}},
              {"<joint name='K' min='0' max='1'/>", {"1 joint-in-no-chain"}},

@@ -6,6 +6,7 @@
 #include "example_robots.hpp"
 #include "sim/model.hpp"
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -61,6 +62,19 @@ TEST(Rover, StandsOnTheShapesOfItsWheels)
     ASSERT_THAT(chassis, SizeIs(2));
     EXPECT_EQ(chassis[0].geometry.uri, model.rootLink()->visual()->meshPath());
     EXPECT_EQ(chassis[1].material->name, "black");
+}
+
+TEST(MobileArm, MovesFingersAndTipsTogether)
+{
+    Sim::Model const model(Tests::examplePath("mobile_arm"));
+    auto const* const gripper = model.coupledActuator("left_finger_slideCoupling");
+    ASSERT_NE(gripper, nullptr);
+    std::vector<std::pair<std::string, float>> ratios;
+    for (auto const& [joint, ratio] : gripper->controlledJointAndRatios()) {
+        ratios.emplace_back(joint->name(), ratio);
+    }
+    EXPECT_THAT(ratios, ElementsAre(std::pair("left_finger_slide", 1.0F), std::pair("left_tip_turn", -8.0F),
+                                    std::pair("right_finger_slide", 1.0F), std::pair("right_tip_turn", 8.0F)));
 }
 
 }  // namespace

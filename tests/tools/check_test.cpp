@@ -38,7 +38,7 @@ five.xml:3:19: error: The value of "min", "x", is not a finite decimal number or
 five.xml:4:10: error: Another joint already has the name "J". [duplicate-name]
     Give each its own; the first one counts.
 five.xml:5:3: error: robotDescription holds no element "blob". [unknown-element]
-    Known here: prettyName, root, joint, chain, actuator, wheel, sensor, posture.
+    Known here: prettyName, root, joint, chain, actuator, wheel, sensor, posture, transmission, extension.
 five.xml:6:34: error: jointRef lacks its attribute "name". [missing-attribute]
     Add it: a joint of the description.
 )");

@@ -32,8 +32,9 @@ Keys operator+(Keys left, Keys const& right)
 TEST_F(Dump, PrintsEveryNumberAndName)
 {
     Json const dump = Json::parse(run({"dump", "-"}, legs).out);
-    EXPECT_EQ(keysOf(dump), (Keys{"name", "prettyName", "version", "rootLink", "links", "joints", "jointSymmetries",
-                                  "jointGroups", "actuators", "actuatorGroups", "sensors"}));
+    EXPECT_EQ(keysOf(dump),
+              (Keys{"name", "prettyName", "version", "rootLink", "links", "joints", "jointSymmetries", "jointGroups",
+                    "actuators", "actuatorGroups", "sensors", "transmissions", "extensions"}));
     EXPECT_EQ(dump["name"], "Walker");
     EXPECT_EQ(dump["prettyName"], "The Walker");
     EXPECT_EQ(dump["version"], "2.1");
@@ -64,7 +65,7 @@ TEST_F(Dump, PrintsEveryNumberAndName)
     EXPECT_EQ(dump["sensors"][2].dump(), Json::parse(R"({
         "name": "Eye", "type": "Camera", "frame": "Eye",
         "globalPosition": [1, 0, 0, 0.2, 0, 1, 0, -0, 0, 0, 1, -0, 0, 0, 0, 1],
-        "bufferSize": 3686400, "width": 640, "height": 480})")
+        "bufferSize": 3686400, "width": 640, "height": 480, "settings": null})")
                                              .dump());
 }
 
@@ -155,7 +156,8 @@ TEST_F(Dump, EveryKindOfElementHasItsMembers)
         }
         for (Json const& one : dump["sensors"]) {
             auto const special = sensors.find(one["type"]);
-            EXPECT_EQ(keysOf(one), special == sensors.end() ? keyed : special->second) << one["name"];
+            Keys const keys = special == sensors.end() ? keyed : special->second;
+            EXPECT_EQ(keysOf(one), keys + Keys{"settings"}) << one["name"];
             EXPECT_EQ(one["globalPosition"].size(), 16U);
         }
     }

@@ -134,6 +134,8 @@ class Comparison:
         joints = {joint["name"]: joint for joint in self.dump["joints"]}
         for element in self.robot:
             name = element.get("name")
+            if element.tag in ("link", "joint") and name not in (links if element.tag == "link" else joints):
+                self.lacks.append(f"there is no {element.tag} {name}")
             if element.tag == "link":
                 self.link(name, element, links.get(name) or {})
             elif element.tag == "joint":

@@ -12,6 +12,9 @@ std::string writeSchema();
 /// The part of the documentation that lists every element, attribute and type, in Markdown.
 std::string writeElementReference();
 
+/// The part of the documentation of URDF that lists the settings of sensors, in Markdown.
+std::string writeSensorSettingsReference();
+
 /// The part of the documentation that lists every code of a finding, in Markdown.
 std::string writeFindingReference();
 

@@ -5,6 +5,7 @@
 #include "format_writer.hpp"
 #include "native/elements.hpp"
 #include "native/native_codes.hpp"
+#include "urdf/sensor_settings.hpp"
 #include "value_types.hpp"
 
 namespace Varo::Model::Native {
@@ -124,7 +125,25 @@ void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
     }
 }
 
+template <class Record>
+void writeSettings(std::ostream& out, std::string const& around, Range<Urdf::Setting<Record>> settings)
+{
+    for (Urdf::Setting<Record> const& setting : settings) {
+        out << "| `" << around << setting.path << "` | " << setting.unit << " | " << setting.type << " | `settings/"
+            << setting.place << "` |\n";
+    }
+}
+
 }  // namespace
+
+std::string writeSensorSettingsReference()
+{
+    std::ostringstream out;
+    out << "| URDF, in the sensor | unit | must be | native dialect |\n| --- | --- | --- | --- |\n";
+    writeSettings(out, "", Urdf::sensorSettings);
+    writeSettings(out, "noise/", Urdf::noiseSettings);
+    return out.str();
+}
 
 std::string writeElementReference()
 {

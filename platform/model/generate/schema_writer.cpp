@@ -60,6 +60,7 @@ void writeTypes(Lines& out)
 {
     std::string const number = "[+\\-]?([0-9]+(\\.[0-9]*)?|\\.[0-9]+)([eE][+\\-]?[0-9]+)?";
     writeRestriction(out, "text", "xs:string", "<xs:minLength value=\"0\"/>");
+    writeRestriction(out, "markup", "xs:string", "<xs:minLength value=\"1\"/>");
     writeRestriction(out, "line", "xs:token", "<xs:minLength value=\"1\"/>");
     writeRestriction(out, "file", "xs:string", "<xs:minLength value=\"1\"/>");
     writeRestriction(out, "name", "xs:string",
@@ -70,7 +71,10 @@ void writeTypes(Lines& out)
     writeRestriction(out, "channel", "xs:float",
                      "<xs:minInclusive value=\"0\"/><xs:maxInclusive value=\"1\"/>" + numberFacet);
     writeRestriction(out, "limit", "xs:token", "<xs:pattern value=\"" + number + "|unlimited\"/>");
+    writeRestriction(out, "amount", "number", "<xs:pattern value=\"[^\\-].*|-0(\\.0*)?\"/>");
+    writeRestriction(out, "bound", "limit", "<xs:pattern value=\"[^\\-].*|-0(\\.0*)?\"/>");
     writeRestriction(out, "integer", "xs:int", "<xs:pattern value=\"[+\\-]?[0-9]+\"/>");
+    writeRestriction(out, "count", "integer", "<xs:minInclusive value=\"0\"/>");
     writeRestriction(out, "boolean", "xs:boolean", "<xs:pattern value=\"true|false|1|0\"/>");
     writeList(out, "vector3", "number", 3);
     writeList(out, "lengths3", "length", 3);

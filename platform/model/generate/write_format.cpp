@@ -31,7 +31,8 @@ int main(int argc, char** argv)
     std::string const urdfPage = tree + "/docs/urdf.md";
     std::string format = Native::spliced(readFile(formatPage), "elements", Native::writeElementReference());
     format = Native::spliced(format, "findings", Native::writeFindingReference());
-    std::string const urdf = Native::spliced(readFile(urdfPage), "elements", Urdf::writeElementReference());
+    std::string urdf = Native::spliced(readFile(urdfPage), "elements", Urdf::writeElementReference());
+    urdf = Native::spliced(urdf, "sensor settings", Native::writeSensorSettingsReference());
     std::ofstream(formatPage) << format;
     std::ofstream(urdfPage) << urdf;
     std::ofstream(tree + "/schema/robot-description.xsd") << Native::writeSchema();

@@ -249,7 +249,7 @@ The exit status is 1 when there is an error in any file, and 0 otherwise.
 
 Examples:
   varo-robot check --strict robots/*.xml
-  varo-robot check --silence not-carried arm.urdf
+  varo-robot check --silence frozen-mimic arm.urdf
   varo-robot check --tolerance-com 0.001 --tolerance-inertia 0.05 walker.xml
   varo-robot check --meshes --package arm_meshes=../meshes arm.urdf
   xmllint --noent robot.xml | varo-robot check -)",

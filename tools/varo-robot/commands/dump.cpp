@@ -32,7 +32,12 @@ Command const dumpCommand = {"dump", "Print the whole model as JSON",
                              R"(Prints one JSON object with everything that the model holds: name, prettyName,
 version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
 actuators, actuatorGroups and sensors, each in the order in which loading made
-its elements.
+its elements, then transmissions and extensions (what the description has for
+other programs, as text) in the order of the description.
+
+A sensor's settings are null when the description states none: updateRate (Hz),
+camera (rad, pixels, m), horizontalScan and verticalScan (rad), range (m) and
+noises, in the unit of the values; null is what is not stated or unlimited.
 
 The visuals and collisions of a link each have a name, a pose and a geometry: its
 type (mesh, box, cylinder, sphere or capsule), the uri and scale of a mesh, the

@@ -282,7 +282,7 @@ void printForEyes(Sim::Model const& model, Findings const& findings, MeshCount c
     sheet.add("chains", chains(robot));
     addIfAny("postures", postures(robot));
     addIfAny("meshes", meshText(meshes));
-    sheet.add(recordsOf(robot)->holdsAllStated ? "findings" : "not carried", findingLines(findings));
+    sheet.add("findings", findingLines(findings));
 }
 
 void printForPrograms(Sim::Model const& model, Findings const& findings, MeshCount const& meshes)

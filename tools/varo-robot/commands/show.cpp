@@ -76,6 +76,7 @@ std::vector<Sighting> Search::run()
     addNamed("actuator", _model.actuators());
     addNamed("actuator group", _model.actuatorGroups());
     addNamed("sensor", _model.sensors());
+    addRecords("transmission");
     addRecords("posture");
     return std::move(_found);
 }
@@ -132,11 +133,23 @@ void printFact(std::string const& key, std::string const& text)
     std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << text << '\n';
 }
 
+/// One line for each part of the settings that is stated.
+void printSettings(Json const& settings)
+{
+    for (auto const& [part, stated] : settings.items()) {
+        if (!stated.is_null() && !(stated.is_array() && stated.empty())) {
+            printFact(part, readable(stated));
+        }
+    }
+}
+
 /// One line for each fact and each object of a list; the facts of an object within stand among the others.
 void printFacts(Sighting const& sighting, Json const& facts, LinkNames const& names)
 {
     for (auto const& [key, value] : facts.items()) {
-        if (value.is_object() && !value.empty()) {
+        if (key == "settings" && value.is_object()) {
+            printSettings(value);
+        } else if (value.is_object() && !value.empty()) {
             printFacts(sighting, value, names);
         } else if (value.is_array() && !value.empty() && value[0].is_object()) {
             for (Json const& entry : value) {
@@ -234,13 +247,13 @@ std::function<int()> declare(CLI::App& app)
 
 Command const showCommand = {"show", "Show everything of a name",
                              R"(Prints all that the model knows under the name, whatever its kind: links, joints
-with their groups and symmetries, chains, groups, actuators, sensors and
-postures, one after the other when several have it. A link is found by the name
-that the description gives it, as URDF does, and by the model's, which is that
-of its joint with Link appended.
+with their groups and symmetries, chains, groups, actuators, sensors with their
+settings, transmissions and postures, one after the other when several have it.
+A link is found by the name that the description gives it, as URDF does, and by
+the model's, which is that of its joint with Link appended.
 
 With --json: an array of objects, each with its kind (link, joint, symmetry,
-chain, joint group, actuator, actuator group, sensor or posture) and then as
+chain, joint group, actuator, actuator group, sensor, transmission or posture) and then as
 `dump` and `list` print it.
 
 Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.

@@ -4,6 +4,7 @@
 #include "support/device_kinds.hpp"
 #include "support/element_json.hpp"
 #include "support/json_parts.hpp"
+#include "support/settings_json.hpp"
 
 namespace Tool {
 
@@ -100,7 +101,9 @@ Json ElementJson::of(Sim::Actuator const& actuator)
 
 Json ElementJson::of(Sim::Sensor const& sensor)
 {
-    return deviceJson(sensor, Sim::sensorKinds);
+    Json json = deviceJson(sensor, Sim::sensorKinds);
+    json["settings"] = settingsJson(sensor.settings());
+    return json;
 }
 
 }  // namespace Tool

@@ -81,6 +81,24 @@ std::vector<Json> postures(Sim::Model const& model)
     return data;
 }
 
+std::vector<Json> transmissions(Sim::Model const& model)
+{
+    using Varo::Model::TransmissionSource;
+    std::vector<Json> data;
+    auto const records = Varo::Model::recordsOf(model.robot());
+    for (Varo::Model::TransmissionConfig const& driven : records->transmissions) {
+        data.push_back({{"name", driven.name},
+                        {"type", driven.type},
+                        {"joint", driven.joint},
+                        {"actuator", driven.actuator},
+                        {"reduction", driven.reduction},
+                        {"interfaces", driven.interfaces},
+                        {"stateInterfaces", driven.stateInterfaces},
+                        {"source", driven.source == TransmissionSource::ros2Control ? "ros2Control" : "transmission"}});
+    }
+    return data;
+}
+
 using Columns = std::vector<Column>;
 
 namespace columns {
@@ -153,6 +171,14 @@ std::vector<Kind> makeKinds()
         {"joint-groups", {"joint-group"}, {name, joints}, all<&Model::jointGroups>},
         {"actuator-groups", {"actuator-group"}, {name, {"PARENT", "/parent"}, actuators}, all<&Model::actuatorGroups>},
         {"chains", {"chain"}, {name, {"PARENT", "/parent"}, joints}, chains},
+        {"transmissions",
+         {"transmission"},
+         {name,
+          {"JOINT", "/joint"},
+          {"ACTUATOR", "/actuator"},
+          {"REDUCTION", "/reduction"},
+          {"INTERFACES", "/interfaces"}},
+         transmissions},
         {"postures", {"posture"}, {name, {"ANGLES", "/angles"}}, postures},
         {"actuators", {"actuator"}, columnsOf<Sim::Actuator>(), all<&Model::actuators>},
     };

@@ -1,6 +1,8 @@
 #ifndef VARO_MODEL_NATIVE_ELEMENTS_HPP
 #define VARO_MODEL_NATIVE_ELEMENTS_HPP
 
+#include <string>
+
 #include "native/schema.hpp"
 #include "varo/model/records.hpp"
 
@@ -10,6 +12,13 @@ namespace Varo::Model::Native {
 /// What the joint record has no place for goes into the robot's own lists.
 struct JointReading : JointConfig {
     bool reflectionForced = false;
+};
+
+/// Which kind of element an extension stands in is said by which of these names it.
+struct ExtensionReading : ExtensionConfig {
+    std::string link;
+    std::string joint;
+    std::string sensor;
 };
 
 extern Element<Records> const robotDescriptionElement;
@@ -22,6 +31,11 @@ extern Element<ActuatorConfig> const actuatorElement;
 extern Element<WheelConfig> const wheelElement;
 extern Element<SensorConfig> const sensorElement;
 extern Element<PostureConfig> const postureElement;
+extern Element<TransmissionConfig> const transmissionElement;
+extern Element<ExtensionReading> const extensionElement;
+
+// What stands in a sensor.
+extern Element<SensorSettings> const sensorSettingsElement;
 
 }  // namespace Varo::Model::Native
 

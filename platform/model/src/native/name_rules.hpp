@@ -33,9 +33,9 @@ enum NameKind : unsigned {
     rootLink = 32,
     inChain = 64,  ///< a joint or a mere name that a chain lists
     hasAngle = 128,  ///< stands in a chain and has a motor, or is an actuator that is attached to what stands in one
-    referable = 255,  ///< all kinds that names refer to
     chain = 256,
     sensor = 512,
+    referable = 255 | sensor,  ///< all kinds that names refer to
     posture = 1024,
     postureAngle = 2048,
     prettyName = 4096,
@@ -84,6 +84,12 @@ inline constexpr NameRule sensorParent{
     oneOf(joint | subJoint | wheel | root | rootLink,
           "The sensor's parent, %, is not the name of a joint, a wheel or the root, on which models therefore put "
           "it.")};
+inline constexpr NameRule transmissionJoint{
+    {}, oneOf(joint | subJoint, "The joint that is driven, %, is not the name of a joint.")};
+inline constexpr NameRule extensionLink{
+    {}, oneOf(joint | root, "The extension's link, %, is not the name of a joint or the root.")};
+inline constexpr NameRule extensionJoint{{}, oneOf(joint, "The extension's joint, %, is not the name of a joint.")};
+inline constexpr NameRule extensionSensor{{}, oneOf(sensor, "The extension's sensor, %, is not the name of a sensor.")};
 inline constexpr NameRule angleOwner{
     unique(postureAngle, "Another angle of this posture is already that of %.", true),
     {hasAngle,

@@ -64,6 +64,33 @@ void readSensor(ElementReader& reader, pugi::xml_node node, Records& robot)
     robot.sensors.add(std::move(sensor));
 }
 
+void readExtension(ElementReader& reader, pugi::xml_node node, Records& robot)
+{
+    ExtensionReading extension;
+    reader.read(extensionElement, node, extension);
+    extension.owner = !extension.link.empty()     ? ExtensionOwner::link
+                      : !extension.joint.empty()  ? ExtensionOwner::joint
+                      : !extension.sensor.empty() ? ExtensionOwner::sensor
+                                                  : ExtensionOwner::robot;
+    extension.ownerName = extension.link + extension.joint + extension.sensor;
+    extension.textOffset = at(node);
+    robot.extensions.push_back(static_cast<ExtensionConfig&&>(extension));
+}
+
+void writeExtensions(ElementWriter& writer, Records const& robot)
+{
+    for (ExtensionConfig const& config : robot.extensions) {
+        ExtensionReading extension{config, {}, {}, {}};
+        switch (config.owner) {
+        case ExtensionOwner::link: extension.link = config.ownerName; break;
+        case ExtensionOwner::joint: extension.joint = config.ownerName; break;
+        case ExtensionOwner::sensor: extension.sensor = config.ownerName; break;
+        case ExtensionOwner::robot: break;
+        }
+        writer.write(extensionElement, extension);
+    }
+}
+
 constexpr Attribute<Records> attributes[] = {
     required<&Records::name, Name>("name", "", "what the robot is called"),
     optional<&Records::version>("version", "", "", "the description's own version"),
@@ -77,6 +104,8 @@ constexpr Child<Records> children[] = {
     childrenOf<&Records::wheels, wheelElement>(),
     {{&sensorElement, Occurrence::any}, readSensor, childrenOf<&Records::sensors, sensorElement>().write},
     childrenOf<&Records::postures, postureElement>(),
+    childrenOf<&Records::transmissions, transmissionElement>(),
+    {{&extensionElement, Occurrence::any}, readExtension, writeExtensions},
 };
 
 }  // namespace

@@ -1,4 +1,6 @@
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "native/body.hpp"
 #include "native/elements.hpp"
@@ -17,6 +19,20 @@ constexpr Attribute<std::string> keyText = whole<Line>("", "a device key");
 constexpr Element<std::string> keyElement{"key",   "a key under which the device layer knows the sensor", {}, {}, {},
                                           &keyText};
 
+void readSettings(ElementReader& reader, pugi::xml_node node, SensorConfig& sensor)
+{
+    SensorSettings settings;
+    reader.read(sensorSettingsElement, node, settings);
+    sensor.settings = std::make_shared<SensorSettings const>(std::move(settings));
+}
+
+void writeSettings(ElementWriter& writer, SensorConfig const& sensor)
+{
+    if (sensor.settings != nullptr) {
+        writer.write(sensorSettingsElement, *sensor.settings);
+    }
+}
+
 constexpr Attribute<SensorConfig> attributes[] = {
     named<&SensorConfig::name>("name", names::ofSensor, "what the sensor is called"),
     named<&SensorConfig::parent>("parent", names::sensorParent, "the joint whose link carries the sensor, or the root"),
@@ -26,6 +42,7 @@ constexpr Child<SensorConfig> children[] = {
     poseChild<&SensorConfig::placement, sensorPlacementElement>(),
     childrenOf<&SensorConfig::keys, keyElement>(),
     freeAttributeChild<SensorConfig>,
+    {{&sensorSettingsElement, Occurrence::optional}, readSettings, writeSettings},
 };
 
 }  // namespace

@@ -32,14 +32,11 @@ inline constexpr FindingCode renamed{"renamed", Severity::warning,
 
 inline constexpr FindingCode frozenMimic{"frozen-mimic", Severity::note,
                                          "The mimic of a joint that does not move means nothing."};
-inline constexpr FindingCode unsupported{"not-carried", Severity::note,
-                                         "Elements of a kind that the model has no place for are passed over."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofLinkTrees[] = {
-    &notANumber,  &duplicateName, &noLink,     &severalRoots,  &unattachedJoint,
-    &unknownLink, &twoParents,    &jointCycle, &unknownLeader, &mimicCycle,
-    &mimicOffset, &frozenLeader,  &renamed,    &frozenMimic,   &unsupported,
+    &notANumber, &duplicateName, &noLink,     &severalRoots, &unattachedJoint, &unknownLink, &twoParents,
+    &jointCycle, &unknownLeader, &mimicCycle, &mimicOffset,  &frozenLeader,    &renamed,     &frozenMimic,
 };
 
 }  // namespace Varo::Model::codes

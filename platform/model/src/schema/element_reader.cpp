@@ -82,7 +82,7 @@ void ElementReader::noteMissingAttributes(ElementInfo const& element, pugi::xml_
     for (AttributeInfo const& attribute : element.attributes) {
         if ((seen & bit) == 0 && attribute.required) {
             onMissingAttribute(element, attribute, node);
-        } else if ((seen & bit) == 0 && attribute.names != nullptr) {
+        } else if ((seen & bit) == 0 && attribute.names != nullptr && !attribute.defaultText.empty()) {
             onName(*attribute.names, attribute.defaultText, node, {});
         }
         bit <<= 1;

@@ -5,7 +5,7 @@
 
 #include <pugixml.hpp>
 
-#include "robot/unsupported.hpp"
+#include "urdf/extensions.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "xml/node_offset.hpp"
@@ -15,12 +15,11 @@ namespace Varo::Model::Urdf {
 /// What all readers of elements report to.
 struct Report {
     Diagnostics& diagnostics;
-    Unsupported& unsupported;
+    Extensions& extensions;
 
-    void passOver(pugi::xml_node element) const
-    {
-        unsupported.add(element.parent().name(), element.name(), at(element));
-    }
+    /// What nothing in the records is for is kept as it stands.
+    void passOver(pugi::xml_node element) const { extensions.add(element); }
+    void passOver(pugi::xml_node element, pugi::xml_attribute attribute) const { extensions.add(element, attribute); }
 };
 
 void reportLongName(TextOffset place, Diagnostics& diagnostics);

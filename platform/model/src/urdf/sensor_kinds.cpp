@@ -1,58 +1,15 @@
 #include "urdf/sensor_kinds.hpp"
 
-#include <cmath>
+#include <algorithm>
+#include <tuple>
 
-#include "urdf/numbers.hpp"
+#include "range.hpp"
 
 namespace Varo::Model::Urdf {
 
 namespace {
 
-constexpr double largestSize = 100'000.0;
-
-/// A size that stands as an attribute (`<image width="640"/>`) or as a child (`<image><width>640</width></image>`); 0
-/// when it is missing or useless.
-std::size_t readSize(pugi::xml_node node, char const* name)
-{
-    pugi::xml_attribute const attribute = node.attribute(name);
-    double value = 0.0;
-    bool const isSize = parseNumber(attribute ? attribute.value() : node.child_value(name), value) && value >= 1.0 &&
-                        value <= largestSize && value == std::floor(value);
-    return isSize ? static_cast<std::size_t>(value) : 0;
-}
-
-SensorSize readImageSize(pugi::xml_node sensor)
-{
-    pugi::xml_node const image = sensor.child("camera").child("image");
-    if (image) {
-        return {readSize(image, "width"), readSize(image, "height")};
-    }
-    // The old form is a single list.
-    std::string_view const list = sensor.child_value("imageSize");
-    std::size_t const gap = list.find_first_of(" \t\r\n", list.find_first_not_of(" \t\r\n"));
-    double width = 0.0;
-    double height = 0.0;
-    if (gap == list.npos || !parseNumber(list.substr(0, gap), width) || !parseNumber(list.substr(gap), height) ||
-        !(width >= 1.0 && width <= largestSize && height >= 1.0 && height <= largestSize)) {
-        return {};
-    }
-    return {static_cast<std::size_t>(width), static_cast<std::size_t>(height)};
-}
-
-SensorSize readScanSize(pugi::xml_node sensor)
-{
-    if (sensor.child("rangeCount")) {
-        return {readSize(sensor, "rangeCount"), 1};
-    }
-    pugi::xml_node const ray = sensor.child("ray") ? sensor.child("ray") : sensor.child("lidar");
-    pugi::xml_node const scan = ray.child("scan") ? ray.child("scan") : ray;
-    pugi::xml_node const vertical = scan.child("vertical");
-    return {readSize(scan.child("horizontal"), "samples"), vertical ? readSize(vertical, "samples") : 1};
-}
-
-}  // namespace
-
-SensorKind const* findSensorKind(std::string_view name)
+Range<SensorKind> allKinds()
 {
     static std::vector<std::string_view> const motion = {"AngularSpeedX", "AngularSpeedY", "AngularSpeedZ",
                                                          "AccelerationX", "AccelerationY", "AccelerationZ"};
@@ -75,7 +32,21 @@ SensorKind const* findSensorKind(std::string_view name)
         {"sonar", sonar, {"Distance"}},
         {"force_torque", fsr, {"Force"}},
     };
-    for (SensorKind const& kind : kinds) {
+    return kinds;
+}
+
+/// The values that a sweep gives; 0 when they are too few or too many.
+std::int32_t valuesOf(ScanSettings const& sweep)
+{
+    float const values = static_cast<float>(sweep.samples) * sweep.resolution;
+    return values < 100'000.5F ? static_cast<std::int32_t>(values + 0.5F) : 0;
+}
+
+}  // namespace
+
+SensorKind const* findSensorKind(std::string_view name)
+{
+    for (SensorKind const& kind : allKinds()) {
         if (kind.name == name) {
             return &kind;
         }
@@ -83,9 +54,22 @@ SensorKind const* findSensorKind(std::string_view name)
     return nullptr;
 }
 
-SensorSize readSensorSize(pugi::xml_node sensor, SensorType type)
+SensorKind const& defaultKind(SensorType type)
 {
-    return type == arrayDepth ? readScanSize(sensor) : readImageSize(sensor);
+    Range<SensorKind> const kinds = allKinds();
+    return *std::find_if(kinds.begin(), kinds.end(), [type](SensorKind const& kind) { return kind.type == type; });
+}
+
+SensorSize sensorSizeOf(SensorSettings const* settings, SensorType type)
+{
+    if (settings == nullptr) {
+        return {};
+    }
+    if (type == arrayDepth) {
+        auto const& [across, upward] = std::tie(settings->horizontalScan, settings->verticalScan);
+        return {across ? valuesOf(*across) : 0, upward ? valuesOf(*upward) : 1};
+    }
+    return settings->camera ? SensorSize{settings->camera->width, settings->camera->height} : SensorSize();
 }
 
 SensorSize defaultSensorSize(SensorType type)

@@ -1,11 +1,9 @@
 #ifndef VARO_MODEL_URDF_SENSOR_KINDS_HPP
 #define VARO_MODEL_URDF_SENSOR_KINDS_HPP
 
-#include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
-
-#include <pugixml.hpp>
 
 #include "varo/model/configs.hpp"
 
@@ -21,16 +19,19 @@ struct SensorKind {
 /// Null for a kind that the model has no equivalent of.
 SensorKind const* findSensorKind(std::string_view name);
 
+/// The kind that a sensor of the type is when nothing else says more. Only of types that kinds have.
+SensorKind const& defaultKind(SensorType type);
+
 /// The pixels of a camera or the points of a scan.
 struct SensorSize {
-    std::size_t width = 0;
-    std::size_t height = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
 
     bool isUsable() const { return width > 0 && height > 0; }
 };
 
-/// What the element states, in whichever of the usual forms; not usable when it states none.
-SensorSize readSensorSize(pugi::xml_node sensor, SensorType type);
+/// What the settings state; not usable when they state none. Null for no settings.
+SensorSize sensorSizeOf(SensorSettings const* settings, SensorType type);
 
 /// What a sensor without a usable size counts as.
 SensorSize defaultSensorSize(SensorType type);

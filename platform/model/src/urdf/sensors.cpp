@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "urdf/numbers.hpp"
+#include "urdf/sensor_settings.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
@@ -54,29 +55,53 @@ bool hasSize(SensorType type)
 
 void SensorReader::readSensor(pugi::xml_node node)
 {
-    read(node, kindNameOf(node), node.child("parent"), "link");
+    pugi::xml_node const parent = node.child("parent");
+    pugi::xml_attribute const joint = parent.attribute("joint");
+    if (!read(node, {(joint ? joint : parent.attribute("link")).value(), !joint.empty()})) {
+        _report.passOver(node);
+    }
 }
 
+/// An element that refers to nothing is kept as one, so that what it refers to is kept with it.
 void SensorReader::readExtension(pugi::xml_node gazebo)
 {
-    bool saysMore = false;
-    for (pugi::xml_node child : gazebo.children()) {
-        if (isSensor(child.name())) {
-            read(child, kindNameOf(child), gazebo, "reference");
-        } else {
-            saysMore = saysMore || child.type() == pugi::node_element;
+    pugi::xml_attribute const reference = gazebo.attribute("reference");
+    ExtensionConfig bearer;
+    bool const isDangling = reference && !findBearer(reference.value(), _tree, bearer);
+    for (pugi::xml_attribute const attribute : gazebo.attributes()) {
+        if (!isDangling && attribute != reference) {
+            _report.passOver(gazebo, attribute);
         }
     }
-    if (saysMore) {
+    for (pugi::xml_node const child : gazebo.children()) {
+        bool const isRead = isSensor(child.name()) && read(child, {reference.value()});
+        if (!isRead && !isDangling && child.type() == pugi::node_element) {
+            _report.passOver(child);
+        }
+    }
+    if (isDangling) {
         _report.passOver(gazebo);
     }
 }
 
-/// A sensor on a joint is taken to be on the link that the joint moves.
-bool SensorReader::findParent(std::string_view carrier, std::string& parent) const
+/// In one note: there is nothing to be done about it.
+void SensorReader::reportKindsWithoutClass() const
 {
-    std::size_t const link = find(_tree.linkByName, carrier);
-    std::size_t const joint = link == none ? find(_tree.jointByName, carrier) : _tree.links[link].parentJoint;
+    if (_withoutClass.empty()) {
+        return;
+    }
+    std::string const others =
+        _withoutClass.size() > 1 ? ", and so are " + std::to_string(_withoutClass.size() - 1) + " more." : ".";
+    _report.diagnostics.report(at(_withoutClass.front()), codes::sensorKind,
+                               "This sensor, of the kind " + quoted(kindNameOf(_withoutClass.front())) +
+                                   ", is in the records and has a frame in models, but no class" + others);
+}
+
+/// A sensor on a joint is taken to be on the link that the joint moves.
+bool SensorReader::findParent(Carrier carrier, std::string& parent) const
+{
+    std::size_t const link = carrier.isJoint ? none : find(_tree.linkByName, carrier.name);
+    std::size_t const joint = link == none ? find(_tree.jointByName, carrier.name) : _tree.links[link].parentJoint;
     if (link == none && joint == none) {
         return false;
     }
@@ -90,12 +115,15 @@ Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
     if (!pose) {
         return readOrigin(node.child("origin"), _report.diagnostics);
     }
-    for (char const* attribute : {"frame", "relative_to"}) {
-        std::string_view const frame = pose.attribute(attribute).value();
-        if (!frame.empty() && frame != carrier) {
-            _report.diagnostics.report(
-                at(pose, attribute), codes::sensorFrameLost,
-                "This pose is read in the frame of the link that carries the sensor, not in " + quoted(frame) + ".");
+    for (pugi::xml_attribute const attribute : pose.attributes()) {
+        _report.passOver(pose, attribute);
+        std::string_view const name = attribute.name();
+        std::string_view const frame = attribute.value();
+        if ((name == "frame" || name == "relative_to") && !frame.empty() && frame != carrier) {
+            _report.diagnostics.report(at(pose, attribute), codes::sensorFrame,
+                                       "URDF has sensors posed in the frame of the link that carries them, and so this "
+                                       "one is taken to be, not in " +
+                                           quoted(frame) + ".");
         }
     }
     double values[6] = {};
@@ -103,30 +131,37 @@ Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
     return poseFrom({values[0], values[1], values[2]}, {values[3], values[4], values[5]});
 }
 
-void SensorReader::read(pugi::xml_node node, std::string_view kindName, pugi::xml_node owner, char const* carrier)
+/// False for a sensor that nothing carries.
+bool SensorReader::read(pugi::xml_node node, Carrier carrier)
 {
     Diagnostics& diagnostics = _report.diagnostics;
-    std::string_view const carrierName = owner.attribute(carrier).value();
     SensorConfig sensor;
     sensor.textOffset = at(node);
-    if (!findParent(carrierName, sensor.parent)) {
+    if (!findParent(carrier, sensor.parent)) {
+        std::string const kind = carrier.isJoint ? "joint " : "link ";
         diagnostics.report(at(node), codes::sensorLost,
-                           carrierName.empty()
-                               ? "This sensor is left out: nothing says which link carries it."
-                               : "This sensor is left out: there is no link " + quoted(carrierName) + ".");
-        return;
+                           carrier.name.empty()
+                               ? "This sensor is in no model: nothing says which link carries it."
+                               : "This sensor is in no model: there is no " + kind + quoted(carrier.name) + ".");
+        return false;
     }
-    std::string_view const name = *node.attribute("name").value() != 0 ? readName(node, diagnostics) : carrierName;
+    std::string_view const name = *node.attribute("name").value() != 0 ? readName(node, diagnostics) : carrier.name;
     sensor.name = _names.claim(std::string(name), "this sensor", at(node), diagnostics);
-    sensor.placement = toTransform(readPose(node, carrierName));
-    if (SensorKind const* const kind = findSensorKind(kindName)) {
+    sensor.placement = toTransform(readPose(node, carrier.name));
+    sensor.settings = readSensorSettings(node, _report);
+    std::string_view const kindName = kindNameOf(node);
+    SensorKind const* const kind = findSensorKind(kindName);
+    if (kind != nullptr) {
         fill(node, *kind, sensor);
     } else {
-        diagnostics.report(at(node), codes::sensorKindLost,
-                           "The model has no class for sensors of the kind " + quoted(kindName) + ".");
+        _withoutClass.push_back(node);
+    }
+    if (kind == nullptr || &defaultKind(kind->type) != kind) {
         sensor.attributes["urdfType"] = kindName;
     }
+    _report.extensions.addSensor(node, sensor.name);
     _robot.sensors.add(std::move(sensor));
+    return true;
 }
 
 /// Type, keys and size, as the loaders of a model want them for sensors of this kind.
@@ -139,7 +174,7 @@ void SensorReader::fill(pugi::xml_node node, SensorKind const& kind, SensorConfi
     if (!hasSize(kind.type)) {
         return;
     }
-    SensorSize size = readSensorSize(node, kind.type);
+    SensorSize size = sensorSizeOf(sensor.settings.get(), kind.type);
     if (!size.isUsable()) {
         size = defaultSensorSize(kind.type);
         _report.diagnostics.report(at(node), codes::sensorSize,

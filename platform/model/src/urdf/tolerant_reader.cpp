@@ -27,7 +27,7 @@ void reportUnknownType(TextOffset place, std::string_view value, Diagnostics& di
 /// Elements of the robot that others than the tables read.
 bool isReadElsewhere(std::string_view name)
 {
-    return name == "sensor" || name == "gazebo";
+    return name == "sensor" || name == "gazebo" || name == "ros2_control";
 }
 
 /// Numbers that are ones, as many as there should be, but not such as there should be.
@@ -63,6 +63,7 @@ void reportWrongNumbers(ValueType const& type, TextOffset place, std::string_vie
 std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                                pugi::xml_attribute attribute)
 {
+    _report.passOver(node, attribute);
     return _unknown.noteAttribute(element, node, attribute);
 }
 

@@ -7,7 +7,8 @@
 
 namespace Varo::Model::Urdf {
 
-/// Takes what the tables of URDF allow, passes over what is for other programs, and says what it makes of the rest.
+/// Takes what the tables of URDF allow, keeps the text of what is for other programs, and says what it makes of the
+/// rest.
 class TolerantReader final : public Schema::ElementReader {
 public:
     TolerantReader(Report const& report, Records& robot) : ElementReader(report.diagnostics, robot), _report(report) {}

@@ -60,7 +60,7 @@ void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& 
         for (std::size_t i = 0; i < transmission.joints.size(); ++i) {
             TransmissionEnd const& joint = transmission.joints[i];
             if (!joint.name.empty() && find(tree.jointByName, joint.name) == none) {
-                diagnostics.report(at(joint.node, "name"), codes::unknownTransmissionJoint,
+                diagnostics.report(at(joint.node, "name"), codes::unknownDrivenJoint,
                                    "There is no joint " + quoted(joint.name) + "; the record keeps the name.");
             }
             robot.transmissions.push_back(toConfig(transmission, i));

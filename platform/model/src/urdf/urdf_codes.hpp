@@ -46,31 +46,33 @@ inline constexpr FindingCode duplicateMaterial{"duplicate-material", Severity::w
                                                "Two materials of the robot have the same name; the first one counts."};
 inline constexpr FindingCode missingAttribute{"missing-attribute", Severity::warning,
                                               "An element lacks an attribute that it needs; a number counts as 0."};
-inline constexpr FindingCode unknownTransmissionJoint{"unknown-transmission-joint", Severity::warning,
-                                                      "A transmission drives a joint that does not exist."};
 inline constexpr FindingCode sensorLost{"sensor-lost", Severity::warning,
-                                        "A sensor is left out, because no link of the robot carries it."};
-inline constexpr FindingCode sensorKindLost{"sensor-kind-lost", Severity::warning,
-                                            "The model has no class for sensors of this kind."};
-inline constexpr FindingCode sensorFrameLost{"sensor-frame-lost", Severity::warning,
-                                             "The pose of a sensor is read in the frame of its link, not in another."};
-inline constexpr FindingCode sensorSize{"sensor-size", Severity::warning,
-                                        "A camera or scanner states no usable number of pixels or points."};
+                                        "A sensor is in no model, because no link of the robot carries it."};
+inline constexpr FindingCode sensorFrame{
+    "sensor-frame", Severity::warning,
+    "The pose of a sensor names another frame than that of its link, which it is taken to be in."};
+inline constexpr FindingCode sensorSize{
+    "sensor-size", Severity::warning,
+    "A camera or scanner states no usable number of pixels or points; the usual one is assumed."};
+inline constexpr FindingCode badSetting{"bad-setting", Severity::warning,
+                                        "A setting of a sensor is none that it can have."};
+inline constexpr FindingCode badReduction{"bad-reduction", Severity::warning,
+                                          "The reduction of a transmission is no number other than 0; 1 is assumed."};
+inline constexpr FindingCode unknownDrivenJoint{"unknown-driven-joint", Severity::warning,
+                                                "A transmission or control system drives a joint that does not exist."};
+inline constexpr FindingCode sensorKind{"sensor-kind", Severity::note,
+                                        "Sensors of a kind that models have no class for."};
 
 inline constexpr FindingCode foreignAttribute{"foreign-attribute", Severity::note,
-                                              "Attributes that URDF does not define are passed over."};
+                                              "Attributes that URDF does not define are kept as text."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &missingName,      &nameTooLong,       &unknownJointType,
-    &zeroAxis,         &unnamedRobot,      &wrongCount,
-    &missingAttribute, &surplusElement,    &unknownAttribute,
-    &unknownElement,   &misplacedElement,  &jointFrozen,
-    &missingLimit,     &reversedLimits,    &incompleteInertial,
-    &incompleteShape,  &negativeLength,    &colorRange,
-    &unknownMaterial,  &duplicateMaterial, &unknownTransmissionJoint,
-    &sensorLost,       &sensorKindLost,    &sensorFrameLost,
-    &sensorSize,       &foreignAttribute,
+    &missingName,      &nameTooLong,        &unknownJointType,   &zeroAxis,         &unnamedRobot,     &wrongCount,
+    &missingAttribute, &surplusElement,     &unknownAttribute,   &unknownElement,   &misplacedElement, &jointFrozen,
+    &missingLimit,     &reversedLimits,     &incompleteInertial, &incompleteShape,  &negativeLength,   &colorRange,
+    &unknownMaterial,  &duplicateMaterial,  &sensorLost,         &sensorFrame,      &sensorSize,       &badSetting,
+    &badReduction,     &unknownDrivenJoint, &sensorKind,         &foreignAttribute,
 };
 
 }  // namespace Varo::Model::Urdf::codes

@@ -1,5 +1,6 @@
 #include "urdf/urdf_reader.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <utility>
@@ -7,8 +8,9 @@
 
 #include "robot/link_tree.hpp"
 #include "robot/tree_records.hpp"
-#include "robot/unsupported.hpp"
 #include "urdf/elements.hpp"
+#include "urdf/extensions.hpp"
+#include "urdf/ros2_control.hpp"
 #include "urdf/schema.hpp"
 #include "urdf/sensors.hpp"
 #include "urdf/tolerant_reader.hpp"
@@ -45,11 +47,12 @@ private:
     void readIdentity();
     void readBodies();
     void readSensors();
+    void readControls();
 
     pugi::xml_node _root;
     Diagnostics& _diagnostics;
-    Unsupported _unsupported;
-    Report _report = {_diagnostics, _unsupported};
+    Extensions _kept;
+    Report _report = {_diagnostics, _kept};
     Robot _stated;
     LinkTree _tree;
     Records _robot;
@@ -66,8 +69,9 @@ Records Reader::read()
     readBodies();
     readSensors();
     translateTransmissions(_stated, _tree, _robot, _diagnostics);
-    _unsupported.report(_diagnostics);
+    readControls();
     if (!_diagnostics.hasErrors()) {
+        _kept.addRecords(_tree, *_diagnostics.source(), _robot);
         addRecords(std::move(_tree), _robot, _diagnostics);
     }
     return std::move(_robot);
@@ -107,7 +111,6 @@ void Reader::readIdentity()
     _robot.dialect = "urdf";
     _robot.statesActuators = false;
     _robot.statesPostures = false;
-    _robot.holdsAllStated = false;
     _robot.name = _stated.name;
     _robot.version = _stated.version;
     if (_robot.name.empty()) {
@@ -133,6 +136,16 @@ void Reader::readSensors()
     for (pugi::xml_node const extension : _root.children("gazebo")) {
         reader.readExtension(extension);
     }
+    reader.reportKindsWithoutClass();
+}
+
+void Reader::readControls()
+{
+    for (pugi::xml_node const system : _root.children("ros2_control")) {
+        readRos2Control(system, _tree, _robot, _report);
+    }
+    std::stable_sort(_robot.transmissions.begin(), _robot.transmissions.end(),
+                     [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); });
 }
 
 }  // namespace

@@ -129,6 +129,26 @@ std::optional<MarkupToken> nextMarkup(std::string_view text, std::size_t positio
     return token;
 }
 
+std::string_view elementAt(std::string_view text, std::size_t offset)
+{
+    std::size_t depth = 0;
+    for (auto token = nextMarkup(text, offset); token; token = nextMarkup(text, token->end)) {
+        depth += token->kind == Markup::startTag && !token->isEmptyElement ? 1 : 0;
+        depth -= token->kind == Markup::endTag ? 1 : 0;
+        if (depth == 0) {
+            return text.substr(offset, token->end - offset);
+        }
+    }
+    return text.substr(offset);
+}
+
+std::string_view attributeAt(std::string_view text, std::size_t offset)
+{
+    std::size_t const quote = text.find_first_of("\"'", offset);
+    std::size_t const close = quote == text.npos ? quote : text.find(text[quote], quote + 1);
+    return close == text.npos ? std::string_view() : text.substr(offset, close + 1 - offset);
+}
+
 std::size_t byteOrderMarkSize(std::string_view text)
 {
     std::string_view const mark = "\xEF\xBB\xBF";

@@ -29,6 +29,13 @@ struct MarkupToken {
 /// The first markup from `position` on; none at the end of the text, or where the markup is broken.
 std::optional<MarkupToken> nextMarkup(std::string_view text, std::size_t position);
 
+/// The whole element whose start tag stands at the offset, from `<` to `>`; to the end of the text when it is not
+/// closed.
+std::string_view elementAt(std::string_view text, std::size_t offset);
+
+/// The whole attribute whose name stands at the offset, from there to its closing quote; empty when it is none.
+std::string_view attributeAt(std::string_view text, std::size_t offset);
+
 /// The size of the byte order mark that the text begins with, in bytes; 0 without one.
 std::size_t byteOrderMarkSize(std::string_view text);
 

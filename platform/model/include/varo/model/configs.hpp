@@ -213,11 +213,12 @@ enum class TransmissionSource { transmission, ros2Control };
 /// Which actuator drives which joint, and how.
 struct TransmissionConfig {
     std::string name;  ///< of the transmission, or of the control system that states the joint
-    std::string type;  ///< as stated
+    std::string type;  ///< as stated; may be empty
     std::string joint;  ///< the joint that is driven
     std::string actuator;  ///< what drives it; may be empty
     float reduction = 1.0F;  ///< turns of the actuator for one of the joint
-    std::vector<std::string> interfaces;  ///< as stated, such as "position" or "EffortJointInterface"
+    std::vector<std::string> interfaces;  ///< to command the joint, as stated: "position" or "EffortJointInterface"
+    std::vector<std::string> stateInterfaces;  ///< to read the joint's state, where the text tells them apart
     TransmissionSource source = TransmissionSource::transmission;  ///< which element stated it
     TextOffset textOffset = {};  ///< of its element
 };
@@ -225,12 +226,13 @@ struct TransmissionConfig {
 /// What an extension stands in.
 enum class ExtensionOwner { robot, link, joint, sensor };
 
-/// An element that a description has for other programs, kept as it stands in the text.
+/// What a description has for other programs, kept as it stands in the text: an element, or an attribute (`a="b"`).
 struct ExtensionConfig {
     ExtensionOwner owner = ExtensionOwner::robot;  ///< what kind of element it stands in
-    std::string ownerName;  ///< joint, sensor, or the joint that moves the link; empty for the robot
-    std::string text;  ///< the whole element, markup and all
-    TextOffset textOffset = {};  ///< of its element
+    std::string ownerName;  ///< joint, sensor, or the joint that moves the link (or the root); empty for the robot
+    std::string within;  ///< the elements between the owner's and it, as "visual[2]/geometry"; empty for none
+    std::string text;  ///< the whole element or attribute, markup and all
+    TextOffset textOffset = {};  ///< of the element, or of the attribute's name
 };
 
 /// Where to look for what a text says of a part of a record.

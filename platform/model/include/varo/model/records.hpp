@@ -20,7 +20,6 @@ struct Records {
     std::string dialect;  ///< "native" or "urdf"
     bool statesActuators = true;  ///< whether the dialect has coupled actuators, or they are made of its mimics
     bool statesPostures = true;  ///< whether the dialect has postures
-    bool holdsAllStated = true;  ///< whether there is a record for all that a text of the dialect can say
     std::string name;  ///< of the robot
     std::string version;  ///< the description's own; may be empty
     std::map<int, std::string> prettyNames;  ///< by index

@@ -1,0 +1,105 @@
+#include "urdf/extensions.hpp"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "xml/markup.hpp"
+#include "xml/node_offset.hpp"
+
+namespace Varo::Model::Urdf {
+
+namespace {
+
+bool setLink(std::string_view name, LinkTree& tree, ExtensionConfig& extension)
+{
+    std::size_t const link = find(tree.linkByName, name);
+    if (link != none) {
+        extension.owner = ExtensionOwner::link;
+        extension.ownerName = tree.bodyOf(tree.links[link]).name;
+    }
+    return link != none;
+}
+
+bool setJoint(std::string_view name, LinkTree& tree, ExtensionConfig& extension)
+{
+    std::size_t const joint = find(tree.jointByName, name);
+    if (joint != none) {
+        extension.owner = ExtensionOwner::joint;
+        extension.ownerName = tree.joints[joint].config.name;
+    }
+    return joint != none;
+}
+
+bool isTopLevel(pugi::xml_node element)
+{
+    return element.parent().parent() == element.root();
+}
+
+}  // namespace
+
+bool findBearer(std::string_view name, LinkTree& tree, ExtensionConfig& extension)
+{
+    return setLink(name, tree, extension) || setJoint(name, tree, extension);
+}
+
+void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& robot)
+{
+    for (Kept const& kept : _kept) {
+        ExtensionConfig extension;
+        findPlace(kept, tree, extension);
+        extension.textOffset = at(kept.element, kept.attribute);
+        std::size_t const offset = extension.textOffset.value();
+        extension.text = kept.attribute ? attributeAt(source.text(), offset) : elementAt(source.text(), offset);
+        robot.extensions.push_back(std::move(extension));
+    }
+    std::sort(robot.extensions.begin(), robot.extensions.end(),
+              [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); });
+}
+
+/// Whether the element is one that extensions may stand in.
+bool Extensions::findOwner(pugi::xml_node element, LinkTree& tree, ExtensionConfig& extension) const
+{
+    if (auto const sensor = _sensors.find(idOf(element)); sensor != _sensors.end()) {
+        extension.owner = ExtensionOwner::sensor;
+        extension.ownerName = sensor->second;
+        return true;
+    }
+    if (!isTopLevel(element)) {
+        return element.parent() == element.root();  // the robot itself
+    }
+    std::string_view const tag = element.name();
+    std::string_view const name = element.attribute("name").value();
+    return (tag == "link" && setLink(name, tree, extension)) || (tag == "joint" && setJoint(name, tree, extension));
+}
+
+/// The way from what is kept outward to its owner.
+void Extensions::findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& extension)
+{
+    pugi::xml_node around = kept.attribute ? kept.element : kept.element.parent();
+    while (!findOwner(around, tree, extension)) {
+        bool const isGazebo = isTopLevel(around) && std::string_view(around.name()) == "gazebo";
+        std::string const step = isGazebo ? "gazebo" : stepTo(around);
+        extension.within = extension.within.empty() ? step : step + "/" + extension.within;
+        if (isGazebo) {
+            findBearer(around.attribute("reference").value(), tree, extension);
+            return;
+        }
+        around = around.parent();
+    }
+}
+
+/// The element's name and, unless it is the first of that name in its parent, which of them it is.
+std::string Extensions::stepTo(pugi::xml_node element)
+{
+    if (_ranks.find(idOf(element)) == _ranks.end()) {
+        std::unordered_map<std::string_view, std::size_t> counts;
+        for (pugi::xml_node const sibling : element.parent().children()) {
+            _ranks.emplace(idOf(sibling), ++counts[sibling.name()]);
+        }
+    }
+    std::size_t const rank = _ranks[idOf(element)];
+    return element.name() + (rank > 1 ? "[" + std::to_string(rank) + "]" : std::string());
+}
+
+}  // namespace Varo::Model::Urdf

@@ -1,0 +1,54 @@
+#ifndef VARO_MODEL_URDF_EXTENSIONS_HPP
+#define VARO_MODEL_URDF_EXTENSIONS_HPP
+
+#include <cstddef>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include <pugixml.hpp>
+
+#include "robot/link_tree.hpp"
+#include "varo/model/records.hpp"
+#include "varo/model/source_text.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// Collects what a text has for other programs while it is read, and keeps it with the records that it stands in.
+///
+/// What stands in a `gazebo` element belongs to the link or joint that this refers to. Declarations of namespaces are
+/// attributes like others, so that prefixes of what is kept can be looked up where the text has them.
+class Extensions {
+public:
+    /// An element that has no place in the records, with all that it holds.
+    void add(pugi::xml_node element) { _kept.push_back({element, {}}); }
+    /// An attribute of that kind.
+    void add(pugi::xml_node element, pugi::xml_attribute attribute) { _kept.push_back({element, attribute}); }
+    /// What is kept of the sensor's element stands in the record of that name.
+    void addSensor(pugi::xml_node element, std::string name) { _sensors.emplace(idOf(element), std::move(name)); }
+
+    /// To be called once, of a connected tree without errors.
+    void addRecords(LinkTree& tree, SourceText const& source, Records& robot);
+
+private:
+    struct Kept {
+        pugi::xml_node element;
+        pugi::xml_attribute attribute;  ///< null when the whole element is kept
+    };
+
+    static void const* idOf(pugi::xml_node node) { return node.internal_object(); }
+    bool findOwner(pugi::xml_node element, LinkTree& tree, ExtensionConfig& extension) const;
+    void findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& extension);
+    std::string stepTo(pugi::xml_node element);
+
+    std::vector<Kept> _kept;
+    std::unordered_map<void const*, std::string> _sensors;  ///< names of their records by their elements
+    std::unordered_map<void const*, std::size_t> _ranks;  ///< of elements among their like-named siblings, from 1
+};
+
+/// The link or joint of that name, the link where there are both, as what an extension stands in; false for neither.
+bool findBearer(std::string_view name, LinkTree& tree, ExtensionConfig& extension);
+
+}  // namespace Varo::Model::Urdf
+
+#endif

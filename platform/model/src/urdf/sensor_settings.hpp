@@ -1,0 +1,36 @@
+#ifndef VARO_MODEL_URDF_SENSOR_SETTINGS_HPP
+#define VARO_MODEL_URDF_SENSOR_SETTINGS_HPP
+
+#include <memory>
+#include <string_view>
+
+#include <pugixml.hpp>
+
+#include "range.hpp"
+#include "urdf/elements.hpp"
+#include "varo/model/sensor_settings.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// What a text may say of how something is set.
+template <class Record>
+struct Setting {
+    std::string_view path;  ///< of the element or attribute that states it, from the sensor's element inward
+    std::string_view place;  ///< where the native dialect states it, within `settings`
+    std::string_view unit;  ///< in the text; may be empty
+    std::string_view type;  ///< completes the sentence "This is not ..."
+    bool (*store)(std::string_view text, Record& record);  ///< false for a text that is not of the type
+};
+
+/// Of a sensor. Whoever states a setting by an element may do so by an attribute of the element around it, too.
+extern Range<Setting<SensorSettings>> const sensorSettings;
+/// Of the noise of some quantity; the paths begin at the `noise` element.
+extern Range<Setting<NoiseSettings>> const noiseSettings;
+
+/// What a sensor's element states of how the sensor is set; null for nothing. Whatever else stands in the element is
+/// passed over, but for what says which sensor it is and where.
+std::shared_ptr<SensorSettings const> readSensorSettings(pugi::xml_node sensor, Report const& report);
+
+}  // namespace Varo::Model::Urdf
+
+#endif
