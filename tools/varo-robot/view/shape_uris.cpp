@@ -1,19 +1,16 @@
 #include "view/shape_uris.hpp"
 
 #include "sim/link.hpp"
-#include "support/element_json.hpp"
+#include "sim/shape.hpp"
 
 namespace Tool {
 
 namespace {
 
-using Pointer = Json::json_pointer;
-
-void addText(std::set<std::string>& texts, Json const& json, char const* path)
+void addMesh(std::set<std::string>& meshes, Sim::Shape const& shape)
 {
-    Pointer const pointer(path);
-    if (json.contains(pointer) && json[pointer].is_string() && !json[pointer].get_ref<std::string const&>().empty()) {
-        texts.insert(json[pointer].get<std::string>());
+    if (shape.geometry.type == Varo::Model::GeometryType::mesh && !shape.geometry.uri.empty()) {
+        meshes.insert(shape.geometry.uri);
     }
 }
 
@@ -22,15 +19,15 @@ void addText(std::set<std::string>& texts, Json const& json, char const* path)
 ShapeUris shapeUrisOf(Sim::Model const& model)
 {
     ShapeUris uris;
-    ElementJson json;
     for (Sim::Link const* const link : model.links()) {
-        Json const data = json.of(*link);
-        addText(uris.meshes, data, "/visual/meshPath");
-        for (char const* const shapes : {"visuals", "collisions"}) {
-            for (Json const& shape : data.value(shapes, Json::array())) {
-                addText(uris.meshes, shape, "/geometry/uri");
-                addText(uris.textures, shape, "/material/texture");
+        for (Sim::Visual const& visual : link->visuals()) {
+            addMesh(uris.meshes, visual);
+            if (visual.material != nullptr && !visual.material->texture.empty()) {
+                uris.textures.insert(visual.material->texture);
             }
+        }
+        for (Sim::Collision const& collision : link->collisions()) {
+            addMesh(uris.meshes, collision);
         }
     }
     return uris;

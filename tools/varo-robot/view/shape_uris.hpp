@@ -8,7 +8,7 @@
 
 namespace Tool {
 
-/// The files that the bodies of a robot are drawn with, as `dump` names them.
+/// The files that the bodies of a robot are drawn with, as the description names them.
 struct ShapeUris {
     std::set<std::string> meshes;
     std::set<std::string> textures;

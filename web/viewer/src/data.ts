@@ -59,25 +59,25 @@ export interface ActuatorData {
   readonly reflectedSymmetricReversed?: boolean;
 }
 
+/** Of settings, null is what the description does not state, or what is unlimited. */
 export interface CameraSettings {
-  readonly horizontalFieldOfView: number;
-  readonly width: number;
-  readonly height: number;
-  readonly nearClip: number;
-  readonly farClip: number;
+  readonly horizontalFieldOfView: number | null;
+  readonly width: number | null;
+  readonly height: number | null;
+  readonly nearClip: number | null;
+  readonly farClip: number | null;
 }
 
 export interface ScanSettings {
-  readonly samples: number;
-  readonly minimumAngle: number;
-  readonly maximumAngle: number;
+  readonly minimumAngle: number | null;
+  readonly maximumAngle: number | null;
 }
 
 export interface SensorSettings {
   readonly camera?: CameraSettings | null;
   readonly horizontalScan?: ScanSettings | null;
   readonly verticalScan?: ScanSettings | null;
-  readonly range?: { readonly minimum: number; readonly maximum: number } | null;
+  readonly range?: { readonly minimum: number | null; readonly maximum: number | null } | null;
 }
 
 export interface SensorData {

@@ -27,33 +27,30 @@ export function frustumOf(sensor: SensorData, robotSize: number): Group | null {
   return view.isPlane ? camera(view, near, far) : scan(view, near, far);
 }
 
+/** What a camera sees across that does not state it. */
+const usualWidth = 60 * (Math.PI / 180);
+
 function viewOf({ type, width, height, settings }: SensorData): View | null {
-  const camera = settings?.camera;
-  if (camera) {
-    return cameraView(camera.horizontalFieldOfView, camera.width / Math.max(camera.height, 1), camera.nearClip, camera.farClip);
-  }
   const across = settings?.horizontalScan;
   if (across) {
-    const upward = settings?.verticalScan;
-    const range = settings?.range;
     return {
-      left: across.maximumAngle,
-      right: across.minimumAngle,
-      down: upward?.minimumAngle ?? 0,
-      up: upward?.maximumAngle ?? 0,
-      near: range?.minimum ?? 0,
-      far: range?.maximum ?? Infinity,
+      left: across.maximumAngle ?? Math.PI,
+      right: across.minimumAngle ?? -Math.PI,
+      down: settings.verticalScan?.minimumAngle ?? 0,
+      up: settings.verticalScan?.maximumAngle ?? 0,
+      near: settings.range?.minimum ?? 0,
+      far: settings.range?.maximum ?? Infinity,
       isPlane: false,
     };
   }
-  const usual = 60 * (Math.PI / 180);
-  return /^Camera/.test(type) ? cameraView(usual, (width ?? 4) / Math.max(height ?? 3, 1), 0, Infinity) : null;
-}
-
-function cameraView(width: number, aspect: number, near: number, far: number): View {
-  const across = Math.min(width, 3) / 2;
-  const upward = Math.atan(Math.tan(across) / (aspect > 0 ? aspect : 1));
-  return { left: across, right: -across, down: -upward, up: upward, near, far: far > 0 ? far : Infinity, isPlane: true };
+  const camera = settings?.camera;
+  if (!camera && !type.startsWith('Camera')) {
+    return null;
+  }
+  const aspect = (camera?.width ?? width ?? 4) / (camera?.height ?? height ?? 3);
+  const half = Math.min(camera?.horizontalFieldOfView ?? usualWidth, 3) / 2;
+  const upward = Math.atan(Math.tan(half) / (aspect > 0 && Number.isFinite(aspect) ? aspect : 1));
+  return { left: half, right: -half, down: -upward, up: upward, near: camera?.nearClip ?? 0, far: camera?.farClip ?? Infinity, isPlane: true };
 }
 
 function camera(view: View, near: number, far: number): Group {
@@ -76,7 +73,7 @@ function camera(view: View, near: number, far: number): Group {
 }
 
 function scan(view: View, near: number, far: number): Group {
-  const steps = Math.max(2, Math.ceil((view.left - view.right) / 0.1));
+  const steps = Math.min(200, Math.max(2, Math.ceil(Math.abs(view.left - view.right) / 0.1)));
   const point = (radius: number, across: number, upward: number) => [
     radius * Math.cos(upward) * Math.cos(across),
     radius * Math.cos(upward) * Math.sin(across),
