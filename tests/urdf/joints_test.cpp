@@ -110,7 +110,7 @@ TEST(UrdfTransmissions, SayWhatIsWrongWithThem)
 {
     auto const complaints = [](std::string const& text) { return complaintsAbout(robot(arm() + text)); };
     EXPECT_THAT(complaints("<transmission name=\"T\"><joint name=\"Z\"/></transmission>"),
-                ElementsAre("unknown-transmission-joint"));
+                ElementsAre("unknown-driven-joint"));
     EXPECT_EQ(transmissionsOf("<transmission name=\"T\"><joint name=\"Z\"/></transmission>").at(0).joint, "Z");
     EXPECT_THAT(complaints("<transmission><joint/></transmission>"),
                 ElementsAre("missing-attribute", "missing-attribute"));

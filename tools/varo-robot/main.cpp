@@ -29,9 +29,9 @@ Exit status:
 
 `varo-robot COMMAND --help` says more about a command.)";
 
-constexpr std::array<Command const*, 10> commands = {&checkCommand, &infoCommand,   &treeCommand, &listCommand,
-                                                     &showCommand,  &poseCommand,   &massCommand, &graphCommand,
-                                                     &dumpCommand,  &convertCommand};
+constexpr std::array<Command const*, 11> commands = {&checkCommand, &infoCommand,    &treeCommand, &listCommand,
+                                                     &showCommand,  &poseCommand,    &massCommand, &graphCommand,
+                                                     &dumpCommand,  &convertCommand, &viewCommand};
 
 void declareCommands(CLI::App& app, std::function<int()>& chosen)
 {

@@ -11,6 +11,7 @@
 #include "commands/commands.hpp"
 #include "formats/formats.hpp"
 #include "support/description.hpp"
+#include "support/findings.hpp"
 #include "support/meshes.hpp"
 #include "support/numbers.hpp"
 #include "varo/model/lint.hpp"
@@ -58,9 +59,7 @@ Findings findingsOf(Description description, Varo::Model::LintOptions const& opt
     } catch (Varo::Model::WithFindings const& reason) {
         append(findings, reason.findings());
     }
-    std::stable_sort(findings.begin(), findings.end(), [](Finding const& a, Finding const& b) {
-        return std::pair(a.line, a.column) < std::pair(b.line, b.column);
-    });
+    sortByPlace(findings);
     return findings;
 }
 

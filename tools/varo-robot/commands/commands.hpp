@@ -37,6 +37,7 @@ extern Command const massCommand;
 extern Command const graphCommand;
 extern Command const dumpCommand;
 extern Command const convertCommand;
+extern Command const viewCommand;
 
 /// Declares the argument that names the description file.
 void declareFile(CLI::App& app, std::string& file);

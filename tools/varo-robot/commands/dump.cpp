@@ -4,11 +4,8 @@
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
-#include "formats/formats.hpp"
-#include "sim/link.hpp"
 #include "support/description.hpp"
-#include "support/element_json.hpp"
-#include "support/kinds.hpp"
+#include "support/robot_json.hpp"
 
 namespace Tool {
 
@@ -19,72 +16,10 @@ struct Options {
     Varo::Model::ModelUtils::ReadOptions reading;
 };
 
-template <class Element>
-void addElements(JsonStream& dump, ElementJson& json, char const* key, std::vector<Element const*> const& elements)
-{
-    dump.next(key);
-    JsonStream array(std::cout, '[', 2);
-    for (Element const* element : elements) {
-        array.add(json.of(*element));
-    }
-}
-
-/// What the model has no elements of, but its records do.
-void addRecords(JsonStream& dump, char const* key, std::vector<Json> const& records)
-{
-    dump.next(key);
-    JsonStream array(std::cout, '[', 2);
-    for (Json const& record : records) {
-        array.add(record);
-    }
-}
-
-char const* wordFor(Varo::Model::ExtensionOwner owner)
-{
-    switch (owner) {
-    case Varo::Model::ExtensionOwner::link: return "link";
-    case Varo::Model::ExtensionOwner::joint: return "joint";
-    case Varo::Model::ExtensionOwner::sensor: return "sensor";
-    case Varo::Model::ExtensionOwner::robot: break;
-    }
-    return "robot";
-}
-
-std::vector<Json> extensions(Sim::Model const& model)
-{
-    std::vector<Json> data;
-    auto const records = Varo::Model::recordsOf(model.robot());
-    for (Varo::Model::ExtensionConfig const& extension : records->extensions) {
-        data.push_back({{"owner", wordFor(extension.owner)},
-                        {"name", extension.ownerName},
-                        {"within", extension.within},
-                        {"text", extension.text}});
-    }
-    return data;
-}
-
 int dump(Options const& options)
 {
     Robot const robot = loadRobot(options.file, options.reading);
-    Sim::Model const& model = robot.model;
-    ElementJson json;
-    {
-        JsonStream dump(std::cout, '{');
-        dump.add("formatVersion", formatVersion);
-        dump.add("name", model.name());
-        dump.add("prettyName", model.prettyName(0));
-        dump.add("version", robot.records().version());
-        dump.add("rootLink", model.rootLink()->name());
-        addElements(dump, json, "links", model.links());
-        addElements(dump, json, "joints", model.joints());
-        addElements(dump, json, "jointSymmetries", model.jointSymmetries());
-        addElements(dump, json, "jointGroups", model.jointGroups());
-        addElements(dump, json, "actuators", model.actuators());
-        addElements(dump, json, "actuatorGroups", model.actuatorGroups());
-        addElements(dump, json, "sensors", model.sensors());
-        addRecords(dump, "transmissions", findKind("transmissions")->elements(model));
-        addRecords(dump, "extensions", extensions(model));
-    }
+    printRobot(std::cout, robot.model);
     std::cout << '\n';
     return exitStatus::fine;
 }

@@ -6,13 +6,13 @@
 
 #include "commands/commands.hpp"
 #include "sim/coupled_actuator.hpp"
-#include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/joint_symmetry.hpp"
 #include "sim/link.hpp"
 #include "support/chain_colours.hpp"
 #include "support/description.hpp"
 #include "support/device_kinds.hpp"
+#include "support/link_carriers.hpp"
 #include "support/numbers.hpp"
 
 namespace Tool {
@@ -37,36 +37,6 @@ std::string quoted(std::string const& name)
     }
     return text + "\"";
 }
-
-/// Finds the link that carries a frame.
-class Carriers {
-public:
-    explicit Carriers(Sim::Model const& model)
-    {
-        for (Sim::Link const* link : model.links()) {
-            _links[link->frame()] = link;
-        }
-        // What sits at a joint is drawn at the link that the joint moves.
-        for (Sim::Joint const* joint : model.joints()) {
-            _links[joint->frame()] = joint->childLink();
-        }
-    }
-
-    /// Null for a frame that no link carries.
-    Sim::Link const* of(Sim::Frame const* frame) const
-    {
-        for (; frame != nullptr; frame = frame->parentFrame()) {
-            auto const found = _links.find(frame);
-            if (found != _links.end()) {
-                return found->second;
-            }
-        }
-        return nullptr;
-    }
-
-private:
-    std::map<Sim::Frame const*, Sim::Link const*> _links;
-};
 
 void printLegend(ChainColours const& colours)
 {
@@ -135,7 +105,7 @@ template <class Device>
 void printNotes(std::string const& prefix, char const* fill, std::vector<Device const*> const& devices,
                 Sim::Model const& model)
 {
-    Carriers const carriers(model);
+    LinkCarriers const carriers(model);
     std::map<Sim::Link const*, std::string> labels;
     for (Device const* device : devices) {
         std::string const line = std::string(typeName(*device)) + " " + device->name();

@@ -6,11 +6,20 @@
 
 namespace Tool {
 
-std::string ChainColours::hueOf(std::size_t chain) const
+namespace {
+
+std::string hueOf(std::size_t chain)
+{
+    return fixedPoint(hueOfChain(chain), 3);
+}
+
+}  // namespace
+
+double hueOfChain(std::size_t chain)
 {
     // Steps of the golden section keep the hues of however many chains apart.
     double const golden = 0.6180339887498949;
-    return fixedPoint(std::fmod(0.58 + static_cast<double>(chain) * golden, 1.0), 3);
+    return std::fmod(0.58 + static_cast<double>(chain) * golden, 1.0);
 }
 
 std::string ChainColours::fillOf(std::size_t chain) const

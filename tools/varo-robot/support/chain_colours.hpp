@@ -8,6 +8,9 @@
 
 namespace Tool {
 
+/// The hue of a chain, 0 to 1.
+double hueOfChain(std::size_t chain);
+
 /// A colour for each chain, as Graphviz writes colours, and for the links that belong to it.
 class ChainColours {
 public:
@@ -19,8 +22,6 @@ public:
     std::string strokeOf(Sim::Link const& link) const;
 
 private:
-    std::string hueOf(std::size_t chain) const;
-
     LinkChains _chains;
 };
 

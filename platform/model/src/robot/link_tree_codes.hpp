@@ -24,7 +24,7 @@ inline constexpr FindingCode unknownLeader{
 inline constexpr FindingCode mimicCycle{"mimic-circle", Severity::error,
                                         "A joint mimics itself, be it by way of others."};
 
-inline constexpr FindingCode mimicOffset{"mimic-offset", Severity::warning,
+inline constexpr FindingCode mimicOffset{"mimic-offset", Severity::note,
                                          "The zero pose of the model leaves the offset of a mimic out."};
 inline constexpr FindingCode frozenLeader{"frozen-leader", Severity::warning, "A joint mimics one that does not move."};
 inline constexpr FindingCode renamed{"renamed", Severity::warning,

@@ -26,7 +26,7 @@ inline constexpr FindingCode unknownElement{"unknown-element", Severity::warning
                                             "An element is named nearly like one that URDF defines where it stands."};
 inline constexpr FindingCode misplacedElement{"misplaced-element", Severity::warning,
                                               "An element stands where URDF defines none of that name."};
-inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::warning,
+inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::note,
                                          "A planar or floating joint is held in its zero position."};
 inline constexpr FindingCode missingLimit{"missing-limit", Severity::warning,
                                           "A revolute or prismatic joint without lower and upper limits cannot move."};

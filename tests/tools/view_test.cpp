@@ -1,0 +1,149 @@
+#include <filesystem>
+
+#include <nlohmann/json.hpp>
+
+#include "run_tool.hpp"
+
+namespace ToolTest {
+
+namespace {
+
+constexpr char triangle[] =
+    "solid s\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 1 0 0\nvertex 0 1 0\nendloop\nendfacet\nendsolid "
+    "s\n";
+
+/// What the page does in a browser, the tests in web/viewer see to.
+class View : public ToolFixture {
+protected:
+    void SetUp() override
+    {
+        write("any.xml", legs);
+        if (run({"view", "any.xml"}).err.find("[viewer-missing]") != std::string::npos) {
+            GTEST_SKIP() << "The tool was built without the page.";
+        }
+    }
+
+    /// The data of the page that is written of the description.
+    nlohmann::json dataOf(std::string const& description, std::vector<std::string> options = {}) const
+    {
+        options.insert(options.begin(), {"view", description, "-o", "page.html"});
+        Outcome const outcome = run(options);
+        EXPECT_EQ(outcome.status, 0) << outcome.err;
+        std::string const page = readFile(folder() / "page.html");
+        std::string const begin = "id=\"robot\">";
+        std::size_t const at = page.find(begin) + begin.size();
+        return nlohmann::json::parse(page.substr(at, page.find('<', at) - at));
+    }
+
+    /// Whether the page of a robot with that mesh carries it.
+    bool carries(std::string const& mesh, std::vector<std::string> const& options = {}) const
+    {
+        write("robot/robot.urdf", "<robot name=\"r\"><link name=\"l\"><visual><geometry><mesh filename=\"" + mesh +
+                                      "\"/></geometry></visual></link></robot>");
+        return dataOf("robot/robot.urdf", options)["meshes"][mesh].contains("data");
+    }
+};
+
+TEST_F(View, GivesThePageWhatMovesTheRobot)
+{
+    nlohmann::json const data = dataOf(VARO_SOURCE_DIR "/robots/humanoid.xml", {"--posture", "Crouch", "--degrees"});
+    EXPECT_EQ(data["drives"].size(), data["dump"]["joints"].size());
+    EXPECT_EQ(data["degrees"], true);
+    std::size_t const hand = [&] {
+        std::size_t at = 0;
+        while (data["variables"][at]["name"] != "LHand") {
+            ++at;
+        }
+        return at;
+    }();
+    for (std::size_t joint = 0; joint < data["drives"].size(); ++joint) {
+        if (data["dump"]["joints"][joint]["name"] == "LThumb1") {
+            EXPECT_EQ(data["drives"][joint]["variable"], hand);
+            EXPECT_EQ(data["drives"][joint]["ratio"], 0.9);
+            EXPECT_EQ(data["drives"][joint]["offset"], 0.1);
+        }
+    }
+    EXPECT_EQ(data["start"], data["postures"][1]["values"]);
+}
+
+TEST_F(View, LeadsFromFindingsToLinks)
+{
+    std::string text = legs;
+    text.insert(text.find("<chain"), "<joint name=\"Odd\" min=\"1\" max=\"0\"><placement xyz=\"0 0 1\"/></joint>");
+    write("odd.xml", text);
+    nlohmann::json const data = dataOf("odd.xml");
+    bool isFound = false;
+    for (nlohmann::json const& finding : data["findings"]) {
+        isFound = isFound || finding["code"] == "reversed-limits";
+    }
+    EXPECT_TRUE(isFound) << data["findings"].dump(1);
+}
+
+TEST_F(View, CarriesMeshesOfTheFolderAndOfPackagesOnly)
+{
+    for (char const* const name : {"robot/meshes", "arms", "box"}) {
+        std::filesystem::create_directories(folder() / name);
+    }
+    write("robot/meshes/in.stl", triangle);
+    write("out.stl", triangle);
+    write("arms/a.stl", triangle);
+    write("box/package.xml", "<package><name>box</name></package>");
+    write("box/b.stl", triangle);
+    std::filesystem::create_symlink(folder() / "out.stl", folder() / "robot/meshes/link.stl");
+    std::string const out = (folder() / "out.stl").string();
+    EXPECT_TRUE(carries("meshes/in.stl"));
+    EXPECT_TRUE(carries("package://box/b.stl"));
+    EXPECT_TRUE(carries("package://stated/a.stl", {"--package", "stated=arms"}));
+    for (std::string const& uri : {std::string("../out.stl"), out, "file://" + out, std::string("meshes/link.stl"),
+                                   std::string("package://arms/a.stl"), std::string("package://box/../out.stl")}) {
+        EXPECT_FALSE(carries(uri)) << uri;
+    }
+    EXPECT_TRUE(carries("../out.stl", {"--allow-outside"}));
+    EXPECT_FALSE(carries("meshes/in.stl", {"--mesh-limit", "0"}));
+}
+
+TEST_F(View, CarriesNothingButMeshes)
+{
+    std::filesystem::create_directories(folder() / "robot");
+    std::string binary(84 + 50, '\0');
+    binary[80] = 1;
+    struct Case {
+        std::string bytes;
+        bool isMesh;
+    };
+    std::string const cut = binary.substr(0, 100);
+    std::string notFinite = binary;
+    notFinite.replace(84 + 12, 4, "\xFF\xFF\xFF\x7F");
+    for (auto const& [bytes, isMesh] : std::vector<Case>{
+             {triangle, true},
+             {binary, true},
+             {cut, false},
+             {notFinite, false},
+             {"", false},
+             {"solid\n", false},
+             {std::string(triangle) + "password=1\n", false},
+             {"# made by hand\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n", true},
+             {"v 0 0 nan\nf 1 1 1\n", false},
+             {"v 0 0 0\nf 1 1 1\nroot:x:0:0\n", false},
+             {"<COLLADA><library_geometries><geometry/></library_geometries></COLLADA>", true},
+             {"<COLLADA><library_geometries>", false},
+             {"<html/>", false},
+         }) {
+        write("robot/m.stl", bytes);
+        EXPECT_EQ(carries("m.stl"), isMesh) << bytes;
+    }
+    EXPECT_FALSE(carries("/dev/zero", {"--allow-outside"}));
+}
+
+TEST_F(View, RefusesWhatItCannotDo)
+{
+    EXPECT_NE(run({"view", "--help"}).out.find("Examples:"), std::string::npos);
+    EXPECT_EQ(run({"view", "none.xml"}).status, 1);
+    EXPECT_EQ(run({"view", "any.xml", "--posture", "Nowhere"}).status, 1);
+    EXPECT_EQ(run({"view", "any.xml", "-o", "none/page.html"}).status, 1);
+    EXPECT_EQ(run({"view", "any.xml", "--mesh-limit", "-1"}).status, 2);
+}
+
+}  // namespace
+
+}  // namespace ToolTest
