@@ -88,12 +88,10 @@ TEST(Shapes, OfAWheelAreItsOwnWhateverJointHasItsName)
     EXPECT_THAT(names, ElementsAre("", "joint", "wheel"));
 }
 
-TEST(Shapes, AreNoneWhenTheModelIsGoneButLiveOnThemselves)
+TEST(Shapes, OutliveTheirModel)
 {
     auto model = std::make_unique<Sim::ModelImpl>(limbs);
-    auto const link = model->link("JLink");
-    std::vector<Sim::Visual> const kept = link->visuals();
+    std::vector<Sim::Visual> const kept = model->link("JLink")->visuals();
     model.reset();
-    EXPECT_THAT(namesOfShapes(link.get()), IsEmpty());
     EXPECT_EQ(kept.at(0).material->name, "red");
 }

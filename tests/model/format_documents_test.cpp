@@ -40,6 +40,7 @@ TEST(FormatDocuments, ReferenceIsWhatTheTablesSay)
     EXPECT_EQ(docs, Native::spliced(docs, "findings", Native::writeFindingReference()));
     std::string const urdf = Tests::readFile(tree + "/docs/urdf.md");
     EXPECT_EQ(urdf, Native::spliced(urdf, "elements", Urdf::writeElementReference()));
+    EXPECT_EQ(urdf, Native::spliced(urdf, "findings", Urdf::writeFindingReference()));
     EXPECT_EQ(urdf, Native::spliced(urdf, "sensor settings", Native::writeSensorSettingsReference()));
     std::string const checking = Tests::readFile(tree + "/docs/checking.md");
     EXPECT_EQ(checking, Native::spliced(checking, "rules", Native::writeRuleReference()));

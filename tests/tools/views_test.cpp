@@ -77,7 +77,7 @@ TEST_F(Info, SummarisesTheFindings)
 </robot>)")
                                  .out;
     EXPECT_NE(info.find("dialect       urdf\n"), std::string::npos);
-    EXPECT_NE(info.find("findings      1 warning joint-frozen, line 3: "), std::string::npos) << info;
+    EXPECT_NE(info.find("findings      1 note joint-frozen, line 3: "), std::string::npos) << info;
 }
 
 class Tree : public ToolFixture {};

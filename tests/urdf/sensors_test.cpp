@@ -68,7 +68,6 @@ TEST(UrdfSensors, StandWhereTheTextSaysWithTheirSizes)
     EXPECT_EQ(eye.settings(), model.robot().records()->sensors.find("eye")->settings.get());
     EXPECT_EQ(eye.settings()->camera->width, 640);
     EXPECT_EQ(model.tactileSensor("skin")->settings(), nullptr);
-    EXPECT_EQ(model.angleSensors().at(0)->settings(), nullptr);
     EXPECT_EQ(model.cameraDepthSensor("depth")->width(), 64);
     EXPECT_EQ(model.cameraSensor("old")->height(), 200);
     EXPECT_EQ(model.cameraSensor("own")->width(), 800);

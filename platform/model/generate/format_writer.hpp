@@ -28,6 +28,9 @@ namespace Varo::Model::Urdf {
 /// The part of the documentation that lists every element, attribute and type of URDF, in Markdown.
 std::string writeElementReference();
 
+/// The part of the documentation that lists the code of every finding about URDF, errors first, in Markdown.
+std::string writeFindingReference();
+
 }  // namespace Varo::Model::Urdf
 
 #endif

@@ -2,6 +2,7 @@
 #include <sstream>
 #include <string>
 
+#include "finding_cells.hpp"
 #include "format_writer.hpp"
 #include "native/elements.hpp"
 #include "native/native_codes.hpp"
@@ -116,14 +117,6 @@ private:
     std::ostream& _out;
     std::map<std::string, std::string> _pathOf;  ///< by the content
 };
-
-/// The first cells of a row.
-std::string cellsOf(FindingCode const& finding)
-{
-    constexpr std::string_view severities[] = {"note", "warning", "error"};
-    return "| " + code(finding.name) + " | " + std::string(severities[static_cast<int>(finding.severity)]) + " | " +
-           std::string(finding.meaning) + " |";
-}
 
 void writeCodes(std::ostream& out, Range<FindingCode const*> codes)
 {

@@ -1,9 +1,15 @@
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
+#include <vector>
 
+#include "finding_cells.hpp"
+#include "finding_codes.hpp"
 #include "format_writer.hpp"
 #include "urdf/schema.hpp"
+#include "urdf/urdf_codes.hpp"
 #include "value_types.hpp"
 
 namespace Varo::Model::Urdf {
@@ -73,6 +79,21 @@ std::string writeElementReference()
             out << (&word == type->words.begin() ? ": " : ", ") << code(word.word);
         }
         out << " |\n";
+    }
+    return out.str();
+}
+
+std::string writeFindingReference()
+{
+    std::vector<FindingCode const*> listed(std::begin(Model::codes::ofLinkTrees), std::end(Model::codes::ofLinkTrees));
+    listed.insert(listed.end(), {&Model::codes::ambiguousName, &Model::codes::ambiguousLinkName});
+    listed.insert(listed.end(), std::begin(codes::ofDialect), std::end(codes::ofDialect));
+    std::stable_sort(listed.begin(), listed.end(),
+                     [](auto const* a, auto const* b) { return a->severity > b->severity; });
+    std::ostringstream out;
+    out << "| code | severity | meaning |\n| --- | --- | --- |\n";
+    for (FindingCode const* finding : listed) {
+        out << cellsOf(*finding) << '\n';
     }
     return out.str();
 }

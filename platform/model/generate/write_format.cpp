@@ -32,6 +32,7 @@ int main(int argc, char** argv)
     splice(tree + "/docs/description-format.md", "findings", Native::writeFindingReference());
     splice(tree + "/docs/urdf.md", "elements", Urdf::writeElementReference());
     splice(tree + "/docs/urdf.md", "sensor settings", Native::writeSensorSettingsReference());
+    splice(tree + "/docs/urdf.md", "findings", Urdf::writeFindingReference());
     splice(tree + "/docs/checking.md", "rules", Native::writeRuleReference());
     std::ofstream(tree + "/schema/robot-description.xsd") << Native::writeSchema();
     return 0;
