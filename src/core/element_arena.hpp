@@ -1,9 +1,11 @@
 #ifndef VARO_CORE_ELEMENT_ARENA_HPP
 #define VARO_CORE_ELEMENT_ARENA_HPP
 
+#include <algorithm>
 #include <cstddef>
-#include <memory_resource>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
@@ -26,12 +28,30 @@ public:
     }
 
 private:
+    /// Cuts pieces off chunks of one size: chunks that grow, as those of the standard library do, would leave a good
+    /// part of the last one unused.
     class Memory : public boost::intrusive_ref_counter<Memory> {
     public:
-        void* allocate(std::size_t size, std::size_t alignment) { return _pieces.allocate(size, alignment); }
+        void* allocate(std::size_t size, std::size_t alignment)
+        {
+            if (std::align(alignment, size, _free, _left) == nullptr) {
+                _left = std::max(chunkSize, size + alignment);
+                _chunks.push_back(std::make_unique<std::byte[]>(_left));
+                _free = _chunks.back().get();
+                std::align(alignment, size, _free, _left);
+            }
+            void* const piece = _free;
+            _free = static_cast<std::byte*>(_free) + size;
+            _left -= size;
+            return piece;
+        }
 
     private:
-        std::pmr::monotonic_buffer_resource _pieces;
+        static constexpr std::size_t chunkSize = 8192;
+
+        std::vector<std::unique_ptr<std::byte[]>> _chunks;
+        void* _free = nullptr;
+        std::size_t _left = 0;  ///< bytes from there to the end of the chunk
     };
 
     template <class T>

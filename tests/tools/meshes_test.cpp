@@ -51,8 +51,7 @@ TEST_F(Meshes, ThatAreNotFoundAreWarnedOfOnceForEachBody)
                                        (folder() / "urdf").string() + " and the folders above it\n"));
     EXPECT_THAT(outcome.err, HasSubstr("warning: The mesh \"hand.stl\" is not found. [mesh-not-found]\n"
                                        "    There is no such file. Looked for: urdf/hand.stl\n"));
-    EXPECT_EQ(run({"check", "urdf/arm.urdf"}).out, "urdf/arm.urdf: fine\n")
-        << "nobody asked for meshes";
+    EXPECT_EQ(run({"check", "urdf/arm.urdf"}).out, "urdf/arm.urdf: fine\n") << "nobody asked for meshes";
     EXPECT_EQ(run({"check", "--meshes", "--strict", "--silence", "mesh-not-found", "urdf/arm.urdf"}).status, 0);
 }
 

@@ -3,8 +3,8 @@
 
 #include <pugixml.hpp>
 
-#include "schema/children.hpp"
 #include "native/elements.hpp"
+#include "schema/children.hpp"
 #include "varo/model/source_text.hpp"
 #include "xml/markup.hpp"
 #include "xml/parse.hpp"

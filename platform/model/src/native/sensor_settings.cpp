@@ -1,7 +1,7 @@
 #include <string>
 
-#include "schema/children.hpp"
 #include "native/elements.hpp"
+#include "schema/children.hpp"
 
 namespace Varo::Model::Native {
 
