@@ -6,6 +6,7 @@ Reads the files with Python's XML parser and by what URDF and SDF say, not by wh
 each statement of a file that the dump lacks or has otherwise; the exit status is 1 when there is one, and 77 when there
 is no file.
 """
+import collections
 import json
 import math
 import os
@@ -33,6 +34,11 @@ def parse(data):
 def statement(element):
     """What an element says but for the elements in it."""
     return element.tag, tuple(sorted(element.attrib.items())), "" if len(element) else (element.text or "").strip()
+
+
+def kept_element(text):
+    """An element with what the dump keeps as text, be it an element or an attribute."""
+    return parse(f"<kept>{text}</kept>" if text.startswith("<") else f"<kept {text}/>")
 
 
 def numbers(text):
@@ -81,12 +87,21 @@ def is_defined(material):
     return material.find("color") is not None or material.find("texture") is not None
 
 
+def noises_of(part, within=()):
+    """The `noise` elements in an element of a sensor, each with the names of the elements around it."""
+    for child in part:
+        if child.tag == "noise":
+            yield within, child
+        elif len(within) < 2:
+            yield from noises_of(child, (*within, child.tag))
+
+
 # Where a sensor states what the dump has as settings: attributes behind "@", alternatives one after the other.
 DEGREES = math.pi / 180
-IMAGE = {"width": "width", "height": "height", "format": "format"}
 RAYS = ("ray/scan/", "lidar/scan/", "ray/", "lidar/")
 SETTINGS = {
     ("updateRate",): ["@update_rate", "update_rate", "updateRate"],
+    ("camera", "name"): ["camera@name"],
     ("camera", "horizontalFieldOfView"): ["camera/horizontal_fov", "camera/image@hfov", "hfov*"],
     ("camera", "nearClip"): ["camera/clip/near", "camera/image@near", "nearClip"],
     ("camera", "farClip"): ["camera/clip/far", "camera/image@far", "farClip"],
@@ -106,14 +121,22 @@ for scan in ("horizontal", "vertical"):
         SETTINGS.setdefault((scan + "Scan", key), []).extend(
             rays + scan + separator + name for rays in RAYS for separator in "/@")
 
+# Elements of a sensor in which noise may be stated, and where the dump has what it says.
+NOISY = ("camera", "depth_camera", "rgbd_camera", "ray", "gpu_ray", "lidar", "gpu_lidar", "imu", "force_torque",
+         "magnetometer", "altimeter", "gps", "navsat", "air_pressure", "air_speed")
+NOISE = {"type": "type", "mean": "mean", "stddev": "standardDeviation", "bias_mean": "biasMean",
+         "bias_stddev": "biasStandardDeviation", "dynamic_bias_stddev": "driftStandardDeviation",
+         "dynamic_bias_correlation_time": "driftTime", "precision": "precision"}
+
 
 class Comparison:
     def __init__(self, file, dump):
         self.robot = parse(file.read_bytes())
         self.dump = dump
         self.lacks = []
-        self.kept = {statement(element) for extension in dump.get("extensions", [])
-                     for element in parse("<kept>" + extension["text"] + "</kept>").iter()}
+        self.kept = collections.Counter(
+            statement(element) for extension in dump.get("extensions", [])
+            for element in kept_element(extension["text"]).iter())
         self.materials = {}
         for material in [*self.robot.findall("material"), *self.robot.iterfind("link/visual/material")]:
             if material.get("name") and is_defined(material):
@@ -126,7 +149,8 @@ class Comparison:
     def expect_kept(self, what, *elements):
         """That the dump has these elements, for which there is no place in a record, as text."""
         for tag, attributes, text in map(statement, elements):
-            if (tag, attributes, text) not in self.kept:
+            self.kept[tag, attributes, text] -= 1  # what is stated twice is there twice
+            if self.kept[tag, attributes, text] < 0:
                 self.lacks.append(f"{what}: <{tag}> {dict(attributes)} {text!r} is lost")
 
     def run(self):
@@ -203,17 +227,25 @@ class Comparison:
                 self.expect_kept(name, *child.iter())
 
     def transmission(self, name, transmission):
-        has = [each for each in self.dump.get("transmissions", []) if each["name"] == name]
-        known = {"mechanicalReduction": [each["reduction"] for each in has],
-                 "hardwareInterface": [interface for each in has for interface in each["interfaces"]],
-                 **{key: [each[key] for each in has] for key in ("type", "joint", "actuator")}}
-        for element in transmission.iter():
-            value = element.get("name") or (element.text or "").strip()
-            value = float(value) if element.tag == "mechanicalReduction" else value
-            if element is transmission:
-                value, known[element.tag] = element.get("type"), [None, *known["type"]]
-            if not any(agree(value, each) for each in known.get(element.tag, ())):
-                self.expect_kept(name, element)
+        """Each of its joints has a record, with the actuator of the same rank; the rest is there as text."""
+        joints, actuators, common = (transmission.findall(tag) for tag in ("joint", "actuator", "mechanicalReduction"))
+        stated_type = transmission.find("type")
+        has = [each for each in self.dump.get("transmissions", [])
+               if each["name"] == name and each["source"] == "transmission"]
+        self.expect(f"{name}: number of joints", float(len(joints)), len(has))
+        known = set()
+        for number, (joint, record) in enumerate(zip(joints, has)):
+            ends = [joint, *actuators[:number + 1][-1:]]
+            reductions = [*(each for end in ends[::-1] for each in end.findall("mechanicalReduction")), *common]
+            interfaces = [each for end in ends for each in end.findall("hardwareInterface")]
+            says = {"type": transmission.get("type") if stated_type is None else stated_type.text.strip(),
+                    "joint": joint.get("name"), "actuator": ends[1].get("name") if len(ends) > 1 else None,
+                    "reduction": float(reductions[0].text) if reductions else 1.0,
+                    "interfaces": list(dict.fromkeys(each.text.strip() for each in interfaces))}
+            for key, value in says.items():
+                self.expect(f"{name}: {key} of joint {number}", value, record[key])
+            known.update([transmission, stated_type, *ends, *reductions[:1], *interfaces])
+        self.expect_kept(name, *(element for element in transmission.iter() if element not in known))
 
     def control(self, name, control):
         for joint in control.findall("joint"):
@@ -249,38 +281,71 @@ class Comparison:
                     self.sensor(name, sensor, has.get("settings") or {})
 
     def sensor(self, name, sensor, settings):
-        known = set()
+        known = set()  # elements whose text the dump has, and elements with attributes that it has
 
-        def state(keys, element, text, unit=1.0):
-            is_text = keys[-1] in ("format", "type")
+        def state(keys, element, attribute, text, unit=1.0):
             has = settings
             for key in keys:
                 has = (has or {}).get(key)
+            is_text = keys[-1] in ("format", "name")
             self.expect(f"{name}: {'.'.join(keys)}", text.strip() if is_text else bounded(float(text) * unit), has)
-            known.add(statement(element))
+            known.add((element, attribute))
 
         for keys, paths in SETTINGS.items():
             for path in paths:
                 path, _, key = path.partition("@")
                 element = sensor.find(path.rstrip("*") or ".")
                 if element is not None and (not key or element.get(key)):
-                    state(keys, element, element.get(key) if key else element.text,
+                    state(keys, element, key, element.get(key) if key else element.text,
                           DEGREES if path.endswith("*") else 1.0)
                     break
         if sensor.find("imageSize") is not None:
             for key, text in zip(("width", "height"), sensor.find("imageSize").text.split()):
-                state(("camera", key), sensor.find("imageSize"), text)
-        noise = next(sensor.iter("noise"), None)
-        if noise is not None:
-            for key, tag in (("type", "type"), ("mean", "mean"), ("standardDeviation", "stddev")):
-                element = next(noise.iter(tag), None)
-                if element is not None or noise.get(key):
-                    state(("noise", key), noise if element is None else element,
-                          noise.get(key) if element is None else element.text)
-        for child in sensor.iter():
-            is_setting = child is not sensor and len(child) == 0 and child.tag not in ("pose", "origin", "parent")
-            if is_setting and statement(child) not in known:
+                state(("camera", key), sensor.find("imageSize"), "", text)
+        if sensor.find("rangeCount") is not None:  # of a sweep, where the dump has values for each ray
+            rays = float(sensor.findtext("rayCount", sensor.findtext("rangeCount")))
+            state(("horizontalScan", "resolution"), sensor.find("rangeCount"), "", sensor.findtext("rangeCount"), 1 / rays)
+        self.noises(name, sensor, settings.get("noises") or [], known)
+        self.rest(name, sensor, known)
+
+    def noises(self, name, sensor, noises, known):
+        stated = []
+        for within, noise in (each for part in sensor if part.tag in NOISY for each in noises_of(part)):
+            parts = [each for each in noise if not within and each.tag in ("accel", "rate")]  # the older form
+            common = self.noise(noise, known)
+            if not parts or set(common) - {"type"}:
+                stated.append({"quantity": "/".join(within), **common})
+            stated += [{"quantity": part.tag, **{key: common[key] for key in common if key == "type"},
+                        **self.noise(part, known)} for part in parts]
+        self.expect(f"{name}: number of noises", float(len(stated)), len(noises))
+        for says in stated:
+            has = next((each for each in noises if each["quantity"] == says["quantity"]), {})
+            self.expect(f"{name}: noise of {says['quantity'] or 'all'}", says, has)
+
+    @staticmethod
+    def noise(element, known):
+        """What a noise states; `known` learns of the statements."""
+        says = {}
+        for tag, key in NOISE.items():
+            child = element.find(tag)
+            if child is not None or element.get(tag):
+                text = (element.get(tag) if child is None else child.text).strip()
+                says[key] = text if tag == "type" else float(text)
+                known.add((element, tag) if child is None else (child, ""))
+        known.add((element, ""))
+        return says
+
+    def rest(self, name, sensor, known):
+        """What a sensor says beyond settings is in the dump as text: whole elements, or attributes of the others."""
+        for child in (child for part in sensor if part.tag not in ("pose", "origin", "parent") for child in part.iter()):
+            is_whole = (child, "") not in known and self.kept[statement(child)] > 0
+            is_lost = (child, "") not in known and len(child) == 0 and ((child.text or "").strip() or not child.attrib)
+            if is_whole or is_lost:
                 self.expect_kept(name, child)
+                continue
+            for key, value in child.attrib.items():
+                if (child, key) not in known:
+                    self.expect_kept(f"{name}: attribute of <{child.tag}>", ElementTree.Element("kept", {key: value}))
 
 
 def main(tool, folder, variable=""):
