@@ -71,6 +71,21 @@ def pose(origin):
             -sp, cp * sr, cp * cr, z, 0.0, 0.0, 0.0, 1.0]
 
 
+def product(first, second):
+    """Of matrices, row by row."""
+    return [sum(first[4 * i + k] * second[4 * k + j] for k in range(4)) for i in range(4) for j in range(4)]
+
+
+def inertia(inertial):
+    """About the centre of mass, turned into the axes of the link."""
+    stated = inertial.find("inertia")
+    ixx, ixy, ixz, iyy, iyz, izz = (attribute(stated, "i" + axes) for axes in ("xx", "xy", "xz", "yy", "yz", "zz"))
+    matrix = [[ixx, ixy, ixz], [ixy, iyy, iyz], [ixz, iyz, izz]]
+    turn = [pose(inertial.find("origin"))[row:row + 3] for row in (0, 4, 8)]
+    return [sum(turn[i][k] * matrix[k][m] * turn[j][m] for k in range(3) for m in range(3))
+            for i in range(3) for j in range(3)]
+
+
 def geometry(element):
     solid = element.find("geometry")[0]
     if solid.tag == "mesh":
@@ -137,6 +152,7 @@ class Comparison:
         self.kept = collections.Counter(
             statement(element) for extension in dump.get("extensions", [])
             for element in kept_element(extension["text"]).iter())
+        self.links = {link["name"]: link for link in dump["links"]}
         self.materials = {}
         for material in [*self.robot.findall("material"), *self.robot.iterfind("link/visual/material")]:
             if material.get("name") and is_defined(material):
@@ -174,6 +190,7 @@ class Comparison:
             for child in extension:
                 if child.tag.split(":")[0] != "sensor":
                     self.expect_kept(f"gazebo of {extension.get('reference')}", *child.iter())
+        self.attributes("robot", self.robot, "name", "version")
         self.sensors()
         return self.lacks
 
@@ -190,6 +207,19 @@ class Comparison:
         for child in link:
             if child.tag not in ("inertial", "visual", "collision"):
                 self.expect_kept(name, *child.iter())
+
+        inertial = link.find("inertial")
+        if inertial is not None and attribute(inertial.find("mass"), "value") > 0:
+            com = pose(inertial.find("origin"))[3:12:4]
+            says = {"mass": attribute(inertial.find("mass"), "value"), "com": com}
+            self.expect(f"{name}: inertial", says, dumped.get("mass"))
+            self.expect(f"{name}: inertia", inertia(inertial), (dumped.get("mass") or {}).get("inertia"))
+        self.attributes(name, link, "name")
+
+    def attributes(self, what, element, *known):
+        """Attributes that URDF does not define are there as text."""
+        self.expect_kept(f"{what}: attribute of <{element.tag}>", *(
+            ElementTree.Element("kept", {key: value}) for key, value in element.attrib.items() if key not in known))
 
     def material(self, material):
         if material is None:
@@ -221,10 +251,28 @@ class Comparison:
         for key, value in says.items():
             self.expect(f"{name}: {key}", value, dumped.get(key, "nothing"))
         self.expect(f"{name}: moves", kind in MOVING, dumped.get("moves"))
+        for end in ("parent", "child"):
+            self.expect(f"{name}: {end}", joint.find(end).get("link"),
+                        self.links.get(dumped.get(end + "Link"), {}).get("descriptionName"))
+        self.place(name, joint, dumped)
+        self.attributes(name, joint, "name", "type")
         for child in joint:
             if child.tag not in ("parent", "child", "origin", "axis", "limit", "dynamics", "mimic", "calibration",
                                  "safety_controller"):
                 self.expect_kept(name, *child.iter())
+
+    def place(self, name, joint, dumped):
+        """The frame of a joint that moves has the axis as its z; that of the link which it moves stands as stated."""
+        stated = pose(joint.find("origin"))
+        child = self.links.get(dumped.get("childLink"))
+        if child is None:
+            return
+        self.expect(f"{name}: place of its link", stated, product(dumped["localPosition"], child["localPosition"]))
+        if joint.get("type") in MOVING:
+            axis = numbers(joint.find("axis").get("xyz")) if joint.find("axis") is not None else [1.0, 0.0, 0.0]
+            direction = [sum(a * b for a, b in zip(stated[row:row + 3], axis)) / math.hypot(*axis) for row in (0, 4, 8)]
+            self.expect(f"{name}: axis", direction, dumped["localPosition"][2:12:4])
+            self.expect(f"{name}: origin", stated[3:12:4], dumped["localPosition"][3:12:4])
 
     def transmission(self, name, transmission):
         """Each of its joints has a record, with the actuator of the same rank; the rest is there as text."""
@@ -249,14 +297,13 @@ class Comparison:
 
     def control(self, name, control):
         for joint in control.findall("joint"):
-            has = [each["interfaces"] for each in self.dump.get("transmissions", [])
-                   if each["name"] == name and each["joint"] == joint.get("name")]
+            has = [each for each in self.dump.get("transmissions", [])
+                   if each["source"] != "transmission" and each["name"] == name and each["joint"] == joint.get("name")]
             stated = [each.get("name") for each in joint.findall("command_interface")]
-            self.expect(f"{name}: interfaces of {joint.get('name')}", stated,
-                        [each for each in has[0] if each in stated] if has else None)
-        for child in control:
-            if child.tag != "joint":
-                self.expect_kept(name, *child.iter())
+            self.expect(f"{name}: interfaces of {joint.get('name')}", stated, has[0]["interfaces"] if has else None)
+            self.expect(f"{name}: states of {joint.get('name')}", [each.get("name") for each in
+                        joint.findall("state_interface")], has[0]["stateInterfaces"] if has else None)
+        self.expect_kept(name, *control.iter())
 
     def sensors(self):
         carriers = {element.get("name") for tag in ("link", "joint") for element in self.robot.findall(tag)}
