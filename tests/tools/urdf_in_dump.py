@@ -16,8 +16,28 @@ import sys
 import xml.etree.ElementTree as ElementTree
 import xml.parsers.expat
 
+from sensor_statements import DEGREES, NOISE, NOISY, SETTINGS, noises_of
+
 MOVING = ("revolute", "continuous", "prismatic")
 SOLIDS = {"box": ("size",), "cylinder": ("radius", "length"), "capsule": ("radius", "length"), "sphere": ("radius",)}
+# The attributes and the elements that URDF defines in each element.
+DEFINED = {
+    "link": (("name",), ("inertial", "visual", "collision")),
+    "inertial": ((), ("origin", "mass", "inertia")),
+    "visual": (("name",), ("origin", "geometry", "material")),
+    "collision": (("name",), ("origin", "geometry")),
+    "geometry": ((), ("mesh", *SOLIDS)),
+    "material": (("name",), ("color", "texture")),
+    "joint": (("name", "type"), ("parent", "child", "origin", "axis", "limit", "dynamics", "mimic", "calibration",
+                                 "safety_controller")),
+    **{name: (attributes, ()) for name, attributes in {
+        **SOLIDS, "mesh": ("filename", "scale"), "color": ("rgba",), "texture": ("filename",), "origin": ("xyz", "rpy"),
+        "mass": ("value",), "inertia": ("ixx", "ixy", "ixz", "iyy", "iyz", "izz"), "parent": ("link",),
+        "child": ("link",), "axis": ("xyz",), "limit": ("lower", "upper", "effort", "velocity"),
+        "dynamics": ("damping", "friction"), "mimic": ("joint", "multiplier", "offset"),
+        "calibration": ("rising", "falling"),
+        "safety_controller": ("soft_lower_limit", "soft_upper_limit", "k_position", "k_velocity")}.items()},
+}
 
 
 def parse(data):
@@ -102,48 +122,6 @@ def is_defined(material):
     return material.find("color") is not None or material.find("texture") is not None
 
 
-def noises_of(part, within=()):
-    """The `noise` elements in an element of a sensor, each with the names of the elements around it."""
-    for child in part:
-        if child.tag == "noise":
-            yield within, child
-        elif len(within) < 2:
-            yield from noises_of(child, (*within, child.tag))
-
-
-# Where a sensor states what the dump has as settings: attributes behind "@", alternatives one after the other.
-DEGREES = math.pi / 180
-RAYS = ("ray/scan/", "lidar/scan/", "ray/", "lidar/")
-SETTINGS = {
-    ("updateRate",): ["@update_rate", "update_rate", "updateRate"],
-    ("camera", "name"): ["camera@name"],
-    ("camera", "horizontalFieldOfView"): ["camera/horizontal_fov", "camera/image@hfov", "hfov*"],
-    ("camera", "nearClip"): ["camera/clip/near", "camera/image@near", "nearClip"],
-    ("camera", "farClip"): ["camera/clip/far", "camera/image@far", "farClip"],
-    ("camera", "format"): ["camera/image/format", "camera/image@format", "imageFormat"],
-    ("camera", "width"): ["camera/image/width", "camera/image@width"],
-    ("camera", "height"): ["camera/image/height", "camera/image@height"],
-    ("horizontalScan", "samples"): ["rayCount"],
-    ("horizontalScan", "minimumAngle"): ["minAngle*"],
-    ("horizontalScan", "maximumAngle"): ["maxAngle*"],
-    ("range", "minimum"): ["ray/range/min", "lidar/range/min", "sonar/min", "minRange"],
-    ("range", "maximum"): ["ray/range/max", "lidar/range/max", "sonar/max", "maxRange"],
-    ("range", "resolution"): ["ray/range/resolution", "lidar/range/resolution", "resRange"],
-}
-for scan in ("horizontal", "vertical"):
-    for key, name in (("samples", "samples"), ("resolution", "resolution"), ("minimumAngle", "min_angle"),
-                      ("maximumAngle", "max_angle")):
-        SETTINGS.setdefault((scan + "Scan", key), []).extend(
-            rays + scan + separator + name for rays in RAYS for separator in "/@")
-
-# Elements of a sensor in which noise may be stated, and where the dump has what it says.
-NOISY = ("camera", "depth_camera", "rgbd_camera", "ray", "gpu_ray", "lidar", "gpu_lidar", "imu", "force_torque",
-         "magnetometer", "altimeter", "gps", "navsat", "air_pressure", "air_speed")
-NOISE = {"type": "type", "mean": "mean", "stddev": "standardDeviation", "bias_mean": "biasMean",
-         "bias_stddev": "biasStandardDeviation", "dynamic_bias_stddev": "driftStandardDeviation",
-         "dynamic_bias_correlation_time": "driftTime", "precision": "precision"}
-
-
 class Comparison:
     def __init__(self, file, dump):
         self.robot = parse(file.read_bytes())
@@ -204,20 +182,26 @@ class Comparison:
                     says["material"] = self.material(shape.find("material"))
                 for key, value in says.items():
                     self.expect(f"{name}: {key} of {kind} {number}", value, has.get(key))
-        for child in link:
-            if child.tag not in ("inertial", "visual", "collision"):
-                self.expect_kept(name, *child.iter())
-
         inertial = link.find("inertial")
         if inertial is not None and attribute(inertial.find("mass"), "value") > 0:
             com = pose(inertial.find("origin"))[3:12:4]
             says = {"mass": attribute(inertial.find("mass"), "value"), "com": com}
             self.expect(f"{name}: inertial", says, dumped.get("mass"))
             self.expect(f"{name}: inertia", inertia(inertial), (dumped.get("mass") or {}).get("inertia"))
-        self.attributes(name, link, "name")
+        self.beyond(name, link)
+
+    def beyond(self, what, element):
+        """What an element holds that URDF does not define there is in the dump as text."""
+        attributes, children = DEFINED[element.tag]
+        self.attributes(what, element, *attributes)
+        for child in element:
+            if child.tag in children:
+                self.beyond(what, child)
+            else:
+                self.expect_kept(what, *child.iter())
 
     def attributes(self, what, element, *known):
-        """Attributes that URDF does not define are there as text."""
+        """All attributes but the known ones are there as text."""
         self.expect_kept(f"{what}: attribute of <{element.tag}>", *(
             ElementTree.Element("kept", {key: value}) for key, value in element.attrib.items() if key not in known))
 
@@ -244,7 +228,8 @@ class Comparison:
                     "positionGain": attribute(safety, "k_position"),
                     "velocityGain": attribute(safety, "k_velocity")},
                 "calibration": calibration if calibration is None else {
-                    key: float(calibration.get(key)) if calibration.get(key) else None for key in ("rising", "falling")}}
+                    key: float(calibration.get(key)) if calibration.get(key) else None
+                    for key in ("rising", "falling")}}
         if kind in MOVING:
             says["limits"] = {bound: None if kind == "continuous" else bounded(attribute(limit, bound))
                               for bound in ("lower", "upper")}
@@ -255,11 +240,7 @@ class Comparison:
             self.expect(f"{name}: {end}", joint.find(end).get("link"),
                         self.links.get(dumped.get(end + "Link"), {}).get("descriptionName"))
         self.place(name, joint, dumped)
-        self.attributes(name, joint, "name", "type")
-        for child in joint:
-            if child.tag not in ("parent", "child", "origin", "axis", "limit", "dynamics", "mimic", "calibration",
-                                 "safety_controller"):
-                self.expect_kept(name, *child.iter())
+        self.beyond(name, joint)
 
     def place(self, name, joint, dumped):
         """The frame of a joint that moves has the axis as its z; that of the link which it moves stands as stated."""
@@ -351,7 +332,8 @@ class Comparison:
                 state(("camera", key), sensor.find("imageSize"), "", text)
         if sensor.find("rangeCount") is not None:  # of a sweep, where the dump has values for each ray
             rays = float(sensor.findtext("rayCount", sensor.findtext("rangeCount")))
-            state(("horizontalScan", "resolution"), sensor.find("rangeCount"), "", sensor.findtext("rangeCount"), 1 / rays)
+            state(("horizontalScan", "resolution"), sensor.find("rangeCount"), "", sensor.findtext("rangeCount"),
+                  1 / rays)
         self.noises(name, sensor, settings.get("noises") or [], known)
         self.rest(name, sensor, known)
 
@@ -384,7 +366,8 @@ class Comparison:
 
     def rest(self, name, sensor, known):
         """What a sensor says beyond settings is in the dump as text: whole elements, or attributes of the others."""
-        for child in (child for part in sensor if part.tag not in ("pose", "origin", "parent") for child in part.iter()):
+        parts = [part for part in sensor if part.tag not in ("pose", "origin", "parent")]
+        for child in (child for part in parts for child in part.iter()):
             is_whole = (child, "") not in known and self.kept[statement(child)] > 0
             is_lost = (child, "") not in known and len(child) == 0 and ((child.text or "").strip() or not child.attrib)
             if is_whole or is_lost:
