@@ -6,6 +6,7 @@ Reads the files with Python's XML parser and by what URDF and SDF say, not by wh
 each statement of a file that the dump lacks or has otherwise; the exit status is 1 when there is one, and 77 when there
 is no file.
 """
+import collections
 import json
 import math
 import os
@@ -15,8 +16,28 @@ import sys
 import xml.etree.ElementTree as ElementTree
 import xml.parsers.expat
 
+from sensor_statements import DEGREES, NOISE, NOISY, SETTINGS, noises_of
+
 MOVING = ("revolute", "continuous", "prismatic")
 SOLIDS = {"box": ("size",), "cylinder": ("radius", "length"), "capsule": ("radius", "length"), "sphere": ("radius",)}
+# The attributes and the elements that URDF defines in each element.
+DEFINED = {
+    "link": (("name",), ("inertial", "visual", "collision")),
+    "inertial": ((), ("origin", "mass", "inertia")),
+    "visual": (("name",), ("origin", "geometry", "material")),
+    "collision": (("name",), ("origin", "geometry")),
+    "geometry": ((), ("mesh", *SOLIDS)),
+    "material": (("name",), ("color", "texture")),
+    "joint": (("name", "type"), ("parent", "child", "origin", "axis", "limit", "dynamics", "mimic", "calibration",
+                                 "safety_controller")),
+    **{name: (attributes, ()) for name, attributes in {
+        **SOLIDS, "mesh": ("filename", "scale"), "color": ("rgba",), "texture": ("filename",), "origin": ("xyz", "rpy"),
+        "mass": ("value",), "inertia": ("ixx", "ixy", "ixz", "iyy", "iyz", "izz"), "parent": ("link",),
+        "child": ("link",), "axis": ("xyz",), "limit": ("lower", "upper", "effort", "velocity"),
+        "dynamics": ("damping", "friction"), "mimic": ("joint", "multiplier", "offset"),
+        "calibration": ("rising", "falling"),
+        "safety_controller": ("soft_lower_limit", "soft_upper_limit", "k_position", "k_velocity")}.items()},
+}
 
 
 def parse(data):
@@ -33,6 +54,11 @@ def parse(data):
 def statement(element):
     """What an element says but for the elements in it."""
     return element.tag, tuple(sorted(element.attrib.items())), "" if len(element) else (element.text or "").strip()
+
+
+def kept_element(text):
+    """An element with what the dump keeps as text, be it an element or an attribute."""
+    return parse(f"<kept>{text}</kept>" if text.startswith("<") else f"<kept {text}/>")
 
 
 def numbers(text):
@@ -65,6 +91,21 @@ def pose(origin):
             -sp, cp * sr, cp * cr, z, 0.0, 0.0, 0.0, 1.0]
 
 
+def product(first, second):
+    """Of matrices, row by row."""
+    return [sum(first[4 * i + k] * second[4 * k + j] for k in range(4)) for i in range(4) for j in range(4)]
+
+
+def inertia(inertial):
+    """About the centre of mass, turned into the axes of the link."""
+    stated = inertial.find("inertia")
+    ixx, ixy, ixz, iyy, iyz, izz = (attribute(stated, "i" + axes) for axes in ("xx", "xy", "xz", "yy", "yz", "zz"))
+    matrix = [[ixx, ixy, ixz], [ixy, iyy, iyz], [ixz, iyz, izz]]
+    turn = [pose(inertial.find("origin"))[row:row + 3] for row in (0, 4, 8)]
+    return [sum(turn[i][k] * matrix[k][m] * turn[j][m] for k in range(3) for m in range(3))
+            for i in range(3) for j in range(3)]
+
+
 def geometry(element):
     solid = element.find("geometry")[0]
     if solid.tag == "mesh":
@@ -81,39 +122,15 @@ def is_defined(material):
     return material.find("color") is not None or material.find("texture") is not None
 
 
-# Where a sensor states what the dump has as settings: attributes behind "@", alternatives one after the other.
-DEGREES = math.pi / 180
-IMAGE = {"width": "width", "height": "height", "format": "format"}
-RAYS = ("ray/scan/", "lidar/scan/", "ray/", "lidar/")
-SETTINGS = {
-    ("updateRate",): ["@update_rate", "update_rate", "updateRate"],
-    ("camera", "horizontalFieldOfView"): ["camera/horizontal_fov", "camera/image@hfov", "hfov*"],
-    ("camera", "nearClip"): ["camera/clip/near", "camera/image@near", "nearClip"],
-    ("camera", "farClip"): ["camera/clip/far", "camera/image@far", "farClip"],
-    ("camera", "format"): ["camera/image/format", "camera/image@format", "imageFormat"],
-    ("camera", "width"): ["camera/image/width", "camera/image@width"],
-    ("camera", "height"): ["camera/image/height", "camera/image@height"],
-    ("horizontalScan", "samples"): ["rayCount"],
-    ("horizontalScan", "minimumAngle"): ["minAngle*"],
-    ("horizontalScan", "maximumAngle"): ["maxAngle*"],
-    ("range", "minimum"): ["ray/range/min", "lidar/range/min", "sonar/min", "minRange"],
-    ("range", "maximum"): ["ray/range/max", "lidar/range/max", "sonar/max", "maxRange"],
-    ("range", "resolution"): ["ray/range/resolution", "lidar/range/resolution", "resRange"],
-}
-for scan in ("horizontal", "vertical"):
-    for key, name in (("samples", "samples"), ("resolution", "resolution"), ("minimumAngle", "min_angle"),
-                      ("maximumAngle", "max_angle")):
-        SETTINGS.setdefault((scan + "Scan", key), []).extend(
-            rays + scan + separator + name for rays in RAYS for separator in "/@")
-
-
 class Comparison:
     def __init__(self, file, dump):
         self.robot = parse(file.read_bytes())
         self.dump = dump
         self.lacks = []
-        self.kept = {statement(element) for extension in dump.get("extensions", [])
-                     for element in parse("<kept>" + extension["text"] + "</kept>").iter()}
+        self.kept = collections.Counter(
+            statement(element) for extension in dump.get("extensions", [])
+            for element in kept_element(extension["text"]).iter())
+        self.links = {link["name"]: link for link in dump["links"]}
         self.materials = {}
         for material in [*self.robot.findall("material"), *self.robot.iterfind("link/visual/material")]:
             if material.get("name") and is_defined(material):
@@ -126,7 +143,8 @@ class Comparison:
     def expect_kept(self, what, *elements):
         """That the dump has these elements, for which there is no place in a record, as text."""
         for tag, attributes, text in map(statement, elements):
-            if (tag, attributes, text) not in self.kept:
+            self.kept[tag, attributes, text] -= 1  # what is stated twice is there twice
+            if self.kept[tag, attributes, text] < 0:
                 self.lacks.append(f"{what}: <{tag}> {dict(attributes)} {text!r} is lost")
 
     def run(self):
@@ -150,6 +168,7 @@ class Comparison:
             for child in extension:
                 if child.tag.split(":")[0] != "sensor":
                     self.expect_kept(f"gazebo of {extension.get('reference')}", *child.iter())
+        self.attributes("robot", self.robot, "name", "version")
         self.sensors()
         return self.lacks
 
@@ -163,9 +182,28 @@ class Comparison:
                     says["material"] = self.material(shape.find("material"))
                 for key, value in says.items():
                     self.expect(f"{name}: {key} of {kind} {number}", value, has.get(key))
-        for child in link:
-            if child.tag not in ("inertial", "visual", "collision"):
-                self.expect_kept(name, *child.iter())
+        inertial = link.find("inertial")
+        if inertial is not None and attribute(inertial.find("mass"), "value") > 0:
+            com = pose(inertial.find("origin"))[3:12:4]
+            says = {"mass": attribute(inertial.find("mass"), "value"), "com": com}
+            self.expect(f"{name}: inertial", says, dumped.get("mass"))
+            self.expect(f"{name}: inertia", inertia(inertial), (dumped.get("mass") or {}).get("inertia"))
+        self.beyond(name, link)
+
+    def beyond(self, what, element):
+        """What an element holds that URDF does not define there is in the dump as text."""
+        attributes, children = DEFINED[element.tag]
+        self.attributes(what, element, *attributes)
+        for child in element:
+            if child.tag in children:
+                self.beyond(what, child)
+            else:
+                self.expect_kept(what, *child.iter())
+
+    def attributes(self, what, element, *known):
+        """All attributes but the known ones are there as text."""
+        self.expect_kept(f"{what}: attribute of <{element.tag}>", *(
+            ElementTree.Element("kept", {key: value}) for key, value in element.attrib.items() if key not in known))
 
     def material(self, material):
         if material is None:
@@ -190,41 +228,63 @@ class Comparison:
                     "positionGain": attribute(safety, "k_position"),
                     "velocityGain": attribute(safety, "k_velocity")},
                 "calibration": calibration if calibration is None else {
-                    key: float(calibration.get(key)) if calibration.get(key) else None for key in ("rising", "falling")}}
+                    key: float(calibration.get(key)) if calibration.get(key) else None
+                    for key in ("rising", "falling")}}
         if kind in MOVING:
             says["limits"] = {bound: None if kind == "continuous" else bounded(attribute(limit, bound))
                               for bound in ("lower", "upper")}
         for key, value in says.items():
             self.expect(f"{name}: {key}", value, dumped.get(key, "nothing"))
         self.expect(f"{name}: moves", kind in MOVING, dumped.get("moves"))
-        for child in joint:
-            if child.tag not in ("parent", "child", "origin", "axis", "limit", "dynamics", "mimic", "calibration",
-                                 "safety_controller"):
-                self.expect_kept(name, *child.iter())
+        for end in ("parent", "child"):
+            self.expect(f"{name}: {end}", joint.find(end).get("link"),
+                        self.links.get(dumped.get(end + "Link"), {}).get("descriptionName"))
+        self.place(name, joint, dumped)
+        self.beyond(name, joint)
+
+    def place(self, name, joint, dumped):
+        """The frame of a joint that moves has the axis as its z; that of the link which it moves stands as stated."""
+        stated = pose(joint.find("origin"))
+        child = self.links.get(dumped.get("childLink"))
+        if child is None:
+            return
+        self.expect(f"{name}: place of its link", stated, product(dumped["localPosition"], child["localPosition"]))
+        if joint.get("type") in MOVING:
+            axis = numbers(joint.find("axis").get("xyz")) if joint.find("axis") is not None else [1.0, 0.0, 0.0]
+            direction = [sum(a * b for a, b in zip(stated[row:row + 3], axis)) / math.hypot(*axis) for row in (0, 4, 8)]
+            self.expect(f"{name}: axis", direction, dumped["localPosition"][2:12:4])
+            self.expect(f"{name}: origin", stated[3:12:4], dumped["localPosition"][3:12:4])
 
     def transmission(self, name, transmission):
-        has = [each for each in self.dump.get("transmissions", []) if each["name"] == name]
-        known = {"mechanicalReduction": [each["reduction"] for each in has],
-                 "hardwareInterface": [interface for each in has for interface in each["interfaces"]],
-                 **{key: [each[key] for each in has] for key in ("type", "joint", "actuator")}}
-        for element in transmission.iter():
-            value = element.get("name") or (element.text or "").strip()
-            value = float(value) if element.tag == "mechanicalReduction" else value
-            if element is transmission:
-                value, known[element.tag] = element.get("type"), [None, *known["type"]]
-            if not any(agree(value, each) for each in known.get(element.tag, ())):
-                self.expect_kept(name, element)
+        """Each of its joints has a record, with the actuator of the same rank; the rest is there as text."""
+        joints, actuators, common = (transmission.findall(tag) for tag in ("joint", "actuator", "mechanicalReduction"))
+        stated_type = transmission.find("type")
+        has = [each for each in self.dump.get("transmissions", [])
+               if each["name"] == name and each["source"] == "transmission"]
+        self.expect(f"{name}: number of joints", float(len(joints)), len(has))
+        known = set()
+        for number, (joint, record) in enumerate(zip(joints, has)):
+            ends = [joint, *actuators[:number + 1][-1:]]
+            reductions = [*(each for end in ends[::-1] for each in end.findall("mechanicalReduction")), *common]
+            interfaces = [each for end in ends for each in end.findall("hardwareInterface")]
+            says = {"type": transmission.get("type") if stated_type is None else stated_type.text.strip(),
+                    "joint": joint.get("name"), "actuator": ends[1].get("name") if len(ends) > 1 else None,
+                    "reduction": float(reductions[0].text) if reductions else 1.0,
+                    "interfaces": list(dict.fromkeys(each.text.strip() for each in interfaces))}
+            for key, value in says.items():
+                self.expect(f"{name}: {key} of joint {number}", value, record[key])
+            known.update([transmission, stated_type, *ends, *reductions[:1], *interfaces])
+        self.expect_kept(name, *(element for element in transmission.iter() if element not in known))
 
     def control(self, name, control):
         for joint in control.findall("joint"):
-            has = [each["interfaces"] for each in self.dump.get("transmissions", [])
-                   if each["name"] == name and each["joint"] == joint.get("name")]
+            has = [each for each in self.dump.get("transmissions", [])
+                   if each["source"] != "transmission" and each["name"] == name and each["joint"] == joint.get("name")]
             stated = [each.get("name") for each in joint.findall("command_interface")]
-            self.expect(f"{name}: interfaces of {joint.get('name')}", stated,
-                        [each for each in has[0] if each in stated] if has else None)
-        for child in control:
-            if child.tag != "joint":
-                self.expect_kept(name, *child.iter())
+            self.expect(f"{name}: interfaces of {joint.get('name')}", stated, has[0]["interfaces"] if has else None)
+            self.expect(f"{name}: states of {joint.get('name')}", [each.get("name") for each in
+                        joint.findall("state_interface")], has[0]["stateInterfaces"] if has else None)
+        self.expect_kept(name, *control.iter())
 
     def sensors(self):
         carriers = {element.get("name") for tag in ("link", "joint") for element in self.robot.findall(tag)}
@@ -249,38 +309,73 @@ class Comparison:
                     self.sensor(name, sensor, has.get("settings") or {})
 
     def sensor(self, name, sensor, settings):
-        known = set()
+        known = set()  # elements whose text the dump has, and elements with attributes that it has
 
-        def state(keys, element, text, unit=1.0):
-            is_text = keys[-1] in ("format", "type")
+        def state(keys, element, attribute, text, unit=1.0):
             has = settings
             for key in keys:
                 has = (has or {}).get(key)
+            is_text = keys[-1] in ("format", "name")
             self.expect(f"{name}: {'.'.join(keys)}", text.strip() if is_text else bounded(float(text) * unit), has)
-            known.add(statement(element))
+            known.add((element, attribute))
 
         for keys, paths in SETTINGS.items():
             for path in paths:
                 path, _, key = path.partition("@")
                 element = sensor.find(path.rstrip("*") or ".")
                 if element is not None and (not key or element.get(key)):
-                    state(keys, element, element.get(key) if key else element.text,
+                    state(keys, element, key, element.get(key) if key else element.text,
                           DEGREES if path.endswith("*") else 1.0)
                     break
         if sensor.find("imageSize") is not None:
             for key, text in zip(("width", "height"), sensor.find("imageSize").text.split()):
-                state(("camera", key), sensor.find("imageSize"), text)
-        noise = next(sensor.iter("noise"), None)
-        if noise is not None:
-            for key, tag in (("type", "type"), ("mean", "mean"), ("standardDeviation", "stddev")):
-                element = next(noise.iter(tag), None)
-                if element is not None or noise.get(key):
-                    state(("noise", key), noise if element is None else element,
-                          noise.get(key) if element is None else element.text)
-        for child in sensor.iter():
-            is_setting = child is not sensor and len(child) == 0 and child.tag not in ("pose", "origin", "parent")
-            if is_setting and statement(child) not in known:
+                state(("camera", key), sensor.find("imageSize"), "", text)
+        if sensor.find("rangeCount") is not None:  # of a sweep, where the dump has values for each ray
+            rays = float(sensor.findtext("rayCount", sensor.findtext("rangeCount")))
+            state(("horizontalScan", "resolution"), sensor.find("rangeCount"), "", sensor.findtext("rangeCount"),
+                  1 / rays)
+        self.noises(name, sensor, settings.get("noises") or [], known)
+        self.rest(name, sensor, known)
+
+    def noises(self, name, sensor, noises, known):
+        stated = []
+        for within, noise in (each for part in sensor if part.tag in NOISY for each in noises_of(part)):
+            parts = [each for each in noise if not within and each.tag in ("accel", "rate")]  # the older form
+            common = self.noise(noise, known)
+            if not parts or set(common) - {"type"}:
+                stated.append({"quantity": "/".join(within), **common})
+            stated += [{"quantity": part.tag, **{key: common[key] for key in common if key == "type"},
+                        **self.noise(part, known)} for part in parts]
+        self.expect(f"{name}: number of noises", float(len(stated)), len(noises))
+        for says in stated:
+            has = next((each for each in noises if each["quantity"] == says["quantity"]), {})
+            self.expect(f"{name}: noise of {says['quantity'] or 'all'}", says, has)
+
+    @staticmethod
+    def noise(element, known):
+        """What a noise states; `known` learns of the statements."""
+        says = {}
+        for tag, key in NOISE.items():
+            child = element.find(tag)
+            if child is not None or element.get(tag):
+                text = (element.get(tag) if child is None else child.text).strip()
+                says[key] = text if tag == "type" else float(text)
+                known.add((element, tag) if child is None else (child, ""))
+        known.add((element, ""))
+        return says
+
+    def rest(self, name, sensor, known):
+        """What a sensor says beyond settings is in the dump as text: whole elements, or attributes of the others."""
+        parts = [part for part in sensor if part.tag not in ("pose", "origin", "parent")]
+        for child in (child for part in parts for child in part.iter()):
+            is_whole = (child, "") not in known and self.kept[statement(child)] > 0
+            is_lost = (child, "") not in known and len(child) == 0 and ((child.text or "").strip() or not child.attrib)
+            if is_whole or is_lost:
                 self.expect_kept(name, child)
+                continue
+            for key, value in child.attrib.items():
+                if (child, key) not in known:
+                    self.expect_kept(f"{name}: attribute of <{child.tag}>", ElementTree.Element("kept", {key: value}))
 
 
 def main(tool, folder, variable=""):

@@ -59,6 +59,28 @@ TEST(UrdfExtensions, SayInWhichOfLikeNamedElementsTheyStand)
                 ElementsAre("link l visual/geometry <warp/>", "link l visual[2]/geometry <warp/>"));
 }
 
+TEST(UrdfExtensions, KeepWhatTheRecordsOfTransmissionsDoNotSay)
+{
+    auto const kept = [](std::string const& content) {
+        std::string const transmission = "<transmission name='T' type='x'>" + content + "</transmission>";
+        return extensionsOf(*ModelUtils::robotFromXml(robot(arm() + transmission)));
+    };
+    std::string const actuator = "<actuator name='M'><mechanicalReduction>9</mechanicalReduction></actuator>";
+    EXPECT_THAT(kept("<joint name='A'/>" + actuator), ElementsAre());
+    EXPECT_THAT(
+        kept("<type>y</type><joint name='A'><role>r</role><mechanicalReduction>2</mechanicalReduction></joint>" +
+             actuator + "<actuator name='N'/><mechanicalReduction>3</mechanicalReduction><type>z</type>"),
+        ElementsAre("robot  transmission type='x'", "robot  transmission/joint <role>r</role>",
+                    "robot  transmission/joint <mechanicalReduction>2</mechanicalReduction>",
+                    "robot  transmission <actuator name='N'/>",
+                    "robot  transmission <mechanicalReduction>3</mechanicalReduction>",
+                    "robot  transmission <type>z</type>"));
+    // Without a joint there is no record at all.
+    EXPECT_THAT(
+        kept("<gap_joint name='A'/>" + actuator),
+        ElementsAre("robot   <transmission name='T' type='x'><gap_joint name='A'/>" + actuator + "</transmission>"));
+}
+
 TEST(UrdfControl, SaysWhichJointsAreDriven)
 {
     std::string const system =

@@ -47,8 +47,8 @@ Json safetyJson(Varo::Model::SafetyConfig const* safety)
     if (safety == nullptr) {
         return nullptr;
     }
-    return {{"lowerLimit", safety->lowerLimit},
-            {"upperLimit", safety->upperLimit},
+    return {{"lower", safety->lowerLimit},
+            {"upper", safety->upperLimit},
             {"positionGain", safety->positionGain},
             {"velocityGain", safety->velocityGain}};
 }

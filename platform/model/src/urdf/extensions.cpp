@@ -55,6 +55,11 @@ void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& r
     }
     std::sort(robot.extensions.begin(), robot.extensions.end(),
               [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); });
+    auto const isWithin = [](ExtensionConfig const& kept, ExtensionConfig const& next) {
+        return next.textOffset.value() - kept.textOffset.value() < kept.text.size();
+    };
+    auto& all = robot.extensions;
+    all.erase(std::unique(all.begin(), all.end(), isWithin), all.end());
 }
 
 /// Whether the element is one that extensions may stand in.

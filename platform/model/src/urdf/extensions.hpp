@@ -20,7 +20,7 @@ namespace Varo::Model::Urdf {
 /// attributes like others, so that prefixes of what is kept can be looked up where the text has them.
 class Extensions {
 public:
-    /// An element that has no place in the records, with all that it holds.
+    /// An element that has no place in the records, with all that it holds, be that added, too, or not.
     void add(pugi::xml_node element) { _kept.push_back({element, {}}); }
     /// An attribute of that kind.
     void add(pugi::xml_node element, pugi::xml_attribute attribute) { _kept.push_back({element, attribute}); }

@@ -79,6 +79,7 @@ std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, pugi::xml
 void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_node child)
 {
     reportSurplus(child, diagnostics());
+    _report.passOver(child);
 }
 
 void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)

@@ -2,6 +2,7 @@
 #define VARO_MODEL_URDF_TRANSLATION_HPP
 
 #include "robot/link_tree.hpp"
+#include "urdf/elements.hpp"
 #include "urdf/materials.hpp"
 #include "urdf/statements.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -19,8 +20,8 @@ void translateBody(Link const& link, Materials const& materials, JointConfig& bo
 /// The same of its shapes alone.
 void translateShapes(Link const& link, Materials const& materials, JointConfig& body, Diagnostics& diagnostics);
 
-/// The transmissions of a tree whose joints can be found by name.
-void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Diagnostics& diagnostics);
+/// The transmissions of a tree whose joints can be found by name. What the records have no place for is kept as text.
+void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

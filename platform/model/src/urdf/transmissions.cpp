@@ -17,12 +17,17 @@ TransmissionEnd const* actuatorOf(Transmission const& transmission, std::size_t 
     return actuators.empty() ? nullptr : &actuators[std::min(joint, actuators.size() - 1)];
 }
 
-double reductionOf(Transmission const& transmission, TransmissionEnd const& joint, TransmissionEnd const* actuator)
+/// The reduction that counts for a joint; null for none.
+Reduction const* reductionOf(Transmission const& transmission, std::size_t joint)
 {
-    if (actuator != nullptr && actuator->reduction) {
-        return actuator->reduction->value;
+    TransmissionEnd const* const actuator = actuatorOf(transmission, joint);
+    for (auto const* stated : {actuator == nullptr ? nullptr : &actuator->reduction,
+                               &transmission.joints[joint].reduction, &transmission.reduction}) {
+        if (stated != nullptr && *stated) {
+            return &**stated;
+        }
     }
-    return joint.reduction.value_or(transmission.reduction.value_or(Reduction())).value;
+    return nullptr;
 }
 
 void addInterfaces(TransmissionEnd const& end, std::vector<std::string>& interfaces)
@@ -42,7 +47,9 @@ TransmissionConfig toConfig(Transmission const& transmission, std::size_t index)
     config.name = transmission.name;
     config.type = transmission.type;
     config.joint = joint.name;
-    config.reduction = static_cast<float>(reductionOf(transmission, joint, actuator));
+    if (Reduction const* const reduction = reductionOf(transmission, index); reduction != nullptr) {
+        config.reduction = static_cast<float>(reduction->value);
+    }
     config.textOffset = at(transmission.node);
     addInterfaces(joint, config.interfaces);
     if (actuator != nullptr) {
@@ -52,19 +59,54 @@ TransmissionConfig toConfig(Transmission const& transmission, std::size_t index)
     return config;
 }
 
+/// Reductions for which another one counts.
+void keepOtherReductions(Transmission const& transmission, Report const& report)
+{
+    bool isCommonCounting = false;
+    for (std::size_t i = 0; i < transmission.joints.size(); ++i) {
+        Reduction const* const counting = reductionOf(transmission, i);
+        auto const& own = transmission.joints[i].reduction;
+        if (own && counting != &*own) {
+            report.passOver(own->node);
+        }
+        isCommonCounting = isCommonCounting || (transmission.reduction && counting == &*transmission.reduction);
+    }
+    if (transmission.reduction && !isCommonCounting) {
+        report.passOver(transmission.reduction->node);
+    }
+}
+
+/// What the records of its joints have no place for; all of it where there are no joints.
+void keepRest(Transmission const& transmission, Report const& report)
+{
+    if (transmission.joints.empty()) {
+        report.passOver(transmission.node);
+        return;
+    }
+    for (std::size_t i = transmission.joints.size(); i < transmission.actuators.size(); ++i) {
+        report.passOver(transmission.actuators[i].node);
+    }
+    keepOtherReductions(transmission, report);
+    if (pugi::xml_attribute const type = transmission.node.attribute("type");
+        type && type.value() != transmission.type) {
+        report.passOver(transmission.node, type);
+    }
+}
+
 }  // namespace
 
-void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Diagnostics& diagnostics)
+void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Report const& report)
 {
     for (Transmission const& transmission : stated.transmissions) {
         for (std::size_t i = 0; i < transmission.joints.size(); ++i) {
             TransmissionEnd const& joint = transmission.joints[i];
             if (!joint.name.empty() && find(tree.jointByName, joint.name) == none) {
-                diagnostics.report(at(joint.node, "name"), codes::unknownDrivenJoint,
-                                   "There is no joint " + quoted(joint.name) + "; the record keeps the name.");
+                report.diagnostics.report(at(joint.node, "name"), codes::unknownDrivenJoint,
+                                          "There is no joint " + quoted(joint.name) + "; the record keeps the name.");
             }
             robot.transmissions.push_back(toConfig(transmission, i));
         }
+        keepRest(transmission, report);
     }
 }
 

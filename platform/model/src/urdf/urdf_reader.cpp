@@ -73,7 +73,7 @@ Records Reader::read()
     readIdentity();
     readBodies();
     readSensors();
-    translateTransmissions(_stated, _tree, _robot, _diagnostics);
+    translateTransmissions(_stated, _tree, _robot, _report);
     readControls();
     if (!_diagnostics.hasErrors()) {
         _kept.addRecords(_tree, *_diagnostics.source(), _robot);
