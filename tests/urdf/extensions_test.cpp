@@ -6,6 +6,7 @@ namespace {
 
 using namespace UrdfTest;
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 std::vector<std::string> extensionsOf(Robot const& robot)
 {
@@ -37,7 +38,7 @@ TEST(UrdfExtensions, KeepTheirTextWithTheRecordThatTheyStandIn)
     std::vector<std::string> const kept = extensionsOf(*read);
     EXPECT_THAT(
         kept,
-        ElementsAre("robot   xmlns:sim='http://sim'",
+        UnorderedElementsAre("robot   xmlns:sim='http://sim'",
                     "link base  <self_filter a='&lt;'>1 &amp; 2<!-- > --></self_filter>",
                     "joint j  <sim:gear>\r\n 7 </sim:gear>", "robot   <sim:world><sim:world/></sim:world>",
                     "robot  gazebo <plugin name='p'/>", "link j gazebo <mu1>0.5</mu1>", "sensor eye  <topic>t</topic>",
