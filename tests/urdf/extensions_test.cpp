@@ -6,6 +6,7 @@ namespace {
 
 using namespace UrdfTest;
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 std::vector<std::string> extensionsOf(Robot const& robot)
 {
@@ -35,14 +36,14 @@ TEST(UrdfExtensions, KeepTheirTextWithTheRecordThatTheyStandIn)
         "</robot>";
     auto const read = ModelUtils::robotFromXml(xml);
     std::vector<std::string> const kept = extensionsOf(*read);
-    EXPECT_THAT(
-        kept,
-        ElementsAre("robot   xmlns:sim='http://sim'",
-                    "link base  <self_filter a='&lt;'>1 &amp; 2<!-- > --></self_filter>",
-                    "joint j  <sim:gear>\r\n 7 </sim:gear>", "robot   <sim:world><sim:world/></sim:world>",
-                    "robot  gazebo <plugin name='p'/>", "link j gazebo <mu1>0.5</mu1>", "sensor eye  <topic>t</topic>",
-                    "sensor eye pose frame='tip'", "sensor eye  <imu><sim:extra/></imu>",
-                    "joint k gazebo <provideFeedback/>", "robot   <gazebo reference='gone'><mu1/></gazebo>"));
+    EXPECT_THAT(kept, UnorderedElementsAre("robot   xmlns:sim='http://sim'",
+                                           "link base  <self_filter a='&lt;'>1 &amp; 2<!-- > --></self_filter>",
+                                           "joint j  <sim:gear>\r\n 7 </sim:gear>",
+                                           "robot   <sim:world><sim:world/></sim:world>",
+                                           "robot  gazebo <plugin name='p'/>", "link j gazebo <mu1>0.5</mu1>",
+                                           "sensor eye  <topic>t</topic>", "sensor eye pose frame='tip'",
+                                           "sensor eye  <imu><sim:extra/></imu>", "joint k gazebo <provideFeedback/>",
+                                           "robot   <gazebo reference='gone'><mu1/></gazebo>"));
     EXPECT_TRUE(ModelUtils::diagnose(xml).empty());
     // The native dialect holds the same, byte by byte.
     std::string const native = ModelUtils::toXml(*read);
@@ -70,11 +71,10 @@ TEST(UrdfExtensions, KeepWhatTheRecordsOfTransmissionsDoNotSay)
     EXPECT_THAT(
         kept("<type>y</type><joint name='A'><role>r</role><mechanicalReduction>2</mechanicalReduction></joint>" +
              actuator + "<actuator name='N'/><mechanicalReduction>3</mechanicalReduction><type>z</type>"),
-        ElementsAre("robot  transmission type='x'", "robot  transmission/joint <role>r</role>",
-                    "robot  transmission/joint <mechanicalReduction>2</mechanicalReduction>",
-                    "robot  transmission <actuator name='N'/>",
+        ElementsAre("robot  transmission type='x'", "robot  transmission <actuator name='N'/>",
                     "robot  transmission <mechanicalReduction>3</mechanicalReduction>",
-                    "robot  transmission <type>z</type>"));
+                    "robot  transmission <type>z</type>", "robot  transmission/joint <role>r</role>",
+                    "robot  transmission/joint <mechanicalReduction>2</mechanicalReduction>"));
     // Without a joint there is no record at all.
     EXPECT_THAT(
         kept("<gap_joint name='A'/>" + actuator),

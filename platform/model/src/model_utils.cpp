@@ -12,6 +12,7 @@
 #include "robot/mirror_pairs.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
+#include "urdf/urdf_writer.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
@@ -116,6 +117,11 @@ std::vector<std::string> findingCodes()
 std::string toXml(Robot const& robot)
 {
     return writeNative(robot);
+}
+
+std::string toUrdf(Robot const& robot)
+{
+    return writeUrdf(robot);
 }
 
 bool checkXml(std::string const& xml)

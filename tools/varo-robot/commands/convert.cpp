@@ -15,6 +15,7 @@ struct Options {
     std::string file;
     std::string output;
     Varo::Model::ModelUtils::ReadOptions reading;
+    std::string dialect = "native";
     bool force = false;
 };
 
@@ -28,7 +29,9 @@ Existing whatBecomesOfOutput(Options const& options)
 int convert(Options const& options)
 {
     Description const description = readAccepted(options.file, options.reading);
-    std::string const text = Varo::Model::ModelUtils::toXml(*description.reading.robot);
+    Varo::Model::Robot const& robot = *description.reading.robot;
+    std::string const text =
+        options.dialect == "urdf" ? Varo::Model::ModelUtils::toUrdf(robot) : Varo::Model::ModelUtils::toXml(robot);
     if (options.output.empty() || options.output == "-") {
         std::cout << text;
     } else {
@@ -43,13 +46,17 @@ std::function<int()> declare(CLI::App& app)
     declareFile(app, options->file);
     declareReading(app, options->reading);
     app.add_option("-o,--output", options->output, "File to write instead of standard output")->type_name("OUT");
+    app.add_option("--to", options->dialect, "Dialect to write")
+        ->type_name("DIALECT")
+        ->check(CLI::IsMember({"native", "urdf"}))
+        ->capture_default_str();
     app.add_flag("-f,--force", options->force, "Replace OUT when it is another file than FILE and there already");
     return [options] { return convert(*options); };
 }
 
 }  // namespace
 
-Command const convertCommand = {"convert", "Write the description in the native dialect",
+Command const convertCommand = {"convert", "Write the description in the native dialect or in URDF",
                                 R"(Reads a description of either dialect and writes it in the native one, in its
 canonical form: elements and attributes in the format's order, values that are
 defaults left out, comments dropped. The model of what is written equals that of
@@ -59,12 +66,18 @@ What the reader of a URDF description could not carry over is not written;
 `varo-robot check` says what that is. The names of links in a URDF description
 are kept in attributes "link".
 
+With --to urdf it is written in URDF. What URDF has no words for is left out:
+coupled actuators that are no mimics, wheels, sub-joints, postures, chains as
+they are stated, mirrors, free attributes, names for people, and whether a joint
+has a motor.
+
 OUT may be FILE itself; any other file that is there already is replaced with
 --force only. OUT is the old file until the new one is whole and on the disk.
 
 Examples:
   varo-robot convert arm.urdf -o arm.xml
-  varo-robot convert robot.urdf | varo-robot dump -)",
+  varo-robot convert robot.urdf | varo-robot dump -
+  varo-robot convert --to urdf arm.xml -o arm.urdf)",
                                 declare};
 
 }  // namespace Tool

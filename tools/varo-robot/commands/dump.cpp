@@ -39,7 +39,7 @@ Command const dumpCommand = {"dump", "Print the whole model as JSON",
 prettyName, version, rootLink, and the arrays links, joints, jointSymmetries, jointGroups,
 actuators, actuatorGroups and sensors, each in the order in which loading made
 its elements, then transmissions and extensions (what the description has for
-other programs, as text) in the order of the description.
+other programs, as text) in the order of the records.
 
 A sensor's settings are null when the description states none: updateRate (Hz),
 camera (rad, pixels, m), horizontalScan and verticalScan (rad), range (m) and

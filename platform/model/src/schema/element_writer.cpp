@@ -29,14 +29,20 @@ std::string escaped(std::string_view text)
 
 void ElementWriter::openTag(std::string_view name)
 {
-    if (_isTagOpen) {
-        _text += ">\n";
-    }
+    endTag();
     indent();
     _text += '<';
+    _text += _depth == _outermost ? _prefix : std::string_view();
     _text += name;
     _isTagOpen = true;
     ++_depth;
+}
+
+/// Of a start tag behind which elements follow.
+void ElementWriter::endTag()
+{
+    _text += _isTagOpen ? ">\n" : "";
+    _isTagOpen = false;
 }
 
 void ElementWriter::writeAttribute(std::string_view name, std::string_view value)
@@ -44,6 +50,28 @@ void ElementWriter::writeAttribute(std::string_view name, std::string_view value
     _text += ' ';
     _text += name;
     _text += "=\"" + escaped(value) + '"';
+}
+
+void ElementWriter::appendAttribute(std::string_view markup)
+{
+    _text += ' ';
+    _text += markup;
+}
+
+void ElementWriter::appendElement(std::string_view markup)
+{
+    endTag();
+    indent();
+    _text += markup;
+    _text += '\n';
+}
+
+void ElementWriter::appendLines(std::string_view markup)
+{
+    if (!markup.empty()) {
+        endTag();
+        _text += markup;
+    }
 }
 
 void ElementWriter::writeText(std::string_view text)
@@ -63,6 +91,7 @@ void ElementWriter::closeTag(std::string_view name)
             indent();
         }
         _text += "</";
+        _text += _depth == _outermost ? _prefix : std::string_view();
         _text += name;
         _text += ">\n";
     }

@@ -16,7 +16,14 @@ namespace Varo::Model::Schema {
 class ElementWriter {
 public:
     /// The robot must outlive the writer.
-    explicit ElementWriter(Records const& robot) : _robot(robot) {}
+    explicit ElementWriter(Records const& robot) : ElementWriter(robot, {}, 0) {}
+    /// Writes what stands in `depth` other elements, with the prefix before the names of the outermost ones.
+    ElementWriter(Records const& robot, std::string_view prefix, std::size_t depth)
+        : _robot(robot), _prefix(prefix), _depth(depth), _outermost(depth)
+    {}
+    ElementWriter(ElementWriter const&) = delete;
+    ElementWriter& operator=(ElementWriter const&) = delete;
+    virtual ~ElementWriter() = default;
 
     template <class Record>
     void write(Element<Record> const& element, Record const& record);
@@ -29,6 +36,18 @@ public:
     /// All that was written.
     std::string const& text() const { return _text; }
 
+protected:
+    /// What a dialect writes beside its tables may be added between these steps.
+    virtual void openTag(std::string_view name);
+    virtual void writeAttribute(std::string_view name, std::string_view value);
+    virtual void endAttributes() {}
+    virtual void closeTag(std::string_view name);
+    void writeText(std::string_view text);
+    /// Markup as it stands: an attribute of the open tag, an element, or lines that have their indentation.
+    void appendAttribute(std::string_view markup);
+    void appendElement(std::string_view markup);
+    void appendLines(std::string_view markup);
+
 private:
     /// The texts decide and not the values, of which 0 equals -0.
     template <class Record>
@@ -37,15 +56,14 @@ private:
         return row.print(record) == row.print(Record());
     }
 
-    void openTag(std::string_view name);
-    void writeAttribute(std::string_view name, std::string_view value);
-    void writeText(std::string_view text);
-    void closeTag(std::string_view name);
+    void endTag();
     void indent() { _text.append(2 * _depth, ' '); }
 
     Records const& _robot;
+    std::string_view _prefix;
     std::string _text;
-    std::size_t _depth = 0;
+    std::size_t _depth;
+    std::size_t _outermost;  ///< the depth of the elements that have the prefix
     bool _isTagOpen = false;  ///< the last start tag still lacks its end
     bool _isTextLast = false;  ///< the next end tag stands right behind a text
 };
@@ -55,10 +73,11 @@ void ElementWriter::write(Element<Record> const& element, Record const& record)
 {
     openTag(element.name);
     for (Attribute<Record> const& row : element.attributeRows) {
-        if (row.required || !isDefault(row, record)) {
+        if (row.required || row.writesDefault || !isDefault(row, record)) {
             writeAttribute(row.name, row.print(record));
         }
     }
+    endAttributes();
     if (element.textRow != nullptr) {
         writeText(element.textRow->print(record));
     }

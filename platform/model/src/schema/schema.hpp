@@ -63,8 +63,17 @@ struct Attribute : AttributeInfo {
         return copy;
     }
 
+    /// One that stands in what is written even where it could be left out.
+    constexpr Attribute alwaysWritten() const
+    {
+        Attribute copy = *this;
+        copy.writesDefault = true;
+        return copy;
+    }
+
     Store store;  ///< false when the text is not of the type; a tolerant type may take a part of it all the same
     Print print;
+    bool writesDefault = false;
 };
 
 enum class Occurrence { optional, once, any };

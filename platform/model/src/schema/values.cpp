@@ -135,11 +135,26 @@ bool parseWord(std::string_view text, Range<Word> words, std::int32_t& value)
     return false;
 }
 
-std::string printNumber(float value)
+namespace {
+
+template <class Float>
+std::string printShortest(Float value)
 {
     std::array<char, 32> digits;
     auto const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     return {digits.data(), end};
+}
+
+}  // namespace
+
+std::string printNumber(float value)
+{
+    return printShortest(value);
+}
+
+std::string printNumber(double value)
+{
+    return printShortest(value);
 }
 
 std::string printNumbers(float const* values, std::size_t count)

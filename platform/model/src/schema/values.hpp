@@ -45,6 +45,7 @@ bool parseWord(std::string_view text, Range<Word> words, std::int32_t& value);
 
 /// The shortest number that reads as `value`.
 std::string printNumber(float value);
+std::string printNumber(double value);
 
 std::string printNumbers(float const* values, std::size_t count);
 

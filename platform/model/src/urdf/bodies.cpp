@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cstddef>
 #include <string>
 
 #include "urdf/translation.hpp"
@@ -29,7 +31,9 @@ void translateInertial(Inertial const& inertial, JointConfig& body, Diagnostics&
     Pose const frame = inertial.origin.value_or(Origin()).pose();
     Matrix const turned = frame.rotation * stated * transposed(frame.rotation);
     for (std::size_t i = 0; i < 9; ++i) {
-        body.inertiaMatrix[i] = static_cast<float>(turned[i / 3][i % 3]);
+        std::size_t const row = std::min(i / 3, i % 3);  // symmetric in spite of rounding
+        std::size_t const column = std::max(i / 3, i % 3);
+        body.inertiaMatrix[i] = static_cast<float>(turned[row][column]);
     }
     body.mass = static_cast<float>(mass.value);
     body.centerOfMass = toPosition(frame.translation);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "xml/markup.hpp"
@@ -36,6 +37,13 @@ bool isTopLevel(pugi::xml_node element)
     return element.parent().parent() == element.root();
 }
 
+/// What stands in one place follows each other, wherever in the text such places are.
+auto keyOf(ExtensionConfig const& extension)
+{
+    return std::tuple(extension.owner, std::string_view(extension.ownerName), std::string_view(extension.within),
+                      extension.textOffset.value());
+}
+
 }  // namespace
 
 bool findBearer(std::string_view name, LinkTree& tree, ExtensionConfig& extension)
@@ -60,6 +68,7 @@ void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& r
     };
     auto& all = robot.extensions;
     all.erase(std::unique(all.begin(), all.end(), isWithin), all.end());
+    std::sort(all.begin(), all.end(), [](auto const& a, auto const& b) { return keyOf(a) < keyOf(b); });
 }
 
 /// Whether the element is one that extensions may stand in.

@@ -25,8 +25,10 @@ constexpr Element<Axis> axisElement{
 constexpr Attribute<Limit> limitAttributes[] = {
     optional<&Limit::lower, LowerBound>("lower", "0", "rad (m)", "smallest joint value"),
     optional<&Limit::upper, UpperBound>("upper", "0", "rad (m)", "greatest joint value"),
-    optional<&Limit::effort, UpperBound>("effort", "0", "N*m (N)", "greatest torque (force); 0 when not stated"),
-    optional<&Limit::velocity, UpperBound>("velocity", "0", "rad/s (m/s)", "greatest speed; 0 when not stated"),
+    optional<&Limit::effort, UpperBound>("effort", "0", "N*m (N)", "greatest torque (force); 0 when not stated")
+        .alwaysWritten(),
+    optional<&Limit::velocity, UpperBound>("velocity", "0", "rad/s (m/s)", "greatest speed; 0 when not stated")
+        .alwaysWritten(),
 };
 constexpr Element<Limit> limitElement{
     "limit",

@@ -15,7 +15,7 @@ constexpr Element<Mass> massElement{"mass", "the body's mass", massAttributes};
 template <auto member>
 constexpr Attribute<Inertia> entry(std::string_view name)
 {
-    return optional<member>(name, "0", "kg*m^2", "entry of the symmetric matrix");
+    return optional<member>(name, "0", "kg*m^2", "entry of the symmetric matrix").alwaysWritten();
 }
 constexpr Attribute<Inertia> inertiaAttributes[] = {
     entry<&Inertia::xx>("ixx"), entry<&Inertia::xy>("ixy"), entry<&Inertia::xz>("ixz"),

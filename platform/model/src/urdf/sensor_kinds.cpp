@@ -54,10 +54,12 @@ SensorKind const* findSensorKind(std::string_view name)
     return nullptr;
 }
 
-SensorKind const& defaultKind(SensorType type)
+SensorKind const* defaultKind(std::int32_t type)
 {
     Range<SensorKind> const kinds = allKinds();
-    return *std::find_if(kinds.begin(), kinds.end(), [type](SensorKind const& kind) { return kind.type == type; });
+    auto const* const found =
+        std::find_if(kinds.begin(), kinds.end(), [type](SensorKind const& kind) { return kind.type == type; });
+    return found == kinds.end() ? nullptr : found;
 }
 
 SensorSize sensorSizeOf(SensorSettings const* settings, SensorType type)

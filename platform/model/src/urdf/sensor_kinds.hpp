@@ -19,8 +19,8 @@ struct SensorKind {
 /// Null for a kind that the model has no equivalent of.
 SensorKind const* findSensorKind(std::string_view name);
 
-/// The kind that a sensor of the type is when nothing else says more. Only of types that kinds have.
-SensorKind const& defaultKind(SensorType type);
+/// The kind that a sensor of the type is when nothing else says more; null for a type that no kind has.
+SensorKind const* defaultKind(std::int32_t type);
 
 /// The pixels of a camera or the points of a scan.
 struct SensorSize {

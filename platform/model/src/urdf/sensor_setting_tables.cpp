@@ -1,7 +1,9 @@
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <string>
 
+#include "schema/values.hpp"
 #include "urdf/numbers.hpp"
 #include "urdf/sensor_settings.hpp"
 #include "xml/words.hpp"
@@ -90,13 +92,32 @@ struct MemberOf<member> {
     using Value = V;
 };
 
+std::string printValue(float value)
+{
+    return Schema::printNumber(value);
+}
+std::string printValue(std::int32_t value)
+{
+    return std::to_string(value);
+}
+std::string printValue(std::string const& value)
+{
+    return value;
+}
+
 /// A setting that is a member of the record itself.
 template <auto member, class Type>
 constexpr auto own(std::string_view path, std::string_view place, std::string_view unit = {})
 {
     using Record = typename MemberOf<member>::Record;
-    return Setting<Record>{path, place, unit, Type::meaning,
-                           [](std::string_view text, Record& record) { return Type::parse(text, record.*member); }};
+    return Setting<Record>{path,
+                           place,
+                           unit,
+                           Type::meaning,
+                           [](std::string_view text, Record& record) { return Type::parse(text, record.*member); },
+                           [](Record const& record) {
+                               return record.*member == Record().*member ? std::string() : printValue(record.*member);
+                           }};
 }
 
 /// A setting in a part of the sensor's, which is there as soon as one setting of it is stated.
@@ -109,6 +130,18 @@ constexpr Setting<SensorSettings> of(std::string_view path, std::string_view pla
                 settings.*part = isRight ? changed : settings.*part;
                 return isRight;
             }};
+}
+
+/// The form of a setting that is written: where it differs from its default, or wherever there is such a part.
+template <auto part, auto member, bool always = false>
+constexpr Setting<SensorSettings> written(Setting<SensorSettings> setting)
+{
+    setting.print = [](SensorSettings const& settings) {
+        using Record = typename MemberOf<member>::Record;
+        bool const isSaid = settings.*part && (always || (*(settings.*part)).*member != Record().*member);
+        return isSaid ? printValue((*(settings.*part)).*member) : std::string();
+    };
+    return setting;
 }
 
 template <auto member, class Type>
@@ -132,6 +165,12 @@ constexpr auto range(std::string_view path, std::string_view place)
     return of<&SensorSettings::range, member, Type>(path, place, "m");
 }
 
+constexpr Setting<SensorSettings> onlyRead(Setting<SensorSettings> setting)
+{
+    setting.print = nullptr;
+    return setting;
+}
+
 /// Width and height in one.
 bool storeImageSize(std::string_view text, SensorSettings& settings)
 {
@@ -150,14 +189,20 @@ using Distance = RangeSettings;
 constexpr Setting<SensorSettings> ofSensors[] = {
     own<&SensorSettings::updateRate, Amount>("update_rate", "@updateRate", "Hz"),
 
-    camera<&Camera::name, Word>("camera/name", "camera/@name"),
+    written<&SensorSettings::camera, &Camera::name>(camera<&Camera::name, Word>("camera/name", "camera/@name")),
     camera<&Camera::horizontalFieldOfView, Amount>("camera/horizontal_fov", "camera/@fieldOfView", "rad"),
-    camera<&Camera::horizontalFieldOfView, Amount>("camera/image/hfov", "camera/@fieldOfView", "rad"),
-    camera<&Camera::width, Count>("camera/image/width", "camera/@width", "pixels"),
-    camera<&Camera::height, Count>("camera/image/height", "camera/@height", "pixels"),
-    camera<&Camera::format, Word>("camera/image/format", "camera/@format"),
-    camera<&Camera::nearClip, Amount>("camera/image/near", "camera/@near", "m"),
-    camera<&Camera::farClip, Bound>("camera/image/far", "camera/@far", "m"),
+    written<&SensorSettings::camera, &Camera::horizontalFieldOfView>(
+        camera<&Camera::horizontalFieldOfView, Amount>("camera/image/hfov", "camera/@fieldOfView", "rad")),
+    written<&SensorSettings::camera, &Camera::width>(
+        camera<&Camera::width, Count>("camera/image/width", "camera/@width", "pixels")),
+    written<&SensorSettings::camera, &Camera::height>(
+        camera<&Camera::height, Count>("camera/image/height", "camera/@height", "pixels")),
+    written<&SensorSettings::camera, &Camera::format>(
+        camera<&Camera::format, Word>("camera/image/format", "camera/@format")),
+    written<&SensorSettings::camera, &Camera::nearClip, true>(
+        camera<&Camera::nearClip, Amount>("camera/image/near", "camera/@near", "m")),
+    written<&SensorSettings::camera, &Camera::farClip>(
+        camera<&Camera::farClip, Bound>("camera/image/far", "camera/@far", "m")),
     camera<&Camera::nearClip, Amount>("camera/clip/near", "camera/@near", "m"),
     camera<&Camera::farClip, Bound>("camera/clip/far", "camera/@far", "m"),
 
@@ -169,22 +214,33 @@ constexpr Setting<SensorSettings> ofSensors[] = {
     vertical<&Scan::resolution, Amount>("ray/scan/vertical/resolution", "verticalScan/@resolution"),
     vertical<&Scan::minimumAngle, Any>("ray/scan/vertical/min_angle", "verticalScan/@min", "rad"),
     vertical<&Scan::maximumAngle, Any>("ray/scan/vertical/max_angle", "verticalScan/@max", "rad"),
-    horizontal<&Scan::samples, Count>("ray/horizontal/samples", "horizontalScan/@samples"),
-    horizontal<&Scan::resolution, Amount>("ray/horizontal/resolution", "horizontalScan/@resolution"),
-    horizontal<&Scan::minimumAngle, Any>("ray/horizontal/min_angle", "horizontalScan/@min", "rad"),
-    horizontal<&Scan::maximumAngle, Any>("ray/horizontal/max_angle", "horizontalScan/@max", "rad"),
-    vertical<&Scan::samples, Count>("ray/vertical/samples", "verticalScan/@samples"),
-    vertical<&Scan::resolution, Amount>("ray/vertical/resolution", "verticalScan/@resolution"),
-    vertical<&Scan::minimumAngle, Any>("ray/vertical/min_angle", "verticalScan/@min", "rad"),
-    vertical<&Scan::maximumAngle, Any>("ray/vertical/max_angle", "verticalScan/@max", "rad"),
-    range<&Distance::minimum, Amount>("ray/range/min", "range/@min"),
-    range<&Distance::maximum, Bound>("ray/range/max", "range/@max"),
-    range<&Distance::resolution, Amount>("ray/range/resolution", "range/@resolution"),
+    written<&SensorSettings::horizontalScan, &Scan::samples, true>(
+        horizontal<&Scan::samples, Count>("ray/horizontal/samples", "horizontalScan/@samples")),
+    written<&SensorSettings::horizontalScan, &Scan::resolution>(
+        horizontal<&Scan::resolution, Amount>("ray/horizontal/resolution", "horizontalScan/@resolution")),
+    written<&SensorSettings::horizontalScan, &Scan::minimumAngle>(
+        horizontal<&Scan::minimumAngle, Any>("ray/horizontal/min_angle", "horizontalScan/@min", "rad")),
+    written<&SensorSettings::horizontalScan, &Scan::maximumAngle>(
+        horizontal<&Scan::maximumAngle, Any>("ray/horizontal/max_angle", "horizontalScan/@max", "rad")),
+    written<&SensorSettings::verticalScan, &Scan::samples, true>(
+        vertical<&Scan::samples, Count>("ray/vertical/samples", "verticalScan/@samples")),
+    written<&SensorSettings::verticalScan, &Scan::resolution>(
+        vertical<&Scan::resolution, Amount>("ray/vertical/resolution", "verticalScan/@resolution")),
+    written<&SensorSettings::verticalScan, &Scan::minimumAngle>(
+        vertical<&Scan::minimumAngle, Any>("ray/vertical/min_angle", "verticalScan/@min", "rad")),
+    written<&SensorSettings::verticalScan, &Scan::maximumAngle>(
+        vertical<&Scan::maximumAngle, Any>("ray/vertical/max_angle", "verticalScan/@max", "rad")),
+    written<&SensorSettings::range, &Distance::minimum, true>(
+        range<&Distance::minimum, Amount>("ray/range/min", "range/@min")),
+    written<&SensorSettings::range, &Distance::maximum>(
+        range<&Distance::maximum, Bound>("ray/range/max", "range/@max")),
+    written<&SensorSettings::range, &Distance::resolution>(
+        range<&Distance::resolution, Amount>("ray/range/resolution", "range/@resolution")),
     range<&Distance::minimum, Amount>("sonar/min", "range/@min"),
     range<&Distance::maximum, Bound>("sonar/max", "range/@max"),
 
     // The old form, whose angles are in degrees.
-    own<&SensorSettings::updateRate, Amount>("updateRate", "@updateRate", "Hz"),
+    onlyRead(own<&SensorSettings::updateRate, Amount>("updateRate", "@updateRate", "Hz")),
     camera<&Camera::horizontalFieldOfView, Degrees>("hfov", "camera/@fieldOfView", "degrees"),
     {"imageSize", "camera/@width, @height", "pixels", "two whole numbers from 1 to 100000", storeImageSize},
     camera<&Camera::format, Word>("imageFormat", "camera/@format"),
@@ -213,8 +269,17 @@ constexpr Setting<NoiseSettings> ofNoises[] = {
     own<&Noise::precision, Amount>("precision", "noise/@precision"),
 };
 
+constexpr SensorAlias aliases[] = {
+    {"depth_camera", "camera"}, {"rgbd_camera", "camera"}, {"gpu_ray", "ray"}, {"lidar", "ray"}, {"gpu_lidar", "ray"},
+};
+constexpr std::string_view noisy[] = {
+    "camera", "ray", "imu", "force_torque", "magnetometer", "altimeter", "gps", "navsat", "air_pressure", "air_speed",
+};
+
 }  // namespace
 
+Range<SensorAlias> const sensorAliases = aliases;
+Range<std::string_view> const noisyElements = noisy;
 Range<Setting<SensorSettings>> const sensorSettings = ofSensors;
 Range<Setting<NoiseSettings>> const noiseSettings = ofNoises;
 

@@ -12,19 +12,6 @@ namespace Varo::Model::Urdf {
 
 namespace {
 
-/// Elements that say under another name what those of the table say.
-struct Alias {
-    std::string_view name;
-    std::string_view meant;
-};
-constexpr Alias aliases[] = {
-    {"depth_camera", "camera"}, {"rgbd_camera", "camera"}, {"gpu_ray", "ray"}, {"lidar", "ray"}, {"gpu_lidar", "ray"},
-};
-
-/// The elements of a sensor in which, for the sensor as a whole or for each quantity by itself, a `noise` may stand.
-constexpr std::string_view noisy[] = {
-    "camera", "ray", "imu", "force_torque", "magnetometer", "altimeter", "gps", "navsat", "air_pressure", "air_speed",
-};
 /// As deep as an axis of a quantity in such an element.
 constexpr std::size_t deepestNoise = 3;
 
@@ -142,16 +129,17 @@ void SettingsReader::readChild(pugi::xml_node child, std::string const& path)
         _rangeCount = child;
         return;
     }
-    auto const* const alias = std::find_if(std::begin(aliases), std::end(aliases),
-                                           [&](Alias const& known) { return path.empty() && known.name == name; });
-    readElement(child, path + std::string(alias == std::end(aliases) ? name : alias->meant));
+    auto const* const alias = std::find_if(sensorAliases.begin(), sensorAliases.end(), [&](SensorAlias const& known) {
+        return path.empty() && known.name == name;
+    });
+    readElement(child, path + std::string(alias == sensorAliases.end() ? name : alias->meant));
 }
 
 void SettingsReader::readElement(pugi::xml_node element, std::string const& path)
 {
     std::size_t const depth = static_cast<std::size_t>(std::count(path.begin(), path.end(), '/')) + 1;
     std::string const around = path.substr(0, path.find('/'));
-    bool const isNoisy = std::find(std::begin(noisy), std::end(noisy), around) != std::end(noisy);
+    bool const isNoisy = std::find(noisyElements.begin(), noisyElements.end(), around) != noisyElements.end();
     if (isNoisy && depth > 1 && path.substr(path.rfind('/')) == "/noise") {
         std::size_t const begin = around.size() + 1;
         std::size_t const end = path.rfind('/');

@@ -156,7 +156,7 @@ bool SensorReader::read(pugi::xml_node node, Carrier carrier)
     } else {
         _withoutClass.push_back(node);
     }
-    if (kind == nullptr || &defaultKind(kind->type) != kind) {
+    if (kind == nullptr || defaultKind(kind->type) != kind) {
         sensor.attributes["urdfType"] = kindName;
     }
     _report.extensions.addSensor(node, sensor.name);

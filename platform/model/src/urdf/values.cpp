@@ -25,10 +25,11 @@ bool parseList(std::string_view text, std::array<double, count> values, std::arr
 template <std::size_t count>
 std::string printList(std::array<double, count> const& values)
 {
-    std::array<float, count> rounded;
-    std::transform(values.begin(), values.end(), rounded.begin(),
-                   [](double value) { return static_cast<float>(value); });
-    return Schema::printNumbers(rounded.data(), count);
+    std::string text;
+    for (double const value : values) {
+        text += (text.empty() ? "" : " ") + Real::print(value);
+    }
+    return text;
 }
 
 }  // namespace
@@ -69,7 +70,7 @@ bool Bound<side>::parse(std::string_view text, double& value)
 template <int side>
 std::string Bound<side>::print(double value)
 {
-    return std::isinf(value) ? value > 0.0 ? "inf" : "-inf" : Real::print(value);
+    return std::isinf(value) ? value > 0.0 ? "1e+308" : "-1e+308" : Real::print(value);
 }
 
 template struct Bound<-1>;

@@ -9,7 +9,8 @@
 #include "urdf/statements.hpp"
 
 /// The types of values that URDF has, which are looser than those of the native dialect: of a text that is not of the
-/// type they take what can be used, and answer false. What is written is in single precision, as the records are.
+/// type they take what can be used, and answer false. Numbers are
+/// written such that reading gives the same one.
 namespace Varo::Model::Urdf {
 
 /// Names are shorter than this, in bytes.
@@ -30,7 +31,7 @@ struct Name : View {
 struct Real {
     static constexpr Schema::ValueType type{"number", "a decimal number between -1e30 and 1e30", {}, 1};
     static bool parse(std::string_view text, double& value);
-    static std::string print(double value) { return Schema::printNumber(static_cast<float>(value)); }
+    static std::string print(double value) { return Schema::printNumber(value); }
 };
 
 /// A number that need not be there.
@@ -46,6 +47,7 @@ struct Bound : Real {
     static constexpr Schema::ValueType type{
         "bound", "a number, which beyond 1e30 (below -1e30 for the lower bound) means that there is no bound", {}, 1};
     static bool parse(std::string_view text, double& value);
+    /// Other programs take no word for infinity, but numbers beyond all bounds.
     static std::string print(double value);
 };
 using LowerBound = Bound<-1>;

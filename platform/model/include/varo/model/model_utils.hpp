@@ -53,6 +53,13 @@ VAROROBOTMODEL_API std::vector<std::string> findingCodes();
 /// that holds the same, bit by bit, and whose text is the same.
 VAROROBOTMODEL_API std::string toXml(Robot const& robot);
 
+/// The robot as a URDF text, whatever the dialect it was read from: its links and joints with all that URDF says of
+/// them, its transmissions, its sensors with their settings, and the extensions where they stood. Reading that text
+/// gives a robot read from URDF the same again, but for the last digit of some placements. Left out is what URDF has no
+/// words for: coupled actuators that are no mimics, wheels, sub-joints, postures, chains as they are stated, mirrors,
+/// free attributes, names for people, and whether a joint has a motor.
+VAROROBOTMODEL_API std::string toUrdf(Robot const& robot);
+
 /// The kinds of device keys: bits, to be combined at will.
 enum KeyKind : int {
     angleSensor = 1,

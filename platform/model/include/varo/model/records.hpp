@@ -35,7 +35,7 @@ struct Records {
     Table<WheelConfig> wheels;  ///< driven ones
     std::vector<PostureConfig> postures;  ///< in the order of the description
     std::vector<TransmissionConfig> transmissions;  ///< in the order of the description
-    std::vector<ExtensionConfig> extensions;  ///< in the order of the description
+    std::vector<ExtensionConfig> extensions;  ///< those of one place in the order of the description
 };
 
 /// The records of a robot: its own when it holds them, otherwise copies of what it lists. The robot must outlive them.

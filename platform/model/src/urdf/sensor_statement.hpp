@@ -1,0 +1,27 @@
+#ifndef VARO_MODEL_URDF_SENSOR_STATEMENT_HPP
+#define VARO_MODEL_URDF_SENSOR_STATEMENT_HPP
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "varo/model/configs.hpp"
+
+namespace Varo::Model::Urdf {
+
+/// An element of a sensor, or its own, as it is written.
+struct SensorStatement {
+    std::string name;
+    std::vector<std::pair<std::string, std::string>> attributes = {};
+    std::string text = {};
+    std::vector<SensorStatement> parts = {};
+};
+
+/// What the reader makes that record of, as far as it can; `within` is where the extensions of the sensor stand.
+SensorStatement toStatement(SensorConfig const& sensor, std::string_view link,
+                            std::vector<std::string_view> const& within);
+
+}  // namespace Varo::Model::Urdf
+
+#endif

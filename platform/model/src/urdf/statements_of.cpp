@@ -1,0 +1,288 @@
+#include "urdf/statements_of.hpp"
+
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+
+#include "urdf/short_poses.hpp"
+#include "urdf/values.hpp"
+
+namespace Varo::Model::Urdf {
+
+namespace {
+
+using Urdf::shortest;
+
+Vector shortest(Position3D const& position)
+{
+    return {Urdf::shortest(position.x), Urdf::shortest(position.y), Urdf::shortest(position.z)};
+}
+
+Vector shifted(Position3D const& position, Vector const& shift)
+{
+    Vector result = shortest(position);
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        result[i] = shift[i] == 0.0 ? result[i] : result[i] + shift[i];  // a zero keeps its sign
+    }
+    return result;
+}
+
+/// Absent where it would say nothing; of numbers whose zeros may have a sign.
+std::optional<Origin> toOrigin(Vector const& xyz, Vector const& rpy)
+{
+    Origin origin;
+    origin.xyz = xyz;
+    origin.rpy = rpy;
+    bool const isDefault = Reals3::print(xyz) == Reals3::print({}) && Reals3::print(rpy) == Reals3::print({});
+    return isDefault ? std::nullopt : std::optional<Origin>(origin);
+}
+
+std::optional<Inertial> toInertial(JointConfig const& body, Vector const& shift)
+{
+    auto const& matrix = body.inertiaMatrix;
+    bool const hasInertia = std::any_of(matrix.begin(), matrix.end(), [](float entry) { return entry != 0.0F; });
+    if (body.mass == 0.0F && !hasInertia && body.centerOfMass == Position3D()) {
+        return std::nullopt;
+    }
+    Inertial inertial;
+    inertial.origin = toOrigin(shifted(body.centerOfMass, shift), {});
+    inertial.mass.emplace().value = shortest(body.mass);
+    Inertia& inertia = inertial.inertia.emplace();
+    if (matrix.size() == 9) {
+        inertia.xx = shortest(matrix[0]);
+        inertia.xy = shortest(matrix[1]);
+        inertia.xz = shortest(matrix[2]);
+        inertia.yy = shortest(matrix[4]);
+        inertia.yz = shortest(matrix[5]);
+        inertia.zz = shortest(matrix[8]);
+    }
+    return inertial;
+}
+
+void fillShape(ShapeConfig const& config, Vector const& shift, Shape& shape)
+{
+    Geometry const& geometry = config.geometry;
+    shape.name = config.name;
+    shape.origin = toOrigin(shifted(config.position, shift), shortest(config.orientation));
+    shape.geometry.type = geometry.type;
+    shape.geometry.filename = geometry.uri;
+    shape.geometry.scale = shortest(geometry.scale);
+    shape.geometry.size = shortest(geometry.size);
+    shape.geometry.radius = shortest(geometry.radius);
+    shape.geometry.length = shortest(geometry.length);
+}
+
+SurfaceMaterial toMaterial(Material const& material)
+{
+    SurfaceMaterial stated;
+    stated.name = material.name;
+    if (material.hasColor) {
+        Rgba& rgba = stated.color.emplace().rgba;
+        std::transform(material.rgba.begin(), material.rgba.end(), rgba.begin(),
+                       [](float channel) { return shortest(channel); });
+    }
+    if (!material.texture.empty()) {
+        stated.texture.emplace().filename = material.texture;
+    }
+    return stated;
+}
+
+std::optional<Limit> toLimit(JointConfig const& joint)
+{
+    Limit limit;
+    bool const isLimited = joint.jointType == revolute || joint.jointType == prismatic;
+    if (isLimited) {
+        limit.lower = shortest(joint.minAngle);
+        limit.upper = shortest(joint.maxAngle);
+    }
+    limit.effort = shortest(joint.maxTorque);
+    limit.velocity = shortest(joint.maxAngularSpeed);
+    bool const saysMore = joint.maxTorque != 0.0F || joint.maxAngularSpeed != 0.0F;
+    return isLimited || saysMore ? std::optional<Limit>(limit) : std::nullopt;
+}
+
+std::optional<double> shortest(std::optional<float> value)
+{
+    return value ? std::optional<double>(Urdf::shortest(*value)) : std::nullopt;
+}
+
+void fillExtras(JointConfig const& joint, Joint& stated)
+{
+    if (joint.damping != 0.0F || joint.friction != 0.0F) {
+        Dynamics& dynamics = stated.dynamics.emplace();
+        dynamics.damping = shortest(joint.damping);
+        dynamics.friction = shortest(joint.friction);
+    }
+    if (joint.mimic != nullptr) {
+        Mimic& mimic = stated.mimic.emplace();
+        mimic.joint = joint.mimic->joint;
+        mimic.multiplier = shortest(joint.mimic->multiplier);
+        mimic.offset = shortest(joint.mimic->offset);
+    }
+    if (joint.calibration != nullptr) {
+        Calibration& calibration = stated.calibration.emplace();
+        calibration.rising = shortest(joint.calibration->rising);
+        calibration.falling = shortest(joint.calibration->falling);
+    }
+    if (joint.safety != nullptr) {
+        SafetyController& safety = stated.safety.emplace();
+        safety.softLowerLimit = shortest(joint.safety->lowerLimit);
+        safety.softUpperLimit = shortest(joint.safety->upperLimit);
+        safety.positionGain = shortest(joint.safety->positionGain);
+        safety.velocityGain = shortest(joint.safety->velocityGain);
+    }
+}
+
+/// URDF has the axis of a joint through the origin of its link: a link that a record has elsewhere is moved there, and
+/// all that is in its frame back by as much.
+Vector shiftOf(JointConfig const& joint)
+{
+    Pose const end = toPose(joint.endTransform);
+    return transposed(end.rotation) * end.translation;
+}
+
+TransmissionEnd toEnd(std::string const& name)
+{
+    TransmissionEnd end;
+    end.name = name;
+    return end;
+}
+
+}  // namespace
+
+StatementsOf::StatementsOf(Records const& records) : _records(records)
+{
+    _robot.name = records.name;
+    _robot.version = records.version;
+    nameLinks();
+    attachJoints();
+    _robot.links.push_back(toLink(records.root, {}));
+    for (JointConfig const& joint : records.joints) {
+        addJoint(joint);
+    }
+    addTransmissions();
+}
+
+std::string_view StatementsOf::linkOf(std::string_view bearer) const
+{
+    auto const found = _links.find(bearer);
+    return found == _links.end() ? _links.at(_records.root.name) : found->second;
+}
+
+/// Their own names, where the records have them; no name twice.
+void StatementsOf::nameLinks()
+{
+    std::unordered_set<std::string> taken;
+    auto const add = [&](JointConfig const& body, std::string name) {
+        while (!taken.insert(name).second) {
+            name += "_";
+        }
+        _links.emplace(body.name, keep(std::move(name)));
+    };
+    JointConfig const& root = _records.root;
+    add(root, root.linkName.empty() ? root.name : root.linkName);
+    for (JointConfig const& joint : _records.joints) {
+        add(joint, joint.linkName.empty() ? joint.name + "Link" : joint.linkName);
+    }
+}
+
+void StatementsOf::attachJoints()
+{
+    for (ChainConfig const& chain : _records.chains) {
+        Attachment next = {chain.parentJoint, chain.placement};
+        for (std::string const& joint : chain.jointNames) {
+            _attachments.emplace(joint, next);
+            next = {joint, {}};
+        }
+    }
+}
+
+void StatementsOf::addJoint(JointConfig const& joint)
+{
+    Joint stated;
+    stated.name = joint.name;
+    stated.type = joint.jointType;
+    stated.child.emplace().link = linkOf(joint.name);
+    stated.limit = toLimit(joint);
+    fillExtras(joint, stated);
+    placeJoint(joint, stated);
+    _robot.joints.push_back(std::move(stated));
+    _robot.links.push_back(toLink(joint, shiftOf(joint)));
+}
+
+/// The link's frame of one joint's end is what the next joint's placement begins with: both as the reader computes
+/// them, where that gives what the record has.
+void StatementsOf::placeJoint(JointConfig const& joint, Joint& stated)
+{
+    End const& end = endOf(joint);
+    if (isMoving(joint.jointType)) {
+        stated.axis.emplace().xyz = end.axis;
+    }
+    auto const found = _attachments.find(joint.name);
+    Attachment const attachment = found == _attachments.end() ? Attachment{_records.root.name, {}} : found->second;
+    JointConfig const* const before = _records.joints.find(attachment.parent);
+    stated.parent.emplace().link = linkOf(attachment.parent);
+    Pose const start = before == nullptr ? Pose() : endOf(*before).pose;
+    Math::Transform const placement =
+        attachment.base == Math::Transform() ? joint.placement : attachment.base * joint.placement;
+    StatedPose const pose = poseBetween(start, placement, inverse(end.pose));
+    stated.origin = toOrigin(pose.xyz, pose.rpy);
+}
+
+StatementsOf::End const& StatementsOf::endOf(JointConfig const& joint)
+{
+    auto const [entry, isNew] = _ends.try_emplace(joint.name);
+    End& end = entry->second;
+    if (isNew) {
+        end.axis = isMoving(joint.jointType) ? axisOf(joint.endTransform) : Vector{0.0, 0.0, 1.0};
+        end.pose = inverse({rotationFromZ(end.axis), {}});
+        if (toTransform(end.pose) != joint.endTransform) {
+            end.pose = {toPose(joint.endTransform).rotation, {}};
+        }
+    }
+    return end;
+}
+
+Link StatementsOf::toLink(JointConfig const& body, Vector const& shift)
+{
+    Link link;
+    link.name = linkOf(body.name);
+    link.inertial = toInertial(body, shift);
+    bool const isMeshAlone = body.shapes.visuals.empty() && !body.meshName.empty();
+    std::vector<VisualConfig> const& visuals =
+        isMeshAlone ? _meshVisuals.emplace_back(visualsOf(body)) : body.shapes.visuals;
+    for (VisualConfig const& config : visuals) {
+        Visual& visual = link.visuals.emplace_back();
+        fillShape(config, shift, visual);
+        if (config.material != nullptr) {
+            visual.material = toMaterial(*config.material);
+        }
+    }
+    for (CollisionConfig const& config : body.shapes.collisions) {
+        fillShape(config, shift, link.collisions.emplace_back());
+    }
+    return link;
+}
+
+/// Those of ros2_control stand in its text, which is kept.
+void StatementsOf::addTransmissions()
+{
+    for (TransmissionConfig const& config : _records.transmissions) {
+        if (config.source != TransmissionSource::transmission) {
+            continue;
+        }
+        Transmission& stated = _robot.transmissions.emplace_back();
+        stated.name = config.name;
+        stated.type = config.type;
+        TransmissionEnd& joint = stated.joints.emplace_back(toEnd(config.joint));
+        joint.interfaces = config.interfaces;
+        if (!config.actuator.empty() || config.reduction != 1.0F) {
+            TransmissionEnd& actuator = stated.actuators.emplace_back(toEnd(config.actuator));
+            if (config.reduction != 1.0F) {
+                actuator.reduction.emplace().value = shortest(config.reduction);
+            }
+        }
+    }
+}
+
+}  // namespace Varo::Model::Urdf
