@@ -34,6 +34,7 @@ struct AttributeInfo {
                                                ///< the attribute out says something else than any text
     NameRule const* names = nullptr;  ///< null when the value is no name
     Complaint missing = {};  ///< about an element without the attribute, where the dialect has no words of its own
+    bool isName = false;  ///< that `names` is not null, which g++ with sanitizers takes for no constant
 };
 
 template <class Record>
@@ -45,6 +46,7 @@ struct Attribute : AttributeInfo {
     {
         Attribute copy = *this;
         copy.names = &rule;
+        copy.isName = true;
         return copy;
     }
 
@@ -179,8 +181,7 @@ struct Element : ElementInfo {
                       Infos<AttributeInfo>(itsAttributes),
                       Infos<ChildInfo>(itsChildren),
                       itsText,
-                      rowsWhere(itsAttributes,
-                                [](AttributeInfo const& row) { return row.required || row.names != nullptr; }),
+                      rowsWhere(itsAttributes, [](AttributeInfo const& row) { return row.required || row.isName; }),
                       rowsWhere(itsChildren, [](ChildInfo const& row) { return row.occurrence == Occurrence::once; })},
           attributeRows(itsAttributes),
           childRows(itsChildren),

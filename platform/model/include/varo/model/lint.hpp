@@ -30,7 +30,7 @@ struct LintRule {
 
 /// Which rules look at a robot, and how strictly.
 struct LintOptions {
-    LintTolerances tolerances;
+    LintTolerances tolerances;  ///< within which two sides are alike
     std::vector<std::string> only;  ///< codes of the rules to apply; all when empty
     std::vector<std::string> without;  ///< codes of rules to leave out, from those or from all
 };
