@@ -30,6 +30,11 @@ void declareReading(CLI::App& app, Varo::Model::ModelUtils::ReadOptions& options
         "--no-infer", [&options] { options.inferMirrors = false; }, "Do not pair left and right of a URDF");
 }
 
+void declareWide(CLI::App& app, bool& wide)
+{
+    app.add_flag("--wide", wide, "Print lines in full, even where the terminal is narrower");
+}
+
 void declareJson(CLI::App& app, bool& json, char const* what)
 {
     app.add_flag("--json", json, std::string("Print ") + what + " as JSON");

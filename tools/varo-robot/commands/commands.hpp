@@ -47,6 +47,8 @@ void declareFile(CLI::App& app, std::string& file);
 void putFileLast(std::string& other, std::string& file);
 /// Declares --no-infer.
 void declareReading(CLI::App& app, Varo::Model::ModelUtils::ReadOptions& options);
+/// Declares --wide, of commands that print tables or trees.
+void declareWide(CLI::App& app, bool& wide);
 /// Declares --json.
 void declareJson(CLI::App& app, bool& json, char const* what);
 
