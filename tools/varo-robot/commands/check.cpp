@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -13,7 +11,6 @@
 #include "support/description.hpp"
 #include "support/findings.hpp"
 #include "support/meshes.hpp"
-#include "support/numbers.hpp"
 #include "varo/model/lint.hpp"
 
 namespace Tool {
@@ -159,16 +156,6 @@ int check(Options const& options)
     return isBad ? exitStatus::bad : exitStatus::fine;
 }
 
-bool parseTolerance(std::string const& text, double& tolerance)
-{
-    double value = 0.0;
-    char const* const end = text.data() + text.size();
-    auto const [stop, error] = std::from_chars(text.data(), end, value);
-    bool const isTolerance = error == std::errc() && stop == end && std::isfinite(value) && value >= 0.0;
-    tolerance = isTolerance ? value : tolerance;
-    return isTolerance;
-}
-
 void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
 {
     struct Tolerance {
@@ -184,14 +171,7 @@ void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
              {"--tolerance-limit", tolerances.limit,
               "How far limits and the angles of postures may be out, in rad (m)"},
          }) {
-        auto const read = [&value = each.value](std::string const& text) {
-            if (!parseTolerance(text, value)) {
-                throw CLI::ValidationError("A tolerance is a number that is not negative, not " + text);
-            }
-        };
-        app.add_option_function<std::string>(each.option, read, each.meaning)
-            ->type_name("NUMBER")
-            ->default_str(rounded(each.value));
+        declareTolerance(app, each.option, each.value, each.meaning);
     }
 }
 
