@@ -142,6 +142,19 @@ TEST_F(Terminal, IsFittedUnlessAllIsWanted)
     }
 }
 
+TEST_F(Terminal, TellsWhatTakesLongerThanASecond)
+{
+    write("legs.xml", legs);
+    std::string const line = "\rReading <stdin>, 1 s";
+    std::string const gone = "\r\033[K";
+    std::string const terminal = VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/in_terminal.py 80 " VARO_ROBOT;
+    std::string const late = "{ sleep 1.5; cat legs.xml; } | TERM=dumb ";
+    EXPECT_EQ(runCommand(late + terminal + " list joint-groups -").out.find(line + gone + "NAME"), 0U);
+    EXPECT_EQ(runCommand("TERM=dumb " + terminal + " list joint-groups legs.xml").out.find("NAME"), 0U);
+    Outcome const piped = runCommand(late + VARO_ROBOT " list joint-groups -");
+    EXPECT_EQ(piped.err, "");
+}
+
 TEST_F(Tree, NamesLinksAsTheTextDoesAndMarksWheelsAndWhatHasNoMotor)
 {
     EXPECT_EQ(run({"tree", "-"}, urdf, "LC_ALL=C").out, "[base]\n`- j fixed -> [tip]\n");

@@ -11,6 +11,7 @@
 #include "support/description.hpp"
 #include "support/findings.hpp"
 #include "support/meshes.hpp"
+#include "support/progress.hpp"
 #include "varo/model/lint.hpp"
 
 namespace Tool {
@@ -46,6 +47,7 @@ Findings findingsOf(Description description, Varo::Model::LintOptions const& opt
     if (description.reading.robot == nullptr) {
         return std::move(description.reading.findings);
     }
+    Progress const progress("Checking " + description.file);
     Findings findings = Varo::Model::lint(*description.reading.robot, options);
     if (meshFolders != nullptr) {
         append(findings, missingMeshes(*description.reading.robot, *meshFolders));
