@@ -95,7 +95,7 @@ void renameParts(SensorStatement& element, std::vector<std::string_view> const& 
 /// As an `origin` or, where an extension is in such an element, a `pose`.
 void addPlacement(Math::Transform const& placement, bool isPose, SensorStatement& element)
 {
-    auto const [xyz, rpy] = poseBetween({}, placement, {});
+    auto const [xyz, rpy] = poseOf(placement);
     std::string const position = Reals3::print(xyz);
     std::string const angles = Reals3::print(rpy);
     if (isPose) {

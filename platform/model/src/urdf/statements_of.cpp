@@ -13,6 +13,9 @@ namespace {
 
 using Urdf::shortest;
 
+/// Of the format, for which others take the attribute: they refuse any other.
+constexpr std::string_view onlyVersion = "1.0";
+
 Vector shortest(Position3D const& position)
 {
     return {Urdf::shortest(position.x), Urdf::shortest(position.y), Urdf::shortest(position.z)};
@@ -70,6 +73,10 @@ void fillShape(ShapeConfig const& config, Vector const& shift, Shape& shape)
     shape.geometry.size = shortest(geometry.size);
     shape.geometry.radius = shortest(geometry.radius);
     shape.geometry.length = shortest(geometry.length);
+    if (geometry.type == GeometryType::capsule) {  // which others refuse
+        shape.geometry.type = GeometryType::cylinder;
+        shape.geometry.length += 2.0 * shape.geometry.radius;
+    }
 }
 
 SurfaceMaterial toMaterial(Material const& material)
@@ -153,7 +160,7 @@ TransmissionEnd toEnd(std::string const& name)
 StatementsOf::StatementsOf(Records const& records) : _records(records)
 {
     _robot.name = records.name;
-    _robot.version = records.version;
+    _robot.version = records.version == onlyVersion ? onlyVersion : std::string_view();
     nameLinks();
     attachJoints();
     _robot.links.push_back(toLink(records.root, {}));
