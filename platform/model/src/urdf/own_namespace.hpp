@@ -10,7 +10,7 @@
 namespace Varo::Model::Urdf {
 
 inline constexpr std::string_view ownNamespace = "urn:varorobotmodel:description";
-inline constexpr std::string_view usualPrefix = "varo:";
+inline constexpr std::string_view usualPrefix = "varo";
 inline constexpr std::string_view declaringAttribute = "xmlns:";
 
 /// Whether the attribute gives a prefix to our namespace.
@@ -20,18 +20,18 @@ inline bool declaresOwnNamespace(pugi::xml_attribute attribute)
     return name.substr(0, declaringAttribute.size()) == declaringAttribute && attribute.value() == ownNamespace;
 }
 
-/// What names of our namespace begin with: the prefix that the root declares, or the usual one, which may go without;
-/// empty where that is another namespace's.
+/// What names of our namespace begin with: the prefix that the root declares for it, or the usual one, which may go
+/// without; empty where that is another namespace's.
 inline std::string ownPrefix(pugi::xml_node root)
 {
-    std::string prefix = root.attribute("xmlns:varo") ? std::string() : std::string(usualPrefix);
     for (pugi::xml_attribute const attribute : root.attributes()) {
         if (declaresOwnNamespace(attribute)) {
-            prefix = attribute.name() + declaringAttribute.size();
-            prefix += ':';
+            return std::string(attribute.name() + declaringAttribute.size()) + ":";
         }
     }
-    return prefix;
+    std::string const usual(usualPrefix);
+    bool const isTaken = root.attribute((std::string(declaringAttribute) + usual).c_str());
+    return isTaken ? std::string() : usual + ":";
 }
 
 }  // namespace Varo::Model::Urdf

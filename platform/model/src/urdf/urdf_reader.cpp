@@ -149,7 +149,7 @@ void Reader::readSensors()
     for (pugi::xml_node const extension : _root.children("gazebo")) {
         reader.readExtension(extension);
     }
-    reader.reportKindsWithoutClass();
+    reader.reportKindsWithoutClass(_amendment);
 }
 
 void Reader::readControls()

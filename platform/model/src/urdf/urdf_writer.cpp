@@ -1,7 +1,11 @@
 #include "urdf/urdf_writer.hpp"
 
+#include <algorithm>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include <pugixml.hpp>
 
@@ -41,18 +45,49 @@ Records statedRecordsOf(Robot const& robot)
     return records;
 }
 
-std::string write(Records const& records, StatementsOf const& statements, std::string_view declaration,
-                  std::string_view behind)
+using ExtensionList = std::vector<ExtensionConfig>;
+
+/// A prefix for our own namespace that the extensions do not give to another.
+std::string freePrefix(ExtensionList const& extensions)
 {
-    Urdf::ExtendingWriter writer(records, statements);
-    writer.writeRobot(declaration, behind);
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + writer.text();
+    std::string prefix(Urdf::usualPrefix);
+    auto const declaresIt = [&prefix](ExtensionConfig const& extension) {
+        std::string const name = std::string(Urdf::declaringAttribute) + prefix;
+        return extension.text.compare(0, name.size(), name) == 0;
+    };
+    while (std::any_of(extensions.begin(), extensions.end(), declaresIt)) {
+        prefix += '_';
+    }
+    return prefix;
 }
 
-/// What a reader makes of the text; null, and reported, for one that it refuses.
-std::unique_ptr<RobotRecord> readBack(std::string text, Diagnostics& report)
+/// One robot, with more or less beside what URDF says of it.
+class UrdfText {
+public:
+    UrdfText(Records const& records, StatementsOf const& statements, ExtensionList const& extensions)
+        : _records(records), _statements(statements), _extensions(extensions)
+    {}
+
+    std::string write(std::string_view declaration, std::string_view behind) const
+    {
+        Urdf::ExtendingWriter writer(_records, _statements, _extensions);
+        writer.writeRobot(declaration, behind);
+        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + writer.text();
+    }
+
+    /// What a reader makes of the plain text; null for one that it refuses or takes for another robot's, of which
+    /// `reason` says why.
+    std::unique_ptr<RobotRecord> readBack(std::string& reason) const;
+
+private:
+    Records const& _records;
+    StatementsOf const& _statements;
+    ExtensionList const& _extensions;
+};
+
+std::unique_ptr<RobotRecord> UrdfText::readBack(std::string& reason) const
 {
-    auto const source = std::make_shared<SourceText const>(std::move(text));
+    auto const source = std::make_shared<SourceText const>(write({}, {}));
     Diagnostics diagnostics(source.get());
     pugi::xml_document document;
     Records records;
@@ -60,8 +95,11 @@ std::unique_ptr<RobotRecord> readBack(std::string text, Diagnostics& report)
         records = readUrdf(document.document_element(), diagnostics);
     }
     if (diagnostics.hasErrors()) {
-        Findings const findings = diagnostics.findings();
-        report.report({}, Urdf::codes::notUrdf, "No URDF can be made of this robot: " + summaryOf(findings));
+        reason = summaryOf(diagnostics.findings());
+        return nullptr;
+    }
+    if (records.joints.size() != _records.joints.size() || records.sensors.size() != _records.sensors.size()) {
+        reason = "it would have other joints or sensors.";
         return nullptr;
     }
     return std::make_unique<RobotRecord>(std::move(records), source, std::move(diagnostics), urdfParts);
@@ -73,17 +111,25 @@ std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics)
 {
     Records const records = statedRecordsOf(robot);
     StatementsOf const statements(records);
-    std::string plain = write(records, statements, {}, {});
-    auto const given = readBack(plain, diagnostics);
-    if (given == nullptr) {
-        return plain;
+    ExtensionList const none;
+    std::string reason;
+    for (ExtensionList const* const extensions : {&records.extensions, &none}) {  // which may say anything
+        UrdfText const text(records, statements, *extensions);
+        auto const given = text.readBack(reason);
+        if (given == nullptr) {
+            continue;
+        }
+        std::string const prefix = freePrefix(*extensions);
+        Native::Amendment const amendment = Native::amendmentOf(records, *given->records(), prefix + ":");
+        if (amendment.text.empty()) {
+            return text.write({}, {});
+        }
+        Urdf::noteBeyondUrdf(amendment, records, diagnostics);
+        std::string const name = std::string(Urdf::declaringAttribute) + prefix;
+        return text.write(name + "=\"" + std::string(Urdf::ownNamespace) + "\"", amendment.text);
     }
-    Native::Amendment const amendment = Native::amendmentOf(records, *given->records(), Urdf::usualPrefix);
-    if (amendment.text.empty()) {
-        return plain;
-    }
-    Urdf::noteBeyondUrdf(amendment, records, diagnostics);
-    return write(records, statements, "xmlns:varo=\"" + std::string(Urdf::ownNamespace) + "\"", amendment.text);
+    diagnostics.report({}, Urdf::codes::notUrdf, "No URDF can be made of this robot: " + reason);
+    return UrdfText(records, statements, none).write({}, {});
 }
 
 }  // namespace Varo::Model
