@@ -41,6 +41,27 @@ void Names::use(NameRule const& rule, std::string_view name, pugi::xml_node node
     }
 }
 
+void Names::addAll(Records const& robot)
+{
+    auto const add = [this](auto const& table, unsigned kind) {
+        for (auto const& config : table) {
+            entryOf(config.name).second |= kind;
+        }
+    };
+    entryOf(robot.root.name).second |= names::root;
+    add(robot.joints, names::joint);
+    add(robot.chains, names::chain);
+    add(robot.actuators, names::actuator);
+    add(robot.subActuators, names::subJoint);
+    add(robot.wheels, names::wheel);
+    add(robot.sensors, names::sensor);
+    for (ChainConfig const& chain : robot.chains) {
+        for (std::string const& joint : chain.jointNames) {
+            entryOf(joint).second |= names::inChain | names::hasAngle;
+        }
+    }
+}
+
 void Names::checkReferences(Records const& robot)
 {
     for (names::Loop const& loop : names::loops) {
