@@ -64,7 +64,7 @@ private:
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
     Entry* findMeant(std::string_view written, unsigned kinds);
-    void checkLoop(names::Loop const& loop);
+    void checkCycle(names::Cycle const& cycle);
 
     Diagnostics& _diagnostics;
     std::deque<std::string> _kept;

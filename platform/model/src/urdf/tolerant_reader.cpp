@@ -117,8 +117,27 @@ void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_n
     _report.passOver(child);
 }
 
+/// What stands between elements is prose; in one that holds none, it was meant for a value.
+void TolerantReader::onUnexpectedText(ElementInfo const& element, pugi::xml_node text)
+{
+    if (element.children.size() > 0) {
+        return;
+    }
+    std::string const tag(element.name);
+    std::string const value = quoted(trimmed(text.value()));
+    bool const isMeant = element.attributes.size() == 1 && !text.parent().attribute(element.attributes[0].name.data());
+    std::string const meant =
+        isMeant ? "Write <" + tag + " " + std::string(element.attributes[0].name) + "=" + value + "/>." : std::string();
+    diagnostics().report(at(text.parent()), codes::unexpectedText,
+                         "The text " + value + " in this " + tag + " is left out: URDF has none there.", meant);
+}
+
 void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
 {
+    bool const isError = attribute.missing.code != nullptr && attribute.missing.code->severity == Severity::error;
+    if (!isError && !trimmed(textOf(node)).empty()) {
+        return;  // which is told, and is probably meant for the attribute
+    }
     if (attribute.missing.code != nullptr) {
         reportMissing(attribute, node, diagnostics());
     } else if (attribute.type->count > 0) {

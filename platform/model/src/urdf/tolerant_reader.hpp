@@ -31,7 +31,7 @@ private:
                                    pugi::xml_attribute attribute) override;
     std::size_t onUnknownChild(ElementInfo const& element, pugi::xml_node child) override;
     void onRepeatedChild(ElementInfo const& element, pugi::xml_node child) override;
-    void onUnexpectedText(ElementInfo const& /*element*/, pugi::xml_node /*text*/) override {}
+    void onUnexpectedText(ElementInfo const& element, pugi::xml_node text) override;
     void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node) override;
     void onMissingChild(ElementInfo const& /*element*/, ChildInfo const& /*child*/, pugi::xml_node /*node*/) override {}
     void onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,

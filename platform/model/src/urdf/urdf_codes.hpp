@@ -26,8 +26,10 @@ inline constexpr FindingCode unknownElement{"unknown-element", Severity::warning
                                             "An element is named nearly like one that URDF defines where it stands."};
 inline constexpr FindingCode misplacedElement{"misplaced-element", Severity::warning,
                                               "An element stands where URDF defines none of that name."};
+inline constexpr FindingCode unexpectedText{"unexpected-text", Severity::warning,
+                                            "A text stands where URDF has an attribute; it is left out."};
 inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::note,
-                                         "A planar or floating joint is held in its zero position."};
+                                         "Planar and floating joints are held in their zero positions."};
 inline constexpr FindingCode missingLimit{"missing-limit", Severity::warning,
                                           "A revolute or prismatic joint without lower and upper limits cannot move."};
 inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning,
@@ -93,13 +95,13 @@ inline constexpr FindingCode beyondExtension{
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &missingName,      &nameTooLong,        &unknownJointType,   &zeroAxis,         &unnamedRobot,     &wrongCount,
-    &missingAttribute, &surplusElement,     &unknownAttribute,   &unknownElement,   &misplacedElement, &jointFrozen,
-    &missingLimit,     &reversedLimits,     &incompleteInertial, &incompleteShape,  &negativeLength,   &colorRange,
-    &unknownMaterial,  &duplicateMaterial,  &sensorLost,         &sensorFrame,      &sensorSize,       &badSetting,
-    &badReduction,     &unknownDrivenJoint, &sensorKind,         &foreignAttribute, &notUrdf,          &beyondRoot,
-    &beyondJoint,      &beyondSensor,       &beyondPrettyName,   &beyondChain,      &beyondActuator,   &beyondWheel,
-    &beyondPosture,    &beyondTransmission, &beyondExtension,
+    &missingName,      &nameTooLong,     &unknownJointType,   &zeroAxis,           &unnamedRobot,     &wrongCount,
+    &missingAttribute, &surplusElement,  &unknownAttribute,   &unknownElement,     &misplacedElement, &unexpectedText,
+    &jointFrozen,      &missingLimit,    &reversedLimits,     &incompleteInertial, &incompleteShape,  &negativeLength,
+    &colorRange,       &unknownMaterial, &duplicateMaterial,  &sensorLost,         &sensorFrame,      &sensorSize,
+    &badSetting,       &badReduction,    &unknownDrivenJoint, &sensorKind,         &foreignAttribute, &notUrdf,
+    &beyondRoot,       &beyondJoint,     &beyondSensor,       &beyondPrettyName,   &beyondChain,      &beyondActuator,
+    &beyondWheel,      &beyondPosture,   &beyondTransmission, &beyondExtension,
 };
 
 }  // namespace Varo::Model::Urdf::codes

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "native/amendment.hpp"
+#include "robot/kind_note.hpp"
 #include "robot/link_tree.hpp"
 #include "robot/tree_records.hpp"
 #include "urdf/elements.hpp"
@@ -113,9 +114,15 @@ void Reader::fillTree()
         _tree.links.push_back({link.name, at(link.node), at(link.node, "name")});
     }
     _tree.joints.reserve(_stated.joints.size());
+    KindNote frozen;
     for (Joint const& joint : _stated.joints) {
         _tree.joints.push_back(toJoint(joint, _diagnostics));
+        if (joint.type == planar || joint.type == floating) {
+            frozen.add(at(joint.node, "type"), joint.name);
+        }
     }
+    frozen.report(codes::jointFrozen, "A planar or floating joint cannot be modelled and is held where it is",
+                  _diagnostics);
 }
 
 void Reader::readIdentity()
