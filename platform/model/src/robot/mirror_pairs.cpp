@@ -5,9 +5,10 @@
 #include <cmath>
 #include <iterator>
 #include <string_view>
-#include <unordered_map>
 
+#include "robot/link_tree.hpp"
 #include "robot/side_names.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
 
@@ -76,13 +77,16 @@ private:
 
     void indexNames()
     {
+        _byName.reserve(_places.size());
+        _byLink.reserve(_places.size());
         for (std::size_t i = 0; i < _places.size(); ++i) {
-            _byName.try_emplace(joint(i).name, i);
-            _byLink.try_emplace(joint(i).linkName, i);
+            _byName.add(joint(i).name, static_cast<std::uint32_t>(i));
+            if (!joint(i).linkName.empty()) {
+                _byLink.add(joint(i).linkName, static_cast<std::uint32_t>(i));
+            }
         }
         _candidatesOf.resize(_places.size());
         _isMarked.resize(_places.size());
-        _byLink.erase(std::string_view());
     }
 
     void addCandidate(std::size_t one, std::size_t other, bool isStated, bool isMarked)
@@ -101,13 +105,12 @@ private:
 
     void collectCandidates()
     {
-        for (std::size_t i = 0; i < _places.size(); ++i) {
-            auto const mirror = _byName.find(joint(i).mirrorName);
-            bool const isStated = _records.statesMirrors && joint(i).mirrorKind != noMirror &&
-                                  mirror != _byName.end() && joint(mirror->second).mirrorKind != noMirror &&
-                                  joint(mirror->second).mirrorName == joint(i).name;
+        for (std::size_t i = 0; _records.statesMirrors && i < _places.size(); ++i) {
+            std::size_t const mirror = Model::find(_byName, joint(i).mirrorName);
+            bool const isStated = joint(i).mirrorKind != noMirror && mirror != none &&
+                                  joint(mirror).mirrorKind != noMirror && joint(mirror).mirrorName == joint(i).name;
             if (isStated) {
-                addCandidate(i, mirror->second, true, true);
+                addCandidate(i, mirror, true, true);
             }
         }
         for (std::size_t i = 0; i < _places.size(); ++i) {
@@ -128,15 +131,14 @@ private:
         }
     }
 
-    bool collectNamed(std::size_t index, std::string_view name,
-                      std::unordered_map<std::string_view, std::size_t> const& joints)
+    bool collectNamed(std::size_t index, std::string_view name, NameIndex const& joints)
     {
         SideNames const names = otherSideOf(name);
         _isMarked[index] = _isMarked[index] || names.areMarked;
         bool isFound = false;
         for (std::string const& other : names.others) {
-            if (auto const found = joints.find(other); found != joints.end()) {
-                addCandidate(index, found->second, false, names.areMarked);
+            if (std::size_t const found = Model::find(joints, other); found != none) {
+                addCandidate(index, found, false, names.areMarked);
                 isFound = isFound || names.areMarked;
             }
         }
@@ -405,8 +407,8 @@ private:
 
     Records const& _records;
     std::vector<PlacedJoint> const& _places;
-    std::unordered_map<std::string_view, std::size_t> _byName;
-    std::unordered_map<std::string_view, std::size_t> _byLink;
+    NameIndex _byName;
+    NameIndex _byLink;
     std::vector<Candidate> _candidates;
     std::vector<std::vector<std::size_t>> _candidatesOf;
     std::vector<bool> _isMarked;  ///< whether a name says the side in words

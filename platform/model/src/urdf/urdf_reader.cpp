@@ -107,7 +107,7 @@ void Reader::fillTree()
     }
     _tree.joints.reserve(_stated.joints.size());
     for (Joint const& joint : _stated.joints) {
-        _tree.joints.push_back(toJoint(joint, _diagnostics));
+        translateJoint(joint, _tree.joints.emplace_back(), _diagnostics);
     }
 }
 
