@@ -196,8 +196,8 @@ private:
     void trimRegistries();
     Branch openBranch(boost::shared_ptr<Joint> const& joint, std::vector<std::string const*>& children);
     void fetchWheel(std::string const& name);
-    BodyRecord bodyMovedBy(std::string const& jointName) const;
     boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
+    boost::shared_ptr<MassData const> massOf(Varo::Model::JointConfig const& record);
     boost::shared_ptr<MassData const> massOf(std::string const& name);
     boost::shared_ptr<MassData const> requiredMassOf(Subject subject, std::string const& name);
     boost::shared_ptr<VisualData const> visualOf(std::string const& name);

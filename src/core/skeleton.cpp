@@ -84,10 +84,13 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint,
     _motionModel->endTransformFromJointName(branch.jointName, branch.end);
     SharedName const linkName = linkNameOf(branch.jointName);
     FramePtr const linkFrame = addFrame(linkName, branch.end, joint->_impl->frame());
-    auto const mass = massOf(branch.jointName);
-    auto const visual = visualOf(branch.jointName);
+    auto const* const record = joint->_impl->source().joint;
+    auto const mass = record == nullptr ? massOf(branch.jointName) : massOf(*record);
+    auto const visual =
+        record == nullptr ? visualOf(branch.jointName) : createVisual(SharedName::of(record->meshName), Transform());
     branch.link = addLink(linkFrame, linkName, joint, mass, frictionMaterialOf(branch.jointName), visual);
-    branch.link->_impl->setBody(bodyMovedBy(branch.jointName));
+    branch.link->_impl->setBody(record == nullptr ? _motionModel->records().subActuators.find(branch.jointName)
+                                                  : BodyRecord(record));
     joint->_impl->setChildLink(branch.link);
     return branch;
 }
@@ -102,14 +105,6 @@ SharedName ModelImpl::linkNameOf(std::string const& jointName) const
 SharedName ModelImpl::frictionMaterialOf(std::string const& name) const
 {
     return SharedName::of(_motionModel->frictionMaterialOf(name));
-}
-
-BodyRecord ModelImpl::bodyMovedBy(std::string const& jointName) const
-{
-    if (auto const* const joint = _motionModel->findJoint(jointName)) {
-        return joint;
-    }
-    return _motionModel->records().subActuators.find(jointName);
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,
@@ -162,12 +157,13 @@ boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr c
     return link;
 }
 
+boost::shared_ptr<MassData const> ModelImpl::massOf(JointConfig const& record)
+{
+    return createMass(record.mass, record.centerOfMass, SharedValue<std::vector<float>>::of(record.inertiaMatrix));
+}
+
 boost::shared_ptr<MassData const> ModelImpl::massOf(std::string const& name)
 {
-    if (JointConfig const* const record = _motionModel->findJoint(name)) {
-        return createMass(record->mass, record->centerOfMass,
-                          SharedValue<std::vector<float>>::of(record->inertiaMatrix));
-    }
     float mass = 0.0F;
     Position3D com;
     std::vector<float> inertia(9, 0.0F);
@@ -191,9 +187,6 @@ boost::shared_ptr<MassData const> ModelImpl::requiredMassOf(Subject subject, std
 /// What is missing here is missing for a reason that ends the load later on, and that its finding names.
 boost::shared_ptr<VisualData const> ModelImpl::visualOf(std::string const& name)
 {
-    if (JointConfig const* const record = _motionModel->findJoint(name)) {
-        return createVisual(SharedName::of(record->meshName), Transform());
-    }
     auto const sayIfMissing = [&](bool known, char const* message) {
         if (!known && _saysAloud) {
             std::cerr << message << name << std::endl;

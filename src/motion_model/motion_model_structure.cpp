@@ -169,6 +169,9 @@ std::list<std::string> MotionModel::actuatorNames() const
 
 void MotionModel::appendCoupledActuators(std::string const& chain, NameRefs& actuators) const
 {
+    if (_records->actuators.empty()) {
+        return;
+    }
     for (std::string const& joint : jointsOf(chain)) {
         for (auto const actuator : _index->of(joint).actuators()) {
             actuators.push_back(&_records->actuators.nameOf(actuator));

@@ -54,7 +54,6 @@ void XmlScanner::scan(std::size_t end)
     _less = {_text, "<"};
     _ampersand = {_text, "&"};
     _brackets = {_text, "]]>"};
-    _nextUnusual = findUnusual(_text, _start);
     while (_position < _text.size()) {
         skipPlainTags();
         scanContent(std::min(_less.from(_position), _text.size()));
@@ -296,28 +295,30 @@ void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
     }
 }
 
-/// Checks all characters up to `end` that were not checked yet. One finding for a token is enough.
+/// Checks the characters of the token. One finding for it is enough.
 void XmlScanner::checkCharacters(std::size_t end)
 {
     bool reported = false;
-    while (_nextUnusual < end) {
-        Utf8Character const character = decodeUtf8(_text.substr(_nextUnusual));
+    std::string_view const checked = _text.substr(0, end);
+    for (std::size_t at = findUnusual(checked, _position); at != checked.npos;) {
+        Utf8Character const character = decodeUtf8(_text.substr(at));
         if (character.length == 0 && !_encodingReported) {
             _encodingReported = true;
-            report(_nextUnusual, codes::badEncoding, "The bytes here are not UTF-8.", "Save the text as UTF-8.");
+            report(at, codes::badEncoding, "The bytes here are not UTF-8.", "Save the text as UTF-8.");
         } else if (character.length > 0 && !isXmlCharacter(character.codePoint) && !reported) {
             reported = true;
-            report(_nextUnusual, codes::badCharacter, "A character that XML forbids stands here.");
+            report(at, codes::badCharacter, "A character that XML forbids stands here.");
         }
-        _nextUnusual = findUnusual(_text, _nextUnusual + std::max<std::size_t>(character.length, 1));
+        at = findUnusual(checked, at + std::max<std::size_t>(character.length, 1));
     }
 }
 
 void XmlScanner::finishToken(std::size_t end)
 {
     _unclosed = end == _text.npos ? _position : _unclosed;
-    _position = std::min(end, _text.size());
-    checkCharacters(_position);
+    std::size_t const tokenEnd = std::min(end, _text.size());
+    checkCharacters(tokenEnd);
+    _position = tokenEnd;
 }
 
 void XmlScanner::report(std::size_t offset, FindingCode const& code, std::string message, std::string hint)

@@ -89,7 +89,6 @@ private:
     Upcoming _less;
     Upcoming _ampersand;
     Upcoming _brackets;
-    std::size_t _nextUnusual = 0;  ///< the next byte that is a control character or beyond ASCII
     bool _rootSeen = false;
     bool _encodingReported = false;
     bool _broken = false;
