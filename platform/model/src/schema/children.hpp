@@ -25,7 +25,13 @@ constexpr Child<RecordOfElement<element>> inPlace()
     using Parent = RecordOfElement<element>;
     return {{&element, Occurrence::optional},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) { reader.read(element, node, parent); },
-            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); }};
+            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); },
+            [](Parent& parent) {
+                Parent const fresh;
+                for (Attribute<Parent> const& row : element.attributeRows) {
+                    row.store(row.print(fresh), parent);
+                }
+            }};
 }
 
 template <class Record, class = void>
@@ -72,7 +78,8 @@ constexpr Child<Parent> pointedTo()
                 if (parent.*member != nullptr) {
                     writer.write(element, *(parent.*member));
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 // Records are large, and therefore read where they are to stay.
@@ -107,7 +114,8 @@ constexpr Child<Parent> childOf()
                 if (parent.*member) {
                     writer.write(element, *(parent.*member));
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 /// Children each of which is a record of its own, in a member of the record of their parent.
@@ -124,7 +132,8 @@ constexpr Child<Parent> childrenOf()
                     Item const& item = each;
                     writer.write(element, item);
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 }  // namespace Varo::Model::Schema
