@@ -223,6 +223,7 @@ private:
     void appendCoupledActuators(std::string const& chain, std::vector<std::string const*>& actuators) const;
     void appendFollowingJoints(std::string const& joint, std::vector<std::string const*>& following) const;
     std::string const& frictionMaterialOf(std::string const& name) const;
+    bool readLimits(std::string const& name, float& lowest, float& highest, float& fastest) const;
 
     std::unique_ptr<Varo::Model::Robot> _robot;
     std::shared_ptr<Varo::Model::Records const> _records;  // the robot's own where it holds them

@@ -18,9 +18,7 @@ bool ModelImpl::fetchBasicActuatorInfo(Subject subject, std::string const& name,
                                        float& maxValue, float& maxSpeed)
 {
     require(_motionModel->startAngle(name, startValue), subject, name, "Could not get start value.");
-    require(_motionModel->minAngle(name, minValue), subject, name, "Could not get min value.");
-    require(_motionModel->maxAngle(name, maxValue), subject, name, "Could not get max value.");
-    require(_motionModel->maxAngleSpeed(name, maxSpeed), subject, name, "Could not get max speed.");
+    require(_motionModel->readLimits(name, minValue, maxValue, maxSpeed), subject, name, "Could not get min value.");
     return true;
 }
 

@@ -99,7 +99,8 @@ SharedName ModelImpl::linkNameOf(std::string const& jointName) const
 {
     std::string name;
     name.reserve(jointName.size() + 4);
-    return {_arena.make<std::string const>(name.append(jointName).append("Link"))};
+    name.append(jointName).append("Link");
+    return {_arena.make<std::string const>(std::move(name))};
 }
 
 SharedName ModelImpl::frictionMaterialOf(std::string const& name) const

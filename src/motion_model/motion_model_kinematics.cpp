@@ -195,6 +195,15 @@ bool MotionModel::frictionMaterial(std::string const& name, std::string& materia
     return &known != &defaultMaterial();
 }
 
+/// All at once: a name that has one of them has all.
+bool MotionModel::readLimits(std::string const& name, float& lowest, float& highest, float& fastest) const
+{
+    auto const named = _index->of(name);
+    return readLimit(named, &JointConfig::minAngle, &ActuatorConfig::minAngle, lowest) &&
+           readLimit(named, &JointConfig::maxAngle, &ActuatorConfig::maxAngle, highest) &&
+           readLimit(named, &JointConfig::maxAngularSpeed, &ActuatorConfig::maxAngularSpeed, fastest);
+}
+
 bool MotionModel::minAngle(std::string const& name, float& angle) const
 {
     return readLimit(_index->of(name), &JointConfig::minAngle, &ActuatorConfig::minAngle, angle);
