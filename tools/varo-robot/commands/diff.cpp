@@ -1,5 +1,4 @@
-#include <charconv>
-#include <cmath>
+#include <algorithm>
 #include <iostream>
 #include <map>
 #include <memory>
@@ -14,7 +13,6 @@
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
 #include "support/json.hpp"
-#include "support/numbers.hpp"
 #include "support/terminal.hpp"
 
 namespace Tool {
@@ -106,9 +104,12 @@ std::string placeOf(std::string const& file, FactRecord const& record)
     return record.line == 0 ? file : file + ":" + std::to_string(record.line);
 }
 
+/// On one line.
 std::string textOf(Fact const* fact)
 {
-    return fact == nullptr ? "not stated" : fact->text.empty() ? "empty" : fact->text;
+    std::string text = fact == nullptr ? "not stated" : fact->text.empty() ? "empty" : fact->text;
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
 }
 
 void printForEyes(std::vector<Difference> const& differences, std::string const& a, std::string const& b)
