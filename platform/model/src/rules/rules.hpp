@@ -49,14 +49,22 @@ void findFrictionNotMirrored(Facts const& facts, Report const& report);
 void findMimicNotMirrored(Facts const& facts, Report const& report);
 
 // mirrored_body_rules.cpp
-/// Whether both sides are made of the same parts, and not of reflected ones, as most of their centres of mass say.
-bool areSidesCopies(Facts const& facts);
 void findComNotMirrored(Facts const& facts, Report const& report);
 void findInertiaNotMirrored(Facts const& facts, Report const& report);
 
+// mirrored_shape_rules.cpp
+void findShapesNotMirrored(Facts const& facts, Report const& report);
+void findMeshOfOtherSide(Facts const& facts, Report const& report);
+
 // mirrored_device_rules.cpp
 void findSensorNotMirrored(Facts const& facts, Report const& report);
+void findSensorSetOtherwise(Facts const& facts, Report const& report);
 void findWheelNotMirrored(Facts const& facts, Report const& report);
+
+// mirrored_actuator_rules.cpp
+void findActuatorNotMirrored(Facts const& facts, Report const& report);
+void findTipNotMirrored(Facts const& facts, Report const& report);
+void findStartNotMirrored(Facts const& facts, Report const& report);
 
 // use_rules.cpp
 void findActuatorNotReached(Facts const& facts, Report const& report);

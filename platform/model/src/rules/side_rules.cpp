@@ -60,6 +60,15 @@ struct Convention {
     }
 };
 
+/// Whether the frames of two joints are as far from those before them, along each axis.
+bool areAlikeUpToSigns(Transform const& one, Transform const& other, double tolerance)
+{
+    Vector const a = fromTransform(one).translation;
+    Vector const b = fromTransform(other).translation;
+    return length({std::abs(a[0]) - std::abs(b[0]), std::abs(a[1]) - std::abs(b[1]),
+                   std::abs(a[2]) - std::abs(b[2])}) <= tolerance;
+}
+
 bool isReached(Facts const& facts, JointPair const& pair)
 {
     return facts.placeOf(pair.first).isReached && facts.placeOf(pair.second).isReached;
@@ -72,9 +81,12 @@ void findPlaceNotMirrored(Facts const& facts, Report const& report)
     for (JointPair const& pair : facts.jointPairs) {
         if (pair.side.isLimb && isReached(facts, pair) && !pair.side.isPlaced && !isCopy(pair) &&
             !isCarriedOn(facts, pair.side)) {
-            report.ofTwo(pair.second, pair.first, Part::placement,
-                         "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
-                             textOf(facts.sides.plane) + " by " + rounded(length(pair.side.miss)) + " m.");
+            bool const isFirst = isFirstOdd(facts, pair, [&](JointConfig const& one, JointConfig const& other) {
+                return areAlikeUpToSigns(one.placement, other.placement, facts.sides.tolerance);
+            });
+            report.ofPair(pair, isFirst, Part::placement,
+                          "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
+                              textOf(facts.sides.plane) + " by " + rounded(length(pair.side.miss)) + " m.");
         }
     }
 }
