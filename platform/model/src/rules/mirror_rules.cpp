@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "rules/mirrored_bodies.hpp"
 
@@ -109,6 +111,11 @@ void reportLimits(Facts const& facts, Report const& report, JointPair const& pai
     reportLimits(report, blamed, other, isReflected, limitMisses(other, blamed, isReflected, tolerance));
 }
 
+bool contains(std::vector<JointPair const*> const& odd, JointPair const& pair)
+{
+    return std::binary_search(odd.begin(), odd.end(), &pair, std::less<>());
+}
+
 bool haveLimits(JointPair const& pair)
 {
     return pair.side.isLimb && pair.side.isSure && pair.side.isOfOneType && pair.kind() != noMirror &&
@@ -132,8 +139,9 @@ void findMirrorKindsDiffer(Facts const& facts, Report const& report)
 void findLimitsNotMirrored(Facts const& facts, Report const& report)
 {
     bool const areCopies = areSidesCopies(facts);
+    auto const odd = pairsOfOddAxis(facts);
     for (JointPair const& pair : facts.jointPairs) {
-        if (!haveLimits(pair)) {
+        if (!haveLimits(pair) || contains(odd, pair)) {
             continue;
         }
         bool const isReflected = pair.kind() == reflectedMirror;

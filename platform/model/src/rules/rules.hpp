@@ -1,6 +1,8 @@
 #ifndef VARO_MODEL_RULES_RULES_HPP
 #define VARO_MODEL_RULES_RULES_HPP
 
+#include <vector>
+
 #include "rules/facts.hpp"
 
 /// What the table of rules (lint.cpp) calls, one function for each, in the source of its family.
@@ -33,6 +35,10 @@ void findLimitsNotMirrored(Facts const& facts, Report const& report);
 void findActuatorsNotPaired(Facts const& facts, Report const& report);
 
 // side_rules.cpp
+/// Those whose axes go together otherwise than all others of their limb: which convention it follows is its author's
+/// affair, but it should be one. What follows from such an axis is not to be told again.
+/// In the order of their addresses.
+std::vector<JointPair const*> pairsOfOddAxis(Facts const& facts);
 void findPlaceNotMirrored(Facts const& facts, Report const& report);
 void findAxisNotMirrored(Facts const& facts, Report const& report);
 void findAxisDirectionNotMirrored(Facts const& facts, Report const& report);
