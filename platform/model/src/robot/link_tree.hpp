@@ -2,6 +2,7 @@
 #define VARO_MODEL_ROBOT_LINK_TREE_HPP
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -68,6 +69,12 @@ struct LinkTree {
     UniqueNames names;  ///< those of the joints and the root
     std::unordered_map<std::string_view, std::size_t> linkByName;
     std::unordered_map<std::string_view, std::size_t> jointByName;
+    std::size_t comparisonsLeft = 1000000;  ///< of names, to find those that were meant
+
+    /// The name that is closest to one that is not there; empty when none is close. After so many comparisons that more
+    /// would take long, none is looked for any more.
+    std::string_view closestLink(std::string_view name);
+    std::string_view closestJoint(std::string_view name);
 
     /// The record that the link's body belongs to: that of the joint that moves it, or the root's.
     JointConfig& bodyOf(Link const& link)
@@ -84,6 +91,9 @@ inline std::size_t find(std::unordered_map<std::string_view, std::size_t> const&
     auto const found = table.find(name);
     return found == table.end() ? none : found->second;
 }
+
+/// "Did you mean ...?", or nothing for an empty word.
+std::string didYouMean(std::string_view word);
 
 /// Ties links and joints to each other by their names, finds and names the root, and follows the mimics. Reports
 /// whatever keeps links and joints from being one tree, save what only follows from another such finding; names and
