@@ -168,26 +168,34 @@ py::list check(Source source, bool inferMirrors, LintOptions const& options)
     return findingsOf(findings, source.file);
 }
 
-/// A description of either dialect as a text of the one named.
-py::str writeAs(Varo::Model::Robot const& robot, std::string const& dialect)
+/// A description of either dialect in the one named.
+std::string writeAs(Varo::Model::Robot const& robot, std::string const& dialect)
 {
-    if (dialect != "native" && dialect != "urdf") {
-        throw py::value_error("There is no dialect \"" + dialect + "\": they are native and urdf.");
+    return dialect == "urdf" ? ModelUtils::toUrdf(robot) : ModelUtils::toXml(robot);
+}
+
+py::str convertFile(Source source, std::string const& dialect, bool inferMirrors)
+{
+    ModelUtils::Reading reading;
+    std::string converted;
+    {
+        py::gil_scoped_release const release;
+        reading = ModelUtils::read(std::move(source.text), {inferMirrors});
+        converted = reading.robot == nullptr ? "" : writeAs(*reading.robot, dialect);
     }
-    return textOf(dialect == "urdf" ? ModelUtils::toUrdf(robot) : ModelUtils::toXml(robot));
+    if (reading.robot == nullptr) {
+        refuse(reading.findings, source);
+    }
+    return textOf(converted);
 }
 
 py::str convert(py::object const& source, std::string const& to, bool inferMirrors)
 {
-    if (py::isinstance<LoadedModel>(source)) {
-        return writeAs(source.cast<LoadedModel const&>().model.robot(), to);
+    if (to != "native" && to != "urdf") {
+        throw py::value_error("There is no dialect \"" + to + "\": they are native and urdf.");
     }
-    Source file = readSource(source);
-    ModelUtils::Reading const reading = ModelUtils::read(std::move(file.text), {inferMirrors});
-    if (reading.robot == nullptr) {
-        refuse(reading.findings, file);
-    }
-    return writeAs(*reading.robot, to);
+    return py::isinstance<LoadedModel>(source) ? textOf(writeAs(source.cast<LoadedModel const&>().model.robot(), to))
+                                               : convertFile(readSource(source), to, inferMirrors);
 }
 
 std::optional<float> frictionCoefficient(std::string const& material1, std::string const& material2)

@@ -185,7 +185,47 @@ TEST(Rules, FindFaultsOfUrdfInItsText)
  <limit effort="1" velocity="1e31"/><mimic joint="J"/></joint>
 <joint name="F" type="fixed"><parent link="J"/><child link="Flange"/><limit velocity="0" effort="0"/></joint>
 </robot>)"),
-              (Strings{"3 negative-mass", "6 inertia-not-possible", "10 speed-not-positive"}));
+              (Strings{"3 negative-mass", "6 inertia-not-possible", "7 zero-inertia", "10 speed-not-positive"}));
+}
+
+TEST(Rules, FindNumbersThatHardlyCanBeMeant)
+{
+    struct Case {
+        std::string joint;  ///< attributes of the limit, on line 5, and what follows it
+        std::string body;  ///< on line 3
+        Strings expected;
+    };
+    std::string const limit = "lower='-1' upper='1' effort='1' velocity='1'/>";
+    std::string const body = "<inertial><mass value='1'/><inertia ixx='0.01' iyy='0.01' izz='0.01'/></inertial>";
+    std::string const box = "<collision><geometry><box size='0.3 0.3 0.3'/></geometry></collision>";
+    auto const massive = [](std::string const& mass, std::string const& moment) {
+        return "<inertial><mass value='" + mass + "'/><inertia ixx='" + moment + "' iyy='" + moment + "' izz='" +
+               moment + "'/></inertial>";
+    };
+    for (Case const& given : std::vector<Case>{
+             {limit, body + box, {}},
+             {"lower='-1' upper='1' effort='0' velocity='1'/>", body, {"5 effort-not-positive"}},
+             {"lower='-1' upper='1' effort='-3' velocity='1'/>", body, {"5 effort-not-positive"}},
+             {"lower='0' upper='0' effort='0' velocity='0'/>", body, {}},
+             {"lower='-1' upper='90' effort='1' velocity='1'/>", body, {"5 limits-in-degrees"}},
+             {"lower='-22.5' upper='45' effort='1' velocity='1'/>", body, {"5 limits-in-degrees"}},
+             {"lower='-9.42477796077' upper='10' effort='1' velocity='1'/>", body, {}},
+             {"lower='-1e16' upper='1e16' effort='1' velocity='1'/>", body, {}},
+             {limit + "<dynamics damping='-1' friction='-2'/>", body, {"5 negative-damping", "5 negative-friction"}},
+             {limit, massive("1", "0"), {"3 zero-inertia"}},
+             {limit, massive("1", "10") + box, {"3 inertia-unlike-shapes"}},
+             {limit, massive("1", "1e-6") + box, {"3 inertia-unlike-shapes"}},
+             {limit, massive("9000", "10") + box, {}},  // no matter is so dense: the box stands for something else
+             {limit, massive("5e4", "10"), {"3 mass-unlike-others"}},
+             {limit, massive("5e-5", "1e-7"), {"3 mass-unlike-others"}},
+         }) {
+        std::string text = "<robot name='A'><link name='t'>" + body + "</link>\n<link name='u'>" + body +
+                           "</link>\n<link name='a'>" + given.body +
+                           "</link><joint name='U' type='fixed'><parent link='t'/><child link='u'/></joint>\n"
+                           "<joint name='A' type='revolute'><parent link='t'/><child link='a'/>\n<limit " +
+                           given.joint + "</joint></robot>";
+        EXPECT_EQ(findingsOf(text), given.expected) << given.joint << given.body;
+    }
 }
 
 TEST(Rules, CanBeSwitchedOnAndOff)

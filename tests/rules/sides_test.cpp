@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstdlib>
 #include <sstream>
 
 #include <gmock/gmock.h>
@@ -67,13 +66,6 @@ Strings findingsOf(std::string const& text)
         }
     }
     return findings;
-}
-
-/// Real robots, which may stand beside the sources; the environment can name another folder.
-std::string realRobotsFolder()
-{
-    char const* const named = std::getenv("VARO_URDF_FOLDER");
-    return named != nullptr ? named : VARO_SOURCE_DIR "/../shared/robots";
 }
 
 TEST(SideNames, LeadToTheOtherSide)
@@ -186,9 +178,9 @@ TEST(Sides, OfANativeTextAreComparedAndNeverMade)
 
 TEST(Sides, OfRealRobotsDifferWhereSomebodyLooked)
 {
-    auto const files = Tests::filesIn(realRobotsFolder(), ".urdf");
+    auto const files = Tests::filesIn(Tests::realRobotsFolder(), ".urdf");
     if (files.empty()) {
-        GTEST_SKIP() << "There are no robots in " << realRobotsFolder() << ".";
+        GTEST_SKIP() << "There are no robots in " << Tests::realRobotsFolder() << ".";
     }
     Strings expected;
     std::istringstream lines(Tests::readFile(VARO_SOURCE_DIR "/tests/rules/data/sides_of_real_robots.txt"));
@@ -216,7 +208,7 @@ struct Fault {
 
 void expectAllFound(std::string const& robot, std::vector<Fault> const& faults)
 {
-    std::string text = Tests::readFile(realRobotsFolder() + "/" + robot + ".urdf");
+    std::string text = Tests::readFile(Tests::realRobotsFolder() + "/" + robot + ".urdf");
     Strings expected;
     for (Fault const& fault : faults) {
         std::size_t const start = text.find(fault.start);
@@ -233,8 +225,8 @@ void expectAllFound(std::string const& robot, std::vector<Fault> const& faults)
 
 TEST(Sides, OfRealRobotsShowTenSeededFaultsEachOnItsLine)
 {
-    if (Tests::filesIn(realRobotsFolder(), ".urdf").empty()) {
-        GTEST_SKIP() << "There are no robots in " << realRobotsFolder() << ".";
+    if (Tests::filesIn(Tests::realRobotsFolder(), ".urdf").empty()) {
+        GTEST_SKIP() << "There are no robots in " << Tests::realRobotsFolder() << ".";
     }
     expectAllFound(
         "atlas_convex_hull",

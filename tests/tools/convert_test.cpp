@@ -85,7 +85,7 @@ TEST_F(Convert, ExampleRobotsComeBackTheSame)
 TEST_F(Convert, UrdfRobotsComeBackTheSame)
 {
     expectRoundTrips(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf");
-    expectRoundTrips(VARO_SOURCE_DIR "/../shared/robots", ".urdf");  // real robots, where there are any
+    expectRoundTrips(Tests::realRobotsFolder(), ".urdf");
 }
 
 TEST_F(Convert, RefusesWhatIsBad)

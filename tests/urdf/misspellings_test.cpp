@@ -94,7 +94,7 @@ TEST(UrdfMisspellings, AreToldFromWhatIsMisplacedOrForOthers)
     EXPECT_THAT(codes("<lnik/><gap_joint/>"), ElementsAre("unknown-element"));
 
     std::string const lowwer =
-        robot(link("root") + link("a") + joint("A", "root", "a", "<limit lowwer=\"-1\" upper=\"1\"/><limits/><axis/>"));
+        robot(link("root") + link("a") + joint("A", "root", "a", "<limit lowwer=\"-1\" upper=\"1\"/><limits/><axis xyz=\"1 0 0\"/>"));
     EXPECT_THAT(complaintsAbout(lowwer), ElementsAre("unknown-attribute", "unknown-element"));
     EXPECT_EQ(tablesOf(lowwer).joints.at("A").maxAngle, 1.0F);
     std::string const size = robot(

@@ -61,7 +61,7 @@ TEST(UrdfWriting, KeepsTheRecordsOfOwnTexts)
 
 TEST(UrdfWriting, KeepsTheRecordsOfRealRobots)
 {
-    for (std::string const& file : Tests::filesIn(realRobotsFolder(), ".urdf")) {
+    for (std::string const& file : Tests::filesIn(Tests::realRobotsFolder(), ".urdf")) {
         SCOPED_TRACE(file);
         std::string const native = nativeOf(readFile(file));
         expectAlike(native, nativeOf(urdfOf(native)));
@@ -120,7 +120,7 @@ TEST(UrdfWriting, IsReadByOthersWithTheSameTree)
     if (std::system("command -v check_urdf >/dev/null") != 0) {
         GTEST_SKIP() << "check_urdf is not installed";
     }
-    for (std::string const& folder : {ownFolder, realRobotsFolder()}) {
+    for (std::string const& folder : {ownFolder, Tests::realRobotsFolder()}) {
         for (std::string const& file : Tests::filesIn(folder, ".urdf")) {
             SCOPED_TRACE(file);
             std::string const text = readFile(file);

@@ -195,9 +195,10 @@ void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
     }
 }
 
-void declareCodes(CLI::App& app, char const* option, std::vector<std::string>& codes, char const* meaning)
+void declareCodes(CLI::App& app, char const* option, std::vector<std::string>& codes, char const* type,
+                  char const* meaning)
 {
-    app.add_option(option, codes, meaning)->type_name("CODE")->allow_extra_args(false)->take_all();
+    app.add_option(option, codes, meaning)->type_name(type)->allow_extra_args(false)->take_all();
 }
 
 std::function<int()> declare(CLI::App& app)
@@ -205,10 +206,13 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     app.add_option("FILE", options->files, "Descriptions to check; - reads standard input")->type_name("")->required();
     app.add_flag("--strict", options->strict, "Take warnings for errors");
-    declareCodes(app, "--silence", options->silenced, "Leave out warnings and notes of this code; may be repeated");
+    declareCodes(app, "--silence", options->silenced, "CODE",
+                 "Leave out warnings and notes of this code; may be repeated");
     declareReading(app, options->reading);
-    declareCodes(app, "--rule", options->lint.only, "Of the rules, apply only that of this code; may be repeated");
-    declareCodes(app, "--no-rule", options->lint.without, "Do not apply the rule of this code; may be repeated");
+    declareCodes(app, "--rule", options->lint.only, "RULE",
+                 "Of the rules, apply only that of this code; may be repeated");
+    declareCodes(app, "--no-rule", options->lint.without, "RULE",
+                 "Do not apply the rule of this code; may be repeated");
     declareTolerances(app, options->lint.tolerances);
     CLI::Option* const meshes = app.add_flag("--meshes", options->meshes, "Look for the files of meshes, too");
     for (CLI::Option* const option : declareMeshFolders(app, options->meshFolders)) {

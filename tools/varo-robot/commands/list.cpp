@@ -84,8 +84,11 @@ std::string suggestion(std::string const& written)
     return closest.word().empty() ? "" : " Did you mean \"" + std::string(closest.word()) + "\"?";
 }
 
-int list(Options const& options)
+int list(Options options)
 {
+    if (findKind(options.kind) == nullptr && findKind(options.file) != nullptr) {
+        options.kind.swap(options.file);
+    }
     Kind const* const kind = findKind(options.kind);
     if (kind == nullptr) {
         std::cerr << "There are no elements of the kind \"" << options.kind << "\"." << suggestion(options.kind)
@@ -117,7 +120,7 @@ Command const listCommand = {"list", "List the elements of one kind as a table",
                              R"(Prints a table with a line for each element of the kind, in the order in which
 the model made them: "-" stands for none, positions are those in the root frame
 (m), numbers are in SI units. Links have the names that the description gives
-them.
+them. FILE may stand before KIND, too.
 
 Examples:
   varo-robot list joints robots/humanoid.xml

@@ -63,8 +63,11 @@ Json poseJson(std::vector<NamedPose> const& poses)
     return array;
 }
 
-int pose(Options const& options)
+int pose(Options options)
 {
+    if (!options.names.empty()) {
+        putFileLast(options.names.front(), options.file);
+    }
     Robot const robot = loadRobot(options.file);
     MovedRobot const moved(robot.model, options.motion, robot.file);
     std::vector<NamedPose> const poses = posesOf(options, robot.model, moved);
@@ -87,7 +90,7 @@ std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
-    app.add_option("NAME", options->names, "Links, joints, sensors or actuators; all links when none is named")
+    app.add_option("FRAME", options->names, "Links, joints, sensors or actuators; all links when none is named")
         ->type_name("");
     declareMotion(app, options->motion);
     declareReference(app, options->motion);
@@ -104,7 +107,8 @@ yaw about fixed axes (rad). All joint values are 0 unless a posture or --joint
 says otherwise; joints that follow an actuator or another joint then stand at
 their offset. Limits do not matter.
 
-A name stands for a link or, when none has it, for a joint, sensor or actuator.
+A FRAME is the name of a link or, when none has it, of a joint, sensor or
+actuator.
 The frame of a joint belongs to the link before it.
 
 With --json: an object with the configuration (rad, m), the name of the frame

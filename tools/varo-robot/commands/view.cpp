@@ -96,7 +96,8 @@ std::string jsonOf(Robot const& robot, Options const& options)
 int openInBrowser(std::string const& page)
 {
     std::cout.flush();
-    ::execlp("xdg-open", "xdg-open", page.c_str(), static_cast<char*>(nullptr));
+    std::string const path = std::filesystem::absolute(page);  // never an option, whatever the page is called
+    ::execlp("xdg-open", "xdg-open", path.c_str(), static_cast<char*>(nullptr));
     std::cerr << "varo-robot: error: xdg-open, which opens pages in a browser, is not there.\n";
     return exitStatus::bad;
 }

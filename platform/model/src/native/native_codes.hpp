@@ -44,16 +44,16 @@ inline constexpr FindingCode wrongKeyCount{
     "A sensor has more or fewer keys than its kind may have, so that no model will contain it."};
 
 // Names that refer to other elements.
-inline constexpr FindingCode actuatorLoop{"actuator-loop", Severity::error,
-                                          "The chain of an actuator's parents leads back to it."};
+inline constexpr FindingCode actuatorCycle{"actuator-cycle", Severity::error,
+                                           "The chain of an actuator's parents leads back to it."};
 inline constexpr FindingCode danglingReference{"dangling-reference", Severity::warning,
                                                "A name refers to an element that is not there."};
 inline constexpr FindingCode jointInNoChain{"joint-in-no-chain", Severity::warning,
                                             "A joint stands in no chain, so that no model will contain it."};
 inline constexpr FindingCode jointInTwoChains{"joint-in-two-chains", Severity::warning,
                                               "A joint stands in chains more than once."};
-inline constexpr FindingCode chainLoop{
-    "chain-loop", Severity::warning,
+inline constexpr FindingCode chainCycle{
+    "chain-cycle", Severity::warning,
     "Chains are attached to each other in a cycle, so that none is attached to the root."};
 inline constexpr FindingCode angleOfUnknown{
     "angle-of-unknown", Severity::warning,
@@ -76,13 +76,13 @@ inline constexpr FindingCode const* ofDialect[] = {
     &missingSensorText,
     &wrongSensorText,
     &wrongKeyCount,
-    &actuatorLoop,
+    &actuatorCycle,
     &Model::codes::mimicCycle,
     &Model::codes::notANumber,
     &danglingReference,
     &jointInNoChain,
     &jointInTwoChains,
-    &chainLoop,
+    &chainCycle,
     &angleOfUnknown,
 };
 

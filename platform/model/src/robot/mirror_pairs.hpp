@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "robot/mirror_plane.hpp"
 #include "robot/zero_poses.hpp"
 #include "varo/model/records.hpp"
 
@@ -12,23 +13,8 @@
 /// prove it.
 namespace Varo::Model {
 
-/// A plane that stands upright on an axis of the root.
-struct MirrorPlane {
-    std::size_t axis = 1;  ///< of its normal: 0 for x, 1 for y, 2 for z
-    double offset = 0.0;  ///< m, along the axis
-    std::size_t support = 0;  ///< the number of pairs whose places it reflects into each other
-
-    Vector reflected(Vector point) const
-    {
-        point[axis] = 2.0 * offset - point[axis];
-        return point;
-    }
-    Vector reflectedDirection(Vector direction) const
-    {
-        direction[axis] = -direction[axis];
-        return direction;
-    }
-};
+/// How far directions of length 1 may miss their reflections.
+inline constexpr double directionTolerance = 5e-3;
 
 /// Two joints, by their indices, in the order of the text.
 struct SidePair {

@@ -7,6 +7,16 @@
 
 namespace Varo::Model {
 
+Vector minus(Vector const& left, Vector const& right)
+{
+    return {left[0] - right[0], left[1] - right[1], left[2] - right[2]};
+}
+
+double length(Vector const& vector)
+{
+    return std::hypot(vector[0], vector[1], vector[2]);
+}
+
 Pose poseFrom(Vector const& xyz, Vector const& rpy)
 {
     auto const r = Math::rotationFromRpy(rpy[0], rpy[1], rpy[2]);
@@ -15,10 +25,10 @@ Pose poseFrom(Vector const& xyz, Vector const& rpy)
 
 Matrix rotationFromZ(Vector const& axis)
 {
-    double const length = std::hypot(axis[0], axis[1], axis[2]);
-    double const x = axis[0] / length;
-    double const y = axis[1] / length;
-    double const cosine = axis[2] / length;
+    double const norm = length(axis);
+    double const x = axis[0] / norm;
+    double const y = axis[1] / norm;
+    double const cosine = axis[2] / norm;
     double const sine = std::hypot(x, y);
     if (sine == 0.0) {
         double const sign = cosine < 0.0 ? -1.0 : 1.0;

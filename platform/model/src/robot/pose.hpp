@@ -8,6 +8,9 @@
 namespace Varo::Model {
 
 using Vector = std::array<double, 3>;
+Vector minus(Vector const& left, Vector const& right);
+double length(Vector const& vector);
+
 /// Three rows.
 using Matrix = std::array<Vector, 3>;
 

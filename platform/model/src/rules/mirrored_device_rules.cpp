@@ -51,11 +51,6 @@ Vector placeOf(Facts const& facts, Config const& device, std::string const& join
     return (facts.placeOf(*facts.records->joints.find(joint)).link * fromTransform(device.placement)).translation;
 }
 
-double distance(Vector const& a, Vector const& b)
-{
-    return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
-}
-
 bool differ(float a, float b, double tolerance)
 {
     auto const [one, other] = std::pair(static_cast<double>(a), static_cast<double>(b));
@@ -71,8 +66,8 @@ void findSensorNotMirrored(Facts const& facts, Report const& report)
         if (pairOf(facts, first.parent, second.parent) == nullptr || first.placement.isNear(second.placement)) {
             return;
         }
-        double const miss = distance(facts.sides.plane.reflected(placeOf(facts, first, first.parent)),
-                                     placeOf(facts, second, second.parent));
+        double const miss = length(minus(facts.sides.plane.reflected(placeOf(facts, first, first.parent)),
+                                         placeOf(facts, second, second.parent)));
         if (miss > facts.sides.tolerance) {
             report.ofTwo(second, first, Part::placement,
                          "The places of the sensors " + namesOf(first, second) + " miss each other's reflection by " +

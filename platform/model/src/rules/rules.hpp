@@ -12,8 +12,17 @@ void findInertiaNotSymmetric(Facts const& facts, Report const& report);
 void findInertiaNotPositive(Facts const& facts, Report const& report);
 void findInertiaNotPossible(Facts const& facts, Report const& report);
 
+// proportion_rules.cpp
+void findZeroInertia(Facts const& facts, Report const& report);
+void findInertiaUnlikeShapes(Facts const& facts, Report const& report);
+void findMassUnlikeOthers(Facts const& facts, Report const& report);
+
 // motion_rules.cpp
 void findSpeedNotPositive(Facts const& facts, Report const& report);
+void findEffortNotPositive(Facts const& facts, Report const& report);
+void findLimitsInDegrees(Facts const& facts, Report const& report);
+void findNegativeDamping(Facts const& facts, Report const& report);
+void findNegativeFriction(Facts const& facts, Report const& report);
 void findStartOutsideLimits(Facts const& facts, Report const& report);
 void findPostureOutsideLimits(Facts const& facts, Report const& report);
 

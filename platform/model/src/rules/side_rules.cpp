@@ -9,11 +9,6 @@ namespace Varo::Model::Rules {
 
 namespace {
 
-double lengthOf(Vector const& v)
-{
-    return std::hypot(v[0], v[1], v[2]);
-}
-
 /// Whether what carries the pair misses as much, or is turned askew: then that is told. Looks no further than the next
 /// few carriers, among which it is if one of them has a fault of its own.
 bool isCarriedOn(Facts const& facts, SidePair const& side)
@@ -22,9 +17,7 @@ bool isCarriedOn(Facts const& facts, SidePair const& side)
     std::size_t carrier = side.carrier;
     for (int i = 0; i < farthest && carrier != none; ++i) {
         SidePair const& before = facts.sides.pairs[carrier];
-        Vector const own = {side.miss[0] - before.miss[0], side.miss[1] - before.miss[1],
-                            side.miss[2] - before.miss[2]};
-        if (lengthOf(own) <= 2.0 * facts.sides.tolerance) {
+        if (length(minus(side.miss, before.miss)) <= 2.0 * facts.sides.tolerance) {
             return true;
         }
         carrier = before.carrier;
@@ -81,7 +74,7 @@ void findPlaceNotMirrored(Facts const& facts, Report const& report)
             !isCarriedOn(facts, pair.side)) {
             report.ofTwo(pair.second, pair.first, Part::placement,
                          "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
-                             textOf(facts.sides.plane) + " by " + rounded(lengthOf(pair.side.miss)) + " m.");
+                             textOf(facts.sides.plane) + " by " + rounded(length(pair.side.miss)) + " m.");
         }
     }
 }

@@ -24,7 +24,13 @@ constexpr Child<RecordOfElement<element>> inPlace()
     using Parent = RecordOfElement<element>;
     return {{&element, Occurrence::optional},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) { reader.read(element, node, parent); },
-            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); }};
+            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); },
+            [](Parent& parent) {
+                Parent const fresh;
+                for (Attribute<Parent> const& row : element.attributeRows) {
+                    row.store(row.print(fresh), parent);
+                }
+            }};
 }
 
 template <class Record, class = void>
@@ -71,7 +77,8 @@ constexpr Child<Parent> pointedTo()
                 if (parent.*member != nullptr) {
                     writer.write(element, *(parent.*member));
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 template <class Item>
@@ -98,7 +105,8 @@ constexpr Child<Parent> childOf()
                 if (parent.*member) {
                     writer.write(element, *(parent.*member));
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 /// Children each of which is a record of its own, in a member of the record of their parent.
@@ -115,7 +123,8 @@ constexpr Child<Parent> childrenOf()
                     Item const& item = each;
                     writer.write(element, item);
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 }  // namespace Varo::Model::Schema

@@ -39,12 +39,22 @@ void checkLimits(Joint const& stated, Diagnostics& diagnostics)
     }
 }
 
+/// Those of a joint that turns on and on are its effort and velocity.
+void checkNotEmpty(Joint const& stated, Diagnostics& diagnostics)
+{
+    if (stated.limit && !stated.limit->node.first_attribute()) {
+        diagnostics.report(at(stated.limit->node), codes::missingAttribute, "This limit says nothing.",
+                           "Give it the attributes \"effort\" and \"velocity\", or leave it out.");
+    }
+}
+
 void translateLimits(Joint const& stated, JointConfig& config, Diagnostics& diagnostics)
 {
     Limit const limit = stated.limit.value_or(Limit());
     config.maxTorque = static_cast<float>(limit.effort);
     config.maxAngularSpeed = static_cast<float>(limit.velocity);
     if (stated.type == continuous) {
+        checkNotEmpty(stated, diagnostics);
         config.minAngle = -std::numeric_limits<float>::infinity();
         config.maxAngle = std::numeric_limits<float>::infinity();
     } else if (isMoving(stated.type)) {
@@ -113,15 +123,10 @@ Model::Mimic toMimic(Mimic const& stated)
     return mimic;
 }
 
-void translateType(Joint const& stated, JointConfig& config, Diagnostics& diagnostics)
+void translateType(Joint const& stated, JointConfig& config)
 {
     config.jointType = stated.type == noJointType ? fixed : stated.type;
     config.hasMotor = isMoving(config.jointType);
-    if (stated.type == planar || stated.type == floating) {
-        diagnostics.report(
-            at(stated.node, "type"), codes::jointFrozen,
-            "A " + JointTypes::print(stated.type) + " joint cannot be modelled; it is held where it is.");
-    }
 }
 
 }  // namespace
@@ -133,7 +138,7 @@ Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics)
     joint.config.textOffset = at(stated.node);
     joint.nameOffset = at(stated.node, "name");
     joint.origin = stated.origin.value_or(Origin()).pose();
-    translateType(stated, joint.config, diagnostics);
+    translateType(stated, joint.config);
     translateLimits(stated, joint.config, diagnostics);
     translateDynamics(stated, joint.config);
     translateExtras(stated, joint.config);

@@ -98,7 +98,8 @@ std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_no
     }
     AttributeInfo const& row = element.attributes[meant];
     _diagnostics.report(at(node, attribute), codes::unknownAttribute,
-                        std::string(element.name) + " has no attribute " + quoted(name) + ": it is passed over.",
+                        std::string(element.name) + " has no attribute " + quoted(name) +
+                            ": it is kept as text, and counts for nothing.",
                         didYouMean(row.name));
     bool const isRefused = row.missing.code != nullptr && row.missing.code->severity == Severity::error;
     return isRefused || node.attribute(row.name.data()) ? noRow : meant;
@@ -113,11 +114,13 @@ void UnknownNames::noteChild(ElementInfo const& element, pugi::xml_node child)
     std::size_t const meant = findMeant(element.children, element.name, name);
     if (meant != noRow) {
         _diagnostics.report(at(child), codes::unknownElement,
-                            std::string(element.name) + " holds no element " + quoted(name) + ": it is passed over.",
+                            std::string(element.name) + " holds no element " + quoted(name) +
+                                ": it is kept as text, and counts for nothing.",
                             didYouMean(nameOf(element.children[meant])));
     } else if (isDefined(name)) {
         _diagnostics.report(at(child), codes::misplacedElement,
-                            "URDF has no " + quoted(name) + " in " + std::string(element.name) + ": it is passed over.",
+                            "URDF has no " + quoted(name) + " in " + std::string(element.name) +
+                                ": it is kept as text, and counts for nothing.",
                             "Put it where it belongs, or leave it out.");
     }
 }
