@@ -31,6 +31,7 @@ class CMakeBuild(build_ext):
             "VAROROBOTMODEL_BUILD_PYTHON": "ON",
             "VAROROBOTMODEL_BUILD_TESTS": "OFF",
             "VAROROBOTMODEL_PYTHON_DIR": ".",
+            "VAROROBOTMODEL_WERROR": "OFF",
         }
         arguments = [f"-D{name}={value}" for name, value in options.items()]
         arguments += shlex.split(os.environ.get("CMAKE_ARGS", ""))

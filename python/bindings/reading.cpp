@@ -168,23 +168,44 @@ py::list check(Source source, bool inferMirrors, LintOptions const& options)
     return findingsOf(findings, source.file);
 }
 
-/// A description of either dialect in the one named.
-std::string writeAs(Varo::Model::Robot const& robot, std::string const& dialect)
+/// A description of either dialect in the one named. Where URDF cannot say it, `findings` has an error.
+std::string writeAs(Varo::Model::Robot const& robot, std::string const& dialect, Findings& findings)
 {
-    return dialect == "urdf" ? ModelUtils::toUrdf(robot) : ModelUtils::toXml(robot);
+    return dialect == "urdf" ? ModelUtils::toUrdf(robot, findings) : ModelUtils::toXml(robot);
+}
+
+bool hasErrors(Findings const& findings)
+{
+    return std::any_of(findings.begin(), findings.end(), [](Varo::Model::Finding const& finding) {
+        return finding.severity == Varo::Model::Severity::error;
+    });
 }
 
 py::str convertFile(Source source, std::string const& dialect, bool inferMirrors)
 {
-    ModelUtils::Reading reading;
+    Findings findings;
     std::string converted;
     {
         py::gil_scoped_release const release;
-        reading = ModelUtils::read(std::move(source.text), {inferMirrors});
-        converted = reading.robot == nullptr ? "" : writeAs(*reading.robot, dialect);
+        ModelUtils::Reading reading = ModelUtils::read(std::move(source.text), {inferMirrors});
+        if (reading.robot == nullptr) {
+            findings = std::move(reading.findings);
+        } else {
+            converted = writeAs(*reading.robot, dialect, findings);
+        }
     }
-    if (reading.robot == nullptr) {
-        refuse(reading.findings, source);
+    if (hasErrors(findings)) {
+        refuse(findings, source);
+    }
+    return textOf(converted);
+}
+
+py::str convertModel(LoadedModel const& loaded, std::string const& dialect)
+{
+    Findings findings;
+    std::string const converted = writeAs(loaded.model.robot(), dialect, findings);
+    if (hasErrors(findings)) {
+        refuse(findings, {{}, loaded.file, loaded.isFromFile});
     }
     return textOf(converted);
 }
@@ -194,7 +215,7 @@ py::str convert(py::object const& source, std::string const& to, bool inferMirro
     if (to != "native" && to != "urdf") {
         throw py::value_error("There is no dialect \"" + to + "\": they are native and urdf.");
     }
-    return py::isinstance<LoadedModel>(source) ? textOf(writeAs(source.cast<LoadedModel const&>().model.robot(), to))
+    return py::isinstance<LoadedModel>(source) ? convertModel(source.cast<LoadedModel const&>(), to)
                                                : convertFile(readSource(source), to, inferMirrors);
 }
 
@@ -262,10 +283,12 @@ void defineReading(py::module_& module)
         "one), center_of_mass (m), inertia (part of the greatest entry) and limit (rad, m). Raises ValueError for a\n"
         "code that no rule has.",
         py::arg("model"), keywords, only, without, tolerances);
-    define(module, "convert(source, to=\"native\", *, infer_mirrors=True)", convert,
-           "The description in a file, or that of a model, as a text in the dialect \"native\" or \"urdf\".\n\n"
-           "What URDF has no words for is left out of it. Raises as load does.",
-           py::arg("source"), py::arg("to") = "native", keywords, inferMirrors);
+    define(
+        module, "convert(source, to=\"native\", *, infer_mirrors=True)", convert,
+        "The description in a file, or that of a model, as a text in the dialect \"native\" or \"urdf\".\n\n"
+        "What URDF has no words for stands in an element of our own, which other programs pass over: converting back\n"
+        "gives the same description. Raises as load does.",
+        py::arg("source"), py::arg("to") = "native", keywords, inferMirrors);
     define(module, "friction_coefficient(material1, material2)", frictionCoefficient,
            "The static friction coefficient between two materials as links name them; None for an unknown pair.",
            py::arg("material1"), py::arg("material2"));

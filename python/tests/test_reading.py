@@ -111,5 +111,7 @@ def test_converts_between_dialects(robots):
     assert again.dialect == "native"
     assert again.links.names == vr.load(arm).links.names
     assert vr.loads(vr.convert(again, to="urdf")).dialect == "urdf"
+    humanoid = robots / "humanoid.xml"
+    assert vr.convert(vr.loads(vr.convert(humanoid, to="urdf"))) == vr.convert(humanoid)
     with pytest.raises(ValueError, match="urdf"):
         vr.convert(arm, to="sdf")
