@@ -207,6 +207,21 @@ SideNames otherSideOf(std::string_view name)
     return names;
 }
 
+Side sideOf(std::string_view name)
+{
+    Side side = Side::unknown;
+    for (Mark const& mark : marksOf(name)) {
+        std::string_view const word = name.substr(mark.begin, mark.length);
+        auto const letter = std::mismatch(word.begin(), word.end(), mark.other.begin(), mark.other.end()).first;
+        Side const said = letter != word.end() && lowered(*letter) == 'l' ? Side::left : Side::right;
+        if (side != Side::unknown && said != side) {
+            return Side::unknown;
+        }
+        side = said;
+    }
+    return side;
+}
+
 std::string withoutSides(std::string_view name)
 {
     std::string result;
