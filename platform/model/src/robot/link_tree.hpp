@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -73,6 +74,12 @@ struct LinkTree {
     NameIndex linkByName;
     NameIndex jointByName;
     UniqueNames names{jointByName};  ///< those of the joints and the root
+    std::size_t comparisonsLeft = 1000000;  ///< of names, to find those that were meant
+
+    /// The name that is closest to one that is not there; empty when none is close. After so many comparisons that more
+    /// would take long, none is looked for any more.
+    std::string_view closestLink(std::string_view name);
+    std::string_view closestJoint(std::string_view name);
 
     /// The record that the link's body belongs to: that of the joint that moves it, or the root's.
     JointConfig& bodyOf(Link const& link)
@@ -89,6 +96,9 @@ inline std::size_t find(NameIndex const& table, std::string_view name)
     std::uint32_t const found = table.find(name);
     return found == NameIndex::none ? none : found;
 }
+
+/// "Did you mean ...?", or nothing for an empty word.
+std::string didYouMean(std::string_view word);
 
 /// Ties links and joints to each other by their names, finds and names the root, and follows the mimics. Reports
 /// whatever keeps links and joints from being one tree, save what only follows from another such finding; names and

@@ -207,6 +207,22 @@ SideNames otherSideOf(std::string_view name)
     return names;
 }
 
+Side sideOf(std::string_view name)
+{
+    Side side = Side::unknown;
+    for (Mark const& mark : marksOf(name)) {
+        std::string const word = lowered(name.substr(mark.begin, mark.length));
+        std::string const other = lowered(mark.others.front());
+        auto const letter = std::mismatch(word.begin(), word.end(), other.begin(), other.end()).first;
+        Side const said = letter != word.end() && *letter == 'l' ? Side::left : Side::right;
+        if (side != Side::unknown && said != side) {
+            return Side::unknown;
+        }
+        side = said;
+    }
+    return side;
+}
+
 std::string withoutSides(std::string_view name)
 {
     std::string result;

@@ -21,7 +21,7 @@ void translateBody(Link const& link, Materials const& materials, JointConfig& bo
 void translateShapes(Link const& link, Materials const& materials, JointConfig& body, Diagnostics& diagnostics);
 
 /// The transmissions of a tree whose joints can be found by name. What the records have no place for is kept as text.
-void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Report const& report);
+void translateTransmissions(Robot const& stated, LinkTree& tree, Records& robot, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

@@ -41,6 +41,8 @@ constexpr PartPlace parts[] = {
     {Part::damping, "damping", "dynamics"},
     {Part::friction, "friction", "dynamics"},
     {Part::mimic, {}, "mimic"},
+    {Part::geometry, {}, "visual/geometry/mesh", "link"},
+    {Part::geometry, {}, "geometry/mesh|box|cylinder|sphere|capsule"},
 };
 
 class Reader {
