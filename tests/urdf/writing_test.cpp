@@ -43,7 +43,7 @@ std::string const ownRobots = VARO_SOURCE_DIR "/robots";
 
 TEST(UrdfWriting, LosesNothing)
 {
-    for (std::string const& folder : {ownFolder, ownRobots, realRobotsFolder()}) {
+    for (std::string const& folder : {ownFolder, ownRobots, Tests::realRobotsFolder()}) {
         for (char const* extension : {".urdf", ".xml"}) {
             for (std::string const& file : Tests::filesIn(folder, extension)) {
                 expectNothingLost(file);

@@ -54,7 +54,7 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
 {
     Json data = Json::object();
     Varo::Model::Findings findings;
-    auto const progress = std::make_unique<Progress>("Reading meshes and images");
+    auto progress = std::make_unique<Progress>("Reading meshes and images");
     for (std::string const& uri : uris) {
         Json entry = read(uri);
         if (entry.contains("reason")) {

@@ -212,8 +212,7 @@ Side sideOf(std::string_view name)
     Side side = Side::unknown;
     for (Mark const& mark : marksOf(name)) {
         std::string_view const word = name.substr(mark.begin, mark.length);
-        auto const isSame = [](char a, char b) { return lowered(a) == lowered(b); };
-        auto const letter = std::mismatch(word.begin(), word.end(), mark.other.begin(), mark.other.end(), isSame).first;
+        auto const letter = std::mismatch(word.begin(), word.end(), mark.other.begin(), mark.other.end()).first;
         Side const said = letter != word.end() && lowered(*letter) == 'l' ? Side::left : Side::right;
         if (side != Side::unknown && said != side) {
             return Side::unknown;
