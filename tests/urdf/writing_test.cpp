@@ -65,13 +65,13 @@ TEST(UrdfWriting, SaysOnlyWhatUrdfCannotInOurOwnWords)
         told.insert(std::to_string(finding.line) + " " + finding.code);
     }
     for (char const* expected :
-         {"4 beyond-urdf-pretty-name", "4 beyond-urdf-root", "12 beyond-urdf-joint", "24 beyond-urdf-chain",
-          "27 beyond-urdf-actuator", "28 beyond-urdf-wheel", "29 beyond-urdf-sensor", "35 beyond-urdf-posture",
-          "37 beyond-urdf-transmission", "41 beyond-urdf-extension"}) {
+         {"4 beyond-urdf-pretty-name", "4 beyond-urdf-root", "12 beyond-urdf-joint", "25 beyond-urdf-chain",
+          "28 beyond-urdf-actuator", "29 beyond-urdf-wheel", "30 beyond-urdf-sensor", "36 beyond-urdf-posture",
+          "38 beyond-urdf-transmission", "42 beyond-urdf-extension"}) {
         EXPECT_EQ(told.count(expected), 1U) << expected;
     }
-    EXPECT_EQ(told.count("18 beyond-urdf-joint"), 0U) << "URDF says all of this one";
-    EXPECT_NE(written.find(R"(<joint name="B" min="3" max="1" motor="true")"), std::string::npos) << written;
+    EXPECT_EQ(told.count("23 beyond-urdf-joint"), 0U) << "URDF says all of this one";
+    EXPECT_NE(written.find(R"(<joint name="B" link="" min="3" max="1" motor="true")"), std::string::npos) << written;
 }
 
 TEST(UrdfWriting, TellsOfRobotsThatNoUrdfCanBeMadeOf)
