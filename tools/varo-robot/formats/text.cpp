@@ -16,7 +16,9 @@ using Varo::Model::Severity;
 
 /// More of one kind than this stand together.
 constexpr std::size_t mostApart = 3;
-constexpr std::size_t widestLine = 100;
+constexpr std::size_t widestLine = 80;
+/// More places of one kind than this are cut short.
+constexpr std::size_t mostPlaces = 8;
 
 /// What is the same fault again and again.
 using Kind = std::pair<Severity, std::string>;
@@ -53,13 +55,17 @@ std::vector<Findings> byKind(Findings const& findings)
     return kinds;
 }
 
-/// Lines of the places of all but the first.
+/// Lines of the places of all but the first, or of the next few of many.
 void printOtherPlaces(Findings const& kind)
 {
     std::string line = "    and " + std::to_string(kind.size() - 1) + " more, at";
-    for (std::size_t i = 1; i < kind.size(); ++i) {
+    std::size_t const end = std::min(kind.size(), mostPlaces + 1);
+    for (std::size_t i = 1; i < end; ++i) {
+        bool const isLast = i + 1 == end;
         std::string const place = " " + std::to_string(kind[i].line) + ":" + std::to_string(kind[i].column) +
-                                  (i + 1 < kind.size() ? "," : "");
+                                  (!isLast               ? ","
+                                   : kind.size() > end ? ", ..."
+                                                       : "");
         if (line.size() + place.size() > widestLine) {
             std::cerr << line << '\n';
             line = "       ";
