@@ -63,7 +63,7 @@ void printOtherPlaces(Findings const& kind)
     for (std::size_t i = 1; i < end; ++i) {
         bool const isLast = i + 1 == end;
         std::string const place = " " + std::to_string(kind[i].line) + ":" + std::to_string(kind[i].column) +
-                                  (!isLast               ? ","
+                                  (!isLast             ? ","
                                    : kind.size() > end ? ", ..."
                                                        : "");
         if (line.size() + place.size() > widestLine) {
@@ -75,11 +75,21 @@ void printOtherPlaces(Findings const& kind)
     std::cerr << line << '\n';
 }
 
+/// The first of many, with what to do about it where that is the same for all.
+Findings firstOf(Findings const& kind)
+{
+    Finding first = kind.front();
+    bool const isSame =
+        std::all_of(kind.begin(), kind.end(), [&](Finding const& finding) { return finding.hint == first.hint; });
+    first.hint = isSame ? first.hint : std::string();
+    return {first};
+}
+
 void printFile(CheckedFile const& file, bool all)
 {
     for (Findings const& kind : byKind(file.findings)) {
         bool const isFolded = !all && kind.size() > mostApart && kind.front().line != 0;
-        printFindings(std::cerr, file.name, isFolded ? Findings{kind.front()} : kind);
+        printFindings(std::cerr, file.name, isFolded ? firstOf(kind) : kind);
         if (isFolded) {
             printOtherPlaces(kind);
         }
@@ -99,9 +109,7 @@ std::string advice(std::vector<CheckedFile> const& files)
             hasFindings = true;
         }
     }
-    return hasFindings
-               ? "Fix what is not meant; --silence CODE leaves out what is. docs/checking.md explains the codes.\n"
-               : "";
+    return hasFindings ? "--silence CODE leaves out what is meant; docs/checking.md explains the codes.\n" : "";
 }
 
 }  // namespace
