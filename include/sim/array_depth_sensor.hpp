@@ -10,7 +10,8 @@ namespace Sim {
 /// scanner has one row.
 ///
 /// Unlike a depth camera it delivers its values under device keys. width() and height() are the first resolution that
-/// the description states; without one they are a single row with a point for each key.
+/// the description states; without one they are a single row with a point for each key. Angles, range and rate, where
+/// the description states them, are in settings().
 class VAROROBOTMODEL_API ArrayDepthSensor final : public DCMSensor {
 public:
     ArrayDepthSensor();

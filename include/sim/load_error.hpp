@@ -25,7 +25,8 @@ public:
     ~BuildError() override;
 };
 
-/// Thrown when the posture "StandInit" gives an angle to a name that no chain leads to. Its findings say which.
+/// Thrown when the posture "StandInit" gives an angle to a name that no chain leads to, or to a
+/// joint without a motor. Its findings say which.
 class VAROROBOTMODEL_API StartAngleError : public std::out_of_range, public Varo::Model::WithFindings {
 public:
     /// `findings` should hold an error.

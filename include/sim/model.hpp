@@ -66,8 +66,8 @@ public:
     /// Throws std::invalid_argument when it is neither a readable file nor a valid description; for a refused text that
     /// is a Varo::Model::DescriptionError. Throws BuildError, which is a std::runtime_error, when the description lacks
     /// what its elements need, and StartAngleError, which is a std::out_of_range, when its posture "StandInit" gives an
-    /// angle to a name that no chain leads to. All three say by their findings what is wrong where. Takes time and
-    /// memory proportional to the size of the robot.
+    /// angle to a name that no chain leads to, or to a joint without a motor. All three say by their findings what is
+    /// wrong where. Takes time and memory proportional to the size of the robot.
     explicit Model(std::string const& pathOrXml);
     /// Of a description that was read before, which is not read again. Throws as the constructor above does; for a
     /// reading without a robot, a DescriptionError with its findings. Neither prints nor logs: what building notices is

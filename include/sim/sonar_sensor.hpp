@@ -9,6 +9,7 @@ namespace Sim {
 /// Measures distances (m) by ultrasound; a reading has one distance or ten.
 ///
 /// It has a device key for each. A sonar that the description gives another number of keys is left out of the model.
+/// Its range and rate, where the description states them, are in settings().
 class VAROROBOTMODEL_API SonarSensor final : public DCMSensor {
 public:
     SonarSensor();

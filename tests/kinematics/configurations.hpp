@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <random>
 #include <string>
 #include <vector>
@@ -27,13 +26,6 @@ inline std::vector<std::string> ownRobots()
         files.push_back(file);
     }
     return files;
-}
-
-/// Real robots, which may stand beside the sources; the environment can name another folder.
-inline std::vector<std::string> realRobots()
-{
-    char const* const named = std::getenv("VARO_URDF_FOLDER");
-    return Tests::filesIn(named != nullptr ? named : VARO_SOURCE_DIR "/../shared/robots", ".urdf");
 }
 
 /// Within limits where there are some, and anywhere else otherwise.

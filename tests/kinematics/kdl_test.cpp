@@ -292,7 +292,7 @@ TEST(ModelBesideKdl, OwnRobotsMoveAlike)
 
 TEST(ModelBesideKdl, RealRobotsMoveAlike)
 {
-    compare(realRobots(), false);
+    compare(Tests::filesIn(Tests::realRobotsFolder(), ".urdf"), false);
 }
 
 TEST(UrdfBesideKdl, OwnFilesMoveAlike)
@@ -303,7 +303,7 @@ TEST(UrdfBesideKdl, OwnFilesMoveAlike)
 
 TEST(UrdfBesideKdl, RealRobotsMoveAlike)
 {
-    compare(realRobots(), true);
+    compare(Tests::filesIn(Tests::realRobotsFolder(), ".urdf"), true);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #define TESTS_RULES_FINDINGS_OF_TEXT_HPP
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,13 +35,6 @@ inline Strings linesAndCodes(std::string const& text, LintOptions const& options
         texts.push_back(std::to_string(finding.line) + " " + finding.code);
     }
     return texts;
-}
-
-/// Real robots, which may stand beside the sources; the environment can name another folder.
-inline std::string realRobotsFolder()
-{
-    char const* const named = std::getenv("VARO_URDF_FOLDER");
-    return named != nullptr ? named : VARO_SOURCE_DIR "/../shared/robots";
 }
 
 }  // namespace RulesTest

@@ -29,7 +29,7 @@ Strings linesOf(std::string const& file)
 
 Strings robotFiles()
 {
-    Strings files = Tests::filesIn(realRobotsFolder(), ".urdf");
+    Strings files = Tests::filesIn(Tests::realRobotsFolder(), ".urdf");
     for (char const* ending : {".xml", ".urdf"}) {
         Strings const own = Tests::filesIn(VARO_SOURCE_DIR "/robots", ending);
         files.insert(files.end(), own.begin(), own.end());

@@ -2,6 +2,7 @@
 #define VARO_TESTS_FILES_HPP
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -32,6 +33,13 @@ inline std::vector<std::string> filesIn(std::string const& folder, std::string c
     }
     std::sort(files.begin(), files.end());
     return files;
+}
+
+/// Real robots, which may stand beside the sources; the environment can name another folder.
+inline std::string realRobotsFolder()
+{
+    char const* const named = std::getenv("VARO_URDF_FOLDER");
+    return named != nullptr ? named : VARO_SOURCE_DIR "/../shared/robots";
 }
 
 /// The example robots, in either dialect.

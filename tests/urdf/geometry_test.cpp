@@ -67,9 +67,9 @@ TEST(UrdfGeometry, OwnFilesStandWhereTheTextSays)
 
 TEST(UrdfGeometry, RealRobotsStandWhereTheTextSays)
 {
-    auto const files = Tests::filesIn(realRobotsFolder(), ".urdf");
+    auto const files = Tests::filesIn(Tests::realRobotsFolder(), ".urdf");
     if (files.empty()) {
-        GTEST_SKIP() << "There are no robots in " << realRobotsFolder();
+        GTEST_SKIP() << "There are no robots in " << Tests::realRobotsFolder();
     }
     std::for_each(files.begin(), files.end(), checkFile);
 }

@@ -33,7 +33,7 @@ void readSafely(std::string const& text)
 std::vector<std::string> sampleTexts()
 {
     std::vector<std::string> texts;
-    for (std::vector<std::string> const& files : {ownFiles(), Tests::filesIn(realRobotsFolder(), ".urdf")}) {
+    for (std::vector<std::string> const& files : {ownFiles(), Tests::filesIn(Tests::realRobotsFolder(), ".urdf")}) {
         for (std::string const& file : files) {
             texts.push_back(readFile(file));
         }

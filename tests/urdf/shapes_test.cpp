@@ -230,9 +230,9 @@ std::string recordedOf(JointConfig const& body, pugi::xml_node link)
 
 TEST(UrdfShapes, OfRealRobotsAreAllThere)
 {
-    auto const files = Tests::filesIn(realRobotsFolder(), ".urdf");
+    auto const files = Tests::filesIn(Tests::realRobotsFolder(), ".urdf");
     if (files.empty()) {
-        GTEST_SKIP() << "no robots in " << realRobotsFolder();
+        GTEST_SKIP() << "no robots in " << Tests::realRobotsFolder();
     }
     for (std::string const& file : files) {
         SCOPED_TRACE(file);

@@ -1,7 +1,6 @@
 #ifndef TESTS_URDF_URDF_TEXT_HPP
 #define TESTS_URDF_URDF_TEXT_HPP
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -29,13 +28,6 @@ inline std::vector<std::string> ownFiles()
         files.push_back(file);
     }
     return files;
-}
-
-/// Real robots, which may stand beside the sources; the environment can name another folder.
-inline std::string realRobotsFolder()
-{
-    char const* const named = std::getenv("VARO_URDF_FOLDER");
-    return named != nullptr ? named : VARO_SOURCE_DIR "/../shared/robots";
 }
 
 inline std::string robot(std::string const& content)

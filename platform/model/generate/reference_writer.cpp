@@ -2,10 +2,10 @@
 #include <sstream>
 #include <string>
 
-#include "finding_cells.hpp"
 #include "format_writer.hpp"
 #include "native/elements.hpp"
 #include "native/native_codes.hpp"
+#include "table_cells.hpp"
 #include "urdf/sensor_settings.hpp"
 #include "value_types.hpp"
 #include "varo/model/lint.hpp"
@@ -13,11 +13,6 @@
 namespace Varo::Model::Native {
 
 namespace {
-
-std::string code(std::string_view text)
-{
-    return text.empty() ? "" : "`" + std::string(text) + "`";
-}
 
 std::string sentence(std::string_view meaning)
 {
@@ -159,14 +154,7 @@ std::string writeElementReference()
 {
     std::ostringstream out;
     ElementSections(out).write(robotDescriptionElement, std::string(robotDescriptionElement.name));
-    out << "| type | a value is |\n| --- | --- |\n";
-    for (ValueType const* type : usedTypes(robotDescriptionElement)) {
-        out << "| " << type->name << " | " << type->meaning;
-        for (Word const& word : type->words) {
-            out << (&word == type->words.begin() ? ": " : ", ") << code(word.word);
-        }
-        out << " |\n";
-    }
+    writeUsedTypes(out, robotDescriptionElement);
     return out.str();
 }
 

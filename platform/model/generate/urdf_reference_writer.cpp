@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "finding_cells.hpp"
 #include "finding_codes.hpp"
 #include "format_writer.hpp"
+#include "table_cells.hpp"
 #include "urdf/schema.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "value_types.hpp"
@@ -15,11 +15,6 @@
 namespace Varo::Model::Urdf {
 
 namespace {
-
-std::string code(std::string_view text)
-{
-    return text.empty() ? "" : "`" + std::string(text) + "`";
-}
 
 /// One row of the table: what an element or, where `name` is not empty, its attribute is.
 void writeRow(std::ostream& out, std::string const& path, std::string_view name, std::string const& typeToDefault,
@@ -72,14 +67,8 @@ std::string writeElementReference()
     out << "| element | attribute | type | unit | default | meaning, and what becomes of it |\n"
            "| --- | --- | --- | --- | --- | --- |\n";
     TableWriter(out).write(robotElement, std::string(robotElement.name));
-    out << "\n| type | a value is |\n| --- | --- |\n";
-    for (ValueType const* type : Native::usedTypes(robotElement)) {
-        out << "| " << type->name << " | " << type->meaning;
-        for (Word const& word : type->words) {
-            out << (&word == type->words.begin() ? ": " : ", ") << code(word.word);
-        }
-        out << " |\n";
-    }
+    out << '\n';
+    Native::writeUsedTypes(out, robotElement);
     return out.str();
 }
 

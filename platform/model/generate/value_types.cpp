@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "table_cells.hpp"
+
 namespace Varo::Model::Native {
 
 namespace {
@@ -41,6 +43,18 @@ std::vector<ValueType const*> usedTypes(ElementInfo const& root)
         }
     }
     return types;
+}
+
+void writeUsedTypes(std::ostream& out, ElementInfo const& root)
+{
+    out << "| type | a value is |\n| --- | --- |\n";
+    for (ValueType const* type : usedTypes(root)) {
+        out << "| " << type->name << " | " << type->meaning;
+        for (Word const& word : type->words) {
+            out << (&word == type->words.begin() ? ": " : ", ") << code(word.word);
+        }
+        out << " |\n";
+    }
 }
 
 }  // namespace Varo::Model::Native

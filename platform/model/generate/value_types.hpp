@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_GENERATE_VALUE_TYPES_HPP
 #define VARO_MODEL_GENERATE_VALUE_TYPES_HPP
 
+#include <ostream>
 #include <vector>
 
 #include "native/schema.hpp"
@@ -12,6 +13,9 @@ std::vector<ElementInfo const*> allElements(ElementInfo const& root);
 
 /// Every type that attributes and texts of the dialect have, in the order of their first use.
 std::vector<ValueType const*> usedTypes(ElementInfo const& root);
+
+/// These types as a table in Markdown.
+void writeUsedTypes(std::ostream& out, ElementInfo const& root);
 
 }  // namespace Varo::Model::Native
 

@@ -125,7 +125,16 @@ std::string toXml(Robot const& robot)
 
 std::string toUrdf(Robot const& robot)
 {
-    return writeUrdf(robot);
+    Findings findings;
+    return toUrdf(robot, findings);
+}
+
+std::string toUrdf(Robot const& robot, Findings& findings)
+{
+    Diagnostics diagnostics(robot.source());
+    std::string text = writeUrdf(robot, diagnostics);
+    findings = diagnostics.findings();
+    return text;
 }
 
 bool checkXml(std::string const& xml)

@@ -1,8 +1,8 @@
 #include "native/names.hpp"
 
-#include <algorithm>
 #include <cstdint>
 
+#include "robot/cycles.hpp"
 #include "schema/values.hpp"
 #include "varo/model/spelling.hpp"
 #include "xml/node_offset.hpp"
@@ -15,32 +15,6 @@ std::string filledIn(std::string_view message, std::string_view name)
 {
     std::size_t const place = message.find('%');
     return std::string(message.substr(0, place)) + quoted(name) + std::string(message.substr(place + 1));
-}
-
-constexpr std::size_t nothing = static_cast<std::size_t>(-1);
-
-/// The first thing of every cycle, where each is attached to the one at that index or to nothing. Each is visited
-/// once.
-std::vector<std::size_t> findCycles(std::vector<std::size_t> const& parents)
-{
-    std::vector<std::size_t> cycles;
-    std::vector<std::size_t> visitedFrom(parents.size(), nothing);
-    for (std::size_t start = 0; start < parents.size(); ++start) {
-        std::size_t at = start;
-        while (at != nothing && visitedFrom[at] == nothing) {
-            visitedFrom[at] = start;
-            at = parents[at];
-        }
-        if (at == nothing || visitedFrom[at] != start) {
-            continue;
-        }
-        std::size_t first = at;
-        for (std::size_t next = parents[at]; next != at; next = parents[next]) {
-            first = std::min(first, next);
-        }
-        cycles.push_back(first);
-    }
-    return cycles;
 }
 
 }  // namespace
@@ -64,6 +38,27 @@ void Names::use(NameRule const& rule, std::string_view name, pugi::xml_node node
     entry.second |= rule.gives.kinds;
     if (!rule.gives.isLocal || rule.wants.kinds != 0) {
         _uses.push_back({&rule, rule.gives.isLocal ? &entryOf(name) : &entry, node, attribute});
+    }
+}
+
+void Names::addAll(Records const& robot)
+{
+    auto const add = [this](auto const& table, unsigned kind) {
+        for (auto const& config : table) {
+            entryOf(config.name).second |= kind;
+        }
+    };
+    entryOf(robot.root.name).second |= names::root;
+    add(robot.joints, names::joint);
+    add(robot.chains, names::chain);
+    add(robot.actuators, names::actuator);
+    add(robot.subActuators, names::subJoint);
+    add(robot.wheels, names::wheel);
+    add(robot.sensors, names::sensor);
+    for (ChainConfig const& chain : robot.chains) {
+        for (std::string const& joint : chain.jointNames) {
+            entryOf(joint).second |= names::inChain | names::hasAngle;
+        }
     }
 }
 
@@ -142,25 +137,26 @@ void Names::checkCycle(names::Cycle const& cycle)
     for (Use const& use : _uses) {
         if (use.rule == cycle.parent) {
             indexOfNode.emplace(use.node.internal_object(), attached.size());
-            owners.emplace(use.entry, nothing);
+            owners.emplace(use.entry, none);
             attached.push_back(&use);
         }
     }
     for (Use const& use : _uses) {
         auto const owner = use.rule == cycle.part ? owners.find(use.entry) : owners.end();
-        if (owner != owners.end() && owner->second == nothing) {
+        if (owner != owners.end() && owner->second == none) {
             auto const own = indexOfNode.find(use.node.internal_object());
             auto const found = own != indexOfNode.end() ? own : indexOfNode.find(use.node.parent().internal_object());
-            owner->second = found == indexOfNode.end() ? nothing : found->second;
+            owner->second = found == indexOfNode.end() ? none : found->second;
         }
     }
     std::vector<std::size_t> parents;
     for (Use const* use : attached) {
         parents.push_back(owners[use->entry]);
     }
-    for (std::size_t const first : findCycles(parents)) {
-        pugi::xml_node const node = attached[first]->node;
-        _diagnostics.report(at(node, attached[first]->attribute), *cycle.complaint.code,
+    for (Model::Cycle const& found : findCycles(parents)) {
+        Use const& first = *attached[found.front()];
+        pugi::xml_node const node = first.node;
+        _diagnostics.report(at(node, first.attribute), *cycle.complaint.code,
                             filledIn(cycle.complaint.message, node.attribute("name").value()),
                             std::string(cycle.complaint.hint));
     }

@@ -12,10 +12,10 @@ namespace Varo::Model {
 namespace {
 
 /// False when the name is of no use as one.
-bool addName(std::unordered_map<std::string_view, std::size_t>& table, char const* kind, std::string_view name,
-             std::size_t index, TextOffset place, Diagnostics& diagnostics)
+bool addName(NameIndex& table, char const* kind, std::string_view name, std::size_t index, TextOffset place,
+             Diagnostics& diagnostics)
 {
-    bool const isNew = !name.empty() && table.try_emplace(name, index).second;
+    bool const isNew = !name.empty() && table.add(name, static_cast<std::uint32_t>(index)) == index;
     if (!isNew && !name.empty()) {
         diagnostics.report(place, codes::duplicateName,
                            "There is another " + std::string(kind) + " " + quoted(name) + " before this one.");
@@ -110,9 +110,6 @@ void findRoot(LinkTree& tree, Diagnostics& diagnostics)
 /// In the records a link is called after the joint that moves it, so that the root must not share a joint's name.
 void nameRoot(LinkTree& tree, Diagnostics& diagnostics)
 {
-    for (Joint const& joint : tree.joints) {
-        tree.names.claim(joint.config.name, "this joint", joint.config.textOffset, diagnostics);
-    }
     Link const& root = tree.links[tree.rootLink];
     tree.rootBody.textOffset = root.textOffset;
     tree.rootBody.name =

@@ -2,9 +2,9 @@
 #define VARO_MODEL_ROBOT_LINK_TREE_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "robot/cycles.hpp"
@@ -12,6 +12,7 @@
 #include "robot/unique_names.hpp"
 #include "varo/model/configs.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_index.hpp"
 
 /// Links and joints as most dialects describe a robot, between the text and the records. A reader fills a LinkTree in
 /// the order of the text, `connect` ties its parts together, and `addRecords` makes the records of it.
@@ -60,15 +61,19 @@ struct Joint {
 };
 
 struct LinkTree {
+    LinkTree() = default;
+    LinkTree(LinkTree const&) = delete;
+    LinkTree& operator=(LinkTree const&) = delete;
+
     std::vector<Link> links;
     std::vector<Joint> joints;
     TextOffset textOffset;  ///< of the robot's element
     // What follows is found out by `connect`, but for the body.
     std::size_t rootLink = none;
     JointConfig rootBody;  ///< the record of the root, with a name that no joint has
-    UniqueNames names;  ///< those of the joints and the root
-    std::unordered_map<std::string_view, std::size_t> linkByName;
-    std::unordered_map<std::string_view, std::size_t> jointByName;
+    NameIndex linkByName;
+    NameIndex jointByName;
+    UniqueNames names{jointByName};  ///< those of the joints and the root
     std::size_t comparisonsLeft = 1000000;  ///< of names, to find those that were meant
 
     /// The name that is closest to one that is not there; empty when none is close. After so many comparisons that more
@@ -86,10 +91,10 @@ struct LinkTree {
 };
 
 /// What the table has under the name, or none.
-inline std::size_t find(std::unordered_map<std::string_view, std::size_t> const& table, std::string_view name)
+inline std::size_t find(NameIndex const& table, std::string_view name)
 {
-    auto const found = table.find(name);
-    return found == table.end() ? none : found->second;
+    std::uint32_t const found = table.find(name);
+    return found == NameIndex::none ? none : found;
 }
 
 /// "Did you mean ...?", or nothing for an empty word.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include "urdf/numbers.hpp"
@@ -102,8 +104,16 @@ void SensorReader::reportDangling(pugi::xml_node gazebo, pugi::xml_attribute ref
 }
 
 /// In one note: there is nothing to be done about it.
-void SensorReader::reportKindsWithoutClass() const
+void SensorReader::reportKindsWithoutClass(pugi::xml_node amendment)
 {
+    std::unordered_set<std::string_view> amended;
+    for (pugi::xml_node const sensor : amendment.children("sensor")) {
+        if (sensor.attribute("type")) {
+            amended.insert(sensor.attribute("name").value());
+        }
+    }
+    auto const isAmended = [&](pugi::xml_node node) { return amended.count(node.attribute("name").value()) > 0; };
+    _withoutClass.erase(std::remove_if(_withoutClass.begin(), _withoutClass.end(), isAmended), _withoutClass.end());
     if (_withoutClass.empty()) {
         return;
     }

@@ -4,7 +4,9 @@
 #include <iterator>
 #include <string>
 
+#include "native/amendment.hpp"
 #include "urdf/numbers.hpp"
+#include "urdf/own_namespace.hpp"
 #include "urdf/schema.hpp"
 #include "urdf/surplus.hpp"
 #include "urdf/values.hpp"
@@ -64,17 +66,50 @@ void reportWrongNumbers(ValueType const& type, TextOffset place, std::string_vie
 std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                                pugi::xml_attribute attribute)
 {
+    if (declaresOwnNamespace(attribute)) {
+        return noRow;
+    }
+    if (isOwn(attribute.name())) {
+        diagnostics().report(
+            at(node, attribute), codes::unknownAttribute,
+            std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ": it is passed over.");
+        return noRow;
+    }
     _report.passOver(node, attribute);
     return _unknown.noteAttribute(element, node, attribute);
 }
 
 std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
 {
-    if (&element != &robotElement || !isReadElsewhere(child.name())) {
+    if (isOwn(child.name())) {
+        takeOwn(element, child);
+    } else if (&element != &robotElement || !isReadElsewhere(child.name())) {
         _report.passOver(child);
         _unknown.noteChild(element, child);
     }
     return noRow;
+}
+
+bool TolerantReader::isOwn(std::string_view name) const
+{
+    return !_ownPrefix.empty() && name.substr(0, _ownPrefix.size()) == _ownPrefix;
+}
+
+/// What is in our own namespace is for nobody else: it is not kept as text.
+void TolerantReader::takeOwn(ElementInfo const& element, pugi::xml_node child)
+{
+    std::string const known = _ownPrefix + std::string(Native::amendmentName());
+    if (&element != &robotElement || child.name() != known) {
+        bool const isPlace = &element == &robotElement;
+        diagnostics().report(
+            at(child), codes::unknownElement,
+            std::string(element.name) + " holds no element " + quoted(child.name()) + ": it is passed over.",
+            isPlace ? "Did you mean " + quoted(known) + "?" : "Only robot holds " + quoted(known) + ".");
+    } else if (_amendment) {
+        reportSurplus(child, diagnostics());
+    } else {
+        _amendment = child;
+    }
 }
 
 void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_node child)
