@@ -108,7 +108,7 @@ TEST(UrdfAmendments, AreCheckedAsNativeTextsAre)
         {amended("<joint name=\"A\"/><joint @name=\"A\"/>"), "duplicate-name"},
         {amended("<joint name=\"A\" @without=\"placement mimmic\"/>"), "wrong-value"},
         {amended("<joint name=\"A\">@<mass/></joint>"), "missing-attribute"},
-        {amended("<joint name=\"A\">@<mimic joint=\"A\"/></joint>"), "mimic-circle"},
+        {amended("<joint name=\"A\">@<mimic joint=\"A\"/></joint>"), "mimic-cycle"},
         {amended("<joint name=\"A\"><mirror @name=\"Z\"/></joint>"), "dangling-reference"},
         {amended("@<jiont name=\"A\"/>"), "unknown-element"},
         {amended("@text"), "unexpected-text"},

@@ -211,10 +211,9 @@ Side sideOf(std::string_view name)
 {
     Side side = Side::unknown;
     for (Mark const& mark : marksOf(name)) {
-        std::string const word = lowered(name.substr(mark.begin, mark.length));
-        std::string const other = lowered(mark.others.front());
-        auto const letter = std::mismatch(word.begin(), word.end(), other.begin(), other.end()).first;
-        Side const said = letter != word.end() && *letter == 'l' ? Side::left : Side::right;
+        std::string_view const word = name.substr(mark.begin, mark.length);
+        auto const letter = std::mismatch(word.begin(), word.end(), mark.other.begin(), mark.other.end()).first;
+        Side const said = letter != word.end() && lowered(*letter) == 'l' ? Side::left : Side::right;
         if (side != Side::unknown && said != side) {
             return Side::unknown;
         }
