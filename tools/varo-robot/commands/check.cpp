@@ -220,7 +220,7 @@ run on standard error, errors first:
       what to do about it
 
 Of kinds that occur more than three times in a file the first is printed, with
-the places of the others, unless --all are wanted.
+the places of the next few, unless --all are wanted.
 
 Errors refuse the description, warnings are about what loads but is hardly
 meant, and notes say what the reader passed over. What came up while the model

@@ -49,9 +49,7 @@ std::string advice(std::vector<CheckedFile> const& files)
             hasFindings = true;
         }
     }
-    return hasFindings
-               ? "Fix what is not meant; --silence CODE leaves out what is. docs/checking.md explains the codes.\n"
-               : "";
+    return hasFindings ? "--silence CODE leaves out what is meant; docs/checking.md explains the codes.\n" : "";
 }
 
 }  // namespace

@@ -37,7 +37,9 @@ std::string placeOf(std::string const& file, Finding const& finding)
 
 /// More of one kind than this stand together.
 constexpr std::size_t mostApart = 3;
-constexpr std::size_t widestLine = 100;
+constexpr std::size_t widestLine = 80;
+/// More places of one kind than this are cut short.
+constexpr std::size_t mostPlaces = 8;
 
 /// What is the same fault again and again.
 using Kind = std::pair<Severity, std::string>;
@@ -59,13 +61,24 @@ std::vector<Findings> kindsOf(Findings const& findings)
     return kinds;
 }
 
-/// Lines of the places of all but the first.
+/// The first of many, with what to do about it where that is the same for all.
+Findings firstOf(Findings const& kind)
+{
+    Finding first = kind.front();
+    bool const isSame =
+        std::all_of(kind.begin(), kind.end(), [&](Finding const& finding) { return finding.hint == first.hint; });
+    first.hint = isSame ? first.hint : std::string();
+    return {first};
+}
+
+/// Lines of the places of all but the first, or of the next few of many.
 void printOtherPlaces(std::ostream& out, Findings const& kind)
 {
     std::string line = "    and " + std::to_string(kind.size() - 1) + " more, at";
-    for (std::size_t i = 1; i < kind.size(); ++i) {
-        std::string const place = " " + std::to_string(kind[i].line) + ":" + std::to_string(kind[i].column) +
-                                  (i + 1 < kind.size() ? "," : "");
+    std::size_t const end = std::min(kind.size(), mostPlaces + 1);
+    for (std::size_t i = 1; i < end; ++i) {
+        std::string const after = i + 1 < end ? "," : kind.size() > end ? ", ..." : "";
+        std::string const place = " " + std::to_string(kind[i].line) + ":" + std::to_string(kind[i].column) + after;
         if (line.size() + place.size() > widestLine) {
             out << line << '\n';
             line = "       ";
@@ -113,7 +126,7 @@ void printFolded(std::ostream& out, std::string const& file, Findings const& fin
 {
     for (Findings const& kind : kindsOf(findings)) {
         bool const isFolded = kind.size() > mostApart && kind.front().line != 0;
-        printFindings(out, file, isFolded ? Findings{kind.front()} : kind);
+        printFindings(out, file, isFolded ? firstOf(kind) : kind);
         if (isFolded) {
             printOtherPlaces(out, kind);
         }

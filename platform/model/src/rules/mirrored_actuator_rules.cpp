@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "rules/named_pairs.hpp"
 #include "rules/numbers.hpp"
@@ -46,20 +47,17 @@ class SubJointComparison {
 public:
     SubJointComparison(Facts const& facts, Report const& report) : _facts(facts), _report(report) {}
 
-    /// Group by group; where one has more sub-joints, that alone is told.
+    /// Group by group. Where one has more sub-joints, that alone is told, and nothing of one that has none, which
+    /// another rule tells.
     void compare(ActuatorConfig const& first, ActuatorConfig const& second) const
     {
-        for (std::size_t group = 0; group < std::min(first.jointGroups.size(), second.jointGroups.size()); ++group) {
-            if (first.jointGroups[group].size() != second.jointGroups[group].size()) {
-                reportCounts(first, second);
-                return;
-            }
+        std::vector<std::size_t> const one = sizesOf(first);
+        std::vector<std::size_t> const other = sizesOf(second);
+        if (one != other && !one.empty() && !other.empty()) {
+            _report.ofTwo(second, first, Part::whole,
+                          "The actuators " + namesOf(first, second) + " move different numbers of joints.");
         }
-        if (first.jointGroups.size() != second.jointGroups.size()) {
-            reportCounts(first, second);
-            return;
-        }
-        for (std::size_t group = 0; group < first.jointGroups.size(); ++group) {
+        for (std::size_t group = 0; one == other && group < first.jointGroups.size(); ++group) {
             for (std::size_t i = 0; i < first.jointGroups[group].size(); ++i) {
                 compareSubJoints(first.jointGroups[group][i], second.jointGroups[group][i]);
             }
@@ -67,10 +65,16 @@ public:
     }
 
 private:
-    void reportCounts(ActuatorConfig const& first, ActuatorConfig const& second) const
+    /// Of the groups; nothing for an actuator that moves no joint.
+    static std::vector<std::size_t> sizesOf(ActuatorConfig const& actuator)
     {
-        _report.ofTwo(second, first, Part::whole,
-                      "The actuators " + namesOf(first, second) + " move different numbers of joints.");
+        std::vector<std::size_t> sizes;
+        std::size_t joints = 0;
+        for (auto const& group : actuator.jointGroups) {
+            sizes.push_back(group.size());
+            joints += group.size();
+        }
+        return joints == 0 ? std::vector<std::size_t>() : sizes;
     }
 
     void compareSubJoints(std::string const& one, std::string const& other) const

@@ -28,10 +28,10 @@ bool isCarriedOn(Facts const& facts, SidePair const& side)
 }
 
 /// "y = 0.1": the plane as messages name it.
-std::string textOf(MirrorPlane const& plane)
+std::string textOf(Sides const& sides)
 {
-    double const offset = std::abs(plane.offset) < 1e-6 ? 0.0 : plane.offset;
-    return std::string(1, "xyz"[plane.axis]) + " = " + rounded(offset);
+    double const offset = std::abs(sides.plane.offset) < 0.1 * sides.tolerance ? 0.0 : sides.plane.offset;
+    return std::string(1, "xyz"[sides.plane.axis]) + " = " + rounded(offset);
 }
 
 /// Whether something that does not move is placed alike on its carriers: a camera on hands of one make, say.
@@ -91,7 +91,7 @@ void findPlaceNotMirrored(Facts const& facts, Report const& report)
             });
             report.ofPair(pair, isFirst, Part::placement,
                           "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
-                              textOf(facts.sides.plane) + " by " + rounded(length(pair.side.miss)) + " m.");
+                              textOf(facts.sides) + " by " + rounded(length(pair.side.miss)) + " m.");
         }
     }
 }
