@@ -17,6 +17,8 @@
 
 namespace Sim {
 
+class ModelImpl;
+
 /// What the key-name tables of MotionModel are filled with.
 VAROROBOTMODEL_API std::vector<std::string> initDcmCommandKeyNames();
 /// The same for the keys of a device's state.
@@ -211,7 +213,17 @@ public:
     /// @}
 
 private:
+    friend class ModelImpl;  // which asks for much, and needs no copies of names
     struct Index;
+
+    // Names are those of the records.
+    std::vector<std::string> const& jointsOf(std::string const& chain) const;
+    void appendAngleActuators(std::string const& chain, std::vector<std::string const*>& actuators) const;
+    void appendActuators(std::string const& chain, std::vector<std::string const*>& actuators) const;
+    void appendCoupledActuators(std::string const& chain, std::vector<std::string const*>& actuators) const;
+    void appendFollowingJoints(std::string const& joint, std::vector<std::string const*>& following) const;
+    std::string const& frictionMaterialOf(std::string const& name) const;
+    bool readLimits(std::string const& name, float& lowest, float& highest, float& fastest) const;
 
     std::unique_ptr<Varo::Model::Robot> _robot;
     std::shared_ptr<Varo::Model::Records const> _records;  // the robot's own where it holds them

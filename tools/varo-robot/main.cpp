@@ -30,9 +30,9 @@ Exit status:
 
 `varo-robot help COMMAND` says more about a command.)";
 
-constexpr Command const* commands[] = {&checkCommand, &infoCommand,    &treeCommand, &listCommand,
-                                       &showCommand,  &poseCommand,    &massCommand, &graphCommand,
-                                       &dumpCommand,  &convertCommand, &viewCommand, &helpCommand};
+constexpr Command const* commands[] = {&checkCommand, &infoCommand, &treeCommand,  &listCommand, &showCommand,
+                                       &poseCommand,  &massCommand, &graphCommand, &dumpCommand, &convertCommand,
+                                       &diffCommand,  &viewCommand, &helpCommand};
 
 void declareCommands(CLI::App& app, std::function<int()>& chosen)
 {

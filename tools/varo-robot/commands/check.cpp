@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -13,7 +11,7 @@
 #include "support/description.hpp"
 #include "support/findings.hpp"
 #include "support/meshes.hpp"
-#include "support/numbers.hpp"
+#include "support/progress.hpp"
 #include "varo/model/lint.hpp"
 
 namespace Tool {
@@ -49,6 +47,7 @@ Findings findingsOf(Description description, Varo::Model::LintOptions const& opt
     if (description.reading.robot == nullptr) {
         return std::move(description.reading.findings);
     }
+    Progress const progress("Checking " + description.file);
     Findings findings = Varo::Model::lint(*description.reading.robot, options);
     if (meshFolders != nullptr) {
         append(findings, missingMeshes(*description.reading.robot, *meshFolders));
@@ -159,16 +158,6 @@ int check(Options const& options)
     return isBad ? exitStatus::bad : exitStatus::fine;
 }
 
-bool parseTolerance(std::string const& text, double& tolerance)
-{
-    double value = 0.0;
-    char const* const end = text.data() + text.size();
-    auto const [stop, error] = std::from_chars(text.data(), end, value);
-    bool const isTolerance = error == std::errc() && stop == end && std::isfinite(value) && value >= 0.0;
-    tolerance = isTolerance ? value : tolerance;
-    return isTolerance;
-}
-
 void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
 {
     struct Tolerance {
@@ -184,14 +173,7 @@ void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
              {"--tolerance-limit", tolerances.limit,
               "How far limits and the angles of postures may be out, in rad (m)"},
          }) {
-        auto const read = [&value = each.value](std::string const& text) {
-            if (!parseTolerance(text, value)) {
-                throw CLI::ValidationError("A tolerance is a number that is not negative, not " + text);
-            }
-        };
-        app.add_option_function<std::string>(each.option, read, each.meaning)
-            ->type_name("NUMBER")
-            ->default_str(rounded(each.value));
+        declareTolerance(app, each.option, each.value, each.meaning);
     }
 }
 

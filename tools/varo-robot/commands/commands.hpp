@@ -37,6 +37,7 @@ extern Command const massCommand;
 extern Command const graphCommand;
 extern Command const dumpCommand;
 extern Command const convertCommand;
+extern Command const diffCommand;
 extern Command const viewCommand;
 extern Command const helpCommand;
 
@@ -47,6 +48,10 @@ void declareFile(CLI::App& app, std::string& file);
 void putFileLast(std::string& other, std::string& file);
 /// Declares --no-infer.
 void declareReading(CLI::App& app, Varo::Model::ModelUtils::ReadOptions& options);
+/// Declares an option that says how far numbers may differ.
+void declareTolerance(CLI::App& app, char const* option, double& tolerance, char const* meaning);
+/// Declares --wide, of commands that print tables or trees.
+void declareWide(CLI::App& app, bool& wide);
 /// Declares --json.
 void declareJson(CLI::App& app, bool& json, char const* what);
 

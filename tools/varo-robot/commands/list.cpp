@@ -20,6 +20,7 @@ struct Options {
     std::string file;
     Varo::Model::ModelUtils::ReadOptions reading;
     bool json = false;
+    bool wide = false;
 };
 
 std::string cellOf(Json const& element, Column const& column, LinkNames const& names)
@@ -33,7 +34,7 @@ std::string cellOf(Json const& element, Column const& column, LinkNames const& n
     return column.isLink ? names.of(text) : text;
 }
 
-void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames const& names)
+void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames const& names, bool wide)
 {
     std::vector<Row> rows(1);
     for (Column const& column : kind.columns) {
@@ -46,7 +47,7 @@ void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames
         }
         rows.push_back(std::move(row));
     }
-    printTable(rows);
+    printTable(std::move(rows), wide);
 }
 
 void printForPrograms(std::vector<Json> const& elements)
@@ -99,7 +100,7 @@ int list(Options options)
     Robot const robot = loadRobot(options.file, options.reading);
     Sim::Model const& model = robot.model;
     std::vector<Json> const elements = kind->elements(model);
-    options.json ? printForPrograms(elements) : printForEyes(*kind, elements, LinkNames(model));
+    options.json ? printForPrograms(elements) : printForEyes(*kind, elements, LinkNames(model), options.wide);
     return exitStatus::fine;
 }
 
@@ -109,6 +110,7 @@ std::function<int()> declare(CLI::App& app)
     app.add_option("KIND", options->kind, "What to list, in the plural or the singular")->type_name("")->required();
     declareFile(app, options->file);
     declareReading(app, options->reading);
+    declareWide(app, options->wide);
     app.add_flag("--json", options->json, "Print a JSON array of the elements, each as `dump` prints it");
     app.footer(listCommand.details + ("\n\nKinds:\n" + knownKinds()));
     return [options] { return list(*options); };
@@ -120,7 +122,8 @@ Command const listCommand = {"list", "List the elements of one kind as a table",
                              R"(Prints a table with a line for each element of the kind, in the order in which
 the model made them: "-" stands for none, positions are those in the root frame
 (m), numbers are in SI units. Links have the names that the description gives
-them. FILE may stand before KIND, too.
+them. FILE may stand before KIND, too. On a terminal, cells
+that would not fit end with an ellipsis, unless --wide is given.
 
 Examples:
   varo-robot list joints robots/humanoid.xml

@@ -20,6 +20,7 @@ struct Options {
     std::vector<std::string> names;
     MotionOptions motion;
     bool json = false;
+    bool wide = false;
 };
 
 struct NamedPose {
@@ -45,13 +46,13 @@ std::vector<NamedPose> posesOf(Options const& options, Sim::Model const& model, 
     return poses;
 }
 
-void printForEyes(std::vector<NamedPose> const& poses, bool degrees)
+void printForEyes(std::vector<NamedPose> const& poses, Options const& options)
 {
     std::vector<Row> rows = {{"NAME", "POSE"}};
     for (auto const& [name, pose] : poses) {
-        rows.push_back({name, poseText(pose, degrees)});
+        rows.push_back({name, poseText(pose, options.motion.degrees)});
     }
-    printTable(rows);
+    printTable(std::move(rows), options.wide);
 }
 
 Json poseJson(std::vector<NamedPose> const& poses)
@@ -81,7 +82,7 @@ int pose(Options options)
         printJson(std::cout, data);
         std::cout << '\n';
     } else {
-        printForEyes(poses, options.motion.degrees);
+        printForEyes(poses, options);
     }
     return exitStatus::fine;
 }
@@ -94,6 +95,7 @@ std::function<int()> declare(CLI::App& app)
         ->type_name("");
     declareMotion(app, options->motion);
     declareReference(app, options->motion);
+    declareWide(app, options->wide);
     declareJson(app, options->json, "the configuration and the poses");
     return [options] { return pose(*options); };
 }

@@ -12,6 +12,7 @@
 #include "support/meshes.hpp"
 #include "support/moved_robot.hpp"
 #include "support/output_file.hpp"
+#include "support/progress.hpp"
 #include "view/embedding.hpp"
 #include "view/page.hpp"
 #include "view/shape_uris.hpp"
@@ -53,6 +54,7 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
 {
     Json data = Json::object();
     Varo::Model::Findings findings;
+    auto const progress = std::make_unique<Progress>("Reading meshes and images");
     for (std::string const& uri : uris) {
         Json entry = read(uri);
         if (entry.contains("reason")) {
@@ -62,6 +64,7 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
         }
         data[uri] = std::move(entry);
     }
+    progress.reset();  // before anything else is printed
     printFindings(std::cerr, file, findings);
     return data;
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/finding_text.hpp"
+#include "support/progress.hpp"
 #include "zu/log.hpp"
 
 namespace Tool {
@@ -65,6 +66,7 @@ Description readDescription(std::string const& file, Varo::Model::ModelUtils::Re
 {
     Description description;
     description.file = file == "-" ? "<stdin>" : file;
+    Progress const progress("Reading " + description.file);
     std::string text;
     int const error = readText(file, text);
     Findings& findings = description.reading.findings;
@@ -89,11 +91,21 @@ Description readAccepted(std::string const& file, Varo::Model::ModelUtils::ReadO
     return description;
 }
 
+namespace {
+
+Sim::Model modelOf(Description&& description)
+{
+    Progress const progress("Building the model of " + description.file);
+    return Sim::Model(std::move(description.reading));
+}
+
+}  // namespace
+
 Robot loadRobot(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options)
 {
     Description description = readAccepted(file, options);
     try {
-        Robot robot = {description.file, Sim::Model(std::move(description.reading))};
+        Robot robot = {description.file, modelOf(std::move(description))};
         Findings findings = robot.model.findings();
         auto const isOther = [](Finding const& finding) { return finding.code != codes::modelIncomplete; };
         findings.erase(std::remove_if(findings.begin(), findings.end(), isOther), findings.end());

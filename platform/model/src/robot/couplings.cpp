@@ -28,7 +28,7 @@ struct MimicNotes {
 };
 
 /// The joint that this one mimics; none for a mimic without a meaning.
-std::size_t findLeader(LinkTree const& tree, Joint const& follower, MimicNotes& notes, Diagnostics& diagnostics)
+std::size_t findLeader(LinkTree& tree, Joint const& follower, MimicNotes& notes, Diagnostics& diagnostics)
 {
     Mimic const& mimic = follower.mimic;
     if (!mimic.textOffset.isKnown()) {
@@ -43,7 +43,8 @@ std::size_t findLeader(LinkTree const& tree, Joint const& follower, MimicNotes& 
         diagnostics.report(mimic.leader.offset, codes::unknownLeader,
                            mimic.leader.name.empty()
                                ? "This mimic does not say which joint it follows: the joint moves on its own."
-                               : "There is no joint " + quoted(mimic.leader.name) + ": this one moves on its own.");
+                               : "There is no joint " + quoted(mimic.leader.name) + ": this one moves on its own.",
+                           didYouMean(tree.closestJoint(mimic.leader.name)));
         return none;
     }
     if (!tree.joints[leader].moves()) {

@@ -2,7 +2,6 @@
 #include <charconv>
 #include <cmath>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "rules/numbers.hpp"
@@ -84,45 +83,28 @@ void findNegative(Facts const& facts, Report const& report, float JointConfig::*
     }
 }
 
-class StartAngles {
-public:
-    explicit StartAngles(std::vector<PostureConfig> const& postures)
-    {
-        for (PostureConfig const& posture : postures) {
-            for (PostureAngle const& angle : posture.angles) {
-                if (posture.name == "StandInit") {
-                    _stated.emplace(angle.name, &angle);
-                }
-            }
-        }
+template <class Driven>
+void checkStart(Facts const& facts, Report const& report, Driven const& driven)
+{
+    auto const stated = facts.startAngles.find(driven.name);
+    bool const isStated = stated != facts.startAngles.end();
+    double const angle = isStated ? static_cast<double>(stated->second->value) : 0.0;
+    double const min = static_cast<double>(driven.minAngle) - facts.tolerances.limit;
+    double const max = static_cast<double>(driven.maxAngle) + facts.tolerances.limit;
+    bool const isReversed = driven.minAngle > driven.maxAngle;
+    if (isReversed || (angle >= min && angle <= max)) {
+        return;
     }
-
-    template <class Driven>
-    void check(Facts const& facts, Report const& report, Driven const& driven) const
-    {
-        auto const stated = _stated.find(driven.name);
-        bool const isStated = stated != _stated.end();
-        double const angle = isStated ? static_cast<double>(stated->second->value) : 0.0;
-        double const min = static_cast<double>(driven.minAngle) - facts.tolerances.limit;
-        double const max = static_cast<double>(driven.maxAngle) + facts.tolerances.limit;
-        bool const isReversed = driven.minAngle > driven.maxAngle;
-        if (isReversed || (angle >= min && angle <= max)) {
-            return;
-        }
-        std::string const message = "The start angle of " + quoted(driven.name) + ", " +
-                                    shortest(static_cast<float>(angle)) + ", is outside its limits, " +
-                                    rangeText(driven.minAngle, driven.maxAngle) + ".";
-        if (isStated) {
-            report.at(*stated->second, Part::value, message);
-        } else {
-            report.at(driven, angle < min ? Part::minimum : Part::maximum, message,
-                      "An angle that the posture StandInit does not state is 0.");
-        }
+    std::string const message = "The start angle of " + quoted(driven.name) + ", " +
+                                shortest(static_cast<float>(angle)) + ", is outside its limits, " +
+                                rangeText(driven.minAngle, driven.maxAngle) + ".";
+    if (isStated) {
+        report.at(*stated->second, Part::value, message);
+    } else {
+        report.at(driven, angle < min ? Part::minimum : Part::maximum, message,
+                  "An angle that the posture StandInit does not state is 0.");
     }
-
-private:
-    std::unordered_map<std::string_view, PostureAngle const*> _stated;
-};
+}
 
 /// Calls `visit` with what moves under that name: an actuator's limits hide those of a joint of the same name.
 template <class Visit>
@@ -193,11 +175,10 @@ void findStartOutsideLimits(Facts const& facts, Report const& report)
     if (!facts.records->statesPostures) {
         return;  // the zero position is but one of reference
     }
-    StartAngles const starts(facts.records->postures);
     std::unordered_set<std::string_view> checked;
     for (std::string const* name : angleNames(*facts.records)) {
         if (checked.insert(*name).second) {
-            visitDriven(*facts.records, *name, [&](auto const& driven) { starts.check(facts, report, driven); });
+            visitDriven(*facts.records, *name, [&](auto const& driven) { checkStart(facts, report, driven); });
         }
     }
 }

@@ -24,7 +24,7 @@ void translateAxis(Joint const& stated, Matrix& axis, Diagnostics& diagnostics)
 /// Those of a joint that turns or slides within limits.
 void checkLimits(Joint const& stated, Diagnostics& diagnostics)
 {
-    std::string const hint = "Give it a limit element, or the type continuous.";
+    static constexpr char hint[] = "Give it a limit element, or the type continuous.";
     if (!stated.limit) {
         diagnostics.report(at(stated.node), codes::missingLimit, "This joint states no limits; it stays at 0.", hint);
         return;
@@ -100,15 +100,16 @@ void translateExtras(Joint const& stated, JointConfig& config)
 }
 
 /// The link that is the joint's parent or child, which `role` says.
-Reference toReference(Joint const& joint, std::optional<LinkReference> const& link, std::string const& role,
+Reference toReference(Joint const& joint, std::optional<LinkReference> const& link, char const* role,
                       Diagnostics& diagnostics)
 {
     pugi::xml_node const node = link ? link->node : joint.node;
     if (link && node.attribute("link")) {
         return {link->link, at(node, "link")};
     }
-    diagnostics.report(at(node), codes::unattachedJoint, "This joint does not say which link is its " + role + ".",
-                       "Write <" + role + " link=\"...\"/>.");
+    diagnostics.report(at(node), codes::unattachedJoint,
+                       "This joint does not say which link is its " + std::string(role) + ".",
+                       "Write <" + std::string(role) + " link=\"...\"/>.");
     return {};
 }
 
@@ -131,9 +132,8 @@ void translateType(Joint const& stated, JointConfig& config)
 
 }  // namespace
 
-Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics)
+void translateJoint(Joint const& stated, Model::Joint& joint, Diagnostics& diagnostics)
 {
-    Model::Joint joint;
     joint.config.name = stated.name;
     joint.config.textOffset = at(stated.node);
     joint.nameOffset = at(stated.node, "name");
@@ -150,7 +150,6 @@ Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics)
     }
     joint.parent = toReference(stated, stated.parent, "parent", diagnostics);
     joint.child = toReference(stated, stated.child, "child", diagnostics);
-    return joint;
 }
 
 }  // namespace Varo::Model::Urdf

@@ -35,6 +35,7 @@ private:
     };
 
     bool read(pugi::xml_node node, Carrier carrier);
+    void reportDangling(pugi::xml_node gazebo, pugi::xml_attribute reference);
     bool findParent(Carrier carrier, std::string& parent) const;
     void fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor);
     Pose readPose(pugi::xml_node node, std::string_view carrier);

@@ -1,5 +1,7 @@
 #include "urdf/tolerant_reader.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "native/amendment.hpp"
@@ -26,10 +28,9 @@ void reportUnknownType(TextOffset place, std::string_view value, Diagnostics& di
                        std::string(jointTypeHint));
 }
 
-/// Elements of the robot that others than the tables read.
 bool isReadElsewhere(std::string_view name)
 {
-    return name == "sensor" || name == "gazebo" || name == "ros2_control";
+    return std::find(std::begin(readElsewhere), std::end(readElsewhere), name) != std::end(readElsewhere);
 }
 
 /// Numbers that are ones, as many as there should be, but not such as there should be.

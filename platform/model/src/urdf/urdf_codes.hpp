@@ -62,6 +62,9 @@ inline constexpr FindingCode badReduction{"bad-reduction", Severity::warning,
                                           "The reduction of a transmission is no number other than 0; 1 is assumed."};
 inline constexpr FindingCode unknownDrivenJoint{"unknown-driven-joint", Severity::warning,
                                                 "A transmission or control system drives a joint that does not exist."};
+inline constexpr FindingCode unknownReference{
+    "unknown-reference", Severity::warning,
+    "What is said of a link or joint for other programs names none, but nearly one that there is."};
 inline constexpr FindingCode sensorKind{"sensor-kind", Severity::note,
                                         "Sensors of a kind that models have no class for."};
 
@@ -99,9 +102,9 @@ inline constexpr FindingCode const* ofDialect[] = {
     &missingAttribute, &surplusElement,  &unknownAttribute,   &unknownElement,     &misplacedElement, &unexpectedText,
     &jointFrozen,      &missingLimit,    &reversedLimits,     &incompleteInertial, &incompleteShape,  &negativeLength,
     &colorRange,       &unknownMaterial, &duplicateMaterial,  &sensorLost,         &sensorFrame,      &sensorSize,
-    &badSetting,       &badReduction,    &unknownDrivenJoint, &sensorKind,         &foreignAttribute, &notUrdf,
-    &beyondRoot,       &beyondJoint,     &beyondSensor,       &beyondPrettyName,   &beyondChain,      &beyondActuator,
-    &beyondWheel,      &beyondPosture,   &beyondTransmission, &beyondExtension,
+    &badSetting,       &badReduction,    &unknownDrivenJoint, &unknownReference,   &sensorKind,       &foreignAttribute,
+    &notUrdf,          &beyondRoot,      &beyondJoint,        &beyondSensor,       &beyondPrettyName, &beyondChain,
+    &beyondActuator,   &beyondWheel,     &beyondPosture,      &beyondTransmission, &beyondExtension,
 };
 
 }  // namespace Varo::Model::Urdf::codes

@@ -41,6 +41,8 @@ constexpr PartPlace parts[] = {
     {Part::damping, "damping", "dynamics"},
     {Part::friction, "friction", "dynamics"},
     {Part::mimic, {}, "mimic"},
+    {Part::geometry, {}, "visual/geometry/mesh", "link"},
+    {Part::geometry, {}, "geometry/mesh|box|cylinder|sphere|capsule"},
 };
 
 class Reader {
@@ -116,7 +118,7 @@ void Reader::fillTree()
     _tree.joints.reserve(_stated.joints.size());
     KindNote frozen;
     for (Joint const& joint : _stated.joints) {
-        _tree.joints.push_back(toJoint(joint, _diagnostics));
+        translateJoint(joint, _tree.joints.emplace_back(), _diagnostics);
         if (joint.type == planar || joint.type == floating) {
             frozen.add(at(joint.node, "type"), joint.name);
         }
