@@ -86,10 +86,10 @@ char const legs[] = R"(<robotDescription name="Walker" version="2.1">
   <prettyName>The Walker</prettyName>
   <root name="Pelvis" mesh="pelvis.dae"><mass value="4.5" com="0 0 -0.01"/></root>
   <joint name="LHip" min="-1.1" max="unlimited" maxSpeed="6" mesh="thigh.dae">
-    <placement xyz="0 0.1 -0.05"/><mass value="1.25"/><mirror name="RHip"/>
+    <placement xyz="0 0.1 -0.05"/><mass value="1.25" inertia="0.01 0 0 0 0.01 0 0 0 0.01"/><mirror name="RHip"/>
   </joint>
   <joint name="RHip" min="-1.1" max="unlimited" maxSpeed="6" mesh="thigh.dae">
-    <placement xyz="0 -0.1 -0.05"/><mass value="1.25"/><mirror name="LHip"/>
+    <placement xyz="0 -0.1 -0.05"/><mass value="1.25" inertia="0.01 0 0 0 0.01 0 0 0 0.01"/><mirror name="LHip"/>
   </joint>
   <chain name="LLeg" parent="Pelvis"><jointRef name="LHip"/></chain>
   <chain name="RLeg" parent="Pelvis"><jointRef name="RHip"/></chain>
