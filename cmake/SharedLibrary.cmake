@@ -32,6 +32,9 @@ set_target_properties(varorobotmodel PROPERTIES
 )
 # Installed programs find the library beside them, wherever the tree stands.
 set(CMAKE_INSTALL_RPATH $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+# The same beside the build tree's own path: CMake would fill up a shorter one with an empty entry, which stands for the
+# folder that a program is started in.
+set(CMAKE_BUILD_RPATH ${CMAKE_INSTALL_RPATH})
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/varorobotmodel)
 install(TARGETS varorobotmodel EXPORT varorobotmodelTargets)

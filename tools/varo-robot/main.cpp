@@ -3,12 +3,15 @@
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <new>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
+#include "support/visible_text.hpp"
 #include "varo/model/spelling.hpp"
 
 namespace Tool {
@@ -80,6 +83,17 @@ void suggestOption(CLI::App const& command)
     }
 }
 
+/// Says what is wrong with the arguments, or prints the help that they ask for. The answer is 0 for the latter.
+int explain(CLI::App const& app, CLI::Error const& error)
+{
+    std::ostringstream out;
+    std::ostringstream err;
+    int const status = app.exit(error, out, err);
+    std::cout << out.str();
+    std::cerr << visibleLines(err.str());
+    return status;
+}
+
 /// The answer is the exit status.
 int runChosen(std::function<int()> const& chosen)
 {
@@ -110,13 +124,13 @@ int run(int argumentCount, char** arguments)
     } catch (CLI::RequiredError const& error) {
         std::vector<std::string> const unknown = app.remaining();
         if (!unknown.empty()) {
-            std::cerr << "There is no command \"" << unknown.front() << "\".\n";
+            std::cerr << "There is no command \"" << visible(unknown.front()) << "\".\n";
             suggestCommand(unknown.front());
         }
-        app.exit(error);
+        explain(app, error);
         return exitStatus::wrongUsage;
     } catch (CLI::ParseError const& error) {
-        bool const isFine = app.exit(error) == 0;
+        bool const isFine = explain(app, error) == 0;
         for (CLI::App const* command : app.get_subcommands()) {
             suggestOption(*command);
         }
@@ -134,8 +148,10 @@ int main(int argumentCount, char** arguments)
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
     try {
         return Tool::run(argumentCount, arguments);
-    } catch (std::exception const& error) {  // want of memory, say
-        std::fprintf(stderr, "varo-robot: error: %s\n", error.what());
+    } catch (std::bad_alloc const&) {
+        std::fputs("varo-robot: error: not enough memory\n", stderr);
+    } catch (std::exception const& error) {
+        std::fprintf(stderr, "varo-robot: error: %s\n", Tool::visible(error.what()).c_str());
     }
     return Tool::exitStatus::bad;
 }

@@ -9,6 +9,7 @@
 #include "support/kinds.hpp"
 #include "support/link_names.hpp"
 #include "support/table.hpp"
+#include "support/visible_text.hpp"
 #include "varo/model/spelling.hpp"
 
 namespace Tool {
@@ -46,7 +47,7 @@ void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames
         }
         rows.push_back(std::move(row));
     }
-    printTable(rows);
+    printTable(std::move(rows));
 }
 
 void printForPrograms(std::vector<Json> const& elements)
@@ -88,8 +89,8 @@ int list(Options const& options)
 {
     Kind const* const kind = findKind(options.kind);
     if (kind == nullptr) {
-        std::cerr << "There are no elements of the kind \"" << options.kind << "\"." << suggestion(options.kind)
-                  << " Known kinds:\n"
+        std::cerr << "There are no elements of the kind \"" << visible(options.kind) << "\"."
+                  << suggestion(options.kind) << " Known kinds:\n"
                   << knownKinds() << '\n';
         return exitStatus::wrongUsage;
     }

@@ -87,7 +87,7 @@ void printParts(char const* title, std::vector<Part> const& parts)
     for (Part const& part : parts) {
         rows.push_back(rowOf(part.name, part.mass, part.centerOfMass()));
     }
-    printTable(rows);
+    printTable(std::move(rows));
     std::cout << '\n';
 }
 

@@ -51,7 +51,7 @@ void printForEyes(std::vector<NamedPose> const& poses, bool degrees)
     for (auto const& [name, pose] : poses) {
         rows.push_back({name, poseText(pose, degrees)});
     }
-    printTable(rows);
+    printTable(std::move(rows));
 }
 
 Json poseJson(std::vector<NamedPose> const& poses)

@@ -12,6 +12,7 @@
 #include "support/meshes.hpp"
 #include "support/moved_robot.hpp"
 #include "support/output_file.hpp"
+#include "support/visible_text.hpp"
 #include "view/embedding.hpp"
 #include "view/page.hpp"
 #include "view/shape_uris.hpp"
@@ -112,7 +113,7 @@ int view(Options const& options)
     Robot const robot = loadRobot(options.file);
     std::string const page = options.page.empty() ? pageFor(options.file) : options.page;
     writeFile(page, pageOf(viewerPage(), jsonOf(robot, options)), Existing::isReplaced);
-    std::cout << page << '\n';
+    std::cout << visible(page) << '\n';
     return options.open ? openInBrowser(page) : exitStatus::fine;
 }
 

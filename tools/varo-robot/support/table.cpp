@@ -6,11 +6,17 @@
 #include <unistd.h>
 
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
-void printTable(std::vector<Row> const& rows)
+void printTable(std::vector<Row> rows)
 {
+    for (Row& row : rows) {
+        for (std::string& cell : row) {
+            cell = visible(cell);
+        }
+    }
     std::vector<std::size_t> widths(rows.front().size());
     for (Row const& row : rows) {
         for (std::size_t i = 0; i < row.size(); ++i) {

@@ -8,9 +8,9 @@ namespace Tool {
 
 using Row = std::vector<std::string>;
 
-/// Prints rows under each other on standard output, all columns but the last padded to one width. The first row holds
-/// the titles.
-void printTable(std::vector<Row> const& rows);
+/// Prints rows of any text under each other on standard output, all columns but the last padded to one width. The first
+/// row holds the titles.
+void printTable(std::vector<Row> rows);
 
 }  // namespace Tool
 
