@@ -83,7 +83,7 @@ Attempt attempt(Work const& work)
 }
 
 /// Of so many of its allocations each piece of work is tried; they lie evenly among all.
-constexpr std::size_t mostAttempts = 400;
+constexpr std::size_t mostAttempts = 150;
 
 /// Lets the first allocation of the work fail, then a later one, and so on until there is none any more.
 template <class Work>

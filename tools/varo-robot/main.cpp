@@ -1,6 +1,7 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
@@ -139,6 +140,28 @@ int run(int argumentCount, char** arguments)
     return runChosen(chosen);
 }
 
+/// The status with which the tool ends for this.
+int sayLackOfMemory()
+{
+    std::fputs("varo-robot: error: not enough memory\n", stderr);
+    return exitStatus::bad;
+}
+
+/// Destructors of JSON need memory, and cannot say that there is none in another way.
+[[noreturn]] void endInTheMiddle()
+{
+    try {
+        if (std::exception_ptr const reason = std::current_exception()) {
+            std::rethrow_exception(reason);
+        }
+    } catch (std::bad_alloc const&) {
+        std::_Exit(sayLackOfMemory());
+    } catch (...) {
+        // A fault of the tool.
+    }
+    std::abort();
+}
+
 }  // namespace
 
 }  // namespace Tool
@@ -146,10 +169,11 @@ int run(int argumentCount, char** arguments)
 int main(int argumentCount, char** arguments)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
+    std::set_terminate(Tool::endInTheMiddle);
     try {
         return Tool::run(argumentCount, arguments);
     } catch (std::bad_alloc const&) {
-        std::fputs("varo-robot: error: not enough memory\n", stderr);
+        return Tool::sayLackOfMemory();
     } catch (std::exception const& error) {
         std::fprintf(stderr, "varo-robot: error: %s\n", Tool::visible(error.what()).c_str());
     }

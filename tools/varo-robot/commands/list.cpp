@@ -34,29 +34,28 @@ std::string cellOf(Json const& element, Column const& column, LinkNames const& n
     return column.isLink ? names.of(text) : text;
 }
 
-void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames const& names)
+void printForEyes(Kind const& kind, Sim::Model const& model)
 {
+    LinkNames const names(model);
     std::vector<Row> rows(1);
     for (Column const& column : kind.columns) {
         rows.front().emplace_back(column.title);
     }
-    for (Json const& element : elements) {
+    kind.visit(model, [&](Json&& element) {
         Row row;
         for (Column const& column : kind.columns) {
             row.push_back(cellOf(element, column, names));
         }
         rows.push_back(std::move(row));
-    }
+    });
     printTable(std::move(rows));
 }
 
-void printForPrograms(std::vector<Json> const& elements)
+void printForPrograms(Kind const& kind, Sim::Model const& model)
 {
     {
         JsonStream array(std::cout, '[');
-        for (Json const& element : elements) {
-            array.add(element);
-        }
+        kind.visit(model, [&array](Json&& element) { array.add(element); });
     }
     std::cout << '\n';
 }
@@ -95,9 +94,7 @@ int list(Options const& options)
         return exitStatus::wrongUsage;
     }
     Robot const robot = loadRobot(options.file, options.reading);
-    Sim::Model const& model = robot.model;
-    std::vector<Json> const elements = kind->elements(model);
-    options.json ? printForPrograms(elements) : printForEyes(*kind, elements, LinkNames(model));
+    options.json ? printForPrograms(*kind, robot.model) : printForEyes(*kind, robot.model);
     return exitStatus::fine;
 }
 

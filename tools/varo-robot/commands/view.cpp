@@ -52,7 +52,7 @@ std::string pageFor(std::string const& file)
 template <class Read>
 Json embedded(std::set<std::string> const& uris, std::string const& file, Read const& read)
 {
-    Json data = Json::object();
+    Members data;
     Varo::Model::Findings findings;
     for (std::string const& uri : uris) {
         Json entry = read(uri);
@@ -61,10 +61,10 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
             findings.push_back(
                 fileFinding(Severity::warning, codes::meshNotShown, "\"" + uri + "\" is not shown. " + reason));
         }
-        data[uri] = std::move(entry);
+        data.set(uri, std::move(entry));
     }
     printFindings(std::cerr, file, findings);
-    return data;
+    return data.take();
 }
 
 std::string jsonOf(Robot const& robot, Options const& options)
