@@ -31,7 +31,10 @@ std::string everythingOf(std::string const& text)
     if (reading.robot == nullptr) {
         return out;
     }
-    out += Varo::Model::ModelUtils::toXml(*reading.robot) + Varo::Model::ModelUtils::toUrdf(*reading.robot);
+    out += Varo::Model::ModelUtils::toXml(*reading.robot);
+    if (reading.robot->dialect() == "urdf") {  // of others it searches long for short poses
+        out += Varo::Model::ModelUtils::toUrdf(*reading.robot);
+    }
     append(out, lint(*reading.robot));
     Sim::Model const model(std::move(reading));
     append(out, model.findings());
