@@ -37,11 +37,16 @@ if(NOT VAROROBOTMODEL_SANITIZE)
     add_compile_options($<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=2>)
 endif()
 
+# For those who only build it: another compiler, or one that optimises in another way, may warn of more.
+option(VAROROBOTMODEL_WERROR "Take warnings for errors" ON)
+set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(VAROROBOTMODEL_WERROR)
+    list(APPEND warnings -Werror)
+endif()
 
 add_library(varo_build_flags INTERFACE)
 if(PROJECT_IS_TOP_LEVEL)
-    target_compile_options(varo_build_flags INTERFACE
-        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    target_compile_options(varo_build_flags INTERFACE ${warnings})
 endif()
 if(VAROROBOTMODEL_SANITIZE)
     add_compile_options(-fsanitize=${VAROROBOTMODEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

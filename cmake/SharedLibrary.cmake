@@ -31,13 +31,15 @@ set_target_properties(varorobotmodel PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}  # before 1.0 every minor version may break the ABI
 )
 # Installed programs find the library beside them, wherever the tree stands.
-set(CMAKE_INSTALL_RPATH $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+file(RELATIVE_PATH library_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+set(CMAKE_INSTALL_RPATH $ORIGIN/${library_from_programs})
 # The same beside the build tree's own path: CMake would fill up a shorter one with an empty entry, which stands for the
 # folder that a program is started in.
 set(CMAKE_BUILD_RPATH ${CMAKE_INSTALL_RPATH})
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/varorobotmodel)
-install(TARGETS varorobotmodel EXPORT varorobotmodelTargets)
+install(TARGETS varorobotmodel EXPORT varorobotmodelTargets
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT development)
 install(EXPORT varorobotmodelTargets NAMESPACE varorobotmodel:: DESTINATION ${package_folder})
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/varorobotmodelConfig.cmake.in varorobotmodelConfig.cmake
     INSTALL_DESTINATION ${package_folder})

@@ -2,6 +2,7 @@
 # without it, and says so.
 set(VAROROBOTMODEL_VIEWER AUTO CACHE STRING "Build the page of varo-robot view: ON, OFF, or AUTO, if npm is there")
 set_property(CACHE VAROROBOTMODEL_VIEWER PROPERTY STRINGS AUTO ON OFF)
+set(VAROROBOTMODEL_VIEWER_PAGE "" CACHE FILEPATH "The page itself, if it was bundled before: no npm is needed then")
 set(viewer_page_folder ${CMAKE_CURRENT_LIST_DIR})
 
 # Writes build/.../viewer/page.html.
@@ -22,7 +23,9 @@ function(add_viewer_page target)
     find_program(VAROROBOTMODEL_NODE node)
     find_program(VAROROBOTMODEL_NPM npm)
     set(page "")
-    if(VAROROBOTMODEL_NODE AND VAROROBOTMODEL_NPM AND VAROROBOTMODEL_VIEWER)
+    if(VAROROBOTMODEL_VIEWER_PAGE)
+        set(page ${VAROROBOTMODEL_VIEWER_PAGE})
+    elseif(VAROROBOTMODEL_NODE AND VAROROBOTMODEL_NPM AND VAROROBOTMODEL_VIEWER)
         set(page ${CMAKE_CURRENT_BINARY_DIR}/viewer/page.html)
         build_viewer_page(${page})
     elseif(VAROROBOTMODEL_VIEWER STREQUAL ON)

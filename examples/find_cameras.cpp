@@ -10,7 +10,8 @@
 int main(int count, char** arguments)
 try {
     if (count != 2) {
-        throw std::invalid_argument("Usage: find_cameras FILE");
+        std::cerr << "Usage: find_cameras FILE\n";
+        return 2;
     }
     Sim::Model const model(arguments[1]);
     for (Sim::CameraSensor const* const camera : model.cameraSensors()) {
@@ -20,6 +21,11 @@ try {
                   << pose(1, 3) << ' ' << pose(2, 3) << " m along " << pose(0, 0) << ' ' << pose(1, 0) << ' '
                   << pose(2, 0) << ", " << camera->width() << " by " << camera->height() << " pixels\n";
     }
+} catch (Varo::Model::WithFindings const& refused) {
+    for (Varo::Model::Finding const& finding : refused.findings()) {
+        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
+    }
+    return 1;
 } catch (std::exception const& error) {
     std::cerr << error.what() << '\n';
     return 1;

@@ -9,7 +9,8 @@
 int main(int count, char** arguments)
 try {
     if (count != 2) {
-        throw std::invalid_argument("Usage: list_actuators FILE");
+        std::cerr << "Usage: list_actuators FILE\n";
+        return 2;
     }
     Sim::Model const model(arguments[1]);
     for (Sim::AngleActuator const* const actuator : model.angleActuators()) {
@@ -20,6 +21,11 @@ try {
         }
         std::cout << '\n';
     }
+} catch (Varo::Model::WithFindings const& refused) {
+    for (Varo::Model::Finding const& finding : refused.findings()) {
+        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
+    }
+    return 1;
 } catch (std::exception const& error) {
     std::cerr << error.what() << '\n';
     return 1;

@@ -19,7 +19,8 @@ void print(char const* what, double const* vector, char const* unit)
 int main(int count, char** arguments)
 try {
     if (count != 4) {
-        throw std::invalid_argument("Usage: move_hand FILE POSTURE NAME");
+        std::cerr << "Usage: move_hand FILE POSTURE NAME\n";
+        return 2;
     }
     Sim::Model const model(arguments[1]);
     Sim::Kinematics const kinematics(model);
@@ -40,6 +41,11 @@ try {
         print(": ", &ofHand[6 * i], " and ");
         print("", &ofMass[3 * i], " m/s per rad/s\n");
     }
+} catch (Varo::Model::WithFindings const& refused) {
+    for (Varo::Model::Finding const& finding : refused.findings()) {
+        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
+    }
+    return 1;
 } catch (std::exception const& error) {
     std::cerr << error.what() << '\n';
     return 1;

@@ -26,7 +26,8 @@ std::string describe(std::vector<Element const*> const& elements)
 int main(int count, char** arguments)
 try {
     if (count != 2) {
-        throw std::invalid_argument("Usage: read_in_threads FILE");
+        std::cerr << "Usage: read_in_threads FILE\n";
+        return 2;
     }
     Sim::Model const model(arguments[1]);
     auto const readAll = [&model] {
@@ -42,6 +43,11 @@ try {
     for (std::future<std::string>& other : others) {
         std::cout << "Another thread read " << (other.get() == mine ? "the same\n" : "something else\n");
     }
+} catch (Varo::Model::WithFindings const& refused) {
+    for (Varo::Model::Finding const& finding : refused.findings()) {
+        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
+    }
+    return 1;
 } catch (std::exception const& error) {
     std::cerr << error.what() << '\n';
     return 1;

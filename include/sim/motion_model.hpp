@@ -17,6 +17,8 @@
 
 namespace Sim {
 
+class ModelImpl;
+
 /// What the key-name tables of MotionModel are filled with.
 VAROROBOTMODEL_API std::vector<std::string> initDcmCommandKeyNames();
 /// The same for the keys of a device's state.
@@ -211,7 +213,19 @@ public:
     /// @}
 
 private:
+    friend class ModelImpl;  // which asks for much, and needs no copies of names
     struct Index;
+
+    // Not part of the library's interface. Names are those of the records.
+    using NameRefs = std::vector<std::string const*>;
+    [[gnu::visibility("hidden")]] std::vector<std::string> const& jointsOf(std::string const& chain) const;
+    [[gnu::visibility("hidden")]] void appendAngleActuators(std::string const& chain, NameRefs& actuators) const;
+    [[gnu::visibility("hidden")]] void appendActuators(std::string const& chain, NameRefs& actuators) const;
+    [[gnu::visibility("hidden")]] void appendCoupledActuators(std::string const& chain, NameRefs& actuators) const;
+    [[gnu::visibility("hidden")]] void appendFollowingJoints(std::string const& joint, NameRefs& following) const;
+    [[gnu::visibility("hidden")]] std::string const& frictionMaterialOf(std::string const& name) const;
+    [[gnu::visibility("hidden")]] bool readLimits(std::string const& name, float& lowest, float& highest,
+                                                  float& fastest) const;
 
     std::unique_ptr<Varo::Model::Robot> _robot;
     std::shared_ptr<Varo::Model::Records const> _records;  // the robot's own where it holds them

@@ -6,7 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
-#include "core/shared_name.hpp"
+#include "core/shared_value.hpp"
 #include "sim/actuator.hpp"
 #include "sim/frame.hpp"
 
@@ -19,7 +19,8 @@ public:
     ActuatorImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name, Actuator::Type type)
         : _frame(frame), _name(name), _type(type)
     {}
-    ActuatorImpl(ActuatorImpl const&) = default;
+    /// Of a copy, which outlives the model.
+    ActuatorImpl(ActuatorImpl const& other) : _frame(other._frame), _name(other._name.kept()), _type(other._type) {}
     ActuatorImpl& operator=(ActuatorImpl const&) = delete;
     virtual ~ActuatorImpl() = default;
 

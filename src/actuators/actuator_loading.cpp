@@ -18,9 +18,7 @@ bool ModelImpl::fetchBasicActuatorInfo(Subject subject, std::string const& name,
                                        float& maxValue, float& maxSpeed)
 {
     require(_motionModel->startAngle(name, startValue), subject, name, "Could not get start value.");
-    require(_motionModel->minAngle(name, minValue), subject, name, "Could not get min value.");
-    require(_motionModel->maxAngle(name, maxValue), subject, name, "Could not get max value.");
-    require(_motionModel->maxAngleSpeed(name, maxSpeed), subject, name, "Could not get max speed.");
+    require(_motionModel->readLimits(name, minValue, maxValue, maxSpeed), subject, name, "Could not get min value.");
     return true;
 }
 
@@ -28,8 +26,12 @@ void ModelImpl::fetchAngleActuators()
 {
     bool const withTorqueAndSpeed =
         name().find("SpecialSimulation") != std::string::npos || name().find("Helvo") != std::string::npos;
-    for (std::string const& actuator : _motionModel->angleActuatorNames()) {
-        fetchAngleActuator(actuator, withTorqueAndSpeed);
+    std::vector<std::string const*> actuators;
+    for (std::string const& chain : _motionModel->chainNames()) {
+        _motionModel->appendAngleActuators(chain, actuators);
+    }
+    for (std::string const* actuator : actuators) {
+        fetchAngleActuator(*actuator, withTorqueAndSpeed);
     }
 }
 
@@ -37,10 +39,10 @@ void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSp
 {
     Transform end;
     _motionModel->endTransformFromJointName(name, end);
-    auto const link = _index->links.find(name + "Link");
+    auto const& link = _index->linkCalledAfter(name);
     require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
-    auto const joint = _index->joints.find(name);
-    SharedName const sharedName = joint == nullptr ? SharedName(name) : joint->_impl->sharedName();
+    auto const& joint = _index->joints.find(name);
+    SharedName const sharedName = SharedName::of(name);
     FramePtr const frame = addFrame(sharedName, end.inverse(), link->_impl->frame());
 
     float startValue = 0.0F;

@@ -66,7 +66,7 @@ bool AngleActuator::reflectionForced() const
 
 AngleActuator const* Model::angleActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<AngleActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<AngleActuator>(name);
 }
 
 std::vector<AngleActuator const*> Model::angleActuators() const

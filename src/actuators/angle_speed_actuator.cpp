@@ -59,7 +59,7 @@ bool AngleSpeedActuator::reflectedSymmetricReversed() const
 
 AngleSpeedActuator const* Model::angleSpeedActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<AngleSpeedActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<AngleSpeedActuator>(name);
 }
 
 std::vector<AngleSpeedActuator const*> Model::angleSpeedActuators() const

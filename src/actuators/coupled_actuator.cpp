@@ -71,7 +71,7 @@ std::vector<std::pair<Joint const*, float>> CoupledActuator::controlledJointAndR
 
 CoupledActuator const* Model::coupledActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<CoupledActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<CoupledActuator>(name);
 }
 
 std::vector<CoupledActuator const*> Model::coupledActuators() const

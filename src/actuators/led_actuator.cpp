@@ -41,7 +41,7 @@ LEDActuator::Color LEDActuator::color() const
 
 LEDActuator const* Model::ledActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<LEDActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<LEDActuator>(name);
 }
 
 std::vector<LEDActuator const*> Model::ledActuators(std::string const& group) const

@@ -58,7 +58,7 @@ bool TorqueActuator::reflectedSymmetricReversed() const
 
 TorqueActuator const* Model::torqueActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<TorqueActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<TorqueActuator>(name);
 }
 
 std::vector<TorqueActuator const*> Model::torqueActuators() const

@@ -36,7 +36,7 @@ Joint const* WheelTorqueActuator::controlledJoint() const
 
 WheelTorqueActuator const* Model::wheelTorqueActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<WheelTorqueActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<WheelTorqueActuator>(name);
 }
 
 std::vector<WheelTorqueActuator const*> Model::wheelTorqueActuators() const

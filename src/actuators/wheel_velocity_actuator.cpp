@@ -36,7 +36,7 @@ Joint const* WheelVelocityActuator::controlledJoint() const
 
 WheelVelocityActuator const* Model::wheelVelocityActuator(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).actuator<WheelVelocityActuator>(name).get();
+    return implOf(_impl, modelErrorMsg).actuator<WheelVelocityActuator>(name);
 }
 
 std::vector<WheelVelocityActuator const*> Model::wheelVelocityActuators() const

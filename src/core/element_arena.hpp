@@ -24,7 +24,7 @@ public:
     template <class T, class... Arguments>
     boost::shared_ptr<T> make(Arguments&&... arguments) const
     {
-        return boost::allocate_shared<T>(Allocator<T>(_memory), std::forward<Arguments>(arguments)...);
+        return boost::allocate_shared<T>(Allocator<T>(*_memory), std::forward<Arguments>(arguments)...);
     }
 
 private:
@@ -54,26 +54,32 @@ private:
         std::size_t _left = 0;  ///< bytes from there to the end of the chunk
     };
 
+    /// Every piece counts as one that refers to the memory, whoever holds a copy of its allocator.
     template <class T>
     class Allocator {
     public:
         using value_type = T;
 
-        explicit Allocator(boost::intrusive_ptr<Memory> memory) : _memory(std::move(memory)) {}
+        explicit Allocator(Memory& memory) : _memory(&memory) {}
         template <class Other>
         Allocator(Allocator<Other> const& other)  // NOLINT(google-explicit-constructor): the allocator requirements
-            : _memory(other.memory())
+            : _memory(&other.memory())
         {}
 
-        T* allocate(std::size_t count) { return static_cast<T*>(_memory->allocate(count * sizeof(T), alignof(T))); }
-        void deallocate(T* /*piece*/, std::size_t /*count*/) {}  // with all others
+        T* allocate(std::size_t count)
+        {
+            void* const piece = _memory->allocate(count * sizeof(T), alignof(T));
+            intrusive_ptr_add_ref(_memory);
+            return static_cast<T*>(piece);
+        }
+        void deallocate(T* /*piece*/, std::size_t /*count*/) { intrusive_ptr_release(_memory); }  // the last frees all
 
-        boost::intrusive_ptr<Memory> const& memory() const { return _memory; }
+        Memory& memory() const { return *_memory; }
         bool operator==(Allocator const& other) const { return _memory == other._memory; }
         bool operator!=(Allocator const& other) const { return _memory != other._memory; }
 
     private:
-        boost::intrusive_ptr<Memory> _memory;
+        Memory* _memory;
     };
 
     boost::intrusive_ptr<Memory> _memory;

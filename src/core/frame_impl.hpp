@@ -6,7 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
-#include "core/shared_name.hpp"
+#include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 
 namespace Sim {

@@ -6,7 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
-#include "core/shared_name.hpp"
+#include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
@@ -35,6 +35,8 @@ public:
     SharedName const& sharedName() const { return _name; }
     boost::shared_ptr<Link> parentLink() const { return _parentLink.lock(); }
     boost::shared_ptr<Link> childLink() const { return _childLink.lock(); }
+    /// What it was made of.
+    JointSource const& source() const { return _source; }
     /// One for all wheels, and one for all sub-joints, says what has no record of its own.
     Varo::Model::JointConfig const& record() const;
     float effort() const { return isWheel() ? _source.wheel->maxTorque : record().maxTorque; }

@@ -4,7 +4,7 @@ namespace Sim {
 
 LinkImpl::LinkImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
                    boost::shared_ptr<Joint> const& parentJoint, boost::shared_ptr<MassData const> const& massData,
-                   std::string const& frictionMaterial, Link::LinkType type,
+                   SharedValue<std::string> const& frictionMaterial, Link::LinkType type,
                    boost::shared_ptr<VisualData const> const& visualData)
     : _frame(frame),
       _name(name),

@@ -8,7 +8,7 @@
 #include <boost/weak_ptr.hpp>
 
 #include "core/body_record.hpp"
-#include "core/shared_name.hpp"
+#include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
@@ -23,7 +23,7 @@ class LinkImpl {
 public:
     LinkImpl(boost::shared_ptr<Frame const> const& frame, SharedName const& name,
              boost::shared_ptr<Joint> const& parentJoint, boost::shared_ptr<MassData const> const& massData,
-             std::string const& frictionMaterial, Link::LinkType type,
+             SharedValue<std::string> const& frictionMaterial, Link::LinkType type,
              boost::shared_ptr<VisualData const> const& visualData);
     virtual ~LinkImpl() = default;
 
@@ -52,7 +52,7 @@ private:
     boost::weak_ptr<Joint> _parentJoint;
     std::vector<boost::weak_ptr<Joint>> _childrenJoints;
     boost::shared_ptr<MassData const> _massData;
-    std::string _frictionMaterial;
+    SharedValue<std::string> _frictionMaterial;
     Link::LinkType _type;
     boost::shared_ptr<VisualData const> _visualData;
     BodyRecord _body;

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/shared_value.hpp"
 #include "sim/mass_data.hpp"
 
 namespace Sim {
@@ -12,7 +13,7 @@ inline constexpr char massDataErrorMsg[] = "Could not query MassData as it seems
 
 class MassDataImpl {
 public:
-    MassDataImpl(float mass, Varo::Math::Position3D CoM, std::vector<float> inertiaMatrix)
+    MassDataImpl(float mass, Varo::Math::Position3D CoM, SharedValue<std::vector<float>> inertiaMatrix)
         : _mass(mass), _com(CoM), _inertiaMatrix(std::move(inertiaMatrix))
     {}
 
@@ -23,7 +24,7 @@ public:
 private:
     float _mass;
     Varo::Math::Position3D _com;
-    std::vector<float> _inertiaMatrix;
+    SharedValue<std::vector<float>> _inertiaMatrix;
 };
 
 }  // namespace Sim

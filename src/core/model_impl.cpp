@@ -1,7 +1,5 @@
 #include "core/model_impl.hpp"
 
-#include <algorithm>
-
 #include "core/frame_impl.hpp"
 #include "core/mass_data_impl.hpp"
 #include "core/visual_data_impl.hpp"
@@ -9,14 +7,6 @@
 namespace Sim {
 
 namespace {
-
-template <class T>
-boost::shared_ptr<T> firstNamed(std::vector<boost::shared_ptr<T>> const& elements, std::string const& name)
-{
-    auto const found = std::find_if(elements.begin(), elements.end(),
-                                    [&](boost::shared_ptr<T> const& element) { return element->name() == name; });
-    return found == elements.end() ? boost::shared_ptr<T>() : *found;
-}
 
 bool isNamed(Joint const* joint, std::string const& name)
 {
@@ -39,7 +29,8 @@ ModelImpl::ModelImpl(Varo::Model::ModelUtils::Reading&& reading) : _saysAloud(fa
 
 void ModelImpl::makeElements()
 {
-    _index = std::make_unique<BuildIndex>();
+    reserveRegistries();
+    _index = std::make_unique<BuildIndex>(_joints, _links);
     fetchSkeleton();
     pairJoints();
     defineJointGroups();
@@ -53,23 +44,46 @@ void ModelImpl::makeElements()
     fetchCoupledSensors();
     fetchSensors();
     _index.reset();
+    trimRegistries();
+}
+
+/// For what most robots have: of each joint an actuator, a sensor and four frames.
+void ModelImpl::reserveRegistries()
+{
+    Varo::Model::Records const& records = _motionModel->records();
+    std::size_t const joints = records.joints.size() + records.wheels.size();
+    std::size_t const devices = joints + records.actuators.size() + records.sensors.size();
+    _joints.reserve(joints);
+    _links.reserve(joints + 1);
+    _frames.reserve(3 * joints + devices + 1);
+    _actuators.reserve(joints);
+    _sensors.reserve(devices);
+}
+
+void ModelImpl::trimRegistries()
+{
+    _joints.shrink_to_fit();
+    _links.shrink_to_fit();
+    _frames.shrink_to_fit();
+    _actuators.shrink_to_fit();
+    _sensors.shrink_to_fit();
 }
 
 ModelImpl::~ModelImpl() = default;
 
-boost::shared_ptr<Frame> ModelImpl::frame(std::string const& name) const
+boost::shared_ptr<Frame> const& ModelImpl::frame(std::string const& name) const
 {
-    return firstNamed(_frames, name);
+    return _frameNames.find(name, _frames);
 }
 
-boost::shared_ptr<Joint> ModelImpl::joint(std::string const& name) const
+boost::shared_ptr<Joint> const& ModelImpl::joint(std::string const& name) const
 {
-    return firstNamed(_joints, name);
+    return _jointNames.find(name, _joints);
 }
 
-boost::shared_ptr<Link> ModelImpl::link(std::string const& name) const
+boost::shared_ptr<Link> const& ModelImpl::link(std::string const& name) const
 {
-    return firstNamed(_links, name);
+    return _linkNames.find(name, _links);
 }
 
 Link const* ModelImpl::linkByAnyName(std::string const& name) const
@@ -88,27 +102,27 @@ boost::shared_ptr<JointSymmetry> ModelImpl::jointSymmetry(std::string const& joi
     return {};
 }
 
-boost::shared_ptr<JointGroup> ModelImpl::jointGroup(std::string const& name) const
+boost::shared_ptr<JointGroup> const& ModelImpl::jointGroup(std::string const& name) const
 {
-    return firstNamed(_jointGroups, name);
+    return _jointGroupNames.find(name, _jointGroups);
 }
 
-boost::shared_ptr<Actuator> ModelImpl::actuator(std::string const& name) const
+boost::shared_ptr<Actuator> const& ModelImpl::actuator(std::string const& name) const
 {
-    return firstNamed(_actuators, name);
+    return _actuatorNames.find(name, _actuators);
 }
 
-boost::shared_ptr<ActuatorGroup> ModelImpl::actuatorGroup(std::string const& name) const
+boost::shared_ptr<ActuatorGroup> const& ModelImpl::actuatorGroup(std::string const& name) const
 {
-    return firstNamed(_actuatorGroups, name);
+    return _actuatorGroupNames.find(name, _actuatorGroups);
 }
 
-boost::shared_ptr<Sensor> ModelImpl::sensor(std::string const& name) const
+boost::shared_ptr<Sensor> const& ModelImpl::sensor(std::string const& name) const
 {
-    return firstNamed(_sensors, name);
+    return _sensorNames.find(name, _sensors);
 }
 
-boost::shared_ptr<Link> ModelImpl::rootLink() const
+boost::shared_ptr<Link> const& ModelImpl::rootLink() const
 {
     return link(_motionModel->rootName() + "Link");
 }
@@ -121,12 +135,12 @@ ModelImpl::FramePtr ModelImpl::addFrame(SharedName const& name, Varo::Math::Tran
 }
 
 boost::shared_ptr<MassData const> ModelImpl::createMass(float mass, Varo::Math::Position3D const& CoM,
-                                                        std::vector<float> inertiaMatrix)
+                                                        SharedValue<std::vector<float>> const& inertiaMatrix)
 {
-    return makeElement<MassData, MassDataImpl>(mass, CoM, std::move(inertiaMatrix));
+    return makeElement<MassData, MassDataImpl>(mass, CoM, inertiaMatrix);
 }
 
-boost::shared_ptr<VisualData const> ModelImpl::createVisual(std::string const& meshPath,
+boost::shared_ptr<VisualData const> ModelImpl::createVisual(SharedValue<std::string> const& meshPath,
                                                             Varo::Math::Transform const& meshTransform)
 {
     return makeElement<VisualData, VisualDataImpl>(meshPath, meshTransform);

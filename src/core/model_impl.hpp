@@ -19,7 +19,8 @@
 #include "core/joint_impl.hpp"
 #include "core/kind_of.hpp"
 #include "core/link_index.hpp"
-#include "core/shared_name.hpp"
+#include "core/name_scan.hpp"
+#include "core/shared_value.hpp"
 #include "groups/actuator_group_impl.hpp"
 #include "groups/joint_group_impl.hpp"
 #include "groups/joint_symmetry_impl.hpp"
@@ -68,23 +69,23 @@ public:
     std::vector<boost::shared_ptr<Sensor>> sensors() const { return _sensors; }
 
     // Look-ups: the first element of that name, empty when there is none.
-    boost::shared_ptr<Frame> frame(std::string const& name) const;
-    boost::shared_ptr<Joint> joint(std::string const& name) const;
-    boost::shared_ptr<Link> link(std::string const& name) const;
+    boost::shared_ptr<Frame> const& frame(std::string const& name) const;
+    boost::shared_ptr<Joint> const& joint(std::string const& name) const;
+    boost::shared_ptr<Link> const& link(std::string const& name) const;
     boost::shared_ptr<JointSymmetry> jointSymmetry(std::string const& jointName) const;
-    boost::shared_ptr<JointGroup> jointGroup(std::string const& name) const;
-    boost::shared_ptr<Actuator> actuator(std::string const& name) const;
-    boost::shared_ptr<ActuatorGroup> actuatorGroup(std::string const& name) const;
-    boost::shared_ptr<Sensor> sensor(std::string const& name) const;
-    boost::shared_ptr<Link> rootLink() const;
+    boost::shared_ptr<JointGroup> const& jointGroup(std::string const& name) const;
+    boost::shared_ptr<Actuator> const& actuator(std::string const& name) const;
+    boost::shared_ptr<ActuatorGroup> const& actuatorGroup(std::string const& name) const;
+    boost::shared_ptr<Sensor> const& sensor(std::string const& name) const;
+    boost::shared_ptr<Link> const& rootLink() const;
     /// As link(); where no link bears the name, the one that the description calls so. Null when there is none.
     Link const* linkByAnyName(std::string const& name) const;
 
     // The same among the elements of dynamic type T.
     template <class T>
-    boost::shared_ptr<T> actuator(std::string const& name) const
+    T const* actuator(std::string const& name) const
     {
-        return firstOfKind<T>(_actuators, name);
+        return firstOfKind<T>(_actuatorNames, _actuators, name);
     }
     template <class T>
     std::vector<boost::shared_ptr<T>> actuators() const
@@ -92,9 +93,9 @@ public:
         return allOfKind<T>(_actuators);
     }
     template <class T>
-    boost::shared_ptr<T> sensor(std::string const& name) const
+    T const* sensor(std::string const& name) const
     {
-        return firstOfKind<T>(_sensors, name);
+        return firstOfKind<T>(_sensorNames, _sensors, name);
     }
     template <class T>
     std::vector<boost::shared_ptr<T>> sensors() const
@@ -109,8 +110,8 @@ public:
     // Factories: make one element and register it, unchecked.
     FramePtr addFrame(SharedName const& name, Varo::Math::Transform const& position, FramePtr const& parent);
     boost::shared_ptr<MassData const> createMass(float mass, Varo::Math::Position3D const& CoM,
-                                                 std::vector<float> inertiaMatrix);
-    boost::shared_ptr<VisualData const> createVisual(std::string const& meshPath,
+                                                 SharedValue<std::vector<float>> const& inertiaMatrix);
+    boost::shared_ptr<VisualData const> createVisual(SharedValue<std::string> const& meshPath,
                                                      Varo::Math::Transform const& meshTransform);
     boost::shared_ptr<AngleActuator> addAngleActuator(FramePtr const& frame, SharedName const& name, DeviceKeys dcmKeys,
                                                       float startValue, float minValue, float maxValue, float maxSpeed,
@@ -173,24 +174,30 @@ private:
                                       boost::shared_ptr<Link> const& parentLink, JointSource const& source);
     boost::shared_ptr<Link> addLink(FramePtr const& frame, SharedName const& name,
                                     boost::shared_ptr<Joint> const& parentJoint,
-                                    boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
+                                    boost::shared_ptr<MassData const> const& mass,
+                                    SharedValue<std::string> const& frictionMaterial,
                                     boost::shared_ptr<VisualData const> const& visual);
     boost::shared_ptr<Link> addWheel(FramePtr const& frame, SharedName const& name,
                                      boost::shared_ptr<Joint> const& parentJoint,
-                                     boost::shared_ptr<MassData const> const& mass, std::string const& frictionMaterial,
+                                     boost::shared_ptr<MassData const> const& mass,
+                                     SharedValue<std::string> const& frictionMaterial,
                                      boost::shared_ptr<VisualData const> const& visual);
     boost::shared_ptr<Link> addLinkOfType(Link::LinkType type, FramePtr const& frame, SharedName const& name,
                                           boost::shared_ptr<Joint> const& parentJoint,
                                           boost::shared_ptr<MassData const> const& mass,
-                                          std::string const& frictionMaterial,
+                                          SharedValue<std::string> const& frictionMaterial,
                                           boost::shared_ptr<VisualData const> const& visual);
     boost::shared_ptr<Joint> attachJoint(SharedName const& name, Varo::Math::Transform const& inParentLink,
                                          boost::shared_ptr<Link> const& parentLink, JointSource const& source);
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
-    Branch openBranch(boost::shared_ptr<Joint> const& joint);
+    SharedName linkNameOf(std::string const& jointName) const;
+    SharedName frictionMaterialOf(std::string const& name) const;
+    void reserveRegistries();
+    void trimRegistries();
+    Branch openBranch(boost::shared_ptr<Joint> const& joint, std::vector<std::string const*>& children);
     void fetchWheel(std::string const& name);
-    BodyRecord bodyMovedBy(std::string const& jointName) const;
     boost::shared_ptr<Link> parentLinkOfWheel(std::string const& wheel) const;
+    boost::shared_ptr<MassData const> massOf(Varo::Model::JointConfig const& record);
     boost::shared_ptr<MassData const> massOf(std::string const& name);
     boost::shared_ptr<MassData const> requiredMassOf(Subject subject, std::string const& name);
     boost::shared_ptr<VisualData const> visualOf(std::string const& name);
@@ -263,15 +270,13 @@ private:
 
     // The dynamic type decides what is of a kind. It is asked last: name and type settle most elements for less.
     template <class T, class Base>
-    static boost::shared_ptr<T> firstOfKind(std::vector<boost::shared_ptr<Base>> const& elements,
-                                            std::string const& name)
+    static T const* firstOfKind(NameScan const& names, std::vector<boost::shared_ptr<Base>> const& elements,
+                                std::string const& name)
     {
-        for (auto const& element : elements) {
-            if (T* const typed = element->name() == name ? dynamic_cast<T*>(element.get()) : nullptr) {
-                return boost::shared_ptr<T>(element, typed);
-            }
-        }
-        return {};
+        auto const isOfKind = [](Base const& element) {
+            return element.type() == kindOf<T>().type && dynamic_cast<T const*>(&element) != nullptr;
+        };
+        return static_cast<T const*>(names.find(name, elements, isOfKind).get());
     }
 
     template <class T, class Base>
@@ -315,6 +320,14 @@ private:
     std::vector<boost::shared_ptr<Actuator>> _actuators;
     std::vector<boost::shared_ptr<ActuatorGroup>> _actuatorGroups;
     std::vector<boost::shared_ptr<Sensor>> _sensors;
+    // By which the look-ups scan them.
+    NameScan _frameNames;
+    NameScan _jointNames;
+    NameScan _linkNames;
+    NameScan _jointGroupNames;
+    NameScan _actuatorNames;
+    NameScan _actuatorGroupNames;
+    NameScan _sensorNames;
     std::unique_ptr<BuildIndex> _index;  // null once the model is built
     LinkIndex _linkIndex;
 };

@@ -20,8 +20,9 @@ using Varo::Model::ModelUtils::Reading;
 /// there is none for certain.
 bool isExistingPath(std::string const& text, boost::system::error_code& error)
 {
-    if (text.find('\0') != std::string::npos) {
-        return false;  // the system would look at the part before it only
+    constexpr std::size_t longestPath = 4096;  // bytes; the system knows no longer ones
+    if (text.size() >= longestPath || text.find('\0') != std::string::npos) {
+        return false;  // of one with a zero, the system would look at the part before it only
     }
     boost::system::error_code reason;
     boost::filesystem::file_type const type = boost::filesystem::status(text, reason).type();

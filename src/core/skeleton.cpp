@@ -18,27 +18,27 @@ struct ModelImpl::Branch {
     boost::shared_ptr<Link> link;
     std::string const& jointName;  ///< the joint's own
     Transform end;
-    std::vector<std::string> children;
-    std::size_t nextChild = 0;
+    std::size_t firstChild;  ///< in the list of the children of all branches that are open
+    std::size_t nextChild;
 };
 
 void ModelImpl::fetchSkeleton()
 {
     std::string const& root = _motionModel->rootName();
-    SharedName const linkName(root + "Link");
+    SharedName const linkName = linkNameOf(root);
     FramePtr const rootFrame = addFrame(linkName, Transform(), {});
     auto const mass = requiredMassOf(Subject::root, root);
     auto const visual = requiredVisualOf(root);
-    std::string material;
-    _motionModel->frictionMaterial(root, material);
-    auto const rootLink = addLink(rootFrame, linkName, {}, mass, material, visual);
+    auto const rootLink = addLink(rootFrame, linkName, {}, mass, frictionMaterialOf(root), visual);
     rootLink->_impl->setBody(&_motionModel->records().root);
 
-    for (std::string const& name : _motionModel->followingJoints(root)) {
+    std::vector<std::string const*> joints;
+    _motionModel->appendFollowingJoints(root, joints);
+    for (std::string const* name : joints) {
         Transform inRoot;
         std::string parent;
-        _motionModel->transformFromJointName(name, inRoot, parent);
-        fillInBranch(attachJoint(name, inRoot, rootLink, {_motionModel->findJoint(name)}));
+        _motionModel->transformFromJointName(*name, inRoot, parent);
+        fillInBranch(attachJoint(SharedName::of(*name), inRoot, rootLink, {_motionModel->findJoint(*name)}));
     }
 }
 
@@ -46,55 +46,66 @@ void ModelImpl::fetchSkeleton()
 void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
 {
     std::vector<Branch> open;
-    open.push_back(openBranch(joint));
+    std::vector<std::string const*> children;
+    std::string parent;
+    open.push_back(openBranch(joint, children));
     while (!open.empty()) {
         Branch& branch = open.back();
-        if (branch.nextChild == branch.children.size()) {
+        if (branch.nextChild == children.size()) {
+            children.resize(branch.firstChild);
             open.pop_back();
             continue;
         }
-        std::string const& name = branch.children[branch.nextChild++];
+        std::string const& name = *children[branch.nextChild++];
         if (_index->joints.contains(name)) {
             continue;
         }
         Transform inLink = branch.end;
-        std::string parent = branch.jointName;  // sub-joints are placed relative to what they are attached to
+        parent = branch.jointName;  // sub-joints are placed relative to what they are attached to
         _motionModel->transformFromJointName(name, inLink, parent);
-        open.push_back(openBranch(attachJoint(name, inLink, branch.link, {_motionModel->findJoint(name)})));
+        auto const child = attachJoint(SharedName::of(name), inLink, branch.link, {_motionModel->findJoint(name)});
+        open.push_back(openBranch(child, children));
     }
 }
 
-/// Makes the link that the joint moves. Without children when there is one already.
-ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint)
+/// Makes the link that the joint moves, and adds the joints that are attached to it to `children`: none when there is
+/// such a link already.
+ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint,
+                                        std::vector<std::string const*>& children)
 {
-    Branch branch = {{}, joint->name(), {}, {}};
-    std::string link = branch.jointName + "Link";
-    if (_index->links.contains(link)) {
+    Branch branch = {{}, joint->name(), {}, children.size(), children.size()};
+    if (_index->linkCalledAfter(branch.jointName) != nullptr) {
         return branch;
     }
-    branch.children = _motionModel->followingJoints(branch.jointName);
+    _motionModel->appendFollowingJoints(branch.jointName, children);
 
     // A second frame of the joint's name, unconnected: look-ups find the joint's own, which precedes it.
     addFrame(joint->_impl->sharedName(), Transform(), {});
     _motionModel->endTransformFromJointName(branch.jointName, branch.end);
-    SharedName const linkName(std::move(link));
+    SharedName const linkName = linkNameOf(branch.jointName);
     FramePtr const linkFrame = addFrame(linkName, branch.end, joint->_impl->frame());
-    auto const mass = massOf(branch.jointName);
-    auto const visual = visualOf(branch.jointName);
-    std::string material;
-    _motionModel->frictionMaterial(branch.jointName, material);
-    branch.link = addLink(linkFrame, linkName, joint, mass, material, visual);
-    branch.link->_impl->setBody(bodyMovedBy(branch.jointName));
+    auto const* const record = joint->_impl->source().joint;
+    auto const mass = record == nullptr ? massOf(branch.jointName) : massOf(*record);
+    auto const visual =
+        record == nullptr ? visualOf(branch.jointName) : createVisual(SharedName::of(record->meshName), Transform());
+    branch.link = addLink(linkFrame, linkName, joint, mass, frictionMaterialOf(branch.jointName), visual);
+    branch.link->_impl->setBody(record == nullptr ? _motionModel->records().subActuators.find(branch.jointName)
+                                                  : BodyRecord(record));
     joint->_impl->setChildLink(branch.link);
     return branch;
 }
 
-BodyRecord ModelImpl::bodyMovedBy(std::string const& jointName) const
+SharedName ModelImpl::linkNameOf(std::string const& jointName) const
 {
-    if (auto const* const joint = _motionModel->findJoint(jointName)) {
-        return joint;
-    }
-    return _motionModel->records().subActuators.find(jointName);
+    std::string name;
+    name.reserve(jointName.size() + 4);
+    name.append(jointName).append("Link");
+    return {_arena.make<std::string const>(std::move(name))};
+}
+
+SharedName ModelImpl::frictionMaterialOf(std::string const& name) const
+{
+    return SharedName::of(_motionModel->frictionMaterialOf(name));
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,
@@ -111,14 +122,14 @@ boost::shared_ptr<Joint> ModelImpl::addJoint(FramePtr const& frame, SharedName c
 {
     auto const joint = makeElement<Joint, JointImpl>(frame, name, parentLink, source);
     _joints.push_back(joint);
-    _index->joints.add(joint);
+    _index->joints.addLast();
     return joint;
 }
 
 boost::shared_ptr<Link> ModelImpl::addLink(FramePtr const& frame, SharedName const& name,
                                            boost::shared_ptr<Joint> const& parentJoint,
                                            boost::shared_ptr<MassData const> const& mass,
-                                           std::string const& frictionMaterial,
+                                           SharedValue<std::string> const& frictionMaterial,
                                            boost::shared_ptr<VisualData const> const& visual)
 {
     return addLinkOfType(Link::Regular, frame, name, parentJoint, mass, frictionMaterial, visual);
@@ -127,7 +138,7 @@ boost::shared_ptr<Link> ModelImpl::addLink(FramePtr const& frame, SharedName con
 boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr const& frame, SharedName const& name,
                                             boost::shared_ptr<Joint> const& parentJoint,
                                             boost::shared_ptr<MassData const> const& mass,
-                                            std::string const& frictionMaterial,
+                                            SharedValue<std::string> const& frictionMaterial,
                                             boost::shared_ptr<VisualData const> const& visual)
 {
     return addLinkOfType(Link::Wheel, frame, name, parentJoint, mass, frictionMaterial, visual);
@@ -136,15 +147,20 @@ boost::shared_ptr<Link> ModelImpl::addWheel(FramePtr const& frame, SharedName co
 boost::shared_ptr<Link> ModelImpl::addLinkOfType(Link::LinkType type, FramePtr const& frame, SharedName const& name,
                                                  boost::shared_ptr<Joint> const& parentJoint,
                                                  boost::shared_ptr<MassData const> const& mass,
-                                                 std::string const& frictionMaterial,
+                                                 SharedValue<std::string> const& frictionMaterial,
                                                  boost::shared_ptr<VisualData const> const& visual)
 {
     auto const link = makeElement<Link, LinkImpl>(frame, name, parentJoint, mass, frictionMaterial, type, visual);
     JointConfig const& body = parentJoint == nullptr ? _motionModel->records().root : parentJoint->_impl->record();
     link->_impl->setNameInText(body.linkName);
     _links.push_back(link);
-    _index->links.add(link);
+    _index->links.addLast();
     return link;
+}
+
+boost::shared_ptr<MassData const> ModelImpl::massOf(JointConfig const& record)
+{
+    return createMass(record.mass, record.centerOfMass, SharedValue<std::vector<float>>::of(record.inertiaMatrix));
 }
 
 boost::shared_ptr<MassData const> ModelImpl::massOf(std::string const& name)

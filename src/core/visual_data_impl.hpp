@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/shared_value.hpp"
 #include "sim/visual_data.hpp"
 
 namespace Sim {
@@ -11,7 +12,7 @@ inline constexpr char visualDataErrorMsg[] = "Could not query VisualData as it s
 
 class VisualDataImpl {
 public:
-    VisualDataImpl(std::string const& meshPath, Varo::Math::Transform const& meshTransform)
+    VisualDataImpl(SharedValue<std::string> const& meshPath, Varo::Math::Transform const& meshTransform)
         : _meshPath(meshPath), _meshTransform(meshTransform)
     {}
 
@@ -19,7 +20,7 @@ public:
     Varo::Math::Transform const& meshTransform() const { return _meshTransform; }
 
 private:
-    std::string _meshPath;
+    SharedValue<std::string> _meshPath;
     Varo::Math::Transform _meshTransform;
 };
 

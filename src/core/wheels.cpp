@@ -29,7 +29,7 @@ void ModelImpl::fetchWheel(std::string const& name)
     auto const visual = visualOf(name);
     Transform end;
     _motionModel->endTransformFromJointName(name, end);
-    SharedName const linkName(name + "Link");
+    SharedName const linkName = linkNameOf(name);
     FramePtr const linkFrame = addFrame(linkName, end, joint->_impl->frame());
     auto const link = addWheel(linkFrame, linkName, joint, mass, material, visual);
     link->_impl->setBody(_motionModel->records().wheels.find(name));
@@ -44,7 +44,7 @@ boost::shared_ptr<Link> ModelImpl::parentLinkOfWheel(std::string const& wheel) c
             "Could not fetch wheel parent joint for wheel ", wheel);
     auto const parentJoint = _index->joints.find(parentName);
     require(parentJoint != nullptr, Subject::wheel, wheel, inconsistent, wheel);
-    if (auto const parentLink = _index->links.find(parentName + "Link")) {
+    if (auto const parentLink = _index->linkCalledAfter(parentName)) {
         return parentLink;
     }
     Link const* const childLink = parentJoint->childLink();

@@ -1,6 +1,5 @@
-#include <algorithm>
-#include <list>
 #include <string>
+#include <vector>
 
 #include "core/model_impl.hpp"
 
@@ -8,13 +7,23 @@ namespace Sim {
 
 namespace {
 
+std::string const& textOf(std::string const& name)
+{
+    return name;
+}
+
+std::string const& textOf(std::string const* name)
+{
+    return *name;
+}
+
 template <class T, class Names>
 std::vector<boost::shared_ptr<T>> named(Names const& names, FirstByName<T> const& elements)
 {
     std::vector<boost::shared_ptr<T>> result;
     result.reserve(names.size());
-    for (std::string const& name : names) {
-        result.push_back(elements.find(name));
+    for (auto const& name : names) {
+        result.push_back(elements.find(textOf(name)));
     }
     return result;
 }
@@ -41,7 +50,7 @@ boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& 
 void ModelImpl::defineJointGroups()
 {
     for (std::string const& chain : _motionModel->chainNames()) {
-        std::list<std::string> const jointNames = _motionModel->jointNames(chain);
+        std::vector<std::string> const& jointNames = _motionModel->jointsOf(chain);
         for (std::string const& joint : jointNames) {
             std::string groupName;
             std::vector<std::string> memberNames;
@@ -56,12 +65,15 @@ void ModelImpl::defineJointGroups()
 void ModelImpl::defineActuatorGroups()
 {
     FirstByName<Actuator> const byName(_actuators);
-    FirstByName<ActuatorGroup> groups;  // those made so far: a chain listed before its parent stays without one
+    FirstByName<ActuatorGroup> groups(_actuatorGroups);  // made so far: a chain listed before its parent has none
+    std::vector<std::string const*> members;
     for (std::string const& chain : _motionModel->chainNames()) {
         std::string const parentJoint = _motionModel->parentJointFromChain(chain);
         std::string const parentChain = _motionModel->chainNameFromJoint(parentJoint);
-        groups.add(
-            addActuatorGroup(chain, groups.find(parentChain), named(_motionModel->actuatorNames(chain), byName)));
+        members.clear();
+        _motionModel->appendActuators(chain, members);
+        addActuatorGroup(chain, groups.find(parentChain), named(members, byName));
+        groups.addLast();
     }
 }
 

@@ -1,32 +1,31 @@
 #include <string>
-#include <unordered_set>
 
 #include "actuators/angle_actuator_impl.hpp"
 #include "actuators/coupled_actuator_impl.hpp"
 #include "actuators/joint_actuator_impl.hpp"
 #include "core/model_impl.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Sim {
 
 void ModelImpl::pairJoints()
 {
-    std::unordered_set<std::string> paired;
+    Varo::Model::NameIndex paired;
+    std::string mirror;
     for (auto const& joint : _joints) {
-        std::string mirror;
         bool reversed = false;
-        if (!_motionModel->mirrorNameFromJointName(joint->name(), mirror, reversed) ||
-            paired.count(joint->name()) != 0) {
+        if (!_motionModel->mirrorNameFromJointName(joint->name(), mirror, reversed) || paired.contains(joint->name())) {
             continue;
         }
-        auto const partner = _index->joints.find(mirror);
+        auto const& partner = _index->joints.find(mirror);
         auto const type = reversed ? JointSymmetry::ReflectedSymmetricReversed : JointSymmetry::ReflectedSymmetric;
         _jointSymmetryImpls.push_back(
             std::make_unique<JointSymmetryImpl>(JointSymmetryImpl::JointPair(joint, partner), type));
         _jointSymmetries.push_back(boost::make_shared<JointSymmetry>());
         _jointSymmetries.back()->_impl = _jointSymmetryImpls.back().get();
-        paired.insert(joint->name());
+        paired.add(joint->name(), 0);
         if (partner != nullptr) {
-            paired.insert(partner->name());
+            paired.add(partner->name(), 0);
         }
     }
 }
@@ -44,8 +43,8 @@ void ModelImpl::pairActuatorsOfKind()
 {
     auto const ofKind = actuators<typename Impl::Handle>();
     FirstByName<typename Impl::Handle> const byName(ofKind);
+    std::string mirror;
     for (auto const& actuator : ofKind) {
-        std::string mirror;
         bool reversed = false;
         if (_motionModel->mirrorNameFromJointName(actuator->name(), mirror, reversed)) {
             Impl& impl = static_cast<Impl&>(*actuator->_impl);

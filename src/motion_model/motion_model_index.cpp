@@ -6,7 +6,7 @@ MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const
 {
     std::size_t const names = records.joints.size() + records.subActuators.size() + records.actuators.size() +
                               records.wheels.size() + records.sensors.size() + 1;
-    _ids.reserve(names);
+    _names.reserve(names);
     _facts.reserve(names);
     addRecords(records.joints, &Facts::joint);
     addRecords(records.subActuators, &Facts::subActuator);
@@ -40,17 +40,17 @@ MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const
 MotionModel::Index::Entry MotionModel::Index::of(std::string const& name) const
 {
     static Facts const nothing;
-    std::uint32_t const id = _ids.find(name);
-    return {*this, id == NameIds::none ? nothing : _facts[id]};
+    std::uint32_t const number = _names.find(name);
+    return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
 }
 
 MotionModel::Index::Facts& MotionModel::Index::factsOf(std::string const& name)
 {
-    std::uint32_t const id = _ids.add(name);
-    if (id == _facts.size()) {
+    std::uint32_t const number = _names.add(name, static_cast<std::uint32_t>(_facts.size()));
+    if (number == _facts.size()) {
         _facts.emplace_back();
     }
-    return _facts[id];
+    return _facts[number];
 }
 
 template <typename Record>

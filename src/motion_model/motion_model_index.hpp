@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "motion_model/name_ids.hpp"
 #include "motion_model/short_lists.hpp"
 #include "motion_model/start_angles.hpp"
 #include "sim/motion_model.hpp"
+#include "varo/model/name_index.hpp"
 #include "varo/model/records.hpp"
 
 namespace Sim {
@@ -77,7 +77,7 @@ private:
     void addGroups(std::uint32_t actuator);
 
     Varo::Model::Records const& _records;
-    NameIds _ids;
+    Varo::Model::NameIndex _names;
     std::vector<Facts> _facts;  ///< by number of the name
     ShortLists<Branch> _branches;
     ShortLists<std::uint32_t> _actuators;

@@ -46,6 +46,12 @@ bool readBody(Entry const& named, Read read)
     return true;
 }
 
+std::string const& defaultMaterial()
+{
+    static std::string const gum = "gum";
+    return gum;
+}
+
 /// The actuator's limit replaces that of a joint of the same name.
 template <typename Entry>
 bool readLimit(Entry const& named, float JointConfig::*ofJoint, float ActuatorConfig::*ofActuator, float& limit)
@@ -175,12 +181,27 @@ bool MotionModel::inertiaMatrix(std::string const& name, std::vector<float>& ine
     return readBody(_index->of(name), [&](auto const& body) { inertia = body.inertiaMatrix; });
 }
 
-bool MotionModel::frictionMaterial(std::string const& name, std::string& material) const
+std::string const& MotionModel::frictionMaterialOf(std::string const& name) const
 {
     std::string const* stated = nullptr;
     readBody(_index->of(name), [&](auto const& body) { stated = find(body.attributes, "material"); });
-    material = stated == nullptr ? "gum" : *stated;
-    return stated != nullptr;
+    return stated == nullptr ? defaultMaterial() : *stated;
+}
+
+bool MotionModel::frictionMaterial(std::string const& name, std::string& material) const
+{
+    std::string const& known = frictionMaterialOf(name);
+    material = known;
+    return &known != &defaultMaterial();
+}
+
+/// All at once: a name that has one of them has all.
+bool MotionModel::readLimits(std::string const& name, float& lowest, float& highest, float& fastest) const
+{
+    auto const named = _index->of(name);
+    return readLimit(named, &JointConfig::minAngle, &ActuatorConfig::minAngle, lowest) &&
+           readLimit(named, &JointConfig::maxAngle, &ActuatorConfig::maxAngle, highest) &&
+           readLimit(named, &JointConfig::maxAngularSpeed, &ActuatorConfig::maxAngularSpeed, fastest);
 }
 
 bool MotionModel::minAngle(std::string const& name, float& angle) const

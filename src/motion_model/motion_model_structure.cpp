@@ -38,6 +38,18 @@ void appendSubJoints(ActuatorConfig const& actuator, Names& names)
     }
 }
 
+using NameRefs = std::vector<std::string const*>;
+
+template <class Names>
+Names copiesOf(NameRefs const& names)
+{
+    Names copies;
+    for (std::string const* name : names) {
+        copies.push_back(*name);
+    }
+    return copies;
+}
+
 std::string exchangedSide(std::string name)
 {
     if (name.empty()) {
@@ -51,23 +63,57 @@ std::string exchangedSide(std::string name)
     return name;
 }
 
+/// The first sub-joint of every group of every actuator that is attached to the joint.
+template <class Entry>
+void appendAnchors(Entry const& joint, Varo::Model::Records const& records, NameRefs& anchors)
+{
+    for (auto const actuator : joint.actuators()) {
+        for (auto const& group : records.actuators[actuator].jointGroups) {
+            if (!group.empty()) {
+                anchors.push_back(&group.front());
+            }
+        }
+    }
+}
+
+/// The sub-joints that follow the sub-joint in the groups that hold it.
+template <class Entry>
+void appendNextOfGroups(Entry const& subJoint, NameRefs& following)
+{
+    for (auto const& place : subJoint.groupPlaces()) {
+        if (place.position + 1 < place.group->size()) {
+            following.push_back(&(*place.group)[place.position + 1]);
+        }
+    }
+}
+
 /// Writes the mirror that a joint or an actuator states: false, an empty name and no reflection if it states none.
 template <typename Record>
 bool readMirror(Record const& record, std::string& mirror, bool& reflected)
 {
     bool const hasMirror = record.mirrorKind != Varo::Model::noMirror;
-    mirror = hasMirror ? record.mirrorName : std::string();
+    if (hasMirror) {
+        mirror = record.mirrorName;
+    } else {
+        mirror.clear();
+    }
     reflected = record.mirrorKind == Varo::Model::reflectedMirror;
     return hasMirror;
 }
 
 }  // namespace
 
+std::vector<std::string> const& MotionModel::jointsOf(std::string const& chain) const
+{
+    static std::vector<std::string> const none;
+    auto const* record = _records->chains.find(chain);
+    return record == nullptr ? none : record->jointNames;
+}
+
 std::list<std::string> MotionModel::jointNames(std::string const& chain) const
 {
-    auto const* record = _records->chains.find(chain);
-    return record == nullptr ? std::list<std::string>()
-                             : std::list<std::string>(record->jointNames.begin(), record->jointNames.end());
+    auto const& joints = jointsOf(chain);
+    return {joints.begin(), joints.end()};
 }
 
 std::list<std::string> MotionModel::jointNames() const
@@ -75,14 +121,21 @@ std::list<std::string> MotionModel::jointNames() const
     return merged(chainNames(), [this](std::string const& chain) { return jointNames(chain); });
 }
 
+void MotionModel::appendAngleActuators(std::string const& chain, NameRefs& actuators) const
+{
+    for (std::string const& name : jointsOf(chain)) {
+        auto const* const joint = findJoint(name);
+        if (joint == nullptr || joint->hasMotor) {
+            actuators.push_back(&name);
+        }
+    }
+}
+
 std::list<std::string> MotionModel::angleActuatorNames(std::string const& chain) const
 {
-    auto names = jointNames(chain);
-    names.remove_if([this](std::string const& name) {
-        auto const* const joint = findJoint(name);
-        return joint != nullptr && !joint->hasMotor;
-    });
-    return names;
+    NameRefs names;
+    appendAngleActuators(chain, names);
+    return copiesOf<std::list<std::string>>(names);
 }
 
 std::list<std::string> MotionModel::angleActuatorNames() const
@@ -90,17 +143,23 @@ std::list<std::string> MotionModel::angleActuatorNames() const
     return concatenated(chainNames(), [this](std::string const& chain) { return angleActuatorNames(chain); });
 }
 
-std::list<std::string> MotionModel::actuatorNames(std::string const& chain) const
+void MotionModel::appendActuators(std::string const& chain, NameRefs& actuators) const
 {
-    auto attached = coupledActuatorNames(chain);
-    for (auto const& name : attached) {  // reaches the names appended on the way, too
-        for (auto const actuator : _index->of(name).actuators()) {
-            attached.push_back(_records->actuators.nameOf(actuator));
+    appendAngleActuators(chain, actuators);
+    std::size_t const attached = actuators.size();
+    appendCoupledActuators(chain, actuators);
+    for (std::size_t i = attached; i < actuators.size(); ++i) {  // reaches the names appended on the way, too
+        for (auto const actuator : _index->of(*actuators[i]).actuators()) {
+            actuators.push_back(&_records->actuators.nameOf(actuator));
         }
     }
-    auto names = angleActuatorNames(chain);
-    names.splice(names.end(), attached);
-    return names;
+}
+
+std::list<std::string> MotionModel::actuatorNames(std::string const& chain) const
+{
+    NameRefs names;
+    appendActuators(chain, names);
+    return copiesOf<std::list<std::string>>(names);
 }
 
 std::list<std::string> MotionModel::actuatorNames() const
@@ -108,17 +167,23 @@ std::list<std::string> MotionModel::actuatorNames() const
     return merged(chainNames(), [this](std::string const& chain) { return actuatorNames(chain); });
 }
 
-std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chain) const
+void MotionModel::appendCoupledActuators(std::string const& chain, NameRefs& actuators) const
 {
-    std::list<std::string> names;
-    if (auto const* record = _records->chains.find(chain)) {
-        for (auto const& joint : record->jointNames) {
-            for (auto const actuator : _index->of(joint).actuators()) {
-                names.push_back(_records->actuators.nameOf(actuator));
-            }
+    if (_records->actuators.empty()) {
+        return;
+    }
+    for (std::string const& joint : jointsOf(chain)) {
+        for (auto const actuator : _index->of(joint).actuators()) {
+            actuators.push_back(&_records->actuators.nameOf(actuator));
         }
     }
-    return names;
+}
+
+std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chain) const
+{
+    NameRefs names;
+    appendCoupledActuators(chain, names);
+    return copiesOf<std::list<std::string>>(names);
 }
 
 std::list<std::string> MotionModel::coupledActuatorNames() const
@@ -134,41 +199,40 @@ std::string MotionModel::chainNameFromJoint(std::string const& joint)
     return chain == nullptr ? std::string() : *chain;
 }
 
-std::vector<std::string> MotionModel::followingJoints(std::string const& joint) const
+void MotionModel::appendFollowingJoints(std::string const& joint, NameRefs& following) const
 {
-    std::vector<std::string> following;
-    auto const anchors = chainAnchorJoints(joint);
-    for (Branch const& branch : _index->of(joint).branches()) {
+    auto const named = _index->of(joint);
+    for (Branch const& branch : named.branches()) {
         if (branch.next != nullptr) {
-            following.push_back(*branch.next);
+            following.push_back(branch.next);
         }
         if (branch.listsJoint) {
-            following.insert(following.end(), anchors.begin(), anchors.end());
+            appendAnchors(named, *_records, following);
         }
     }
-    followingJointsFromSubactuators(joint, following);
-    return following;
+    appendNextOfGroups(named, following);
+}
+
+std::vector<std::string> MotionModel::followingJoints(std::string const& joint) const
+{
+    NameRefs names;
+    appendFollowingJoints(joint, names);
+    return copiesOf<std::vector<std::string>>(names);
 }
 
 std::vector<std::string> MotionModel::chainAnchorJoints(std::string const& joint) const
 {
-    std::vector<std::string> anchors;
-    for (auto const actuator : _index->of(joint).actuators()) {
-        for (auto const& group : _records->actuators[actuator].jointGroups) {
-            if (!group.empty()) {
-                anchors.push_back(group.front());
-            }
-        }
-    }
-    return anchors;
+    NameRefs names;
+    appendAnchors(_index->of(joint), *_records, names);
+    return copiesOf<std::vector<std::string>>(names);
 }
 
 void MotionModel::followingJointsFromSubactuators(std::string const& name, std::vector<std::string>& out) const
 {
-    for (auto const& place : _index->of(name).groupPlaces()) {
-        if (place.position + 1 < place.group->size()) {
-            out.push_back((*place.group)[place.position + 1]);
-        }
+    NameRefs names;
+    appendNextOfGroups(_index->of(name), names);
+    for (std::string const* next : names) {
+        out.push_back(*next);
     }
 }
 

@@ -22,7 +22,7 @@ int AngleSensor::bufferSize() const
 
 AngleSensor const* Model::angleSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<AngleSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<AngleSensor>(name);
 }
 
 std::vector<AngleSensor const*> Model::angleSensors() const

@@ -22,7 +22,7 @@ int AngleSpeedSensor::bufferSize() const
 
 AngleSpeedSensor const* Model::angleSpeedSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<AngleSpeedSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<AngleSpeedSensor>(name);
 }
 
 std::vector<AngleSpeedSensor const*> Model::angleSpeedSensors() const

@@ -30,7 +30,7 @@ int ArrayDepthSensor::height() const
 
 ArrayDepthSensor const* Model::arrayDepthSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<ArrayDepthSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<ArrayDepthSensor>(name);
 }
 
 std::vector<ArrayDepthSensor const*> Model::arrayDepthSensors() const

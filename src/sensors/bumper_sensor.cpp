@@ -22,7 +22,7 @@ int BumperSensor::bufferSize() const
 
 BumperSensor const* Model::bumperSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<BumperSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<BumperSensor>(name);
 }
 
 std::vector<BumperSensor const*> Model::bumperSensors() const

@@ -32,7 +32,7 @@ int CameraDepthSensor::height() const
 
 CameraDepthSensor const* Model::cameraDepthSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<CameraDepthSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<CameraDepthSensor>(name);
 }
 
 std::vector<CameraDepthSensor const*> Model::cameraDepthSensors() const

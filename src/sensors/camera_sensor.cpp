@@ -32,7 +32,7 @@ int CameraSensor::height() const
 
 CameraSensor const* Model::cameraSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<CameraSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<CameraSensor>(name);
 }
 
 std::vector<CameraSensor const*> Model::cameraSensors() const

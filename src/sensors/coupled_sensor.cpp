@@ -22,7 +22,7 @@ int CoupledSensor::bufferSize() const
 
 CoupledSensor const* Model::coupledSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<CoupledSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<CoupledSensor>(name);
 }
 
 std::vector<CoupledSensor const*> Model::coupledSensors() const

@@ -22,7 +22,7 @@ int FSRSensor::bufferSize() const
 
 FSRSensor const* Model::fsrSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<FSRSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<FSRSensor>(name);
 }
 
 std::vector<FSRSensor const*> Model::fsrSensors() const

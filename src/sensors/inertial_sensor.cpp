@@ -22,7 +22,7 @@ int InertialSensor::bufferSize() const
 
 InertialSensor const* Model::inertialSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<InertialSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<InertialSensor>(name);
 }
 
 std::vector<InertialSensor const*> Model::inertialSensors() const

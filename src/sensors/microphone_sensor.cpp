@@ -20,7 +20,7 @@ int MicrophoneSensor::bufferSize() const
 
 MicrophoneSensor const* Model::microphoneSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<MicrophoneSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<MicrophoneSensor>(name);
 }
 
 std::vector<MicrophoneSensor const*> Model::microphoneSensors() const

@@ -67,7 +67,7 @@ bool ModelImpl::fetchSensor(std::string const& name)
 
     boost::shared_ptr<Link> parentLink;
     if (_index->joints.contains(parent)) {
-        parentLink = _index->links.find(parent + "Link");
+        parentLink = _index->linkCalledAfter(parent);
         if (parentLink == nullptr) {
             logFromFetchSensors(zu::log::error,
                                 "Could not add sensor " + name + ". Parent link " + parent + "Link" + "not found.");
@@ -77,7 +77,7 @@ bool ModelImpl::fetchSensor(std::string const& name)
             return false;
         }
     } else {
-        parentLink = _index->links.find(_motionModel->rootName() + "Link");
+        parentLink = _index->linkCalledAfter(_motionModel->rootName());
     }
     SharedName const sharedName(name);
     std::size_t const before = _sensors.size();

@@ -22,7 +22,7 @@ int SingleDepthSensor::bufferSize() const
 
 SingleDepthSensor const* Model::singleDepthSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<SingleDepthSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<SingleDepthSensor>(name);
 }
 
 std::vector<SingleDepthSensor const*> Model::singleDepthSensors() const

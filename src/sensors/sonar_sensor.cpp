@@ -20,7 +20,7 @@ int SonarSensor::bufferSize() const
 
 SonarSensor const* Model::sonarSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<SonarSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<SonarSensor>(name);
 }
 
 std::vector<SonarSensor const*> Model::sonarSensors() const

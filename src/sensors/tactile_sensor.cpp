@@ -22,7 +22,7 @@ int TactileSensor::bufferSize() const
 
 TactileSensor const* Model::tactileSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<TactileSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<TactileSensor>(name);
 }
 
 std::vector<TactileSensor const*> Model::tactileSensors() const

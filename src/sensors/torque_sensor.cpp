@@ -22,7 +22,7 @@ int TorqueSensor::bufferSize() const
 
 TorqueSensor const* Model::torqueSensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<TorqueSensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<TorqueSensor>(name);
 }
 
 std::vector<TorqueSensor const*> Model::torqueSensors() const

@@ -23,7 +23,7 @@ int WheelVelocitySensor::bufferSize() const
 
 WheelVelocitySensor const* Model::wheelVelocitySensor(std::string const& name) const
 {
-    return implOf(_impl, modelErrorMsg).sensor<WheelVelocitySensor>(name).get();
+    return implOf(_impl, modelErrorMsg).sensor<WheelVelocitySensor>(name);
 }
 
 std::vector<WheelVelocitySensor const*> Model::wheelVelocitySensors() const

@@ -111,7 +111,7 @@ void expectBadAllocs(Work const& work)
         }
         ASSERT_EQ(Tests::liveAllocations(), before) << "allocation " << number << " leaks";
     }
-    EXPECT_GT(refusals, 100U);
+    EXPECT_GT(refusals, 20U);
 }
 
 class LackOfMemory : public testing::TestWithParam<char const*> {

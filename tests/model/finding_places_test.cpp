@@ -68,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
               "/robotDescription/root[@name=\"Base\"]/attribute[@name=\"material\"]", "\"material\""},
         Fault{"matrix_beside_xyz", "conflicting-attributes", 4, 28, "/robotDescription/joint[@name=\"J\"]/placement",
               "matrix"},
-        Fault{"actuator_loop", "actuator-loop", 5, 22, "/robotDescription/actuator[@name=\"A\"]", "\"A\""},
+        Fault{"actuator_cycle", "actuator-cycle", 5, 22, "/robotDescription/actuator[@name=\"A\"]", "\"A\""},
         Fault{"number_too_large", "wrong-value", 5, 27, "/robotDescription/joint[@name=\"K\"]", "1e999"},
         Fault{"negative_size", "wrong-value", 3, 18, "/robotDescription/root[@name=\"Base\"]/visual/box", "negative"},
         Fault{"color_out_of_range", "wrong-value", 3, 43, "/robotDescription/root[@name=\"Base\"]/visual/material",

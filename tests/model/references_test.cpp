@@ -60,8 +60,8 @@ TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
              {angle + "'J'/></posture>", {}},
              {angle + "'X'/></posture>", {"36 angle-of-unknown"}},
              {"<joint name='K' min='0' max='1'/><chain name='D' parent='K'><jointRef name='K'/></chain>",
-              {"50 chain-loop"}},
-             {"<actuator name='A' min='0' max='1' parent='A'/>", {"36 actuator-loop refused"}},
+              {"50 chain-cycle"}},
+             {"<actuator name='A' min='0' max='1' parent='A'/>", {"36 actuator-cycle refused"}},
              {"<joint name='JLink' min='0' max='1'/><chain name='D' parent='B'><jointRef name='JLink'/></chain>",
               {"1 ambiguous-name"}},
              {"<wheel name='BLink' maxTorque='1' maxVelocity='1' parent='J'/>",
@@ -109,8 +109,8 @@ TEST(References, OfMimicsAreCheckedThroughAllLeaders)
     using Lines = std::vector<std::string>;
     EXPECT_EQ(found(mimicking({"J", "M0", "M1"})), Lines());
     EXPECT_EQ(found(mimicking({"X", "M0"})), Lines{"3 mimic dangling-reference"});
-    EXPECT_EQ(found(mimicking({"M2", "M0", "M1", "M1"})), Lines{"3 mimic mimic-circle"});
-    EXPECT_EQ(found(mimicking({"J", "M1"})), Lines{"4 mimic mimic-circle"});
+    EXPECT_EQ(found(mimicking({"M2", "M0", "M1", "M1"})), Lines{"3 mimic mimic-cycle"});
+    EXPECT_EQ(found(mimicking({"J", "M1"})), Lines{"4 mimic mimic-cycle"});
     EXPECT_EQ(found(mimicking({"J", "M0", "M1"}, "1e13")), Lines{"5 mimic not-a-number"});
 }
 

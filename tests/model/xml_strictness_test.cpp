@@ -62,6 +62,7 @@ TEST(XmlStrictness, WhatXmlAllowsIsTaken)
              "\xEF\xBB\xBF<?xml version='1.0' encoding='UTF-8'?>\n<!-- a - b --><?p <x &?>" + start + attribute +
                  "\t/><!-- < & -->" + end + "\n<!-- after --><?after?>\n",
              start + "\n>\n<![CDATA[ ]]></root>" + end,
+             start + "><!--root--><?root?></root><!--/-->" + end,
          }) {
         EXPECT_THAT(ModelUtils::diagnose(xml), testing::IsEmpty()) << xml;
     }

@@ -1,17 +1,13 @@
 #include <algorithm>
-#include <utility>
 
 #include <gmock/gmock.h>
 
 #include "files.hpp"
-#include "varo/model/lint.hpp"
-#include "varo/model/model_utils.hpp"
+#include "findings_of_text.hpp"
 
-namespace Varo::Model {
+namespace RulesTest {
 
 namespace {
-
-using Strings = std::vector<std::string>;
 
 struct Replacement {
     std::string from;  ///< stands once in the text
@@ -37,21 +33,6 @@ std::string replaced(std::string text, std::vector<Replacement> const& replaceme
         text.replace(placeOf(text, from), from.size(), to);
     }
     return text;
-}
-
-/// "LINE CODE" of each that the reader or the rules give.
-Strings findingsOf(std::string const& text, LintOptions const& options = {})
-{
-    ModelUtils::Reading const reading = ModelUtils::read(text);
-    Findings findings = reading.findings;
-    Findings const more = reading.robot == nullptr ? Findings() : lint(*reading.robot, options);
-    findings.insert(findings.end(), more.begin(), more.end());
-    std::stable_sort(findings.begin(), findings.end(), [](auto const& a, auto const& b) { return a.line < b.line; });
-    Strings texts;
-    for (Finding const& finding : findings) {
-        texts.push_back(std::to_string(finding.line) + " " + finding.code);
-    }
-    return texts;
 }
 
 /// Without a fault: a mirror pair whose link frames differ, with hands, a joint that does not move, and a wheel.
@@ -117,7 +98,7 @@ TEST(Rules, FindWhatIsFalseAndNothingElse)
              {{{"max=\"1\" maxSpeed=\"2\"", "max=\"1.1\" maxSpeed=\"2\""}}, {"4 limits-not-mirrored"}},
              {{{"max=\"1\" maxSpeed=\"2\"", "max=\"1.1\" maxSpeed=\"2\""}}, {}, &LintTolerances::limit, 0.11},
              {{{"\"L\" reflected=\"true\"", "\"L\""}, {"\"R\" reflected=\"true\"", "\"R\""}},
-              {"4 limits-not-mirrored"}},
+              {"4 limits-not-mirrored", "13 start-not-mirrored"}},
              {{{"R\" min=\"-0.5\"", "R\" min=\"2\""}}, {"4 reversed-limits"}},
              {{{"parent=\"L\"", "parent=\"Fixed\""}}, {"11 actuators-not-paired"}},
              {{{"parent=\"R\"", "parent=\"LHand\""}}, {"11 actuator-not-reached"}},
@@ -129,36 +110,9 @@ TEST(Rules, FindWhatIsFalseAndNothingElse)
         if (given.tolerance != nullptr) {
             options.tolerances.*given.tolerance = given.value;
         }
-        EXPECT_EQ(findingsOf(replaced(pair, given.replacements), options), given.expected)
+        EXPECT_EQ(linesAndCodes(replaced(pair, given.replacements), options), given.expected)
             << (given.replacements.empty() ? "" : given.replacements[0].to);
     }
-}
-
-TEST(Rules, FindTenSeededFaultsEachOnItsLine)
-{
-    struct Fault {
-        Replacement replacement;
-        std::string code;
-    };
-    std::string text = Tests::readFile(VARO_SOURCE_DIR "/robots/humanoid.xml");
-    Strings expected;
-    for (auto const& [replacement, code] : std::vector<Fault>{
-             {{"63.4e-3 0  1.1e-3 0 48.7e-3", "63.4e-3 0  1.1e-3 0 248.7e-3"}, "inertia-not-possible"},
-             {{"max=\"1.9\" maxSpeed=\"6.5\"", "max=\"1.9\" maxSpeed=\"0\""}, "speed-not-positive"},
-             {{"8e-3 0 0.15e-3  0 9.03e-3 0  0.15e-3", "8e-3 0 0.15e-3  0 9.03e-3 0  -0.15e-3"},
-              "inertia-not-symmetric"},
-             {{"0.584e-3 -0.02e-3 -0.015e-3  -0.02e-3", "0.584e-3 0.02e-3 -0.015e-3  0.02e-3"}, "inertia-not-mirrored"},
-             {{"min=\"-2.8\" max=\"0.25\"", "min=\"-0.25\" max=\"2.8\""}, "limits-not-mirrored"},
-             {{"0.66\" com=\"0.006 -0.002", "-0.66\" com=\"0.006 -0.002"}, "negative-mass"},
-             {{"com=\"0.004 -0.012 -0.125\"", "com=\"0.004 0.012 -0.125\""}, "com-not-mirrored"},
-             {{"<mirror name=\"LAnkleTilt\"", "<mirror name=\"LHipTwist\""}, "mirror-not-mutual"},
-             {{"RHand\" parent=\"RWristTwist\"", "RHand\" parent=\"RElbowBend\""}, "actuators-not-paired"},
-             {{"LKneeBend\" value=\"0.5\"", "LKneeBend\" value=\"2.5\""}, "start-outside-limits"},
-         }) {
-        expected.push_back(lineOf(text, replacement.from) + " " + code);
-        text = replaced(text, {replacement});
-    }
-    EXPECT_EQ(findingsOf(text), expected);
 }
 
 TEST(Rules, FindAMisplacedLimbOnce)
@@ -166,12 +120,12 @@ TEST(Rules, FindAMisplacedLimbOnce)
     std::string const chain = "<chain name=\"RLeg\" parent=\"Pelvis\" tip=\"RSole\">\n    <placement xyz=\"";
     std::string const text =
         replaced(Tests::readFile(VARO_SOURCE_DIR "/robots/humanoid.xml"), {{chain + "0 -0.075", chain + "0 -0.085"}});
-    EXPECT_EQ(findingsOf(text), Strings{lineOf(text, "<joint name=\"RHipTwist\"") + " place-not-mirrored"});
+    EXPECT_EQ(linesAndCodes(text), Strings{lineOf(text, "<joint name=\"RHipTwist\"") + " place-not-mirrored"});
 }
 
 TEST(Rules, FindFaultsOfUrdfInItsText)
 {
-    EXPECT_EQ(findingsOf(R"(<robot name="A">
+    EXPECT_EQ(linesAndCodes(R"(<robot name="A">
 <link name="Base"><inertial>
  <mass value="-1"/><inertia ixx="1" iyy="1" izz="1"/></inertial></link>
 <link name="J"><inertial><origin rpy="0.3 0.2 0.1"/>
@@ -185,7 +139,47 @@ TEST(Rules, FindFaultsOfUrdfInItsText)
  <limit effort="1" velocity="1e31"/><mimic joint="J"/></joint>
 <joint name="F" type="fixed"><parent link="J"/><child link="Flange"/><limit velocity="0" effort="0"/></joint>
 </robot>)"),
-              (Strings{"3 negative-mass", "6 inertia-not-possible", "10 speed-not-positive"}));
+              (Strings{"3 negative-mass", "6 inertia-not-possible", "7 zero-inertia", "10 speed-not-positive"}));
+}
+
+TEST(Rules, FindNumbersThatHardlyCanBeMeant)
+{
+    struct Case {
+        std::string joint;  ///< attributes of the limit, on line 5, and what follows it
+        std::string body;  ///< on line 3
+        Strings expected;
+    };
+    std::string const limit = "lower='-1' upper='1' effort='1' velocity='1'/>";
+    std::string const body = "<inertial><mass value='1'/><inertia ixx='0.01' iyy='0.01' izz='0.01'/></inertial>";
+    std::string const box = "<collision><geometry><box size='0.3 0.3 0.3'/></geometry></collision>";
+    auto const massive = [](std::string const& mass, std::string const& moment) {
+        return "<inertial><mass value='" + mass + "'/><inertia ixx='" + moment + "' iyy='" + moment + "' izz='" +
+               moment + "'/></inertial>";
+    };
+    for (Case const& given : std::vector<Case>{
+             {limit, body + box, {}},
+             {"lower='-1' upper='1' effort='0' velocity='1'/>", body, {"5 effort-not-positive"}},
+             {"lower='-1' upper='1' effort='-3' velocity='1'/>", body, {"5 effort-not-positive"}},
+             {"lower='0' upper='0' effort='0' velocity='0'/>", body, {}},
+             {"lower='-1' upper='90' effort='1' velocity='1'/>", body, {"5 limits-in-degrees"}},
+             {"lower='-22.5' upper='45' effort='1' velocity='1'/>", body, {"5 limits-in-degrees"}},
+             {"lower='-9.42477796077' upper='10' effort='1' velocity='1'/>", body, {}},
+             {"lower='-1e16' upper='1e16' effort='1' velocity='1'/>", body, {}},
+             {limit + "<dynamics damping='-1' friction='-2'/>", body, {"5 negative-damping", "5 negative-friction"}},
+             {limit, massive("1", "0"), {"3 zero-inertia"}},
+             {limit, massive("1", "10") + box, {"3 inertia-unlike-shapes"}},
+             {limit, massive("1", "1e-6") + box, {"3 inertia-unlike-shapes"}},
+             {limit, massive("9000", "10") + box, {}},  // no matter is so dense: the box stands for something else
+             {limit, massive("5e4", "10"), {"3 mass-unlike-others"}},
+             {limit, massive("5e-5", "1e-7"), {"3 mass-unlike-others"}},
+         }) {
+        std::string text = "<robot name='A'><link name='t'>" + body + "</link>\n<link name='u'>" + body +
+                           "</link>\n<link name='a'>" + given.body +
+                           "</link><joint name='U' type='fixed'><parent link='t'/><child link='u'/></joint>\n"
+                           "<joint name='A' type='revolute'><parent link='t'/><child link='a'/>\n<limit " +
+                           given.joint + "</joint></robot>";
+        EXPECT_EQ(linesAndCodes(text), given.expected) << given.joint << given.body;
+    }
 }
 
 TEST(Rules, CanBeSwitchedOnAndOff)
@@ -194,13 +188,13 @@ TEST(Rules, CanBeSwitchedOnAndOff)
         replaced(pair, {{"value=\"9\"", "value=\"-9\""}, {"rubber", "ruber"}, {"2.000001", "2.01"}});
     LintOptions options;
     options.without = {"negative-mass"};
-    EXPECT_EQ(findingsOf(text, options), (Strings{"5 mass-not-mirrored", "12 unknown-material"}));
+    EXPECT_EQ(linesAndCodes(text, options), (Strings{"5 mass-not-mirrored", "12 unknown-material"}));
     options.only = {"negative-mass", "unknown-material"};
-    EXPECT_EQ(findingsOf(text, options), Strings{"12 unknown-material"});
+    EXPECT_EQ(linesAndCodes(text, options), Strings{"12 unknown-material"});
     options.only = {"unheard-of"};
-    EXPECT_THROW(findingsOf(text, options), std::invalid_argument);
+    EXPECT_THROW(linesAndCodes(text, options), std::invalid_argument);
 }
 
 }  // namespace
 
-}  // namespace Varo::Model
+}  // namespace RulesTest

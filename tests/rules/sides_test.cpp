@@ -1,18 +1,14 @@
 #include <algorithm>
-#include <sstream>
 
 #include <gmock/gmock.h>
 
 #include "files.hpp"
+#include "findings_of_text.hpp"
 #include "robot/side_names.hpp"
-#include "varo/model/lint.hpp"
-#include "varo/model/model_utils.hpp"
 
-namespace Varo::Model {
+namespace RulesTest {
 
 namespace {
-
-using Strings = std::vector<std::string>;
 
 /// A joint of a leg, with the link that it moves. `y` and `axis` are as the text has them.
 std::string joint(std::string const& name, std::string const& parent, std::string const& xyz, std::string const& axis,
@@ -55,17 +51,15 @@ std::string replacedAfter(std::string const& text, std::string const& start, std
 }
 
 /// "LINE CODE" of what the rules find about left and right.
-Strings findingsOf(std::string const& text)
+Strings sidesOf(std::string const& text)
 {
-    auto const reading = ModelUtils::read(text);
-    Strings findings;
-    for (Finding const& finding : lint(*reading.robot)) {
-        bool const isOfSides = finding.code.find("mirrored") != std::string::npos || finding.code == "no-counterpart";
-        if (isOfSides) {
-            findings.push_back(std::to_string(finding.line) + " " + finding.code);
-        }
-    }
-    return findings;
+    Strings found = linesAndCodes(text);
+    auto const isOfOthers = [](std::string const& finding) {
+        return finding.find("mirrored") == finding.npos && finding.find("no-counterpart") == finding.npos &&
+               finding.find("side") == finding.npos && finding.find("sensor-set") == finding.npos;
+    };
+    found.erase(std::remove_if(found.begin(), found.end(), isOfOthers), found.end());
+    return found;
 }
 
 TEST(SideNames, LeadToTheOtherSide)
@@ -101,7 +95,7 @@ TEST(Sides, OfAUrdfBecomeMirrorsWhereTheirPlacesProveIt)
     EXPECT_EQ(joints.find("right_roll")->mirrorName, "left_roll");
     EXPECT_EQ(joints.find("left_roll")->mirrorKind, reflectedMirror);
     EXPECT_EQ(joints.find("left_knee")->mirrorKind, plainMirror);
-    EXPECT_THAT(findingsOf(biped()), testing::IsEmpty());
+    EXPECT_THAT(sidesOf(biped()), testing::IsEmpty());
     EXPECT_THAT(ModelUtils::toXml(*reading.robot), testing::HasSubstr("<mirror name=\"right_knee\"/>"));
 
     ModelUtils::ReadOptions options;
@@ -134,31 +128,115 @@ TEST(Sides, AreComparedInAllThatMirrors)
              {replaced(whole, "</robot>", joint("left_toe", "left_knee_link", "0 0 0", "0 1 0", "") + "</robot>"),
               {"22 no-counterpart"}},
          }) {
-        EXPECT_EQ(findingsOf(given.text), given.expected) << given.expected[0];
+        EXPECT_EQ(sidesOf(given.text), given.expected) << given.expected[0];
     }
 }
 
-TEST(Sides, CompareSensorsAndWheels)
+TEST(Sides, CompareWhatIsAttachedToThem)
 {
     std::string text = ModelUtils::toXml(*ModelUtils::read(biped()).robot);
     text = replaced(text, "</robotDescription>", R"(
-<sensor name="LSole" parent="left_knee" type="bumper"><placement xyz="0.1 0.02 0"/></sensor>
-<sensor name="RSole" parent="right_knee" type="bumper"><placement xyz="0.1 -0.02 0"/></sensor>
-<wheel name="LWheel" parent="left_knee" maxTorque="3" maxVelocity="3"/>
-<wheel name="RWheel" parent="right_knee" maxTorque="3" maxVelocity="3"/>
+<sensor name="LSole" parent="left_knee" type="camera"><placement xyz="0.1 0.02 0" rpy="0 0 0.3"/><attribute name="resolutions" value="9 9"/></sensor>
+<sensor name="RSole" parent="right_knee" type="camera"><placement xyz="0.1 -0.02 0" rpy="0 0 -0.3"/><attribute name="resolutions" value="9 9"/></sensor>
+<sensor name="LSonar" parent="trunk" type="sonar"><placement xyz="0.1 0.3 0"/><key>a</key><key>b</key></sensor>
+<sensor name="RSonar" parent="trunk" type="sonar"><placement xyz="0.1 -0.1 0"/><key>c</key><key>d</key></sensor>
+<wheel name="LWheel" parent="left_knee" maxTorque="3" maxVelocity="3"><placement xyz="0 0.1 0"/></wheel>
+<wheel name="RWheel" parent="right_knee" maxTorque="3" maxVelocity="3"><placement xyz="0 -0.1 0"/></wheel>
+<actuator name="LHand" parent="left_knee" min="0" max="1" maxTorque="5"><group><subJoint name="LF" ratio="1"><placement xyz="0.1 0.2 0"/></subJoint></group></actuator>
+<actuator name="RHand" parent="right_knee" min="0" max="1" maxTorque="5.0"><group><subJoint name="RF" ratio="1"><placement xyz="0.1 -0.2 0"/></subJoint></group></actuator>
 </robotDescription>)");
-    EXPECT_THAT(findingsOf(text), testing::IsEmpty());
-    EXPECT_THAT(findingsOf(replaced(text, "0.1 -0.02", "0.1 -0.03")),
-                testing::ElementsAre(testing::EndsWith(" sensor-not-mirrored")));
-    EXPECT_THAT(findingsOf(replacedAfter(text, "RWheel", "maxTorque=\"3\"", "maxTorque=\"4\"")),
-                testing::ElementsAre(testing::EndsWith(" wheel-not-mirrored")));
+    EXPECT_THAT(sidesOf(text), testing::IsEmpty());
+    struct Case {
+        std::string start;
+        std::string from;
+        std::string to;
+        std::string code;
+    };
+    for (Case const& given : std::vector<Case>{
+             {"RSole", "0.1 -0.02", "0.1 -0.03", "sensor-not-mirrored"},
+             {"RSole", "0 0 -0.3", "0 0 0.3", "sensor-not-mirrored"},
+             {"RSole", "9 9", "9 8", "sensor-set-otherwise"},
+             {"RSonar", "0.1 -0.1", "0.13 -0.1", "sensor-not-mirrored"},
+             {"RWheel", "maxTorque=\"3\"", "maxTorque=\"4\"", "wheel-not-mirrored"},
+             {"RWheel", "0 -0.1", "0.02 -0.1", "wheel-not-mirrored"},
+             {"RHand", "maxTorque=\"5.0\"", "maxTorque=\"6\"", "actuator-not-mirrored"},
+             {"RHand", "ratio=\"1\"", "ratio=\"2\"", "actuator-not-mirrored"},
+             {"RHand", "0.1 -0.2", "0.1 -0.3", "actuator-not-mirrored"},
+         }) {
+        EXPECT_THAT(sidesOf(replacedAfter(text, given.start, given.from, given.to)),
+                    testing::ElementsAre(testing::EndsWith(" " + given.code)))
+            << given.to;
+    }
+    std::string const humanoid = Tests::readFile(VARO_SOURCE_DIR "/robots/humanoid.xml");
+    EXPECT_THAT(sidesOf(replaced(humanoid, "0 0.02 -0.1", "0 0.03 -0.1")),
+                testing::ElementsAre("145 tip-not-mirrored"));
+}
+
+/// With more in the links, or in the joints, of the knees.
+std::string bipedWith(std::string const& left, std::string const& right, std::string const& before = "</link>")
+{
+    std::string const start = before == "</link>" ? "<link name=\"" : "<joint name=\"";
+    std::string const text = replacedAfter(biped(), start + "left_knee", before, left + before);
+    return replacedAfter(text, start + "right_knee", before, right + before);
+}
+
+TEST(Sides, AreComparedInShapesAndMeshes)
+{
+    auto const shape = [](std::string const& xyz, std::string const& solid) {
+        return "<collision><origin xyz=\"" + xyz + "\"/>\n<geometry>\n<" + solid + "/></geometry></collision>";
+    };
+    std::string const box = R"(box size="0.1 0.2 0.3")";
+    struct Case {
+        std::string left;
+        std::string right;
+        Strings expected;
+    };
+    for (Case const& given : std::vector<Case>{
+             {shape("0 0.05 0", box), shape("0 -0.05 0", box), {}},
+             {shape("0 0.05 0", box), shape("0 0.05 0", box), {"20 shapes-not-mirrored"}},
+             {shape("0 0.05 0", box), shape("0 -0.05 0", R"(box size="0.1 0.2 0.4")"), {"22 shapes-not-mirrored"}},
+             {shape("0 0 0", box), shape("0 0 0", R"(sphere radius="0.1")"), {"22 shapes-not-mirrored"}},
+             {shape("0 0 0", box), "", {"9 shapes-not-mirrored"}},
+         }) {
+        EXPECT_EQ(sidesOf(bipedWith(given.left, given.right)), given.expected) << given.right;
+    }
+    auto const mesh = [](std::string const& file) {
+        std::string const visual = "<visual><geometry><mesh filename=\"package://legs/" + file;
+        return visual + ".stl\"/></geometry></visual>" + visual + "_foot.stl\"/></geometry></visual>";
+    };
+    EXPECT_THAT(sidesOf(bipedWith(mesh("left_shank"), mesh("right_shank"))), testing::IsEmpty());
+    EXPECT_THAT(sidesOf(bipedWith(mesh("left_shank"), mesh("left_shank"))), testing::IsEmpty());  // one for both
+    EXPECT_EQ(sidesOf(replaced(bipedWith(mesh("left_shank"), mesh("right_shank")), "right_shank_foot", "left_foot")),
+              Strings{"18 mesh-of-other-side"});
+}
+
+/// Hips have equal values on both sides, rolls opposite ones.
+TEST(Sides, HaveMimicsWithTheSignsOfTheirAxes)
+{
+    struct Case {
+        std::string left;
+        std::string right;
+        bool isFine;
+    };
+    for (Case const& given : std::vector<Case>{
+             {"hip\" multiplier=\"0.5\"", "hip\" multiplier=\"0.5\"", true},
+             {"hip\" multiplier=\"0.5\"", "hip\" multiplier=\"-0.5\"", false},
+             {"hip\" multiplier=\"0.5\"", "hip\" multiplier=\"0.6\"", false},
+             {"hip\" offset=\"0.5\"", "hip\" offset=\"-0.5\"", false},
+             {"roll\" multiplier=\"0.5\"", "roll\" multiplier=\"-0.5\"", true},
+             {"roll\" multiplier=\"0.5\"", "roll\" multiplier=\"0.5\"", false},
+         }) {
+        std::string const text = bipedWith("<mimic joint=\"left_" + given.left + "/>",
+                                           "<mimic joint=\"right_" + given.right + "/>", "</joint>");
+        EXPECT_EQ(sidesOf(text), given.isFine ? Strings() : Strings{"20 mimic-not-mirrored"}) << given.right;
+    }
 }
 
 TEST(Sides, OfRobotsThatDoNotMirrorAreToldOnce)
 {
     std::string const turned =
         replacedAfter(biped(), "<joint name=\"right_roll\"", "xyz=\"0 0 0\"", "xyz=\"0 0.1 0\" rpy=\"0 0.7 0.4\"");
-    EXPECT_EQ(findingsOf(turned), Strings{"2 sides-not-mirrored"});
+    EXPECT_EQ(sidesOf(turned), Strings{"2 sides-not-mirrored"});
     EXPECT_EQ(ModelUtils::read(turned).robot->records()->joints.find("left_roll")->mirrorKind, noMirror);
 }
 
@@ -172,110 +250,10 @@ TEST(Sides, OfANativeTextAreComparedAndNeverMade)
     auto const native = ModelUtils::read(text);
     ASSERT_NE(native.robot, nullptr);
     EXPECT_EQ(native.robot->records()->joints.find("left_roll")->mirrorKind, noMirror);
-    EXPECT_THAT(findingsOf(text), testing::IsEmpty());
-    EXPECT_EQ(findingsOf(replacedAfter(text, "\"right_knee\"", "value=\"1\"", "value=\"1.1\"")).size(), 1U);
-}
-
-TEST(Sides, OfRealRobotsDifferWhereSomebodyLooked)
-{
-    auto const files = Tests::filesIn(Tests::realRobotsFolder(), ".urdf");
-    if (files.empty()) {
-        GTEST_SKIP() << "There are no robots in " << Tests::realRobotsFolder() << ".";
-    }
-    Strings expected;
-    std::istringstream lines(Tests::readFile(VARO_SOURCE_DIR "/tests/rules/data/sides_of_real_robots.txt"));
-    for (std::string line; std::getline(lines, line);) {
-        if (line[0] != '#') {
-            expected.push_back(line);
-        }
-    }
-    Strings found;
-    for (std::string const& file : files) {
-        for (std::string const& finding : findingsOf(Tests::readFile(file))) {
-            found.push_back(std::filesystem::path(file).filename().string() + " " + finding);
-        }
-    }
-    EXPECT_EQ(found, expected);
-}
-
-/// A fault put into what follows `start`, all on one line of the text.
-struct Fault {
-    std::string start;
-    std::string from;
-    std::string to;
-    std::string code;
-};
-
-void expectAllFound(std::string const& robot, std::vector<Fault> const& faults)
-{
-    std::string text = Tests::readFile(Tests::realRobotsFolder() + "/" + robot + ".urdf");
-    Strings expected;
-    for (Fault const& fault : faults) {
-        std::size_t const start = text.find(fault.start);
-        ASSERT_NE(start, std::string::npos) << fault.start;
-        std::size_t place = text.find(fault.from, start);
-        ASSERT_NE(place, std::string::npos) << fault.from;
-        place = fault.code[0] == 't' ? start : place;  // types stand at the joint
-        auto const line = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(place), '\n') + 1;
-        expected.push_back(std::to_string(line) + " " + fault.code);
-        text = replacedAfter(text, fault.start, fault.from, fault.to);
-    }
-    EXPECT_THAT(findingsOf(text), testing::IsSupersetOf(expected)) << robot;
-}
-
-TEST(Sides, OfRealRobotsShowTenSeededFaultsEachOnItsLine)
-{
-    if (Tests::filesIn(Tests::realRobotsFolder(), ".urdf").empty()) {
-        GTEST_SKIP() << "There are no robots in " << Tests::realRobotsFolder() << ".";
-    }
-    expectAllFound(
-        "atlas_convex_hull",
-        {
-            {R"(<link name="r_uleg")", R"(0 0 -0.21)", R"(0 0.01 -0.21)", "com-not-mirrored"},
-            {R"(<link name="r_larm")", R"(mass value="3.248")", R"(mass value="3.348")", "mass-not-mirrored"},
-            {R"(<link name="r_uleg")", R"(ixx="0.09")", R"(ixx="0.08")", "inertia-not-mirrored"},
-            {R"(<joint name="r_leg_hpx")", R"(lower="-0.523599")", R"(lower="-0.4")", "limits-not-mirrored"},
-            {R"(<joint name="r_leg_akx")", R"(upper="0.8")", R"(upper="0.7")", "limits-not-mirrored"},
-            {R"(<joint name="r_arm_ely")", R"(effort=")", R"(effort="1)", "effort-not-mirrored"},
-            {R"(<joint name="r_leg_kny")", R"(velocity="12")", R"(velocity="2")", "velocity-not-mirrored"},
-            {R"(<joint name="r_leg_hpz")", R"(0 0 1)", R"(0 0 -1)", "axis-direction-not-mirrored"},
-            {R"(<joint name="r_arm_shx")", R"(0 -0.11 -0.245)", R"(0 -0.11 -0.255)", "place-not-mirrored"},
-            {R"(<joint name="r_leg_kny")", R"(damping="0.1")", R"(damping="0.2")", "damping-not-mirrored"},
-        });
-    expectAllFound(
-        "g1_inspire_hands",
-        {
-            {R"(<link name="right_elbow_link")", R"(0.064956 -0.004454)", R"(0.064956 0.004454)", "com-not-mirrored"},
-            {R"(<link name="right_elbow_link")", R"(mass value="0.6")", R"(mass value="0.7")", "mass-not-mirrored"},
-            {R"(<link name="right_hip_roll_link")", R"(ixx="0.0023773")", R"(ixx="0.00249617")",
-             "inertia-not-mirrored"},
-            {R"(<joint name="right_hip_roll_joint")", R"(lower="-2.9671")", R"(lower="-2.9")", "limits-not-mirrored"},
-            {R"(<joint name="right_knee_joint")", R"(upper="2.8798")", R"(upper="2.8")", "limits-not-mirrored"},
-            {R"(<joint name="right_knee_joint")", R"(xyz="-0.078273)", R"(xyz="-0.068273)", "place-not-mirrored"},
-            {R"(<joint name="right_ankle_roll_joint")", R"(effort="35")", R"(effort="25")", "effort-not-mirrored"},
-            {R"(<joint name="right_hip_roll_joint")", R"(velocity="20")", R"(velocity="2")", "velocity-not-mirrored"},
-            {R"(<joint name="right_index_2_joint")", R"(multiplier=")", R"(multiplier="2)", "mimic-not-mirrored"},
-            {R"(<joint name="right_elbow_joint")", R"("revolute")", R"("fixed")", "type-not-mirrored"},
-        });
-    expectAllFound(
-        "pr2",
-        {
-            {R"(<link name="l_shoulder_pan_link")", R"(-0.001201 0.024513)", R"(-0.001201 0.064513)",
-             "com-not-mirrored"},
-            {R"(<link name="l_elbow_flex_link")", R"(mass value="1.90327")", R"(mass value="2.9")",
-             "mass-not-mirrored"},
-            {R"(<link name="l_elbow_flex_link")", R"(ixx="0.0034)", R"(ixx="0.0044)", "inertia-not-mirrored"},
-            {R"(<joint name="l_shoulder_lift_joint")", R"(lower="-0.5236")", R"(lower="-0.4")", "limits-not-mirrored"},
-            {R"(<joint name="l_elbow_flex_joint")", R"(upper="0.00")", R"(upper="0.10")", "limits-not-mirrored"},
-            {R"(<joint name="l_wrist_flex_joint")", R"(effort="10")", R"(effort="20")", "effort-not-mirrored"},
-            {R"(<joint name="l_shoulder_lift_joint")", R"(velocity="2.082")", R"(velocity="3")",
-             "velocity-not-mirrored"},
-            {R"(<joint name="l_forearm_roll_joint")", R"(1 0 0)", R"(-1 0 0)", "axis-direction-not-mirrored"},
-            {R"(<joint name="l_wrist_flex_joint")", R"(0.321 0 0)", R"(0.331 0 0)", "place-not-mirrored"},
-            {R"(<joint name="r_forearm_cam_frame_joint")", R"(.135 0 .044)", R"(.135 0 .144)", "place-not-mirrored"},
-        });
+    EXPECT_THAT(sidesOf(text), testing::IsEmpty());
+    EXPECT_EQ(sidesOf(replacedAfter(text, "\"right_knee\"", "value=\"1\"", "value=\"1.1\"")).size(), 1U);
 }
 
 }  // namespace
 
-}  // namespace Varo::Model
+}  // namespace RulesTest

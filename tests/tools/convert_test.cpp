@@ -18,6 +18,12 @@ protected:
         Outcome const original = run({"dump", file});
         ASSERT_EQ(original.status, 0) << original.err;
         EXPECT_TRUE(original.out == run({"dump", "once.xml"}).out) << "the dumps differ";
+        for (std::string const& start : {file, std::string("once.xml")}) {
+            ASSERT_EQ(run({"convert", "--to", "urdf", start, "--force", "-o", "once.urdf"}).status, 0);
+            ASSERT_EQ(run({"convert", "--to", "urdf", "once.urdf", "--force", "-o", "twice.urdf"}).status, 0);
+            EXPECT_EQ(readFile(folder() / "once.urdf"), readFile(folder() / "twice.urdf"));
+            EXPECT_TRUE(original.out == run({"dump", "once.urdf"}).out) << "the dumps of URDF differ";
+        }
     }
 
     void expectRoundTrips(std::string const& directory, std::string const& extension) const
@@ -84,8 +90,21 @@ TEST_F(Convert, ExampleRobotsComeBackTheSame)
 
 TEST_F(Convert, UrdfRobotsComeBackTheSame)
 {
+    expectRoundTrips(VARO_SOURCE_DIR "/robots", ".urdf");
     expectRoundTrips(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf");
     expectRoundTrips(Tests::realRobotsFolder(), ".urdf");
+}
+
+TEST_F(Convert, SaysOnceOfEachKindWhatUrdfCannotSay)
+{
+    write("legs.xml", legs);
+    Outcome const outcome = run({"convert", "--to", "urdf", "legs.xml"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_NE(outcome.err.find("[beyond-urdf-chain]"), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.out.find("<varo:description"), std::string::npos);
+    write("long.xml", serialChain(100));
+    std::string const told = run({"convert", "--to", "urdf", "long.xml"}).err;
+    EXPECT_EQ(told.find("beyond-urdf-joint"), told.rfind("beyond-urdf-joint")) << told;
 }
 
 TEST_F(Convert, RefusesWhatIsBad)

@@ -1,3 +1,7 @@
+#include <iterator>
+#include <set>
+#include <sstream>
+
 #include "run_tool.hpp"
 
 namespace ToolTest {
@@ -22,7 +26,13 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
     };
     std::vector<Case> const cases = {
         {{"--version"}, fine, ""},
+        {{"-V"}, fine, ""},
         {{"--help"}, fine, ""},
+        {{"help", "list"}, fine, ""},
+        {{"help", "lst"}, wrongUsage, "There is no command \"lst\".\nDid you mean \"list\"?"},
+        {{"list", "good.xml", "joints"}, fine, ""},
+        {{"show", "good.xml", "LHip"}, fine, ""},
+        {{"pose", "LHip", "good.xml"}, fine, ""},
         {{"check", "good.xml"}, fine, ""},
         {{"check", "good.xml", "bad.xml"}, bad, "bad.xml:1:1: error: "},
         {{"dump", "bad.xml"}, bad, "bad.xml:1:1: error: "},
@@ -70,11 +80,54 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
         EXPECT_NE(help.find("Usage: varo-robot " + command.front()), std::string::npos);
         EXPECT_NE(help.find("Example"), std::string::npos);
         EXPECT_EQ(help.find("Example"), help.rfind("Example"));
+        EXPECT_EQ(run({"help", command.front()}).out, help);
 
         command.emplace_back("-");
         Outcome const outcome = run(command, legs);
         EXPECT_EQ(outcome.status, fine) << outcome.err;
         EXPECT_FALSE(outcome.out.empty());
+    }
+}
+
+std::set<std::string> wordsOf(std::string const& text)
+{
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
+/// Without lines that end with a colon: pages have titles in capitals.
+std::string withoutTitles(std::string const& text)
+{
+    std::string rest;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        rest += line.empty() || line.back() != ':' ? line + '\n' : "";
+    }
+    return rest;
+}
+
+TEST_F(Usage, PagesForManSayWhatHelpSays)
+{
+    if (runCommand("man --version").status != 0) {
+        GTEST_SKIP() << "man is not there";
+    }
+    ASSERT_EQ(run({"help", "--man-pages", "."}).status, fine);
+    for (std::string const command : {"", "list", "check", "convert", "help"}) {
+        SCOPED_TRACE(command);
+        std::string const page = "./varo-robot" + (command.empty() ? "" : "-" + command) + ".1";
+        Outcome const shown = runCommand("MANWIDTH=1000 LC_ALL=C man --warnings --nh --nj -l " + page);
+        EXPECT_EQ(shown.err, "");
+        std::set<std::string> const onPage = wordsOf(shown.out);
+        std::string help = run({command.empty() ? "--help" : command, "--help"}).out;
+        help = help.substr(help.find("\n\n", help.find("\nOptions:")));  // what the command's source says
+        std::set<std::string> missing;
+        for (std::string const& word : wordsOf(withoutTitles(help))) {
+            bool const isCode = word.find('`') != word.npos;
+            if (!isCode && onPage.count(word) == 0) {
+                missing.insert(word);
+            }
+        }
+        EXPECT_EQ(missing, std::set<std::string>());
     }
 }
 

@@ -144,6 +144,19 @@ TEST_F(View, RefusesWhatItCannotDo)
     EXPECT_EQ(run({"view", "any.xml", "--mesh-limit", "-1"}).status, 2);
 }
 
+TEST_F(View, OpensThePageInTheBrowserOfTheDesktop)
+{
+    write("xdg-open", "#!/bin/sh\necho \"$#:$1\" > opened\n");
+    std::filesystem::permissions(folder() / "xdg-open", std::filesystem::perms::owner_all);
+    EXPECT_EQ(run({"view", "any.xml", "-o", "any.html", "--open"}, {}, "PATH=.:$PATH").status, 0);
+    EXPECT_EQ(readFile(folder() / "opened"),
+              "1:" + (std::filesystem::canonical(folder()) / "any.html").string() + "\n");
+
+    Outcome const without = run({"view", "any.xml", "-o", "any.html", "--open"}, {}, "PATH=nowhere");
+    EXPECT_EQ(without.status, 1);
+    EXPECT_NE(without.err.find("xdg-open"), std::string::npos) << without.err;
+}
+
 }  // namespace
 
 }  // namespace ToolTest

@@ -94,6 +94,67 @@ TEST_F(Tree, DrawsBranchesAsTheLocaleCan)
               "`- RHip -> [RHipLink]  1.25 kg     xyz 0.000 -0.100 -0.050  rpy 0.000 0.000 0.000\n");
 }
 
+/// What a terminal of that width gets.
+class Terminal : public ToolFixture {
+protected:
+    std::string shownAt(int columns, std::string const& arguments) const
+    {
+        std::string const terminal = VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/in_terminal.py ";
+        return runCommand("TERM=dumb LC_ALL=C.UTF-8 " + terminal + std::to_string(columns) + " " VARO_ROBOT " " +
+                          arguments)
+            .out;
+    }
+};
+
+std::size_t widestLine(std::string const& text)
+{
+    std::size_t widest = 0;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        auto const isContinued = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
+        auto const continued = std::count_if(line.begin(), line.end(), isContinued);
+        widest = std::max(widest, line.size() - static_cast<std::size_t>(continued));
+    }
+    return widest;
+}
+
+TEST_F(Terminal, IsFittedUnlessAllIsWanted)
+{
+    write("legs.xml", legs);
+    EXPECT_EQ(shownAt(60, "tree --pose legs.xml"),
+              "[PelvisLink]\n"
+              "│  xyz 0.000 0.000 0.000  rpy 0.000 0.000 0.000\n"
+              "├─ LHip → [LHipLink]\n"
+              "│     xyz 0.000 0.100 -0.050  rpy 0.000 0.000 0.000\n"
+              "└─ RHip → [RHipLink]\n"
+              "      xyz 0.000 -0.100 -0.050  rpy 0.000 0.000 0.000\n");
+    EXPECT_EQ(shownAt(14, "tree legs.xml"), "[PelvisLink]\n├─ LHip → [LH…\n└─ RHip → [RH…\n");
+    EXPECT_EQ(shownAt(25, "list joints legs.xml"),
+              "NAME  TYPE   MOTOR  LINK\nLHip  revo…  yes    LHip…\nRHip  revo…  yes    RHip…\n");
+    for (std::string const command :
+         {"tree --pose --mass ", "list sensors ", "list joints ", "pose ", "list symmetries "}) {
+        SCOPED_TRACE(command);
+        std::string const piped = runCommand("LC_ALL=C.UTF-8 " VARO_ROBOT " " + command + humanoid).out;
+        EXPECT_GT(widestLine(piped), 50U);
+        EXPECT_LE(widestLine(shownAt(50, command + humanoid)), 50U);
+        EXPECT_EQ(shownAt(50, command + "--wide " + humanoid), piped);
+        EXPECT_EQ(shownAt(400, command + humanoid), piped);
+    }
+}
+
+TEST_F(Terminal, TellsWhatTakesLongerThanASecond)
+{
+    write("legs.xml", legs);
+    std::string const line = "\rReading <stdin>, 1 s";
+    std::string const gone = "\r\033[K";
+    std::string const terminal = VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/in_terminal.py 80 " VARO_ROBOT;
+    std::string const late = "{ sleep 1.5; cat legs.xml; } | TERM=dumb ";
+    EXPECT_EQ(runCommand(late + terminal + " list joint-groups -").out.find(line + gone + "NAME"), 0U);
+    EXPECT_EQ(runCommand("TERM=dumb " + terminal + " list joint-groups legs.xml").out.find("NAME"), 0U);
+    Outcome const piped = runCommand(late + VARO_ROBOT " list joint-groups -");
+    EXPECT_EQ(piped.err, "");
+}
+
 TEST_F(Tree, NamesLinksAsTheTextDoesAndMarksWheelsAndWhatHasNoMotor)
 {
     EXPECT_EQ(run({"tree", "-"}, urdf, "LC_ALL=C").out, "[base]\n`- j fixed -> [tip]\n");

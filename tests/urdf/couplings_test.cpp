@@ -71,10 +71,10 @@ TEST(UrdfCouplings, TellMeaninglessMimicsFromWrongOnes)
          {Case{"<mimic joint=\"A\"/>", {}, 1}, Case{"<mimic joint=\"A\" offset=\"0.5\"/>", {}, 1},
           Case{"<mimic joint=\"A\" offset=\"0.0\" multiplier=\"+2\"/>", {}, 1},
           Case{"<mimic joint=\"Z\"/>", {"unknown-leader"}, 0}, Case{"<mimic multiplier=\"1\"/>", {"unknown-leader"}, 0},
-          Case{"<mimic joint=\"C\"/>", {"mimic-circle"}, 0}}) {
+          Case{"<mimic joint=\"C\"/>", {"mimic-cycle"}, 0}}) {
         SCOPED_TRACE(c.mimic);
         EXPECT_EQ(complaintsAbout(robot(arm(c.mimic))), c.complaints);
-        if (c.complaints != std::vector<std::string>{"mimic-circle"}) {
+        if (c.complaints != std::vector<std::string>{"mimic-cycle"}) {
             Tables const tables = tablesOf(robot(arm(c.mimic)));
             EXPECT_EQ(tables.actuators.size(), c.couplings);
             EXPECT_EQ(tables.joints.at("C").mimic != nullptr, c.couplings == 1);
@@ -84,7 +84,7 @@ TEST(UrdfCouplings, TellMeaninglessMimicsFromWrongOnes)
     std::string const links = link("root") + link("a") + link("b");
     EXPECT_THAT(complaintsAbout(robot(links + joint("A", "root", "a", limit + "<mimic joint=\"B\"/>") +
                                       joint("B", "a", "b", limit + "<mimic joint=\"A\"/>"))),
-                ElementsAre("mimic-circle"));
+                ElementsAre("mimic-cycle"));
     std::string const still =
         robot(links + joint("A", "root", "a") + joint("B", "a", "b", "<mimic joint=\"nobody\"/>", "fixed"));
     EXPECT_THAT(complaintsAbout(still), ElementsAre());

@@ -32,8 +32,9 @@ TEST(UrdfJoints, KeepTheirKindAndLimits)
         EXPECT_FALSE(config.hasMotor);
     }
     Findings const notes = ModelUtils::diagnose(text);
-    ASSERT_EQ(notes.size(), 2U);
+    ASSERT_EQ(notes.size(), 1U);
     EXPECT_EQ(notes[0].code, "joint-frozen");
+    EXPECT_THAT(notes[0].message, testing::EndsWith(": \"afloat\", \"on_a_plane\"."));
 }
 
 TEST(UrdfJoints, KeepWhatElseTheyState)

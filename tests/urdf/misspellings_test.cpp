@@ -94,13 +94,42 @@ TEST(UrdfMisspellings, AreToldFromWhatIsMisplacedOrForOthers)
     EXPECT_THAT(codes("<lnik/><gap_joint/>"), ElementsAre("unknown-element"));
 
     std::string const lowwer =
-        robot(link("root") + link("a") + joint("A", "root", "a", "<limit lowwer=\"-1\" upper=\"1\"/><limits/><axis/>"));
+        robot(link("root") + link("a") +
+              joint("A", "root", "a", "<limit lowwer=\"-1\" upper=\"1\"/><limits/><axis xyz=\"1 0 0\"/>"));
     EXPECT_THAT(complaintsAbout(lowwer), ElementsAre("unknown-attribute", "unknown-element"));
     EXPECT_EQ(tablesOf(lowwer).joints.at("A").maxAngle, 1.0F);
     std::string const size = robot(
         "<link name=\"root\"><visual><origin quat_xyzw=\"0 0 0 1\"/><geometry>"
         "<sphere size=\"1\"/></geometry></visual></link>");
     EXPECT_THAT(complaintsAbout(size), ElementsAre("unknown-attribute", "unknown-attribute"));
+}
+
+TEST(UrdfMisspellings, OfReferencesLeadToTheNamesThatThereAre)
+{
+    std::string const limit = "<limit lower=\"-1\" upper=\"1\"/>";
+    std::string const two = link("base") + link("forearm") + link("hand") + joint("elbow", "base", "forearm");
+    std::string const wrist = joint("wrist", "forearm", "hand");
+    struct Case {
+        std::string content;
+        std::string code;
+        std::string meant;
+    };
+    for (Case const& given : std::vector<Case>{
+             {joint("wrist", "foreram", "hand"), "unknown-link", "forearm"},
+             {joint("wrist", "forearm", "hand", limit + "<mimic joint=\"elbw\"/>"), "unknown-leader", "elbow"},
+             {wrist + "<sensor name=\"s\"><parent link=\"hnad\"/></sensor>", "sensor-lost", "hand"},
+             {wrist + "<gazebo reference=\"hnad\"><mu1>1</mu1></gazebo>", "unknown-reference", "hand"},
+             {wrist + "<transmission name=\"t\"><joint name=\"elbow_\"/></transmission>", "unknown-driven-joint",
+              "elbow"},
+             {wrist + "<ros2_control><joint name=\"wrst\"/></ros2_control>", "unknown-driven-joint", "wrist"},
+             {wrist + "<gazeboo/>", "unknown-element", "gazebo"},
+         }) {
+        Findings const findings = ModelUtils::diagnose(robot(two + given.content));
+        ASSERT_EQ(findings.size(), 1U) << given.content;
+        EXPECT_EQ(findings[0].code, given.code);
+        EXPECT_EQ(findings[0].hint, "Did you mean \"" + given.meant + "\"?");
+    }
+    EXPECT_THAT(complaintsAbout(robot(two + wrist + "<gazebo reference=\"camera\"/>")), IsEmpty());  // far from all
 }
 
 }  // namespace

@@ -90,7 +90,17 @@ std::vector<Refusal> const refusals = {
     {"word for a colour",
      "<robot name=\"r\"><link name=\"root\"/><material name=\"m\"><color @rgba=\"red\"/></material></robot>",
      "not-a-number"},
-    {"mimic of itself", jointWith("@<mimic joint=\"A\"/>"), "mimic-circle"},
+    {"SDF", "@<sdf version=\"1.7\"><model name=\"a\"/></sdf>", "other-format"},
+    {"MuJoCo's format", "@<mujoco><worldbody/></mujoco>", "other-format"},
+    {"SRDF", "@<robot name=\"r\"><group name=\"arm\"/><link_sphere/></robot>", "other-format"},
+    {"xacro element", "<robot name=\"r\">\n<gazebo>@<xacro:if value=\"x\"><link/></xacro:if></gazebo></robot>",
+     "xacro-file"},
+    {"xacro expression beside other faults",
+     robot("<joint/>\n<link name=\"a\"/><link @name=\"${p}a\"><inertial><mass value=\"${m}\"/></inertial></link>"),
+     "xacro-file"},
+    {"xacro substitution in a text", robot("<gazebo><plugin>@<path>$(find r)/x</path></plugin></gazebo>"),
+     "xacro-file"},
+    {"mimic of itself", jointWith("@<mimic joint=\"A\"/>"), "mimic-cycle"},
     {"multipliers beyond all bounds",
      twoLinks("<link name=\"b\"/><link name=\"c\"/>" + joint("A", "root", "a") +
               joint("B", "a", "b", "<limit lower=\"0\" upper=\"0\"/><mimic joint=\"A\" multiplier=\"1e29\"/>") +

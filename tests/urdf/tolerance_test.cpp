@@ -25,6 +25,30 @@ TEST(UrdfTolerance, TakesOrNotesWhatRealFilesAreLooseAbout)
     EXPECT_EQ(ModelUtils::robotFromXml(text)->version(), "1.2");
 }
 
+TEST(UrdfTolerance, TakesWhatXacroLeavesInExpandedFiles)
+{
+    EXPECT_THAT(complaintsAbout("<!-- ${a} <xacro:b/> --><robot name=\"r\" xmlns:xacro=\"http://x\"><link name=\"a$\"/>"
+                                "<gazebo><![CDATA[${c}]]></gazebo></robot>"),
+                testing::IsEmpty());
+}
+
+TEST(UrdfTolerance, SaysWhatItMakesOfValuesThatAreNotThere)
+{
+    auto const moved = [](std::string const& content, std::string const& type = "revolute") {
+        return complaintsAbout(robot(link("root") + link("a") + joint("A", "root", "a", content, type)));
+    };
+    std::string const limit = "<limit lower=\"-1\" upper=\"1\" effort=\"1\" velocity=\"1\"/>";
+    EXPECT_THAT(moved(limit + "<origin xyz=\"1 2\"/>"), ElementsAre("wrong-count"));
+    EXPECT_THAT(moved(limit + "<axis/>"), ElementsAre("missing-attribute"));
+    EXPECT_THAT(moved(limit + "<axis>0 0 1</axis>"), ElementsAre("unexpected-text"));
+    EXPECT_THAT(moved("<limit/>"), ElementsAre("missing-limit"));
+    EXPECT_THAT(moved("<limit/>", "continuous"), ElementsAre("missing-attribute"));
+    Findings const mass = ModelUtils::diagnose(robot(
+        "<link name=\"root\"><inertial><mass>1.5</mass><inertia ixx=\"1\" iyy=\"1\" izz=\"1\"/></inertial></link>"));
+    ASSERT_EQ(mass.size(), 1U);
+    EXPECT_EQ(mass[0].hint, "Write <mass value=\"1.5\"/>.");
+}
+
 TEST(UrdfTolerance, CountsWhatAnInertialDoesNotStateAsZero)
 {
     Findings const findings = ModelUtils::diagnose(robot("<link name=\"root\"><inertial><mass/></inertial></link>"));

@@ -1,4 +1,3 @@
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -6,6 +5,7 @@
 #include <iostream>
 #include <new>
 #include <sstream>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
@@ -13,13 +13,14 @@
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
 #include "support/visible_text.hpp"
-#include "varo/model/spelling.hpp"
+#include "usage/completion.hpp"
+#include "usage/suggestion.hpp"
 
 namespace Tool {
 
 namespace {
 
-constexpr char description[] = "varo-robot shows, checks and converts robot descriptions.";
+constexpr char description[] = "Shows, checks, compares and converts robot descriptions";
 
 constexpr char footer[] =
     R"(A description is an XML file in the native dialect (root element
@@ -31,11 +32,11 @@ Exit status:
   1  the description is bad, or what was asked for is not in it
   2  wrong usage
 
-`varo-robot COMMAND --help` says more about a command.)";
+`varo-robot help COMMAND` says more about a command.)";
 
-constexpr std::array<Command const*, 11> commands = {&checkCommand, &infoCommand,    &treeCommand, &listCommand,
-                                                     &showCommand,  &poseCommand,    &massCommand, &graphCommand,
-                                                     &dumpCommand,  &convertCommand, &viewCommand};
+constexpr Command const* commands[] = {&checkCommand, &infoCommand, &treeCommand,  &listCommand, &showCommand,
+                                       &poseCommand,  &massCommand, &graphCommand, &dumpCommand, &convertCommand,
+                                       &diffCommand,  &viewCommand, &helpCommand};
 
 void declareCommands(CLI::App& app, std::function<int()>& chosen)
 {
@@ -45,43 +46,6 @@ void declareCommands(CLI::App& app, std::function<int()>& chosen)
         subcommand->callback([&chosen, action = command->declare(*subcommand)] { chosen = action; });
     }
     app.require_subcommand(1);
-}
-
-void suggest(std::string const& written, std::vector<std::string> const& words)
-{
-    Varo::Model::ClosestWord closest(written);
-    for (std::string const& word : words) {
-        closest.offer(word);
-    }
-    if (!closest.word().empty()) {
-        std::cerr << "Did you mean \"" << closest.word() << "\"?\n";
-    }
-}
-
-void suggestCommand(std::string const& written)
-{
-    std::vector<std::string> names;
-    for (Command const* const command : commands) {
-        names.emplace_back(command->name);
-    }
-    suggest(written, names);
-}
-
-/// For the first of the arguments that looks like an option and is none of the command's.
-void suggestOption(CLI::App const& command)
-{
-    std::vector<std::string> names;
-    for (CLI::Option const* option : command.get_options()) {
-        for (std::string const& name : option->get_lnames()) {
-            names.push_back("--" + name);
-        }
-    }
-    for (std::string const& argument : command.remaining()) {
-        if (argument.compare(0, 2, "--") == 0) {
-            suggest(argument.substr(0, argument.find('=')), names);
-            return;
-        }
-    }
 }
 
 /// Says what is wrong with the arguments, or prints the help that they ask for. The answer is 0 for the latter.
@@ -116,17 +80,21 @@ int run(int argumentCount, char** arguments)
 {
     std::ios::sync_with_stdio(false);
     CLI::App app(description, "varo-robot");
-    app.set_version_flag("--version", "varo-robot " VARO_ROBOT_VERSION);
+    app.set_version_flag("-V,--version", "varo-robot " VARO_ROBOT_VERSION);
     app.footer(footer);
     std::function<int()> chosen;
     declareCommands(app, chosen);
+    if (argumentCount > 1 && std::string_view(arguments[1]) == "complete") {  // asked by the scripts in completion/
+        printCompletions(std::cout, app, {arguments + 2, arguments + argumentCount});
+        return exitStatus::fine;
+    }
     try {
         app.parse(argumentCount, arguments);
     } catch (CLI::RequiredError const& error) {
         std::vector<std::string> const unknown = app.remaining();
         if (!unknown.empty()) {
             std::cerr << "There is no command \"" << visible(unknown.front()) << "\".\n";
-            suggestCommand(unknown.front());
+            suggestCommand(unknown.front(), app);
         }
         explain(app, error);
         return exitStatus::wrongUsage;

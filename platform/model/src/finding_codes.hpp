@@ -29,6 +29,11 @@ inline constexpr FindingCode badEncoding{"bad-encoding", Severity::error,
                                          "Bytes that are not UTF-8, or a declaration of another encoding."};
 inline constexpr FindingCode unknownRoot{"unknown-root", Severity::error,
                                          "The root element is that of no dialect of robot descriptions."};
+inline constexpr FindingCode xacroFile{
+    "xacro-file", Severity::error,
+    "The text has elements of xacro or expressions such as `${...}`: URDF is what xacro makes of it."};
+inline constexpr FindingCode otherFormat{"other-format", Severity::error,
+                                         "The text is a description of another format: SDF, MuJoCo's or SRDF."};
 inline constexpr FindingCode pathNotText{"path-not-text", Severity::error,
                                          "The text is no XML but looks like the path of a file."};
 inline constexpr FindingCode ambiguousName{
@@ -43,9 +48,9 @@ inline constexpr FindingCode tooManyFindings{
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofTexts[] = {
-    &unreadableFile,    &textTooLarge,  &malformedXml,      &documentType,    &contentOutsideRoot,
-    &repeatedAttribute, &badReference,  &badCharacter,      &badEncoding,     &unknownRoot,
-    &pathNotText,       &ambiguousName, &ambiguousLinkName, &tooManyFindings,
+    &unreadableFile, &textTooLarge,  &malformedXml,      &documentType,    &contentOutsideRoot, &repeatedAttribute,
+    &badReference,   &badCharacter,  &badEncoding,       &unknownRoot,     &xacroFile,          &otherFormat,
+    &pathNotText,    &ambiguousName, &ambiguousLinkName, &tooManyFindings,
 };
 
 }  // namespace codes

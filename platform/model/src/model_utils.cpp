@@ -8,6 +8,7 @@
 #include "native/native_codes.hpp"
 #include "native/native_reader.hpp"
 #include "native/native_writer.hpp"
+#include "other_formats.hpp"
 #include "robot/ambiguous_names.hpp"
 #include "robot/link_tree_codes.hpp"
 #include "robot/mirror_pairs.hpp"
@@ -52,6 +53,9 @@ std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& s
         return nullptr;
     }
     pugi::xml_node const root = document.document_element();
+    if (reportOtherFormat(root, diagnostics)) {
+        return nullptr;
+    }
     for (Dialect const& dialect : dialects) {
         if (dialect.root == root.name()) {
             Records records = dialect.read(root, diagnostics);
@@ -137,7 +141,16 @@ std::string toXml(Robot const& robot)
 
 std::string toUrdf(Robot const& robot)
 {
-    return writeUrdf(robot);
+    Findings findings;
+    return toUrdf(robot, findings);
+}
+
+std::string toUrdf(Robot const& robot, Findings& findings)
+{
+    Diagnostics diagnostics(robot.source());
+    std::string text = writeUrdf(robot, diagnostics);
+    findings = diagnostics.findings();
+    return text;
 }
 
 bool checkXml(std::string const& xml)

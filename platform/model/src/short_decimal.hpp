@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <string_view>
+#include <type_traits>
 
 namespace Varo::Model {
 
@@ -19,8 +20,9 @@ namespace Varo::Model {
 template <class Float>
 std::size_t parseShortDecimal(std::string_view text, Float& value)
 {
-    static constexpr Float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F, 1e9F, 1e10F};
-    constexpr std::ptrdiff_t mostDecimals = sizeof powers / sizeof powers[0] - 1;
+    static constexpr double powers[] = {1e0, 1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,
+                                        1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17};
+    constexpr std::ptrdiff_t mostDecimals = std::is_same_v<Float, float> ? 10 : 17;  // beyond, powers are rounded
     constexpr std::uint64_t largestExact = std::uint64_t{1}
                                            << static_cast<unsigned>(std::numeric_limits<Float>::digits);
     constexpr std::size_t longest = 19;  // characters, so that the digits fit into 64 bits
@@ -47,7 +49,7 @@ std::size_t parseShortDecimal(std::string_view text, Float& value)
     if (digitCount == 0 || digits > largestExact || decimals > mostDecimals || FLT_EVAL_METHOD != 0) {
         return 0;
     }
-    auto const number = static_cast<Float>(static_cast<std::int64_t>(digits)) / powers[decimals];
+    auto const number = static_cast<Float>(static_cast<std::int64_t>(digits)) / static_cast<Float>(powers[decimals]);
     value = negative ? -number : number;
     return static_cast<std::size_t>(at - text.data());
 }

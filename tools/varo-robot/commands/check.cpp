@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -13,7 +11,7 @@
 #include "support/description.hpp"
 #include "support/findings.hpp"
 #include "support/meshes.hpp"
-#include "support/numbers.hpp"
+#include "support/progress.hpp"
 #include "support/visible_text.hpp"
 #include "varo/model/lint.hpp"
 
@@ -50,6 +48,7 @@ Findings findingsOf(Description description, Varo::Model::LintOptions const& opt
     if (description.reading.robot == nullptr) {
         return std::move(description.reading.findings);
     }
+    Progress const progress("Checking " + description.file);
     Findings findings = Varo::Model::lint(*description.reading.robot, options);
     if (meshFolders != nullptr) {
         append(findings, missingMeshes(*description.reading.robot, *meshFolders));
@@ -160,16 +159,6 @@ int check(Options const& options)
     return isBad ? exitStatus::bad : exitStatus::fine;
 }
 
-bool parseTolerance(std::string const& text, double& tolerance)
-{
-    double value = 0.0;
-    char const* const end = text.data() + text.size();
-    auto const [stop, error] = std::from_chars(text.data(), end, value);
-    bool const isTolerance = error == std::errc() && stop == end && std::isfinite(value) && value >= 0.0;
-    tolerance = isTolerance ? value : tolerance;
-    return isTolerance;
-}
-
 void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
 {
     struct Tolerance {
@@ -185,20 +174,14 @@ void declareTolerances(CLI::App& app, Varo::Model::LintTolerances& tolerances)
              {"--tolerance-limit", tolerances.limit,
               "How far limits and the angles of postures may be out, in rad (m)"},
          }) {
-        auto const read = [&value = each.value](std::string const& text) {
-            if (!parseTolerance(text, value)) {
-                throw CLI::ValidationError("A tolerance is a number that is not negative, not " + text);
-            }
-        };
-        app.add_option_function<std::string>(each.option, read, each.meaning)
-            ->type_name("NUMBER")
-            ->default_str(rounded(each.value));
+        declareTolerance(app, each.option, each.value, each.meaning);
     }
 }
 
-void declareCodes(CLI::App& app, char const* option, std::vector<std::string>& codes, char const* meaning)
+void declareCodes(CLI::App& app, char const* option, std::vector<std::string>& codes, char const* type,
+                  char const* meaning)
 {
-    app.add_option(option, codes, meaning)->type_name("CODE")->allow_extra_args(false)->take_all();
+    app.add_option(option, codes, meaning)->type_name(type)->allow_extra_args(false)->take_all();
 }
 
 std::function<int()> declare(CLI::App& app)
@@ -206,10 +189,13 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     app.add_option("FILE", options->files, "Descriptions to check; - reads standard input")->type_name("")->required();
     app.add_flag("--strict", options->strict, "Take warnings for errors");
-    declareCodes(app, "--silence", options->silenced, "Leave out warnings and notes of this code; may be repeated");
+    declareCodes(app, "--silence", options->silenced, "CODE",
+                 "Leave out warnings and notes of this code; may be repeated");
     declareReading(app, options->reading);
-    declareCodes(app, "--rule", options->lint.only, "Of the rules, apply only that of this code; may be repeated");
-    declareCodes(app, "--no-rule", options->lint.without, "Do not apply the rule of this code; may be repeated");
+    declareCodes(app, "--rule", options->lint.only, "RULE",
+                 "Of the rules, apply only that of this code; may be repeated");
+    declareCodes(app, "--no-rule", options->lint.without, "RULE",
+                 "Do not apply the rule of this code; may be repeated");
     declareTolerances(app, options->lint.tolerances);
     CLI::Option* const meshes = app.add_flag("--meshes", options->meshes, "Look for the files of meshes, too");
     for (CLI::Option* const option : declareMeshFolders(app, options->meshFolders)) {
@@ -235,7 +221,7 @@ run on standard error, errors first:
       what to do about it
 
 Of kinds that occur more than three times in a file the first is printed, with
-the places of the others, unless --all are wanted.
+the places of the next few, unless --all are wanted.
 
 Errors refuse the description, warnings are about what loads but is hardly
 meant, and notes say what the reader passed over. What came up while the model

@@ -37,12 +37,21 @@ extern Command const massCommand;
 extern Command const graphCommand;
 extern Command const dumpCommand;
 extern Command const convertCommand;
+extern Command const diffCommand;
 extern Command const viewCommand;
+extern Command const helpCommand;
 
 /// Declares the argument that names the description file.
 void declareFile(CLI::App& app, std::string& file);
+/// Puts a file and what stands beside it into the order in which commands take them, which is another one than most
+/// people type, where the files that there are show that they were swapped.
+void putFileLast(std::string& other, std::string& file);
 /// Declares --no-infer.
 void declareReading(CLI::App& app, Varo::Model::ModelUtils::ReadOptions& options);
+/// Declares an option that says how far numbers may differ.
+void declareTolerance(CLI::App& app, char const* option, double& tolerance, char const* meaning);
+/// Declares --wide, of commands that print tables or trees.
+void declareWide(CLI::App& app, bool& wide);
 /// Declares --json.
 void declareJson(CLI::App& app, bool& json, char const* what);
 

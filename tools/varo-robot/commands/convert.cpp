@@ -1,10 +1,13 @@
+#include <algorithm>
 #include <iostream>
 #include <memory>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
 #include "support/description.hpp"
+#include "support/finding_text.hpp"
 #include "support/output_file.hpp"
 
 namespace Tool {
@@ -26,12 +29,25 @@ Existing whatBecomesOfOutput(Options const& options)
     return options.force || isInput ? Existing::isReplaced : Existing::isKept;
 }
 
+/// Says on standard error what URDF has no words for.
+std::string urdfOf(Varo::Model::Robot const& robot, std::string const& file)
+{
+    Varo::Model::Findings findings;
+    std::string text = Varo::Model::ModelUtils::toUrdf(robot, findings);
+    auto const isError = [](auto const& finding) { return finding.severity == Varo::Model::Severity::error; };
+    if (std::any_of(findings.begin(), findings.end(), isError)) {
+        throw Refused(file, std::move(findings));
+    }
+    printFolded(std::cerr, file, findings);
+    return text;
+}
+
 int convert(Options const& options)
 {
     Description const description = readAccepted(options.file, options.reading);
     Varo::Model::Robot const& robot = *description.reading.robot;
     std::string const text =
-        options.dialect == "urdf" ? Varo::Model::ModelUtils::toUrdf(robot) : Varo::Model::ModelUtils::toXml(robot);
+        options.dialect == "urdf" ? urdfOf(robot, description.file) : Varo::Model::ModelUtils::toXml(robot);
     if (options.output.empty() || options.output == "-") {
         std::cout << text;
     } else {
@@ -66,10 +82,10 @@ What the reader of a URDF description could not carry over is not written;
 `varo-robot check` says what that is. The names of links in a URDF description
 are kept in attributes "link".
 
-With --to urdf it is written in URDF. What URDF has no words for is left out:
-coupled actuators that are no mimics, wheels, sub-joints, postures, chains as
-they are stated, mirrors, free attributes, names for people, and whether a joint
-has a motor.
+With --to urdf it is written in URDF. What URDF has no words for, such as lights,
+wheels and mirrors, is noted on standard error, and kept in an element of a
+namespace of our own, which other programs pass over: converting back gives the
+same description.
 
 OUT may be FILE itself; any other file that is there already is replaced with
 --force only. OUT is the old file until the new one is whole and on the disk.

@@ -21,6 +21,7 @@ struct Options {
     std::string file;
     Varo::Model::ModelUtils::ReadOptions reading;
     bool json = false;
+    bool wide = false;
 };
 
 std::string cellOf(Json const& element, Column const& column, LinkNames const& names)
@@ -34,7 +35,7 @@ std::string cellOf(Json const& element, Column const& column, LinkNames const& n
     return column.isLink ? names.of(text) : text;
 }
 
-void printForEyes(Kind const& kind, Sim::Model const& model)
+void printForEyes(Kind const& kind, Sim::Model const& model, bool wide)
 {
     LinkNames const names(model);
     std::vector<Row> rows(1);
@@ -48,7 +49,7 @@ void printForEyes(Kind const& kind, Sim::Model const& model)
         }
         rows.push_back(std::move(row));
     });
-    printTable(std::move(rows));
+    printTable(std::move(rows), wide);
 }
 
 void printForPrograms(Kind const& kind, Sim::Model const& model)
@@ -84,8 +85,11 @@ std::string suggestion(std::string const& written)
     return closest.word().empty() ? "" : " Did you mean \"" + std::string(closest.word()) + "\"?";
 }
 
-int list(Options const& options)
+int list(Options options)
 {
+    if (findKind(options.kind) == nullptr && findKind(options.file) != nullptr) {
+        options.kind.swap(options.file);
+    }
     Kind const* const kind = findKind(options.kind);
     if (kind == nullptr) {
         std::cerr << "There are no elements of the kind \"" << visible(options.kind) << "\"."
@@ -94,7 +98,7 @@ int list(Options const& options)
         return exitStatus::wrongUsage;
     }
     Robot const robot = loadRobot(options.file, options.reading);
-    options.json ? printForPrograms(*kind, robot.model) : printForEyes(*kind, robot.model);
+    options.json ? printForPrograms(*kind, robot.model) : printForEyes(*kind, robot.model, options.wide);
     return exitStatus::fine;
 }
 
@@ -104,6 +108,7 @@ std::function<int()> declare(CLI::App& app)
     app.add_option("KIND", options->kind, "What to list, in the plural or the singular")->type_name("")->required();
     declareFile(app, options->file);
     declareReading(app, options->reading);
+    declareWide(app, options->wide);
     app.add_flag("--json", options->json, "Print a JSON array of the elements, each as `dump` prints it");
     app.footer(listCommand.details + ("\n\nKinds:\n" + knownKinds()));
     return [options] { return list(*options); };
@@ -115,7 +120,8 @@ Command const listCommand = {"list", "List the elements of one kind as a table",
                              R"(Prints a table with a line for each element of the kind, in the order in which
 the model made them: "-" stands for none, positions are those in the root frame
 (m), numbers are in SI units. Links have the names that the description gives
-them.
+them. FILE may stand before KIND, too. On a terminal, cells
+that would not fit end with an ellipsis, unless --wide is given.
 
 Examples:
   varo-robot list joints robots/humanoid.xml

@@ -22,6 +22,7 @@ struct Options {
     std::string file;
     MotionOptions motion;
     bool json = false;
+    bool wide = false;
 };
 
 /// A link or a chain: what it weighs, and the sum of mass times place in the root's frame.
@@ -81,13 +82,13 @@ Row rowOf(std::string const& name, double mass, Sim::Vector3 const& centerOfMass
     return {name, rounded(mass) + " kg", mass == 0.0 ? "-" : triple(centerOfMass)};
 }
 
-void printParts(char const* title, std::vector<Part> const& parts)
+void printParts(char const* title, std::vector<Part> const& parts, bool wide)
 {
     std::vector<Row> rows = {{title, "MASS", "CENTRE OF MASS"}};
     for (Part const& part : parts) {
         rows.push_back(rowOf(part.name, part.mass, part.centerOfMass()));
     }
-    printTable(std::move(rows));
+    printTable(std::move(rows), wide);
     std::cout << '\n';
 }
 
@@ -102,14 +103,14 @@ void printInertia(std::array<double, 9> const& inertia)
     }
 }
 
-void printForEyes(Masses const& masses)
+void printForEyes(Masses const& masses, bool wide)
 {
-    printParts("LINK", masses.links);
+    printParts("LINK", masses.links, wide);
     if (!masses.chains.empty()) {
-        printParts("CHAIN", masses.chains);
+        printParts("CHAIN", masses.chains, wide);
     }
     auto const& [mass, centerOfMass, inertia] = masses.total;
-    printTable({{"TOTAL", "MASS", "CENTRE OF MASS"}, rowOf("robot", mass, centerOfMass)});
+    printTable({{"TOTAL", "MASS", "CENTRE OF MASS"}, rowOf("robot", mass, centerOfMass)}, wide);
     printInertia(inertia);
 }
 
@@ -156,7 +157,7 @@ int mass(Options const& options)
         printJson(std::cout, massJson(masses, moved.configurationJson()));
         std::cout << '\n';
     } else {
-        printForEyes(masses);
+        printForEyes(masses, options.wide);
     }
     return exitStatus::fine;
 }
@@ -166,6 +167,7 @@ std::function<int()> declare(CLI::App& app)
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
     declareMotion(app, options->motion);
+    declareWide(app, options->wide);
     declareJson(app, options->json, "the configuration and the masses");
     return [options] { return mass(*options); };
 }

@@ -20,6 +20,7 @@ struct Options {
     std::vector<std::string> names;
     MotionOptions motion;
     bool json = false;
+    bool wide = false;
 };
 
 struct NamedPose {
@@ -45,13 +46,13 @@ std::vector<NamedPose> posesOf(Options const& options, Sim::Model const& model, 
     return poses;
 }
 
-void printForEyes(std::vector<NamedPose> const& poses, bool degrees)
+void printForEyes(std::vector<NamedPose> const& poses, Options const& options)
 {
     std::vector<Row> rows = {{"NAME", "POSE"}};
     for (auto const& [name, pose] : poses) {
-        rows.push_back({name, poseText(pose, degrees)});
+        rows.push_back({name, poseText(pose, options.motion.degrees)});
     }
-    printTable(std::move(rows));
+    printTable(std::move(rows), options.wide);
 }
 
 Json poseJson(std::vector<NamedPose> const& poses)
@@ -63,8 +64,11 @@ Json poseJson(std::vector<NamedPose> const& poses)
     return array;
 }
 
-int pose(Options const& options)
+int pose(Options options)
 {
+    if (!options.names.empty()) {
+        putFileLast(options.names.front(), options.file);
+    }
     Robot const robot = loadRobot(options.file);
     MovedRobot const moved(robot.model, options.motion, robot.file);
     std::vector<NamedPose> const poses = posesOf(options, robot.model, moved);
@@ -78,7 +82,7 @@ int pose(Options const& options)
         printJson(std::cout, data);
         std::cout << '\n';
     } else {
-        printForEyes(poses, options.motion.degrees);
+        printForEyes(poses, options);
     }
     return exitStatus::fine;
 }
@@ -87,10 +91,11 @@ std::function<int()> declare(CLI::App& app)
 {
     auto const options = std::make_shared<Options>();
     declareFile(app, options->file);
-    app.add_option("NAME", options->names, "Links, joints, sensors or actuators; all links when none is named")
+    app.add_option("FRAME", options->names, "Links, joints, sensors or actuators; all links when none is named")
         ->type_name("");
     declareMotion(app, options->motion);
     declareReference(app, options->motion);
+    declareWide(app, options->wide);
     declareJson(app, options->json, "the configuration and the poses");
     return [options] { return pose(*options); };
 }
@@ -104,7 +109,8 @@ yaw about fixed axes (rad). All joint values are 0 unless a posture or --joint
 says otherwise; joints that follow an actuator or another joint then stand at
 their offset. Limits do not matter.
 
-A name stands for a link or, when none has it, for a joint, sensor or actuator.
+A FRAME is the name of a link or, when none has it, of a joint, sensor or
+actuator.
 The frame of a joint belongs to the link before it.
 
 With --json: an object with the configuration (rad, m), the name of the frame

@@ -230,8 +230,9 @@ std::string similarNames(Sim::Model const& model, std::string const& name)
     return text.empty() ? "" : text + ".";
 }
 
-int show(Options const& options)
+int show(Options options)
 {
+    putFileLast(options.name, options.file);
     Robot const robot = loadRobot(options.file);
     Sim::Model const& model = robot.model;
     std::vector<Sighting> const found = Search(model, options.name).run();
@@ -260,7 +261,8 @@ Command const showCommand = {"show", "Show everything of a name",
 with their groups and symmetries, chains, groups, actuators, sensors with their
 settings, transmissions and postures, one after the other when several have it.
 A link is found by the name that the description gives it, as URDF does, and by
-the model's, which is that of its joint with Link appended.
+the model's, which is that of its joint with Link appended. FILE may stand
+before NAME, too.
 
 With --json: an array of objects, each with its kind (link, joint, symmetry,
 chain, joint group, actuator, actuator group, sensor, transmission or posture) and then as

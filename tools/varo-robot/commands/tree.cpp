@@ -30,6 +30,7 @@ struct Options {
     bool pose = false;
     bool mass = false;
     bool json = false;
+    bool wide = false;
     MotionOptions motion;
 };
 
@@ -84,6 +85,7 @@ struct Line {
     std::string text;
     std::size_t columns;  ///< that the text takes up
     std::string facts;
+    std::string below;  ///< the strokes that pass by a line between this one and the next
 };
 
 /// Draws a model's tree line by line, depth first.
@@ -109,6 +111,7 @@ private:
     void pushChildren(Sim::Link const& link, std::size_t depth);
     void paintJoint(Step const& step);
     std::string branchOf(Step const& step);
+    std::string strokesOf(Step const& step) const;
     std::string labelOf(Sim::Link const& link, Palette const& palette) const;
     std::string labelOf(Sim::Joint const& joint, Palette const& palette) const;
     std::string factsOf(Sim::Link const& link) const;
@@ -126,7 +129,8 @@ private:
 
 std::vector<Line> TreePainter::paint(Sim::Link const& root)
 {
-    _lines.push_back({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root)});
+    _lines.push_back({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root),
+                      root.childrenJoints().empty() ? _strokes.blank : _strokes.pass});
     pushChildren(root, 0);
     while (!_steps.empty()) {
         Step const step = _steps.back();
@@ -147,10 +151,13 @@ void TreePainter::pushChildren(Sim::Link const& link, std::size_t depth)
 void TreePainter::paintJoint(Step const& step)
 {
     std::string const branch = branchOf(step);
-    Line line = {
-        branch + labelOf(*step.joint, _palette), columnsOf(branch) + columnsOf(labelOf(*step.joint, _colourless)), {}};
+    Line line = {branch + labelOf(*step.joint, _palette),
+                 columnsOf(branch) + columnsOf(labelOf(*step.joint, _colourless)),
+                 {},
+                 strokesOf(step) + (step.isLast ? _strokes.blank : _strokes.pass)};
     if (Sim::Link const* const link = step.joint->childLink()) {
         line.facts = factsOf(*link);
+        line.below += link->childrenJoints().empty() ? _strokes.blank : _strokes.pass;
         pushChildren(*link, step.depth + 1);
     }
     _lines.push_back(std::move(line));
@@ -159,15 +166,22 @@ void TreePainter::paintJoint(Step const& step)
 std::string TreePainter::branchOf(Step const& step)
 {
     _isLast.resize(step.depth);
-    std::string branch;
-    for (std::size_t level = 0; level < std::min(step.depth, deepestIndent); ++level) {
-        branch += _isLast[level] ? _strokes.blank : _strokes.pass;
-    }
+    std::string branch = strokesOf(step);
     _isLast.push_back(step.isLast);
     if (step.depth > deepestIndent) {
         branch += _strokes.deeper + std::to_string(step.depth) + " ";
     }
     return branch + (step.isLast ? _strokes.end : _strokes.fork);
+}
+
+/// Those of the levels above.
+std::string TreePainter::strokesOf(Step const& step) const
+{
+    std::string strokes;
+    for (std::size_t level = 0; level < std::min(step.depth, deepestIndent); ++level) {
+        strokes += _isLast[level] ? _strokes.blank : _strokes.pass;
+    }
+    return strokes;
 }
 
 std::string TreePainter::labelOf(Sim::Link const& link, Palette const& palette) const
@@ -198,16 +212,37 @@ std::string TreePainter::factsOf(Sim::Link const& link) const
     return facts;
 }
 
-void printTree(std::vector<Line> const& lines)
+/// Strokes and facts on one line; where both do not fit, the facts are worth more.
+std::string factsBelow(std::string strokes, std::string const& facts, std::size_t width)
 {
+    while (!strokes.empty() && columnsOf(strokes) + columnsOf(facts) > width) {
+        bool isWhole = false;
+        while (!isWhole) {
+            isWhole = columnsOf(strokes.substr(strokes.size() - 1)) == 1;
+            strokes.pop_back();
+        }
+    }
+    return shortened(strokes + facts, width);
+}
+
+/// Facts stand in columns of their own or, where those would not fit, below what they are about.
+void printTree(std::vector<Line> const& lines, std::size_t width)
+{
+    constexpr std::size_t gap = 2;
     std::size_t widest = 0;
+    std::size_t widestFacts = 0;
     for (Line const& line : lines) {
         widest = std::max(widest, std::min(line.columns, widestTree));
+        widestFacts = std::max(widestFacts, columnsOf(line.facts));
     }
+    bool const below = widest + gap + widestFacts > width;
     for (Line const& line : lines) {
-        std::cout << line.text;
-        if (!line.facts.empty()) {
-            std::cout << std::string(line.columns < widest ? widest - line.columns : 0, ' ') << "  " << line.facts;
+        bool const hasFacts = !line.facts.empty();
+        std::cout << shortened(line.text, width);
+        if (hasFacts && below) {
+            std::cout << '\n' << factsBelow(line.below, line.facts, width);
+        } else if (hasFacts) {
+            std::cout << std::string(line.columns < widest ? widest - line.columns + gap : gap, ' ') << line.facts;
         }
         std::cout << '\n';
     }
@@ -243,7 +278,8 @@ int tree(Options const& options)
     if (options.json) {
         printForPrograms(model, poses);
     } else {
-        printTree(TreePainter(options, JointWords(model), poses).paint(*model.rootLink()));
+        printTree(TreePainter(options, JointWords(model), poses).paint(*model.rootLink()),
+                  options.wide ? unboundedWidth : outputWidth());
     }
     return exitStatus::fine;
 }
@@ -256,6 +292,7 @@ std::function<int()> declare(CLI::App& app)
     app.add_flag("--mass", options->mass, "Add each link's mass");
     declareMotion(app, options->motion);
     declareReference(app, options->motion);
+    declareWide(app, options->wide);
     declareJson(app, options->json, "the links");
     return [options] { return tree(*options); };
 }
@@ -270,7 +307,9 @@ floating, coupled to others by an actuator, a mimic of another, or passive.
 
 Branches are drawn with box-drawing characters in a UTF-8 locale, with plain
 ones otherwise. Colour appears on terminals only; set NO_COLOR to be without.
-Lines deeper than 40 levels are not indented further and state their depth.
+Lines deeper than 40 levels are not indented further and state their depth. On a
+terminal that is too narrow for them, poses and masses stand below their links,
+and longer lines end with an ellipsis, unless --wide is given.
 
 Poses are those with all joints at zero, as in `dump`, unless a posture or a
 joint value is given; then joints that follow stand where that puts them, as in

@@ -12,6 +12,7 @@
 #include "support/meshes.hpp"
 #include "support/moved_robot.hpp"
 #include "support/output_file.hpp"
+#include "support/progress.hpp"
 #include "support/visible_text.hpp"
 #include "view/embedding.hpp"
 #include "view/page.hpp"
@@ -54,6 +55,7 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
 {
     Members data;
     Varo::Model::Findings findings;
+    auto progress = std::make_unique<Progress>("Reading meshes and images");
     for (std::string const& uri : uris) {
         Json entry = read(uri);
         if (entry.contains("reason")) {
@@ -63,6 +65,7 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
         }
         data.set(uri, std::move(entry));
     }
+    progress.reset();  // before anything else is printed
     printFindings(std::cerr, file, findings);
     return data.take();
 }
@@ -97,7 +100,8 @@ std::string jsonOf(Robot const& robot, Options const& options)
 int openInBrowser(std::string const& page)
 {
     std::cout.flush();
-    ::execlp("xdg-open", "xdg-open", page.c_str(), static_cast<char*>(nullptr));
+    std::string const path = std::filesystem::absolute(page);  // never an option, whatever the page is called
+    ::execlp("xdg-open", "xdg-open", path.c_str(), static_cast<char*>(nullptr));
     std::cerr << "varo-robot: error: xdg-open, which opens pages in a browser, is not there.\n";
     return exitStatus::bad;
 }

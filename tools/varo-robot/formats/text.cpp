@@ -1,7 +1,5 @@
 #include <algorithm>
 #include <iostream>
-#include <map>
-#include <utility>
 
 #include "formats/formats.hpp"
 #include "support/finding_text.hpp"
@@ -14,13 +12,6 @@ namespace {
 using Varo::Model::Finding;
 using Varo::Model::Findings;
 using Varo::Model::Severity;
-
-/// More of one kind than this stand together.
-constexpr std::size_t mostApart = 3;
-constexpr std::size_t widestLine = 100;
-
-/// What is the same fault again and again.
-using Kind = std::pair<Severity, std::string>;
 
 /// "2 errors, 1 warning", or "fine".
 std::string summary(Findings const& findings)
@@ -37,47 +28,12 @@ std::string summary(Findings const& findings)
     return text.empty() ? "fine" : text;
 }
 
-/// Errors first, of what is alike in that those of one kind together.
-std::vector<Findings> byKind(Findings const& findings)
-{
-    std::vector<Findings> kinds;
-    std::map<Kind, std::size_t> indices;
-    for (Finding const& finding : findings) {
-        auto const [known, isNew] = indices.try_emplace({finding.severity, finding.code}, kinds.size());
-        if (isNew) {
-            kinds.emplace_back();
-        }
-        kinds[known->second].push_back(finding);
-    }
-    std::stable_sort(kinds.begin(), kinds.end(),
-                     [](Findings const& a, Findings const& b) { return a.front().severity > b.front().severity; });
-    return kinds;
-}
-
-/// Lines of the places of all but the first.
-void printOtherPlaces(Findings const& kind)
-{
-    std::string line = "    and " + std::to_string(kind.size() - 1) + " more, at";
-    for (std::size_t i = 1; i < kind.size(); ++i) {
-        std::string const place = " " + std::to_string(kind[i].line) + ":" + std::to_string(kind[i].column) +
-                                  (i + 1 < kind.size() ? "," : "");
-        if (line.size() + place.size() > widestLine) {
-            std::cerr << line << '\n';
-            line = "       ";
-        }
-        line += place;
-    }
-    std::cerr << line << '\n';
-}
-
 void printFile(CheckedFile const& file, bool all)
 {
-    for (Findings const& kind : byKind(file.findings)) {
-        bool const isFolded = !all && kind.size() > mostApart && kind.front().line != 0;
-        printFindings(std::cerr, file.name, isFolded ? Findings{kind.front()} : kind);
-        if (isFolded) {
-            printOtherPlaces(kind);
-        }
+    if (all) {
+        printFindings(std::cerr, file.name, byKind(file.findings));
+    } else {
+        printFolded(std::cerr, file.name, file.findings);
     }
     std::cout << visibleName(file.name) << ": " << summary(file.findings) << std::endl;  // in step with the findings
 }
@@ -94,9 +50,7 @@ std::string advice(std::vector<CheckedFile> const& files)
             hasFindings = true;
         }
     }
-    return hasFindings
-               ? "Fix what is not meant; --silence CODE leaves out what is. docs/checking.md explains the codes.\n"
-               : "";
+    return hasFindings ? "--silence CODE leaves out what is meant; docs/checking.md explains the codes.\n" : "";
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <unistd.h>
 
 #include "support/finding_text.hpp"
+#include "support/progress.hpp"
+#include "support/visible_text.hpp"
 #include "varo/model/text_file.hpp"
 
 namespace Tool {
@@ -35,6 +37,7 @@ Description readDescription(std::string const& file, Varo::Model::ModelUtils::Re
 {
     Description description;
     description.file = file == "-" ? "<stdin>" : file;
+    Progress const progress("Reading " + visibleName(description.file));
     TextFile text = file == "-" ? readTextFile(STDIN_FILENO) : readTextFile(file);
     if (text.obstacle.empty() && text.text.empty()) {
         description.reading.findings = {
@@ -55,11 +58,21 @@ Description readAccepted(std::string const& file, Varo::Model::ModelUtils::ReadO
     return description;
 }
 
+namespace {
+
+Sim::Model modelOf(Description&& description)
+{
+    Progress const progress("Building the model of " + description.file);
+    return Sim::Model(std::move(description.reading));
+}
+
+}  // namespace
+
 Robot loadRobot(std::string const& file, Varo::Model::ModelUtils::ReadOptions const& options)
 {
     Description description = readAccepted(file, options);
     try {
-        Robot robot = {description.file, Sim::Model(std::move(description.reading))};
+        Robot robot = {description.file, modelOf(std::move(description))};
         Findings findings = robot.model.findings();
         auto const isOther = [](Finding const& finding) { return finding.code != codes::modelIncomplete; };
         findings.erase(std::remove_if(findings.begin(), findings.end(), isOther), findings.end());

@@ -15,6 +15,12 @@ char const* nameOf(Varo::Model::Severity severity);
 /// file has no line and column. Coloured when standard error is a terminal.
 void printFindings(std::ostream& out, std::string const& file, Varo::Model::Findings const& findings);
 
+/// Errors first, of what is alike in that those of one kind together.
+Varo::Model::Findings byKind(Varo::Model::Findings const& findings);
+
+/// The same, with no more than a line of places for all but the first where there are many of one kind.
+void printFolded(std::ostream& out, std::string const& file, Varo::Model::Findings const& findings);
+
 }  // namespace Tool
 
 #endif

@@ -69,7 +69,7 @@ void declareMotion(CLI::App& app, MotionOptions& options)
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);  // what follows is the file
     app.add_option("--posture", options.posture, "Start from a posture of the description; otherwise from zero")
-        ->type_name("NAME");
+        ->type_name("POSTURE");
     app.add_flag("--degrees", options.degrees, "Take and print angles in degrees");
 }
 
@@ -77,7 +77,7 @@ void declareReference(CLI::App& app, MotionOptions& options)
 {
     app.add_option("--relative-to", options.relativeTo,
                    "Print poses in the frame of this link, joint or device; otherwise of the root")
-        ->type_name("NAME");
+        ->type_name("FRAME");
 }
 
 MovedRobot::MovedRobot(Sim::Model const& model, MotionOptions const& options, std::string file)

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cstdlib>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace Tool {
@@ -66,6 +67,37 @@ std::size_t columnsOf(std::string_view text)
 {
     return static_cast<std::size_t>(std::count_if(
         text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+std::size_t outputWidth()
+{
+    winsize size = {};
+    bool const isKnown = isatty(STDOUT_FILENO) != 0 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? size.ws_col : unboundedWidth;
+}
+
+std::string shortened(std::string_view text, std::size_t columns)
+{
+    constexpr char escape = '\033';
+    std::size_t taken = 0;
+    std::size_t end = 0;  // of what stays when there is an ellipsis behind it
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t const begin = at;
+        if (text[at] == escape) {
+            at = std::min(text.find('m', at), text.size() - 1) + 1;
+            continue;
+        }
+        do {
+            ++at;
+        } while (at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U);
+        end = taken + 1 == columns ? begin : end;
+        if (++taken > columns) {
+            bool const isColoured = text.substr(0, end).find(escape) != text.npos;
+            char const* const ellipsis = isUtf8Locale() ? "…" : "~";
+            return std::string(text.substr(0, end)) + ellipsis + (isColoured ? "\033[0m" : "");
+        }
+    }
+    return std::string(text);
 }
 
 }  // namespace Tool

@@ -1,6 +1,8 @@
 #ifndef TOOL_SUPPORT_TERMINAL_HPP
 #define TOOL_SUPPORT_TERMINAL_HPP
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -26,6 +28,15 @@ private:
 
 /// The columns that a UTF-8 text takes up on a terminal, one for each code point.
 std::size_t columnsOf(std::string_view text);
+
+/// What has no bounds.
+inline constexpr std::size_t unboundedWidth = std::numeric_limits<std::size_t>::max();
+
+/// The columns of the terminal that standard output goes to; `unboundedWidth` for anything else.
+std::size_t outputWidth();
+
+/// The text, with an ellipsis for its end where it takes up more columns; colour takes up none.
+std::string shortened(std::string_view text, std::size_t columns);
 
 }  // namespace Tool
 

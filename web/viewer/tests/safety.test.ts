@@ -50,9 +50,9 @@ test('no name gets out of the data', async () => {
   ];
   for (const attack of attacks) {
     const name = escaped(attack);
-    const text = `<robot name="${name}"><link name="${name}"/><link name="b ${name}"><inertial><mass value="1"/></inertial></link>
-      <joint name="j ${name}" type="revolute"><parent link="${name}"/><child link="b ${name}"/><limit lower="-1" upper="1" effort="1" velocity="1"/></joint></robot>`;
-    const { page, offences } = await openPage(browser, pageOf(writeScratch('attack.urdf', text)));
+    const text = `<robotDescription name="${name}"><root name="${name}"/><joint name="j ${name}" min="-1" max="1" maxSpeed="1" maxTorque="1"/>
+      <chain name="c ${name}" parent="${name}"><jointRef name="j ${name}"/></chain></robotDescription>`;
+    const { page, offences } = await openPage(browser, pageOf(writeScratch('attack.xml', text)));
     assert.deepEqual(offences, [], attack);
     assert.equal(await page.$eval('h1', (title) => title.textContent), attack);
     assert.equal(await page.$$eval('script', (scripts) => scripts.length), 2, attack);

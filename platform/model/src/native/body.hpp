@@ -64,9 +64,17 @@ void writeMirror(ElementWriter& writer, Record const& record)
         writer.write(mirrorElement<rule>, {record.mirrorName, record.mirrorKind == reflectedMirror});
     }
 }
+template <class Record>
+void clearMirror(Record& record)
+{
+    record.mirrorName.clear();
+    record.mirrorKind = noMirror;
+}
 template <class Record, NameRule const& rule>
-inline constexpr Child<Record> mirrorChild{
-    {&mirrorElement<rule>, Occurrence::optional}, readMirror<Record, rule>, writeMirror<Record, rule>};
+inline constexpr Child<Record> mirrorChild{{&mirrorElement<rule>, Occurrence::optional},
+                                           readMirror<Record, rule>,
+                                           writeMirror<Record, rule>,
+                                           clearMirror<Record>};
 
 }  // namespace Varo::Model::Native
 

@@ -22,6 +22,13 @@ struct ExtensionReading : ExtensionConfig {
 };
 
 extern Element<Records> const robotDescriptionElement;
+/// The same of a robot that another text describes: root, joints and sensors change what stands there, and the others
+/// replace all of their name.
+extern Element<Records> const amendmentElement;
+
+/// Makes the robot one that states all that a text of the native dialect states, so that links only have names of their
+/// own where these are others than the usual ones.
+void declareComplete(Records& robot);
 
 // What stands in it.
 extern Element<JointConfig> const rootElement;

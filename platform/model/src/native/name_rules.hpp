@@ -96,18 +96,18 @@ inline constexpr NameRule angleOwner{
      {&codes::angleOfUnknown, "% has no angle: it is no joint of a chain that has a motor, and no actuator on one."}}};
 
 /// Things that are attached to each other must not be so in a cycle.
-struct Loop {
+struct Cycle {
     NameRule const* parent;  ///< the attribute that says what a thing is attached to
     NameRule const* part;  ///< the attribute, of the thing or its children, by whose name others are attached to it
     Complaint complaint;  ///< in which % is the thing
 };
-inline constexpr Loop loops[] = {
+inline constexpr Cycle cycles[] = {
     {&actuatorParent,
      &ofActuator,
-     {&codes::actuatorLoop, "The parents of the actuator % lead back to it.", "Attach one of them to a joint."}},
+     {&codes::actuatorCycle, "The parents of the actuator % lead back to it.", "Attach one of them to a joint."}},
     {&chainParent,
      &chainJoint,
-     {&codes::chainLoop, "The parents of the chain % lead back to it, so that it is not attached to the root."}},
+     {&codes::chainCycle, "The parents of the chain % lead back to it, so that it is not attached to the root."}},
 };
 
 }  // namespace names

@@ -41,11 +41,32 @@ void Names::use(NameRule const& rule, std::string_view name, pugi::xml_node node
     }
 }
 
+void Names::addAll(Records const& robot)
+{
+    auto const add = [this](auto const& table, unsigned kind) {
+        for (auto const& config : table) {
+            entryOf(config.name).second |= kind;
+        }
+    };
+    entryOf(robot.root.name).second |= names::root;
+    add(robot.joints, names::joint);
+    add(robot.chains, names::chain);
+    add(robot.actuators, names::actuator);
+    add(robot.subActuators, names::subJoint);
+    add(robot.wheels, names::wheel);
+    add(robot.sensors, names::sensor);
+    for (ChainConfig const& chain : robot.chains) {
+        for (std::string const& joint : chain.jointNames) {
+            entryOf(joint).second |= names::inChain | names::hasAngle;
+        }
+    }
+}
+
 void Names::checkReferences(Records const& robot)
 {
-    for (names::Loop const& loop : names::loops) {
-        if (!_isAnyLost || loop.complaint.code->severity == Severity::error) {
-            checkLoop(loop);
+    for (names::Cycle const& cycle : names::cycles) {
+        if (!_isAnyLost || cycle.complaint.code->severity == Severity::error) {
+            checkCycle(cycle);
         }
     }
     if (_isAnyLost) {
@@ -114,20 +135,20 @@ Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
     return meant;
 }
 
-void Names::checkLoop(names::Loop const& loop)
+void Names::checkCycle(names::Cycle const& cycle)
 {
     std::vector<Use const*> attached;
     std::unordered_map<void const*, std::size_t> indexOfNode;
     std::unordered_map<Entry const*, std::size_t> owners;  // of the names that something is attached to
     for (Use const& use : _uses) {
-        if (use.rule == loop.parent) {
+        if (use.rule == cycle.parent) {
             indexOfNode.emplace(use.node.internal_object(), attached.size());
             owners.emplace(use.entry, none);
             attached.push_back(&use);
         }
     }
     for (Use const& use : _uses) {
-        auto const owner = use.rule == loop.part ? owners.find(use.entry) : owners.end();
+        auto const owner = use.rule == cycle.part ? owners.find(use.entry) : owners.end();
         if (owner != owners.end() && owner->second == none) {
             auto const own = indexOfNode.find(use.node.internal_object());
             auto const found = own != indexOfNode.end() ? own : indexOfNode.find(use.node.parent().internal_object());
@@ -138,12 +159,12 @@ void Names::checkLoop(names::Loop const& loop)
     for (Use const* use : attached) {
         parents.push_back(owners[use->entry]);
     }
-    for (Cycle const& cycle : findCycles(parents)) {
-        Use const& first = *attached[cycle.front()];
+    for (Model::Cycle const& found : findCycles(parents)) {
+        Use const& first = *attached[found.front()];
         pugi::xml_node const node = first.node;
-        _diagnostics.report(at(node, first.attribute), *loop.complaint.code,
-                            filledIn(loop.complaint.message, node.attribute("name").value()),
-                            std::string(loop.complaint.hint));
+        _diagnostics.report(at(node, first.attribute), *cycle.complaint.code,
+                            filledIn(cycle.complaint.message, node.attribute("name").value()),
+                            std::string(cycle.complaint.hint));
     }
 }
 

@@ -30,6 +30,9 @@ public:
     /// The characters of a name that does not stand in the text itself.
     std::string_view keep(std::string name) { return _kept.emplace_back(std::move(name)); }
 
+    /// The names of records that stand in another text; these must outlive this.
+    void addAll(Records const& robot);
+
     /// The name that the rule is for could not be read.
     void lose(NameRule const& rule) { _isAnyLost = _isAnyLost || (rule.gives.kinds & names::referable) != 0; }
     /// Something that may define names could not be read: whether a name is known can no longer be told.
@@ -61,7 +64,7 @@ private:
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
     Entry* findMeant(std::string_view written, unsigned kinds);
-    void checkLoop(names::Loop const& loop);
+    void checkCycle(names::Cycle const& cycle);
 
     Diagnostics& _diagnostics;
     std::deque<std::string> _kept;

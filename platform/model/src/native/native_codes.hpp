@@ -44,8 +44,8 @@ inline constexpr FindingCode wrongKeyCount{
     "A sensor has more or fewer keys than its kind may have, so that no model will contain it."};
 
 // Names that refer to other elements.
-inline constexpr FindingCode actuatorLoop{"actuator-loop", Severity::error,
-                                          "The chain of an actuator's parents leads back to it."};
+inline constexpr FindingCode actuatorCycle{"actuator-cycle", Severity::error,
+                                           "The chain of an actuator's parents leads back to it."};
 inline constexpr FindingCode danglingReference{"dangling-reference", Severity::warning,
                                                "A name refers to an element that is not there."};
 inline constexpr FindingCode jointInNoChain{"joint-in-no-chain", Severity::warning,
@@ -56,8 +56,8 @@ inline constexpr FindingCode tooManyChainPlaces{
     "too-many-chain-places", Severity::error,
     "The chains list joints again and again: more than 1,000,000 places of joints and what is attached to them, and 16 "
     "for each joint, chain, actuator and sub-joint."};
-inline constexpr FindingCode chainLoop{
-    "chain-loop", Severity::warning,
+inline constexpr FindingCode chainCycle{
+    "chain-cycle", Severity::warning,
     "Chains are attached to each other in a cycle, so that none is attached to the root."};
 inline constexpr FindingCode angleOfUnknown{
     "angle-of-unknown", Severity::warning,
@@ -80,14 +80,14 @@ inline constexpr FindingCode const* ofDialect[] = {
     &missingSensorText,
     &wrongSensorText,
     &wrongKeyCount,
-    &actuatorLoop,
+    &actuatorCycle,
     &Model::codes::mimicCycle,
     &Model::codes::notANumber,
     &danglingReference,
     &jointInNoChain,
     &jointInTwoChains,
     &tooManyChainPlaces,
-    &chainLoop,
+    &chainCycle,
     &angleOfUnknown,
 };
 

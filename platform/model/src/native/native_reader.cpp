@@ -29,6 +29,12 @@ constexpr PartPlace parts[] = {
     {Part::placement, {}, "placement"},
     {Part::damping, "damping"},
     {Part::friction, "friction"},
+    {Part::geometry, {}, "mesh|box|cylinder|sphere|capsule", "visual"},
+    {Part::geometry, {}, "mesh|box|cylinder|sphere|capsule", "collision"},
+    {Part::geometry, "mesh"},
+    {Part::tip, {}, "tipPlacement"},
+    {Part::ratio, "ratio"},
+    {Part::mimic, {}, "mimic"},
     {Part::resolutions, "value", "attribute", {}, "resolutions"},
 };
 

@@ -39,7 +39,8 @@ constexpr Child<Parent> poseChild()
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
                 parent.*member = readPose(reader, element, node);
             },
-            [](ElementWriter& writer, Parent const& parent) { writePose(writer, element, parent.*member); }};
+            [](ElementWriter& writer, Parent const& parent) { writePose(writer, element, parent.*member); },
+            [](Parent& parent) { parent.*member = Transform(); }};
 }
 
 }  // namespace Varo::Model::Native

@@ -42,7 +42,10 @@ constexpr Child<SensorConfig> children[] = {
     poseChild<&SensorConfig::placement, sensorPlacementElement>(),
     childrenOf<&SensorConfig::keys, keyElement>(),
     freeAttributeChild<SensorConfig>,
-    {{&sensorSettingsElement, Occurrence::optional}, readSettings, writeSettings},
+    {{&sensorSettingsElement, Occurrence::optional},
+     readSettings,
+     writeSettings,
+     [](SensorConfig& sensor) { sensor.settings = nullptr; }},
 };
 
 }  // namespace

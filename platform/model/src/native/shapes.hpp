@@ -55,6 +55,20 @@ bool isMeshImplied(Record const& body)
     return true;
 }
 
+/// To be called before the visuals change, or before the record gets a mesh of its own.
+template <class Record>
+void forgetImpliedMesh(Record& body)
+{
+    if (!isMeshImplied(body)) {
+        return;
+    }
+    body.meshName.clear();
+    if constexpr (placesMesh<Record>) {
+        body.meshPosition = {};
+        body.meshOrientation = {};
+    }
+}
+
 /// An attribute of the record's own mesh, left out where the visuals give it that mesh.
 template <auto member, class Type, class Record>
 constexpr Attribute<Record> ofMesh(std::string_view name, std::string_view defaultText, std::string_view unit,
@@ -86,6 +100,12 @@ constexpr Child<Record> shapesChild()
                 for (Shape const& shape : body.shapes.*list) {
                     writer.write(element, shape);
                 }
+            },
+            [](Record& body) {
+                if constexpr (std::is_same_v<Shape, VisualConfig>) {
+                    forgetImpliedMesh(body);
+                }
+                (body.shapes.*list).clear();
             }};
 }
 template <class Record>

@@ -1,5 +1,6 @@
 #include "native/strict_reader.hpp"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -28,6 +29,16 @@ std::pair<std::string, std::size_t> suggest(Infos<Info> const& rows, std::string
     return {known.empty() ? "" : "Known here: " + known + ".", meant};
 }
 
+/// Cuts off and returns the first word of a list; empty behind the last one.
+std::string_view takeWord(std::string_view& list)
+{
+    constexpr std::string_view blanks = " \t\r\n";
+    list.remove_prefix(std::min(list.find_first_not_of(blanks), list.size()));
+    std::string_view const word = list.substr(0, list.find_first_of(blanks));
+    list.remove_prefix(word.size());
+    return word;
+}
+
 /// Attributes that tell XML editors where the schema is.
 bool isForEditors(std::string_view attribute)
 {
@@ -39,7 +50,8 @@ bool isForEditors(std::string_view attribute)
 std::size_t StrictReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                              pugi::xml_attribute attribute)
 {
-    if (isForEditors(attribute.name()) || diagnostics().countIfFull(codes::unknownAttribute)) {
+    bool const isOfAmendment = node == _amendment && std::string_view(attribute.name()) == leftOut;
+    if (isOfAmendment || isForEditors(attribute.name()) || diagnostics().countIfFull(codes::unknownAttribute)) {
         return noRow;
     }
     std::string message = std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ".";
@@ -82,6 +94,9 @@ void StrictReader::onUnexpectedText(ElementInfo const& element, pugi::xml_node t
 
 void StrictReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
 {
+    if (node == _amendment) {  // its record has a value
+        return;
+    }
     diagnostics().report(at(node), codes::missingAttribute,
                          std::string(element.name) + " lacks its attribute " + quoted(attribute.name) + ".",
                          "Add it: " + std::string(attribute.meaning) + ".");
@@ -129,6 +144,33 @@ void StrictReader::loseName(AttributeInfo const& attribute)
     if (attribute.names != nullptr) {
         _names.lose(*attribute.names);
     }
+}
+
+void StrictReader::checkLeftOut(Infos<ChildInfo> const& children, pugi::xml_node node)
+{
+    std::string_view list = node.attribute(leftOut).value();
+    for (std::string_view word = takeWord(list); !word.empty(); word = takeWord(list)) {
+        bool isKnown = false;
+        for (ChildInfo const& child : children) {
+            isKnown = isKnown || child.element->name == word;
+        }
+        if (!isKnown) {
+            diagnostics().report(at(node, leftOut), codes::wrongValue,
+                                 std::string(node.name()) + " holds no element " + quoted(word) + " to be left out.",
+                                 suggest(children, word).first);
+        }
+    }
+}
+
+bool isAmended(ChildInfo const& child, pugi::xml_node amendment)
+{
+    std::string_view list = amendment.attribute(leftOut).value();
+    for (std::string_view word = takeWord(list); !word.empty(); word = takeWord(list)) {
+        if (word == child.element->name) {
+            return true;
+        }
+    }
+    return !amendment.child(child.element->name.data()).empty();
 }
 
 }  // namespace Varo::Model::Native

@@ -1,6 +1,8 @@
 #ifndef VARO_MODEL_NATIVE_STRICT_READER_HPP
 #define VARO_MODEL_NATIVE_STRICT_READER_HPP
 
+#include <utility>
+
 #include "native/names.hpp"
 #include "schema/element_reader.hpp"
 
@@ -12,6 +14,11 @@ public:
     StrictReader(Diagnostics& diagnostics, Records& robot) : ElementReader(diagnostics, robot), _names(diagnostics) {}
 
     Names& names() { return _names; }
+
+    /// Changes what an element says in a record that another text has made: an attribute that is there changes its
+    /// value, children of one name replace all of that name, and those that the attribute `without` lists go.
+    template <class Record>
+    void amend(Element<Record> const& element, pugi::xml_node node, Record& record);
 
 private:
     std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
@@ -27,9 +34,31 @@ private:
                 pugi::xml_attribute attribute) override;
 
     void loseName(AttributeInfo const& attribute);
+    void checkLeftOut(Infos<ChildInfo> const& children, pugi::xml_node node);
 
     Names _names;
+    pugi::xml_node _amendment;  ///< the element that is read to change a record
 };
+
+/// The attribute that lists children, by their names, which an amendment takes away.
+inline constexpr char leftOut[] = "without";
+
+/// Whether an amendment says what becomes of the children of that name.
+bool isAmended(ChildInfo const& child, pugi::xml_node amendment);
+
+template <class Record>
+void StrictReader::amend(Element<Record> const& element, pugi::xml_node node, Record& record)
+{
+    checkLeftOut(element.children, node);
+    for (Child<Record> const& row : element.childRows) {
+        if (row.clear != nullptr && isAmended(row, node)) {
+            row.clear(record);
+        }
+    }
+    pugi::xml_node const around = std::exchange(_amendment, node);
+    read(element, node, record);
+    _amendment = around;
+}
 
 }  // namespace Varo::Model::Native
 

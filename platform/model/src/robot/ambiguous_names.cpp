@@ -4,8 +4,10 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "finding_codes.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
 
@@ -40,15 +42,21 @@ void forEachMover(Records const& records, Visit const& visit)
     visitAll(records.subActuators, "sub-joint");
 }
 
-/// The links that the text itself names, by the name that it gives each.
-using NamedLinks = std::unordered_map<std::string_view, JointConfig const*>;
-
-/// Warns of the links that share their name in the text with one before.
-NamedLinks linksNamedInText(Records const& records, Diagnostics& diagnostics)
+/// Warns of the links that share their name in the text with one before. Answers the first of each name.
+std::vector<JointConfig const*> linksNamedInText(Records const& records, Diagnostics& diagnostics)
 {
-    NamedLinks links;
+    std::vector<JointConfig const*> links;
+    NameIndex names;
+    links.reserve(records.joints.size() + 1);
+    names.reserve(records.joints.size() + 1);
     auto const add = [&](JointConfig const& body) {
-        if (!body.linkName.empty() && !links.try_emplace(body.linkName, &body).second) {
+        auto const number = static_cast<std::uint32_t>(links.size());
+        if (body.linkName.empty()) {
+            return;
+        }
+        if (names.add(body.linkName, number) == number) {
+            links.push_back(&body);
+        } else {
             diagnostics.report(body.bodyOffset, codes::ambiguousLinkName,
                                "There is another link " + quoted(body.linkName) +
                                    " before this one: look-ups by that name find only one of them.",
@@ -63,11 +71,16 @@ NamedLinks linksNamedInText(Records const& records, Diagnostics& diagnostics)
 /// Warns of the links that the text calls what models call another one.
 void checkNamesInText(Records const& records, Diagnostics& diagnostics)
 {
-    NamedLinks suspects;  // by the name of the joint that models would call the link after
-    for (auto const& [name, body] : linksNamedInText(records, diagnostics)) {
+    std::unordered_map<std::string_view, JointConfig const*>
+        suspects;  // by the name of the joint that models would call the link after
+    for (JointConfig const* const body : linksNamedInText(records, diagnostics)) {
+        std::string_view const name = body->linkName;
         if (isLinkName(name) && name != body->name) {  // what is named so itself is told of above
             suspects.emplace(name.substr(0, name.size() - suffix.size()), body);
         }
+    }
+    if (suspects.empty()) {
+        return;
     }
     forEachMover(records, [&](std::string_view name, Mover const& mover) {
         auto const found = suspects.find(name);

@@ -12,10 +12,10 @@ using Indices = std::vector<std::size_t>;
 /// From the root outward: no joint before the one that it is attached to.
 Indices outwardOrder(LinkTree const& tree, ChildJoints const& children)
 {
-    Indices order = children[tree.rootLink];
+    Indices order(children[tree.rootLink].begin(), children[tree.rootLink].end());
     order.reserve(tree.joints.size());
     for (std::size_t i = 0; i < order.size(); ++i) {
-        Indices const& next = children[tree.joints[order[i]].childLink];
+        auto const next = children[tree.joints[order[i]].childLink];
         order.insert(order.end(), next.begin(), next.end());
     }
     return order;
@@ -34,7 +34,8 @@ Indices countDescendants(LinkTree const& tree, Indices const& outward)
     return counts;
 }
 
-void pushReversed(Indices& stack, Indices::const_iterator begin, Indices::const_iterator end)
+template <class Iterator>
+void pushReversed(Indices& stack, Iterator begin, Iterator end)
 {
     stack.insert(stack.end(), std::make_reverse_iterator(end), std::make_reverse_iterator(begin));
 }
@@ -43,17 +44,15 @@ void pushReversed(Indices& stack, Indices::const_iterator begin, Indices::const_
 
 ChildJoints childJointsOf(LinkTree const& tree)
 {
-    ChildJoints children(tree.links.size());
-    for (std::size_t joint = 0; joint < tree.joints.size(); ++joint) {
-        children[tree.joints[joint].parentLink].push_back(joint);
-    }
+    ChildJoints children(tree.links.size(), tree.joints.size(),
+                         [&](std::size_t joint) { return tree.joints[joint].parentLink; });
     Indices const counts = countDescendants(tree, outwardOrder(tree, children));
-    for (std::size_t link = 0; link < children.size(); ++link) {
-        Indices& joints = children[link];
+    for (std::size_t link = 0; link < tree.links.size(); ++link) {
+        auto const joints = children[link];
         if (link != tree.rootLink && joints.size() > 1) {
             auto const longest = std::max_element(joints.begin(), joints.end(),
                                                   [&](std::size_t a, std::size_t b) { return counts[a] < counts[b]; });
-            std::rotate(joints.begin(), longest, longest + 1);
+            children.moveToFront(link, static_cast<std::size_t>(longest - joints.begin()));
         }
     }
     return children;
@@ -77,7 +76,7 @@ Table<ChainConfig> makeChains(LinkTree const& tree, ChildJoints const& children)
         while (joint != none) {
             chain.jointNames.push_back(tree.joints[joint].config.name);
             chain.jointOffsets.push_back(tree.joints[joint].config.textOffset);
-            Indices const& next = children[tree.joints[joint].childLink];
+            auto const next = children[tree.joints[joint].childLink];
             joint = next.empty() ? none : next.front();
             if (next.size() > 1) {
                 branches.insert(branches.end(), next.begin() + 1, next.end());
@@ -99,7 +98,7 @@ std::vector<std::size_t> buildingOrder(LinkTree const& tree, ChildJoints const& 
         std::size_t const joint = pending.back();
         pending.pop_back();
         order.push_back(joint);
-        Indices const& next = children[tree.joints[joint].childLink];
+        auto const next = children[tree.joints[joint].childLink];
         pushReversed(pending, next.begin(), next.end());
     }
     return order;

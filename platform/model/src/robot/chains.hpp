@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "robot/grouped.hpp"
 #include "robot/link_tree.hpp"
 #include "varo/model/records.hpp"
 
@@ -13,7 +14,7 @@ namespace Varo::Model {
 /// By link, the joints whose parent it is: first the one on which the path runs on, which is that with the most joints
 /// below it, the first in the text among equals, then the others in the order of the text. The joints of the root
 /// continue no path and keep the order of the text.
-using ChildJoints = std::vector<std::vector<std::size_t>>;
+using ChildJoints = Grouped;
 ChildJoints childJointsOf(LinkTree const& tree);
 
 /// The tree of joints as serial chains, each after the one that it is attached to.

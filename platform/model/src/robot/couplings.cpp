@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "robot/kind_note.hpp"
 #include "robot/link_tree_codes.hpp"
 #include "robot/mimics.hpp"
 
@@ -12,15 +13,29 @@ namespace Varo::Model {
 
 namespace {
 
+/// What is noted of mimics.
+struct MimicNotes {
+    KindNote frozen;
+    KindNote offsets;
+
+    void report(Diagnostics& diagnostics) const
+    {
+        frozen.report(codes::frozenMimic, "A mimic means nothing on a joint that does not move", diagnostics);
+        offsets.report(codes::mimicOffset,
+                       "The zero pose of the model leaves out the offset of a mimic, which only a moved robot has",
+                       diagnostics);
+    }
+};
+
 /// The joint that this one mimics; none for a mimic without a meaning.
-std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics& diagnostics)
+std::size_t findLeader(LinkTree& tree, Joint const& follower, MimicNotes& notes, Diagnostics& diagnostics)
 {
     Mimic const& mimic = follower.mimic;
     if (!mimic.textOffset.isKnown()) {
         return none;
     }
     if (!follower.moves()) {
-        diagnostics.report(mimic.textOffset, codes::frozenMimic, "This joint does not move: its mimic means nothing.");
+        notes.frozen.add(mimic.textOffset, follower.config.name);
         return none;
     }
     std::size_t const leader = find(tree.jointByName, mimic.leader.name);
@@ -28,7 +43,8 @@ std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics&
         diagnostics.report(mimic.leader.offset, codes::unknownLeader,
                            mimic.leader.name.empty()
                                ? "This mimic does not say which joint it follows: the joint moves on its own."
-                               : "There is no joint " + quoted(mimic.leader.name) + ": this one moves on its own.");
+                               : "There is no joint " + quoted(mimic.leader.name) + ": this one moves on its own.",
+                           didYouMean(tree.closestJoint(mimic.leader.name)));
         return none;
     }
     if (!tree.joints[leader].moves()) {
@@ -36,8 +52,7 @@ std::size_t findLeader(LinkTree const& tree, Joint const& follower, Diagnostics&
                            "The joint " + quoted(mimic.leader.name) + " does not move, and so neither does this one.");
     }
     if (mimic.offset != 0.0) {
-        diagnostics.report(mimic.offsetOffset, codes::mimicOffset,
-                           "The zero pose of the model leaves this offset out: only a moved robot has it.");
+        notes.offsets.add(mimic.offsetOffset, follower.config.name);
     }
     return leader;
 }
@@ -124,12 +139,14 @@ std::map<std::size_t, std::vector<std::size_t>> membersByLeader(LinkTree const& 
 
 void followMimics(LinkTree& tree, Diagnostics& diagnostics)
 {
+    MimicNotes notes;
     for (Joint& joint : tree.joints) {
-        std::size_t const leader = findLeader(tree, joint, diagnostics);
+        std::size_t const leader = findLeader(tree, joint, notes, diagnostics);
         joint.mimic = leader == none ? Mimic() : joint.mimic;
         joint.config.mimic = leader == none && joint.moves() ? nullptr : joint.config.mimic;
         joint.mimic.leaderJoint = leader;
     }
+    notes.report(diagnostics);
     cutCycles(tree, diagnostics);
     settleMimics(tree, diagnostics);
 }

@@ -1,7 +1,9 @@
 #include <algorithm>
-#include <unordered_map>
+#include <vector>
 
+#include "robot/link_tree.hpp"
 #include "robot/mirror_pairs.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
 
@@ -16,20 +18,27 @@ void makeMirrors(Config& one, Config& other, std::int32_t kind)
 }
 
 /// Coupled actuators are called after their leaders, which they drive first.
-void pairActuators(Records& records, std::unordered_map<std::string, JointConfig const*> const& joints)
+void pairActuators(Records& records, std::vector<JointConfig const*> const& joints)
 {
-    std::unordered_map<std::string, std::size_t> byLeader;
+    if (records.actuators.empty()) {
+        return;
+    }
+    NameIndex byName;
+    for (std::size_t i = 0; i < joints.size(); ++i) {
+        byName.add(joints[i]->name, static_cast<std::uint32_t>(i));
+    }
+    NameIndex byLeader;
     for (std::size_t i = 0; i < records.actuators.size(); ++i) {
         ActuatorConfig& actuator = records.actuators[i];
-        auto const leader = joints.find(actuator.jointGroups.front().front());
-        if (leader == joints.end()) {
+        std::size_t const found = find(byName, actuator.jointGroups.front().front());
+        if (found == none) {
             continue;
         }
-        byLeader.emplace(leader->first, i);
-        auto const other = byLeader.find(leader->second->mirrorName);
-        if (other != byLeader.end() &&
-            records.actuators[other->second].jointGroups.size() == actuator.jointGroups.size()) {
-            makeMirrors(records.actuators[other->second], actuator, leader->second->mirrorKind);
+        JointConfig const& leader = *joints[found];
+        byLeader.add(leader.name, static_cast<std::uint32_t>(i));
+        std::size_t const other = find(byLeader, leader.mirrorName);
+        if (other != none && records.actuators[other].jointGroups.size() == actuator.jointGroups.size()) {
+            makeMirrors(records.actuators[other], actuator, leader.mirrorKind);
         }
     }
 }
@@ -42,14 +51,14 @@ void inferMirrors(Records& records)
     if (std::any_of(records.joints.begin(), records.joints.end(), isStated)) {
         return;
     }
-    std::unordered_map<std::string, JointConfig const*> mirrored;
+    std::vector<JointConfig const*> mirrored;
     for (SidePair const& pair : findSides(records, placeAtZero(records)).pairs) {
         JointConfig& first = records.joints[pair.first];
         JointConfig& second = records.joints[pair.second];
         if (pair.isProved() && isMoving(first.jointType)) {
             makeMirrors(first, second, pair.kind);
-            mirrored.emplace(first.name, &first);
-            mirrored.emplace(second.name, &second);
+            mirrored.push_back(&first);
+            mirrored.push_back(&second);
         }
     }
     pairActuators(records, mirrored);

@@ -12,7 +12,7 @@ class LimbFinder {
 public:
     LimbFinder(Records const& records, std::vector<PlacedJoint> const& places, std::vector<bool> const& isMarked,
                Sides& sides)
-        : _records(records), _places(places), _sides(sides), _isSided(isMarked)
+        : _records(records), _places(places), _sides(sides), _isMarked(isMarked), _isSided(isMarked)
     {}
 
     void find()
@@ -153,7 +153,9 @@ private:
                 std::size_t const i = path.back();
                 std::size_t const before = _places[i].before;
                 if (before != none) {
-                    carriers[i] = _pairOf[before] != none ? _pairOf[before] : carriers[before];
+                    carriers[i] = _pairOf[before] != none ? _pairOf[before]
+                                  : _isMarked[before]     ? none  // which of two fingers, say, cannot be told
+                                                          : carriers[before];
                     _isSided[i] = _isSided[i] || _isSided[before];
                 }
             }
@@ -164,6 +166,7 @@ private:
     Records const& _records;
     std::vector<PlacedJoint> const& _places;
     Sides& _sides;
+    std::vector<bool> const& _isMarked;
     std::vector<bool> _isSided;  ///< by joint, whether its name, or that of one before it, says the side
     std::vector<std::size_t> _pairOf;  ///< by joint
     std::vector<bool> _isStraight;  ///< of the pairs: known not to be askew, nor anything that carries them

@@ -5,16 +5,17 @@
 
 #include "robot/couplings.hpp"
 #include "robot/link_tree_codes.hpp"
+#include "varo/model/spelling.hpp"
 
 namespace Varo::Model {
 
 namespace {
 
 /// False when the name is of no use as one.
-bool addName(std::unordered_map<std::string_view, std::size_t>& table, char const* kind, std::string_view name,
-             std::size_t index, TextOffset place, Diagnostics& diagnostics)
+bool addName(NameIndex& table, char const* kind, std::string_view name, std::size_t index, TextOffset place,
+             Diagnostics& diagnostics)
 {
-    bool const isNew = !name.empty() && table.try_emplace(name, index).second;
+    bool const isNew = !name.empty() && table.add(name, static_cast<std::uint32_t>(index)) == index;
     if (!isNew && !name.empty()) {
         diagnostics.report(place, codes::duplicateName,
                            "There is another " + std::string(kind) + " " + quoted(name) + " before this one.");
@@ -39,11 +40,28 @@ bool indexNames(LinkTree& tree, Diagnostics& diagnostics)
     return isWhole;
 }
 
-std::size_t findLink(LinkTree const& tree, Reference const& link, Diagnostics& diagnostics)
+/// What was probably meant by a name that none of the items has.
+template <class Items, class NameOf>
+std::string_view closestAmong(Items const& items, NameOf const& nameOf, std::string_view written,
+                              std::size_t& comparisonsLeft)
+{
+    if (items.size() > comparisonsLeft) {
+        return {};
+    }
+    comparisonsLeft -= items.size();
+    ClosestWord closest(written);
+    for (auto const& item : items) {
+        closest.offer(nameOf(item));
+    }
+    return closest.word();
+}
+
+std::size_t findLink(LinkTree& tree, Reference const& link, Diagnostics& diagnostics)
 {
     std::size_t const found = find(tree.linkByName, link.name);
     if (found == none && link.offset.isKnown()) {
-        diagnostics.report(link.offset, codes::unknownLink, "There is no link " + quoted(link.name) + ".");
+        diagnostics.report(link.offset, codes::unknownLink, "There is no link " + quoted(link.name) + ".",
+                           didYouMean(tree.closestLink(link.name)));
     }
     return found;
 }
@@ -92,9 +110,6 @@ void findRoot(LinkTree& tree, Diagnostics& diagnostics)
 /// In the records a link is called after the joint that moves it, so that the root must not share a joint's name.
 void nameRoot(LinkTree& tree, Diagnostics& diagnostics)
 {
-    for (Joint const& joint : tree.joints) {
-        tree.names.claim(joint.config.name, "this joint", joint.config.textOffset, diagnostics);
-    }
     Link const& root = tree.links[tree.rootLink];
     tree.rootBody.textOffset = root.textOffset;
     tree.rootBody.name =
@@ -122,6 +137,23 @@ void reportCycles(LinkTree const& tree, Diagnostics& diagnostics)
 }
 
 }  // namespace
+
+std::string didYouMean(std::string_view word)
+{
+    return word.empty() ? std::string() : "Did you mean " + quoted(word) + "?";
+}
+
+std::string_view LinkTree::closestLink(std::string_view name)
+{
+    return closestAmong(
+        links, [](Link const& link) { return link.name; }, name, comparisonsLeft);
+}
+
+std::string_view LinkTree::closestJoint(std::string_view name)
+{
+    return closestAmong(
+        joints, [](Joint const& joint) { return std::string_view(joint.config.name); }, name, comparisonsLeft);
+}
 
 void connect(LinkTree& tree, Diagnostics& diagnostics)
 {

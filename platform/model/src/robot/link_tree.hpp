@@ -2,8 +2,9 @@
 #define VARO_MODEL_ROBOT_LINK_TREE_HPP
 
 #include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "robot/cycles.hpp"
@@ -11,6 +12,7 @@
 #include "robot/unique_names.hpp"
 #include "varo/model/configs.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_index.hpp"
 
 /// Links and joints as most dialects describe a robot, between the text and the records. A reader fills a LinkTree in
 /// the order of the text, `connect` ties its parts together, and `addRecords` makes the records of it.
@@ -59,15 +61,25 @@ struct Joint {
 };
 
 struct LinkTree {
+    LinkTree() = default;
+    LinkTree(LinkTree const&) = delete;
+    LinkTree& operator=(LinkTree const&) = delete;
+
     std::vector<Link> links;
     std::vector<Joint> joints;
     TextOffset textOffset;  ///< of the robot's element
     // What follows is found out by `connect`, but for the body.
     std::size_t rootLink = none;
     JointConfig rootBody;  ///< the record of the root, with a name that no joint has
-    UniqueNames names;  ///< those of the joints and the root
-    std::unordered_map<std::string_view, std::size_t> linkByName;
-    std::unordered_map<std::string_view, std::size_t> jointByName;
+    NameIndex linkByName;
+    NameIndex jointByName;
+    UniqueNames names{jointByName};  ///< those of the joints and the root
+    std::size_t comparisonsLeft = 1000000;  ///< of names, to find those that were meant
+
+    /// The name that is closest to one that is not there; empty when none is close. After so many comparisons that more
+    /// would take long, none is looked for any more.
+    std::string_view closestLink(std::string_view name);
+    std::string_view closestJoint(std::string_view name);
 
     /// The record that the link's body belongs to: that of the joint that moves it, or the root's.
     JointConfig& bodyOf(Link const& link)
@@ -79,11 +91,14 @@ struct LinkTree {
 };
 
 /// What the table has under the name, or none.
-inline std::size_t find(std::unordered_map<std::string_view, std::size_t> const& table, std::string_view name)
+inline std::size_t find(NameIndex const& table, std::string_view name)
 {
-    auto const found = table.find(name);
-    return found == table.end() ? none : found->second;
+    std::uint32_t const found = table.find(name);
+    return found == NameIndex::none ? none : found;
 }
+
+/// "Did you mean ...?", or nothing for an empty word.
+std::string didYouMean(std::string_view word);
 
 /// Ties links and joints to each other by their names, finds and names the root, and follows the mimics. Reports
 /// whatever keeps links and joints from being one tree, save what only follows from another such finding; names and

@@ -21,17 +21,17 @@ inline constexpr FindingCode jointCycle{"joint-cycle", Severity::error, "Joints 
 inline constexpr FindingCode unknownLeader{
     "unknown-leader", Severity::warning,
     "A joint mimics one that does not exist, or does not say which: it moves on its own."};
-inline constexpr FindingCode mimicCycle{"mimic-circle", Severity::error,
+inline constexpr FindingCode mimicCycle{"mimic-cycle", Severity::error,
                                         "A joint mimics itself, be it by way of others."};
 
 inline constexpr FindingCode mimicOffset{"mimic-offset", Severity::note,
-                                         "The zero pose of the model leaves the offset of a mimic out."};
+                                         "The zero pose of the model leaves the offsets of mimics out."};
 inline constexpr FindingCode frozenLeader{"frozen-leader", Severity::warning, "A joint mimics one that does not move."};
 inline constexpr FindingCode renamed{"renamed", Severity::warning,
                                      "A name that is already taken gets a number appended."};
 
 inline constexpr FindingCode frozenMimic{"frozen-mimic", Severity::note,
-                                         "The mimic of a joint that does not move means nothing."};
+                                         "Mimics of joints that do not move mean nothing."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofLinkTrees[] = {

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "robot/link_tree.hpp"
@@ -19,9 +17,10 @@ using JointRecords = Table<JointConfig>;
 /// By joint, the one that it mimics.
 std::vector<std::size_t> leadersOf(JointRecords const& joints)
 {
-    std::unordered_map<std::string_view, std::size_t> byName;
+    NameIndex byName;
+    byName.reserve(joints.size());
     for (std::size_t joint = 0; joint < joints.size(); ++joint) {
-        byName.emplace(joints[joint].name, joint);
+        byName.add(joints[joint].name, static_cast<std::uint32_t>(joint));
     }
     std::vector<std::size_t> leaders;
     leaders.reserve(joints.size());

@@ -39,6 +39,19 @@ std::string_view takeStep(std::string_view& path)
     return step;
 }
 
+/// Whether a step of a path is for elements of that name.
+bool isOneOf(std::string_view step, std::string_view name)
+{
+    for (std::size_t begin = 0; begin <= step.size();) {
+        std::size_t const end = std::min(step.find('|', begin), step.size());
+        if (step.substr(begin, end - begin) == name) {
+            return true;
+        }
+        begin = end + 1;
+    }
+    return false;
+}
+
 /// Finds what parts of records are written as, in the text itself.
 class PartFinder {
 public:
@@ -65,7 +78,7 @@ private:
     {
         std::size_t const parent = _at;
         forEachChild(_text, parent, [&](std::size_t child) {
-            bool const isIt = RawTag(_text, child).name() == element &&
+            bool const isIt = isOneOf(element, RawTag(_text, child).name()) &&
                               (name.empty() || findAttribute(_text, child, "name").value == name);
             _at = isIt ? child : _at;
             return !isIt;

@@ -16,7 +16,8 @@ namespace Varo::Model {
 struct PartPlace {
     Part part;
     std::string_view attribute;  ///< empty when the part is an element
-    std::string_view child = {};  ///< a path of names, as "inertial/mass"; empty for the record's own element
+    std::string_view child = {};  ///< a path of names, as "inertial/mass" or "box|sphere" for either; empty for the
+                                  ///< record's own element
     std::string_view element = {};  ///< which kind of element the row is for; empty for any
     std::string_view childName = {};  ///< the name that the child must have, where there are many of its kind
 };

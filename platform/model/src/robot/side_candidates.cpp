@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "robot/link_tree.hpp"
 #include "robot/side_names.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
 
 namespace {
-
-using JointsByName = std::unordered_map<std::string_view, std::size_t>;
 
 class CandidateFinder {
 public:
@@ -19,16 +18,19 @@ public:
     {
         _found.ofJoint.resize(_records.joints.size());
         _found.isMarked.resize(_records.joints.size());
+        _byName.reserve(_records.joints.size());
+        _byLink.reserve(_records.joints.size());
         for (std::size_t i = 0; i < _records.joints.size(); ++i) {
-            _byName.try_emplace(joint(i).name, i);
-            _byLink.try_emplace(joint(i).linkName, i);
+            _byName.add(joint(i).name, static_cast<std::uint32_t>(i));
+            if (!joint(i).linkName.empty()) {
+                _byLink.add(joint(i).linkName, static_cast<std::uint32_t>(i));
+            }
         }
-        _byLink.erase(std::string_view());
     }
 
     SideCandidates find()
     {
-        for (std::size_t i = 0; i < _records.joints.size(); ++i) {
+        for (std::size_t i = 0; _records.statesMirrors && i < _records.joints.size(); ++i) {
             addStated(i);
         }
         for (std::size_t i = 0; i < _records.joints.size(); ++i) {
@@ -45,13 +47,13 @@ private:
 
     void addStated(std::size_t index)
     {
-        auto const mirror = _byName.find(joint(index).mirrorName);
-        if (!_records.statesMirrors || joint(index).mirrorKind == noMirror || mirror == _byName.end()) {
+        std::size_t const mirror = Model::find(_byName, joint(index).mirrorName);
+        if (joint(index).mirrorKind == noMirror || mirror == none) {
             return;
         }
-        JointConfig const& other = joint(mirror->second);
+        JointConfig const& other = joint(mirror);
         if (other.mirrorKind != noMirror && other.mirrorName == joint(index).name) {
-            add(index, mirror->second, true, true);
+            add(index, mirror, true, true);
         }
     }
 
@@ -65,14 +67,14 @@ private:
         }
     }
 
-    bool addNamed(std::size_t index, std::string_view name, JointsByName const& joints)
+    bool addNamed(std::size_t index, std::string_view name, NameIndex const& joints)
     {
         SideNames const names = otherSideOf(name);
         _found.isMarked[index] = _found.isMarked[index] || names.areMarked;
         bool isFound = false;
         for (std::string const& other : names.others) {
-            if (auto const found = joints.find(other); found != joints.end()) {
-                add(index, found->second, false, names.areMarked);
+            if (std::size_t const found = Model::find(joints, other); found != none) {
+                add(index, found, false, names.areMarked);
                 isFound = isFound || names.areMarked;
             }
         }
@@ -94,8 +96,8 @@ private:
     }
 
     Records const& _records;
-    JointsByName _byName;
-    JointsByName _byLink;
+    NameIndex _byName;
+    NameIndex _byLink;
     SideCandidates _found;
 };
 

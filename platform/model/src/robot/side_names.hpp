@@ -17,6 +17,11 @@ struct SideNames {
 
 SideNames otherSideOf(std::string_view name);
 
+enum class Side { unknown, left, right };
+
+/// The side that all words of a name say that say one.
+Side sideOf(std::string_view name);
+
 /// What the names of all limbs of one kind share: neither left nor right, neither front nor rear.
 std::string withoutSides(std::string_view name);
 

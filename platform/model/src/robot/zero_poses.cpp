@@ -1,7 +1,10 @@
 #include "robot/zero_poses.hpp"
 
 #include <string_view>
-#include <unordered_map>
+
+#include "robot/grouped.hpp"
+#include "robot/link_tree.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
 
@@ -14,45 +17,48 @@ struct Attachment {
     Pose base;  ///< of the chain, for its first joint
 };
 
-using IndexByName = std::unordered_map<std::string_view, std::size_t>;
-
 /// By name: tables need not be sorted yet.
-IndexByName indexOf(Table<JointConfig> const& joints)
+NameIndex indexOf(Table<JointConfig> const& joints)
 {
-    IndexByName index;
+    NameIndex index;
     index.reserve(joints.size());
     for (std::size_t i = 0; i < joints.size(); ++i) {
-        index.try_emplace(joints.nameOf(i), i);
+        index.add(joints.nameOf(i), static_cast<std::uint32_t>(i));
     }
     return index;
 }
 
-void attach(ChainConfig const& chain, std::string_view root, IndexByName const& index,
+void attach(ChainConfig const& chain, std::string_view root, NameIndex const& index,
             std::vector<Attachment>& attachments)
 {
-    auto const parent = index.find(chain.parentJoint);
-    Attachment attachment = {parent != index.end() || chain.parentJoint == root,
-                             parent == index.end() ? none : parent->second, fromTransform(chain.placement)};
+    std::size_t const parent = find(index, chain.parentJoint);
+    Attachment attachment = {parent != none || chain.parentJoint == root, parent, fromTransform(chain.placement)};
     for (std::string const& name : chain.jointNames) {
-        auto const joint = index.find(name);
-        if (joint == index.end()) {
+        std::size_t const joint = find(index, name);
+        if (joint == none) {
             return;
         }
-        attachments[joint->second] = attachment;
-        attachment = {attachment.isStated, joint->second, {}};
+        attachments[joint] = attachment;
+        attachment = {attachment.isStated, joint, {}};
     }
 }
 
-std::vector<std::vector<std::size_t>> childrenOf(std::vector<Attachment> const& attachments)
+/// The joints that chains lead to, none before the one that it is attached to. Those that are attached to each other
+/// in a cycle are not among them.
+std::vector<std::size_t> outwardOrder(std::vector<Attachment> const& attachments)
 {
-    std::vector<std::vector<std::size_t>> children(attachments.size() + 1);  // those of the root last
-    for (std::size_t joint = 0; joint < attachments.size(); ++joint) {
+    std::size_t const root = attachments.size();
+    Grouped const children(root + 1, attachments.size(), [&](std::size_t joint) {
         std::size_t const before = attachments[joint].before;
-        if (attachments[joint].isStated) {
-            children[before == none ? attachments.size() : before].push_back(joint);
-        }
+        return !attachments[joint].isStated ? none : before == none ? root : before;
+    });
+    std::vector<std::size_t> order(children[root].begin(), children[root].end());
+    order.reserve(attachments.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        auto const next = children[order[i]];
+        order.insert(order.end(), next.begin(), next.end());
     }
-    return children;
+    return order;
 }
 
 }  // namespace
@@ -60,20 +66,16 @@ std::vector<std::vector<std::size_t>> childrenOf(std::vector<Attachment> const& 
 std::vector<PlacedJoint> placeAtZero(Records const& records)
 {
     std::vector<Attachment> attachments(records.joints.size());
-    IndexByName const index = indexOf(records.joints);
+    NameIndex const index = indexOf(records.joints);
     for (ChainConfig const& chain : records.chains) {
         attach(chain, records.root.name, index, attachments);
     }
     std::vector<PlacedJoint> placed(records.joints.size());
-    auto const children = childrenOf(attachments);
-    std::vector<std::size_t> outward = children.back();
-    for (std::size_t i = 0; i < outward.size(); ++i) {
-        std::size_t const joint = outward[i];
+    for (std::size_t const joint : outwardOrder(attachments)) {
         JointConfig const& config = records.joints[joint];
         auto const& [isStated, before, base] = attachments[joint];
         Pose const frame = (before == none ? Pose() : placed[before].frame) * base * fromTransform(config.placement);
         placed[joint] = {before, isStated, frame, frame * fromTransform(config.endTransform)};
-        outward.insert(outward.end(), children[joint].begin(), children[joint].end());
     }
     return placed;
 }

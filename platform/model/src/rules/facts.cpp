@@ -17,6 +17,13 @@ Facts::Facts(Robot const& robot, LintTolerances const& allowed)
         pairsOfKind[withoutSides(first.name)].push_back(jointPairs.size());
         jointPairs.push_back({first, records->joints[side.second], side});
     }
+    for (PostureConfig const& posture : records->postures) {
+        for (PostureAngle const& angle : posture.angles) {
+            if (posture.name == "StandInit") {
+                startAngles.emplace(angle.name, &angle);
+            }
+        }
+    }
 }
 
 std::string rangeText(float min, float max)

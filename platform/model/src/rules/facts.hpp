@@ -1,13 +1,17 @@
 #ifndef VARO_MODEL_RULES_FACTS_HPP
 #define VARO_MODEL_RULES_FACTS_HPP
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "robot/mirror_pairs.hpp"
+#include "robot/side_names.hpp"
 #include "robot/zero_poses.hpp"
 #include "rules/mirrors.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -50,7 +54,26 @@ struct Facts {
     std::vector<JointPair> jointPairs;  ///< one for one with those of the sides
     std::unordered_map<std::string, std::vector<std::size_t>> pairsOfKind;  ///< by the names without sides
     std::vector<Pair<ActuatorConfig>> actuatorPairs;
+    std::unordered_map<std::string_view, PostureAngle const*> startAngles;  ///< those that are stated
 };
+
+/// Whether the first of a pair is the odd one: more others of its kind, on other legs say, are like the second.
+template <class Alike>
+bool isFirstOdd(Facts const& facts, JointPair const& pair, Alike const& alike)
+{
+    constexpr std::size_t enough = 16;  // pairs, to say what is usual
+    std::vector<std::size_t> const& kind = facts.pairsOfKind.at(withoutSides(pair.first.name));
+    std::ptrdiff_t likeFirst = 0;
+    for (std::size_t i = 0; i < std::min(enough, kind.size()); ++i) {
+        JointPair const& others = facts.jointPairs[kind[i]];
+        for (JointConfig const* other : {&others.first, &others.second}) {
+            bool const isOther = &others.side != &pair.side;
+            likeFirst += isOther && alike(*other, pair.first) ? 1 : 0;
+            likeFirst -= isOther && alike(*other, pair.second) ? 1 : 0;
+        }
+    }
+    return likeFirst < 0;
+}
 
 /// Where one rule says what it found.
 class Report {
@@ -75,6 +98,20 @@ public:
             hint += (hint.empty() ? "" : " ") + quoted(other.name) + " says it in line " + std::to_string(line) + ".";
         }
         at(blamed, part, std::move(message), std::move(hint));
+    }
+
+    /// At the part of the second of the pair or, if that is the odd one, of the first.
+    void ofPair(JointPair const& pair, bool isFirst, Part part, std::string message, std::string hint = {}) const
+    {
+        ofTwo(isFirst ? pair.first : pair.second, isFirst ? pair.second : pair.first, part, std::move(message),
+              std::move(hint));
+    }
+
+    /// 0 for what stands in no text.
+    template <class Config>
+    int lineOf(Config const& record) const
+    {
+        return _robot.place(record).line;
     }
 
     /// What the text has there.

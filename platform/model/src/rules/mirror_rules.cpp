@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
-#include "rules/rules.hpp"
+#include "rules/mirrored_bodies.hpp"
 
 namespace Varo::Model::Rules {
 
@@ -79,15 +81,39 @@ LimitMisses limitMisses(Driven const& first, Driven const& second, bool isReflec
 }
 
 template <class Driven>
-void reportLimits(Report const& report, Driven const& first, Driven const& second, bool isReflected,
+void reportLimits(Report const& report, Driven const& blamed, Driven const& other, bool isReflected,
                   LimitMisses const& misses)
 {
     report.ofTwo(
-        second, first, misses.minimum ? Part::minimum : Part::maximum,
-        "The limits of " + namesOf(first, second) + ", " + rangeText(first.minAngle, first.maxAngle) + " and " +
-            rangeText(second.minAngle, second.maxAngle) +
+        blamed, other, misses.minimum ? Part::minimum : Part::maximum,
+        "The limits of " + namesOf(other, blamed) + ", " + rangeText(other.minAngle, other.maxAngle) + " and " +
+            rangeText(blamed.minAngle, blamed.maxAngle) +
             (isReflected ? ", are not each other's opposites." : ", do not agree."),
         isReflected ? "A reflected pair has opposite limits." : "A pair that is not reflected has the same limits.");
+}
+
+/// As they are, or as those of a reflected joint.
+bool haveLikeLimits(JointConfig const& one, JointConfig const& other, double tolerance)
+{
+    return !limitMisses(one, other, false, tolerance).any() || !limitMisses(one, other, true, tolerance).any();
+}
+
+/// Of two joints whose limits miss each other's.
+void reportLimits(Facts const& facts, Report const& report, JointPair const& pair)
+{
+    double const tolerance = facts.tolerances.limit;
+    bool const isReflected = pair.kind() == reflectedMirror;
+    bool const isFirst = isFirstOdd(facts, pair, [&](JointConfig const& one, JointConfig const& other) {
+        return haveLikeLimits(one, other, tolerance);
+    });
+    JointConfig const& blamed = isFirst ? pair.first : pair.second;
+    JointConfig const& other = isFirst ? pair.second : pair.first;
+    reportLimits(report, blamed, other, isReflected, limitMisses(other, blamed, isReflected, tolerance));
+}
+
+bool contains(std::vector<JointPair const*> const& odd, JointPair const& pair)
+{
+    return std::binary_search(odd.begin(), odd.end(), &pair, std::less<>());
 }
 
 bool haveLimits(JointPair const& pair)
@@ -113,8 +139,9 @@ void findMirrorKindsDiffer(Facts const& facts, Report const& report)
 void findLimitsNotMirrored(Facts const& facts, Report const& report)
 {
     bool const areCopies = areSidesCopies(facts);
+    auto const odd = pairsOfOddAxis(facts);
     for (JointPair const& pair : facts.jointPairs) {
-        if (!haveLimits(pair)) {
+        if (!haveLimits(pair) || contains(odd, pair)) {
             continue;
         }
         bool const isReflected = pair.kind() == reflectedMirror;
@@ -122,7 +149,7 @@ void findLimitsNotMirrored(Facts const& facts, Report const& report)
         bool const isCopy = pair.first.endTransform.isNear(pair.second.endTransform) &&
                             !limitMisses(pair.first, pair.second, false, facts.tolerances.limit).any();
         if (misses.any() && !(areCopies && isCopy)) {
-            reportLimits(report, pair.first, pair.second, isReflected, misses);
+            reportLimits(facts, report, pair);
         }
     }
     for (auto const& [first, second] : facts.actuatorPairs) {
@@ -132,7 +159,7 @@ void findLimitsNotMirrored(Facts const& facts, Report const& report)
         bool const isReflected = first.mirrorKind == reflectedMirror;
         LimitMisses const misses = limitMisses(first, second, isReflected, facts.tolerances.limit);
         if (misses.any()) {
-            reportLimits(report, first, second, isReflected, misses);
+            reportLimits(report, second, first, isReflected, misses);
         }
     }
 }

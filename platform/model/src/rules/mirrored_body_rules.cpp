@@ -5,12 +5,9 @@
 #include <Eigen/Core>
 
 #include "rules/inertia.hpp"
+#include "rules/mirrored_bodies.hpp"
 #include "rules/numbers.hpp"
-#include "rules/rules.hpp"
 
-/// The bodies of pairs are compared where the zero pose puts them, in the axes of the root, whatever the axes of their
-/// links are. Where most bodies that could tell are copies of each other instead, the sides are made of the same parts,
-/// and copies are what they should be; as they are where a part looks the same on both sides.
 namespace Varo::Model::Rules {
 
 namespace {
@@ -20,38 +17,10 @@ using Eigen::Vector3d;
 /// kg*m^2; differences below it are those of rounding.
 constexpr double smallestInertia = 1e-9;
 
-Eigen::Matrix3d rotationOf(Pose const& pose)
-{
-    return Eigen::Map<Eigen::Matrix<double, 3, 3, Eigen::RowMajor> const>(pose.rotation[0].data());
-}
-
-Eigen::Matrix3d reflectionOf(MirrorPlane const& plane)
-{
-    Vector3d diagonal = Vector3d::Ones();
-    diagonal[static_cast<Eigen::Index>(plane.axis)] = -1.0;
-    return diagonal.asDiagonal();
-}
-
-/// Whether the links of the pair stand as reflections would, save that they may be displaced.
-bool areComparable(Facts const& facts, JointPair const& pair)
-{
-    bool const areReached = facts.placeOf(pair.first).isReached && facts.placeOf(pair.second).isReached;
-    return areReached && pair.side.isLimb && pair.side.isSure && pair.side.isTurned && !pair.side.isAskew;
-}
-
 /// In the link frame.
 Vector3d centerOf(JointConfig const& joint)
 {
-    Position3D const& center = joint.centerOfMass;
-    return {static_cast<double>(center.x), static_cast<double>(center.y), static_cast<double>(center.z)};
-}
-
-/// From the frame of the joint, in the axes of the root.
-Vector3d armOf(Facts const& facts, JointConfig const& joint)
-{
-    PlacedJoint const& place = facts.placeOf(joint);
-    return rotationOf(place.link) * centerOf(joint) + Vector3d::Map(place.link.translation.data()) -
-           Vector3d::Map(place.frame.translation.data());
+    return vectorOf(joint.centerOfMass);
 }
 
 Inertia inRootAxes(Facts const& facts, JointConfig const& joint)
@@ -69,13 +38,8 @@ struct Misses {
 
 Misses centerMisses(Facts const& facts, JointPair const& pair)
 {
-    Vector3d miss = reflectionOf(facts.sides.plane) * armOf(facts, pair.first) - armOf(facts, pair.second);
-    bool const isDisplaced = !pair.side.isPlaced;  // which is told
-    if (!isDisplaced) {
-        miss += Vector3d::Map(pair.side.miss.data());
-    }
-    return {miss.norm(), (centerOf(pair.first) - centerOf(pair.second)).norm(),
-            facts.tolerances.centerOfMass * std::max(1.0, facts.sides.size)};
+    return {missOfPoints(facts, pair, centerOf(pair.first), centerOf(pair.second)).norm(),
+            (centerOf(pair.first) - centerOf(pair.second)).norm(), pointTolerance(facts)};
 }
 
 Misses inertiaMisses(Facts const& facts, JointPair const& pair)
@@ -97,22 +61,6 @@ bool isReflection(Misses const& misses)
 bool isCopy(Misses const& misses)
 {
     return misses.ofCopy <= misses.tolerance;
-}
-
-/// One part may serve both sides: a motor, say. It is known by its mesh.
-bool haveOneMesh(JointPair const& pair)
-{
-    auto const& one = pair.first.shapes.visuals;
-    auto const& other = pair.second.shapes.visuals;
-    bool const areScaledAlike =
-        std::equal(one.begin(), one.end(), other.begin(), other.end(), [](auto const& a, auto const& b) {
-            Position3D const& first = a.geometry.scale;
-            Position3D const& second = b.geometry.scale;
-            return a.geometry.uri == b.geometry.uri && first.x == second.x && first.y == second.y &&
-                   first.z == second.z;
-        });
-    return pair.first.meshName == pair.second.meshName && areScaledAlike &&
-           !(pair.first.meshName.empty() && one.empty());
 }
 
 /// Calls `visit` with the pairs that are no reflections, nor copies where those are right, and with how much they miss.
@@ -150,6 +98,64 @@ std::vector<JointPair const*> massivePairs(Facts const& facts)
 
 }  // namespace
 
+Eigen::Matrix3d rotationOf(Pose const& pose)
+{
+    return Eigen::Map<Eigen::Matrix<double, 3, 3, Eigen::RowMajor> const>(pose.rotation[0].data());
+}
+
+Eigen::Matrix3d reflectionOf(MirrorPlane const& plane)
+{
+    Vector3d diagonal = Vector3d::Ones();
+    diagonal[static_cast<Eigen::Index>(plane.axis)] = -1.0;
+    return diagonal.asDiagonal();
+}
+
+Vector3d vectorOf(Position3D const& position)
+{
+    return {static_cast<double>(position.x), static_cast<double>(position.y), static_cast<double>(position.z)};
+}
+
+bool areComparable(Facts const& facts, JointPair const& pair)
+{
+    bool const areReached = facts.placeOf(pair.first).isReached && facts.placeOf(pair.second).isReached;
+    return areReached && pair.side.isLimb && pair.side.isSure && pair.side.isTurned && !pair.side.isAskew;
+}
+
+Vector3d armOf(Facts const& facts, JointConfig const& joint, Vector3d const& point)
+{
+    PlacedJoint const& place = facts.placeOf(joint);
+    return rotationOf(place.link) * point + Vector3d::Map(place.link.translation.data()) -
+           Vector3d::Map(place.frame.translation.data());
+}
+
+Vector3d missOfPoints(Facts const& facts, JointPair const& pair, Vector3d const& first, Vector3d const& second)
+{
+    Vector3d const miss =
+        reflectionOf(facts.sides.plane) * armOf(facts, pair.first, first) - armOf(facts, pair.second, second);
+    bool const isDisplaced = !pair.side.isPlaced;
+    return isDisplaced ? miss : Vector3d(miss + Vector3d::Map(pair.side.miss.data()));
+}
+
+double pointTolerance(Facts const& facts)
+{
+    return facts.tolerances.centerOfMass * std::max(1.0, facts.sides.size);
+}
+
+bool haveOneMesh(JointPair const& pair)
+{
+    auto const& one = pair.first.shapes.visuals;
+    auto const& other = pair.second.shapes.visuals;
+    bool const areScaledAlike =
+        std::equal(one.begin(), one.end(), other.begin(), other.end(), [](auto const& a, auto const& b) {
+            Position3D const& first = a.geometry.scale;
+            Position3D const& second = b.geometry.scale;
+            return a.geometry.uri == b.geometry.uri && first.x == second.x && first.y == second.y &&
+                   first.z == second.z;
+        });
+    return pair.first.meshName == pair.second.meshName && areScaledAlike &&
+           !(pair.first.meshName.empty() && one.empty());
+}
+
 bool areSidesCopies(Facts const& facts)
 {
     std::ptrdiff_t reflections = 0;
@@ -165,9 +171,13 @@ bool areSidesCopies(Facts const& facts)
 void findComNotMirrored(Facts const& facts, Report const& report)
 {
     forEachMiss(facts, massivePairs(facts), centerMisses, [&](JointPair const& pair, double miss) {
-        report.ofTwo(pair.second, pair.first, Part::centerOfMass,
-                     "The centres of mass of " + namesOf(pair.first, pair.second) +
-                         " miss each other's reflection by " + rounded(miss) + " m.");
+        bool const isFirst = isFirstOdd(facts, pair, [&](JointConfig const& one, JointConfig const& other) {
+            Vector3d const difference = centerOf(one).cwiseAbs() - centerOf(other).cwiseAbs();
+            return difference.norm() <= pointTolerance(facts);
+        });
+        report.ofPair(pair, isFirst, Part::centerOfMass,
+                      "The centres of mass of " + namesOf(pair.first, pair.second) +
+                          " miss each other's reflection by " + rounded(miss) + " m.");
     });
 }
 
@@ -180,9 +190,14 @@ void findInertiaNotMirrored(Facts const& facts, Report const& report)
         }
     }
     forEachMiss(facts, pairs, inertiaMisses, [&](JointPair const& pair, double miss) {
-        report.ofTwo(pair.second, pair.first, Part::inertia,
-                     "The inertias of " + namesOf(pair.first, pair.second) + " miss each other's reflection by " +
-                         rounded(miss) + " kg*m^2.");
+        bool const isFirst = isFirstOdd(facts, pair, [&](JointConfig const& one, JointConfig const& other) {
+            Inertia const entries = inertiaOf(one.inertiaMatrix).cwiseAbs();
+            return (entries - inertiaOf(other.inertiaMatrix).cwiseAbs()).cwiseAbs().maxCoeff() <=
+                   facts.tolerances.inertia * entries.maxCoeff();
+        });
+        report.ofPair(pair, isFirst, Part::inertia,
+                      "The inertias of " + namesOf(pair.first, pair.second) + " miss each other's reflection by " +
+                          rounded(miss) + " kg*m^2.");
     });
 }
 

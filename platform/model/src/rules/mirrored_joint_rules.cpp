@@ -1,7 +1,8 @@
 #include <algorithm>
 #include <cmath>
+#include <string_view>
+#include <unordered_map>
 
-#include "robot/side_names.hpp"
 #include "rules/numbers.hpp"
 #include "rules/rules.hpp"
 
@@ -17,33 +18,20 @@ bool agree(float a, float b, double tolerance)
 }
 
 /// A quantity that is the same on both sides.
-struct Quantity {
+struct JointQuantity {
     float JointConfig::*field;
     Part part;
     char const* name;  ///< as a sentence begins with it, in the plural
     bool isOfMotion;  ///< whether it means nothing for a joint that does not move
 };
 
-bool isMeant(Quantity const& quantity, JointPair const& pair)
+bool isMeant(JointQuantity const& quantity, JointPair const& pair)
 {
     return pair.side.isLimb && pair.side.isSure &&
            (!quantity.isOfMotion || (isMoving(pair.first.jointType) && isMoving(pair.second.jointType)));
 }
 
-/// How many other joints of the kind, on other legs say, have the value.
-std::ptrdiff_t countOthers(Facts const& facts, JointPair const& pair, Quantity const& quantity, float value)
-{
-    std::ptrdiff_t count = 0;
-    for (std::size_t const index : facts.pairsOfKind.at(withoutSides(pair.first.name))) {
-        JointPair const& other = facts.jointPairs[index];
-        bool const isOther = &other.side != &pair.side;
-        count += isOther && agree(other.first.*quantity.field, value, facts.tolerances.mass) ? 1 : 0;
-        count += isOther && agree(other.second.*quantity.field, value, facts.tolerances.mass) ? 1 : 0;
-    }
-    return count;
-}
-
-void findDifferent(Facts const& facts, Report const& report, Quantity const& quantity)
+void findDifferent(Facts const& facts, Report const& report, JointQuantity const& quantity)
 {
     for (JointPair const& pair : facts.jointPairs) {
         float const one = pair.first.*quantity.field;
@@ -53,11 +41,58 @@ void findDifferent(Facts const& facts, Report const& report, Quantity const& qua
         if (!isMeant(quantity, pair) || isTold || agree(one, other, facts.tolerances.mass)) {
             continue;
         }
-        bool const isFirst = countOthers(facts, pair, quantity, other) > countOthers(facts, pair, quantity, one);
-        report.ofTwo(isFirst ? pair.first : pair.second, isFirst ? pair.second : pair.first, quantity.part,
-                     std::string(quantity.name) + " of " + namesOf(pair.first, pair.second) +
-                         " differ: " + shortest(one) + " and " + shortest(other) + ".");
+        bool const isFirst = isFirstOdd(facts, pair, [&](JointConfig const& a, JointConfig const& b) {
+            return agree(a.*quantity.field, b.*quantity.field, facts.tolerances.mass);
+        });
+        report.ofPair(pair, isFirst, quantity.part,
+                      std::string(quantity.name) + " of " + namesOf(pair.first, pair.second) +
+                          " differ: " + shortest(one) + " and " + shortest(other) + ".");
     }
+}
+
+bool isCompared(JointPair const& pair)
+{
+    return pair.side.isLimb && pair.side.isSure;
+}
+
+/// Only one of the two follows others, or leads them.
+void findLoneMimics(Facts const& facts, Report const& report)
+{
+    auto const& followers = facts.records->subActuators;
+    for (JointPair const& pair : facts.jointPairs) {
+        bool const isFirst = followers.contains(pair.first.name);
+        if (isCompared(pair) && isFirst != followers.contains(pair.second.name)) {
+            report.ofPair(pair, isFirst, Part::mimic,
+                          "Of " + namesOf(pair.first, pair.second) + " only one moves together with other joints.");
+        }
+    }
+}
+
+/// By joint, what turns its value into that of its counterpart: 0 for a joint that is in no pair, or in one of which
+/// that cannot be told.
+std::unordered_map<std::string_view, double> signsOf(Facts const& facts)
+{
+    std::unordered_map<std::string_view, double> signs;
+    for (JointPair const& pair : facts.jointPairs) {
+        std::int32_t const kind = pair.side.isSure ? pair.kind() : std::int32_t{noMirror};
+        double const sign = kind == noMirror ? 0.0 : kind == reflectedMirror ? -1.0 : 1.0;
+        signs.emplace(pair.first.name, sign);
+        signs.emplace(pair.second.name, sign);
+    }
+    return signs;
+}
+
+double signOf(std::unordered_map<std::string_view, double> const& signs, std::string const& joint)
+{
+    auto const found = signs.find(joint);
+    return found == signs.end() ? 0.0 : found->second;
+}
+
+/// Where the signs cannot be told, the magnitudes alone have to agree.
+bool agreeBySign(float one, float other, double sign, double tolerance)
+{
+    return sign == 0.0 ? agree(std::abs(one), std::abs(other), tolerance)
+                       : agree(static_cast<float>(sign) * one, other, tolerance);
 }
 
 }  // namespace
@@ -90,23 +125,24 @@ void findFrictionNotMirrored(Facts const& facts, Report const& report)
 /// What follows its leader on one side does so on the other, turned round where the axes are.
 void findMimicNotMirrored(Facts const& facts, Report const& report)
 {
-    auto const& followers = facts.records->subActuators;
+    findLoneMimics(facts, report);
+    auto const signs = signsOf(facts);
+    double const tolerance = facts.tolerances.mass;
     for (JointPair const& pair : facts.jointPairs) {
-        SubActuatorConfig const* const one = followers.find(pair.first.name);
-        SubActuatorConfig const* const other = followers.find(pair.second.name);
-        if (!pair.side.isLimb || !pair.side.isSure || (one == nullptr && other == nullptr)) {
+        MimicConfig const* const one = pair.first.mimic.get();
+        MimicConfig const* const other = pair.second.mimic.get();
+        bool const areMoving = isMoving(pair.first.jointType) && isMoving(pair.second.jointType);
+        if (!isCompared(pair) || !areMoving || one == nullptr || other == nullptr) {
             continue;
         }
-        if (one == nullptr || other == nullptr) {
-            bool const isFirst = one != nullptr;
-            report.ofTwo(isFirst ? pair.first : pair.second, isFirst ? pair.second : pair.first, Part::mimic,
-                         "Of " + namesOf(pair.first, pair.second) + " only one moves together with other joints.");
-        } else if (!agree(std::abs(one->ratio), std::abs(other->ratio), facts.tolerances.mass) ||
-                   !agree(std::abs(one->offset), std::abs(other->offset), facts.tolerances.mass)) {
-            report.ofTwo(pair.second, pair.first, Part::mimic,
-                         "The mimics of " + namesOf(pair.first, pair.second) + " differ: multipliers " +
-                             shortest(one->ratio) + " and " + shortest(other->ratio) + ", offsets " +
-                             shortest(one->offset) + " and " + shortest(other->offset) + ".");
+        double const sign = signOf(signs, pair.first.name);
+        double const leaderSign = one->joint == other->joint ? 1.0 : signOf(signs, one->joint);
+        if (!agreeBySign(one->multiplier, other->multiplier, sign * leaderSign, tolerance) ||
+            !agreeBySign(one->offset, other->offset, sign, tolerance)) {
+            report.ofPair(pair, false, Part::mimic,
+                          "The mimics of " + namesOf(pair.first, pair.second) + " do not mirror: multipliers " +
+                              shortest(one->multiplier) + " and " + shortest(other->multiplier) + ", offsets " +
+                              shortest(one->offset) + " and " + shortest(other->offset) + ".");
         }
     }
 }

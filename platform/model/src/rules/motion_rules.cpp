@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "rules/numbers.hpp"
@@ -11,7 +11,7 @@ namespace Varo::Model::Rules {
 
 namespace {
 
-/// Whether the text has such a number. Beside 0, a speed of 0 may stand for one that is not stated, or is infinite.
+/// Whether the text has such a number. Beside 0, a limit of 0 may stand for one that is not stated, or is infinite.
 bool isStatedAsNotPositive(Statement const& statement)
 {
     std::string_view text = statement.text;
@@ -21,62 +21,90 @@ bool isStatedAsNotPositive(Statement const& statement)
     return error == std::errc() && value <= 0.0;
 }
 
-template <class Driven>
-void checkSpeed(Report const& report, Driven const& driven, float speed)
-{
-    if (speed <= 0.0F && isStatedAsNotPositive(report.statement(driven, Part::velocity))) {
-        report.at(driven, Part::velocity,
-                  "The greatest speed of " + quoted(driven.name) + ", " + shortest(speed) + ", is not above 0.");
-    }
-}
-
-template <class Driven>
-void checkSpeedInRange(Report const& report, Driven const& driven)
-{
-    if (driven.minAngle != driven.maxAngle) {
-        checkSpeed(report, driven, driven.maxAngularSpeed);
-    }
-}
-
-class StartAngles {
-public:
-    explicit StartAngles(std::vector<PostureConfig> const& postures)
-    {
-        for (PostureConfig const& posture : postures) {
-            for (PostureAngle const& angle : posture.angles) {
-                if (posture.name == "StandInit") {
-                    _stated.emplace(angle.name, &angle);
-                }
-            }
-        }
-    }
-
-    template <class Driven>
-    void check(Facts const& facts, Report const& report, Driven const& driven) const
-    {
-        auto const stated = _stated.find(driven.name);
-        bool const isStated = stated != _stated.end();
-        double const angle = isStated ? static_cast<double>(stated->second->value) : 0.0;
-        double const min = static_cast<double>(driven.minAngle) - facts.tolerances.limit;
-        double const max = static_cast<double>(driven.maxAngle) + facts.tolerances.limit;
-        bool const isReversed = driven.minAngle > driven.maxAngle;
-        if (isReversed || (angle >= min && angle <= max)) {
-            return;
-        }
-        std::string const message = "The start angle of " + quoted(driven.name) + ", " +
-                                    shortest(static_cast<float>(angle)) + ", is outside its limits, " +
-                                    rangeText(driven.minAngle, driven.maxAngle) + ".";
-        if (isStated) {
-            report.at(*stated->second, Part::value, message);
-        } else {
-            report.at(driven, angle < min ? Part::minimum : Part::maximum, message,
-                      "An angle that the posture StandInit does not state is 0.");
-        }
-    }
-
-private:
-    std::unordered_map<std::string_view, PostureAngle const*> _stated;
+/// A bound that lets nothing move when it is 0.
+struct Bound {
+    Part part;
+    char const* name;
 };
+constexpr Bound speed{Part::velocity, "speed"};
+constexpr Bound effort{Part::effort, "effort"};
+
+template <class Driven>
+void checkBound(Report const& report, Driven const& driven, Bound const& bound, float value)
+{
+    if (value <= 0.0F && isStatedAsNotPositive(report.statement(driven, bound.part))) {
+        report.at(driven, bound.part,
+                  std::string("The greatest ") + bound.name + " of " + quoted(driven.name) + ", " + shortest(value) +
+                      ", is not above 0.");
+    }
+}
+
+/// Of all that moves; the fields are those of joints and actuators, and of wheels.
+template <class Field, class WheelField>
+void checkBounds(Facts const& facts, Report const& report, Bound const& bound, Field const& field,
+                 WheelField const& wheelField)
+{
+    auto const checkInRange = [&](auto const& driven) {
+        if (driven.minAngle != driven.maxAngle) {
+            checkBound(report, driven, bound, field(driven));
+        }
+    };
+    for (auto const& joint : facts.records->joints) {
+        checkInRange(joint);
+    }
+    if (!facts.records->statesActuators) {
+        return;  // they have the limits of a joint
+    }
+    for (auto const& actuator : facts.records->actuators) {
+        checkInRange(actuator);
+    }
+    for (auto const& wheel : facts.records->wheels) {
+        checkBound(report, wheel, bound, wheelField(wheel));
+    }
+}
+
+/// Beyond two turns each way, and yet no more than two in degrees.
+bool looksLikeDegrees(float limit)
+{
+    constexpr double twoTurns = 12.566;  // rad
+    double const size = std::abs(static_cast<double>(limit));
+    return size > twoTurns && size <= 720.0 && std::floor(2.0 * size) == 2.0 * size;
+}
+
+void findNegative(Facts const& facts, Report const& report, float JointConfig::*field, Part part,
+                  std::string const& name)
+{
+    for (JointConfig const& joint : facts.records->joints) {
+        if (joint.*field < 0.0F && isMoving(joint.jointType)) {
+            report.at(joint, part,
+                      "The " + name + " of " + quoted(joint.name) + ", " + shortest(joint.*field) +
+                          ", is negative: it would drive the joint on.");
+        }
+    }
+}
+
+template <class Driven>
+void checkStart(Facts const& facts, Report const& report, Driven const& driven)
+{
+    auto const stated = facts.startAngles.find(driven.name);
+    bool const isStated = stated != facts.startAngles.end();
+    double const angle = isStated ? static_cast<double>(stated->second->value) : 0.0;
+    double const min = static_cast<double>(driven.minAngle) - facts.tolerances.limit;
+    double const max = static_cast<double>(driven.maxAngle) + facts.tolerances.limit;
+    bool const isReversed = driven.minAngle > driven.maxAngle;
+    if (isReversed || (angle >= min && angle <= max)) {
+        return;
+    }
+    std::string const message = "The start angle of " + quoted(driven.name) + ", " +
+                                shortest(static_cast<float>(angle)) + ", is outside its limits, " +
+                                rangeText(driven.minAngle, driven.maxAngle) + ".";
+    if (isStated) {
+        report.at(*stated->second, Part::value, message);
+    } else {
+        report.at(driven, angle < min ? Part::minimum : Part::maximum, message,
+                  "An angle that the posture StandInit does not state is 0.");
+    }
+}
 
 /// Calls `visit` with what moves under that name: an actuator's limits hide those of a joint of the same name.
 template <class Visit>
@@ -108,18 +136,38 @@ void checkAngle(Facts const& facts, Report const& report, std::string const& pos
 
 void findSpeedNotPositive(Facts const& facts, Report const& report)
 {
-    for (auto const& joint : facts.records->joints) {
-        checkSpeedInRange(report, joint);
+    checkBounds(
+        facts, report, speed, [](auto const& driven) { return driven.maxAngularSpeed; },
+        [](auto const& wheel) { return wheel.maxVelocity; });
+}
+
+void findEffortNotPositive(Facts const& facts, Report const& report)
+{
+    auto const torque = [](auto const& driven) { return driven.maxTorque; };
+    checkBounds(facts, report, effort, torque, torque);
+}
+
+void findLimitsInDegrees(Facts const& facts, Report const& report)
+{
+    for (JointConfig const& joint : facts.records->joints) {
+        bool const isLower = looksLikeDegrees(joint.minAngle);
+        if (joint.jointType == revolute && (isLower || looksLikeDegrees(joint.maxAngle))) {
+            report.at(joint, isLower ? Part::minimum : Part::maximum,
+                      "The limits of " + quoted(joint.name) + ", " + rangeText(joint.minAngle, joint.maxAngle) +
+                          ", look like degrees.",
+                      "Limits are in rad.");
+        }
     }
-    if (!facts.records->statesActuators) {
-        return;  // they have the limits of a joint
-    }
-    for (auto const& actuator : facts.records->actuators) {
-        checkSpeedInRange(report, actuator);
-    }
-    for (auto const& wheel : facts.records->wheels) {
-        checkSpeed(report, wheel, wheel.maxVelocity);
-    }
+}
+
+void findNegativeDamping(Facts const& facts, Report const& report)
+{
+    findNegative(facts, report, &JointConfig::damping, Part::damping, "damping");
+}
+
+void findNegativeFriction(Facts const& facts, Report const& report)
+{
+    findNegative(facts, report, &JointConfig::friction, Part::friction, "friction");
 }
 
 void findStartOutsideLimits(Facts const& facts, Report const& report)
@@ -127,11 +175,10 @@ void findStartOutsideLimits(Facts const& facts, Report const& report)
     if (!facts.records->statesPostures) {
         return;  // the zero position is but one of reference
     }
-    StartAngles const starts(facts.records->postures);
     std::unordered_set<std::string_view> checked;
     for (std::string const* name : angleNames(*facts.records)) {
         if (checked.insert(*name).second) {
-            visitDriven(*facts.records, *name, [&](auto const& driven) { starts.check(facts, report, driven); });
+            visitDriven(*facts.records, *name, [&](auto const& driven) { checkStart(facts, report, driven); });
         }
     }
 }

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 
 #include "rules/numbers.hpp"
 #include "rules/rules.hpp"
@@ -26,10 +28,10 @@ bool isCarriedOn(Facts const& facts, SidePair const& side)
 }
 
 /// "y = 0.1": the plane as messages name it.
-std::string textOf(MirrorPlane const& plane)
+std::string textOf(Sides const& sides)
 {
-    double const offset = std::abs(plane.offset) < 1e-6 ? 0.0 : plane.offset;
-    return std::string(1, "xyz"[plane.axis]) + " = " + rounded(offset);
+    double const offset = std::abs(sides.plane.offset) < 0.1 * sides.tolerance ? 0.0 : sides.plane.offset;
+    return std::string(1, "xyz"[sides.plane.axis]) + " = " + rounded(offset);
 }
 
 /// Whether something that does not move is placed alike on its carriers: a camera on hands of one make, say.
@@ -45,20 +47,32 @@ bool hasAxis(JointPair const& pair)
            isMoving(pair.first.jointType);
 }
 
-/// The joints of a limb by whether the two axes of a pair are the same, each in the frame of its link.
+/// Whether the two axes are the same, each in the frame of its link.
+bool areAxesAlike(JointPair const& pair)
+{
+    float cosine = 0.0F;
+    for (int row = 0; row < 3; ++row) {  // the third row of the inverse is the axis
+        cosine += pair.first.endTransform(2, row) * pair.second.endTransform(2, row);
+    }
+    return cosine > 0.0F;
+}
+
+/// The joints of a limb by how their axes go together.
 struct Convention {
     std::vector<JointPair const*> alike;
     std::vector<JointPair const*> opposite;
 
-    void add(JointPair const& pair)
-    {
-        float cosine = 0.0F;
-        for (int row = 0; row < 3; ++row) {  // the third row of the inverse is the axis
-            cosine += pair.first.endTransform(2, row) * pair.second.endTransform(2, row);
-        }
-        (cosine > 0.0F ? alike : opposite).push_back(&pair);
-    }
+    void add(JointPair const& pair) { (areAxesAlike(pair) ? alike : opposite).push_back(&pair); }
 };
+
+/// Whether the frames of two joints are as far from those before them, along each axis.
+bool areAlikeUpToSigns(Transform const& one, Transform const& other, double tolerance)
+{
+    Vector const a = fromTransform(one).translation;
+    Vector const b = fromTransform(other).translation;
+    return length({std::abs(a[0]) - std::abs(b[0]), std::abs(a[1]) - std::abs(b[1]),
+                   std::abs(a[2]) - std::abs(b[2])}) <= tolerance;
+}
 
 bool isReached(Facts const& facts, JointPair const& pair)
 {
@@ -72,9 +86,12 @@ void findPlaceNotMirrored(Facts const& facts, Report const& report)
     for (JointPair const& pair : facts.jointPairs) {
         if (pair.side.isLimb && isReached(facts, pair) && !pair.side.isPlaced && !isCopy(pair) &&
             !isCarriedOn(facts, pair.side)) {
-            report.ofTwo(pair.second, pair.first, Part::placement,
-                         "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
-                             textOf(facts.sides.plane) + " by " + rounded(length(pair.side.miss)) + " m.");
+            bool const isFirst = isFirstOdd(facts, pair, [&](JointConfig const& one, JointConfig const& other) {
+                return areAlikeUpToSigns(one.placement, other.placement, facts.sides.tolerance);
+            });
+            report.ofPair(pair, isFirst, Part::placement,
+                          "The places of " + namesOf(pair.first, pair.second) + " miss each other's reflection in " +
+                              textOf(facts.sides) + " by " + rounded(length(pair.side.miss)) + " m.");
         }
     }
 }
@@ -90,8 +107,7 @@ void findAxisNotMirrored(Facts const& facts, Report const& report)
     }
 }
 
-/// Which convention a limb follows is its author's affair, but it should be one.
-void findAxisDirectionNotMirrored(Facts const& facts, Report const& report)
+std::vector<JointPair const*> pairsOfOddAxis(Facts const& facts)
 {
     constexpr std::size_t enough = 5;
     std::vector<Convention> limbs(facts.jointPairs.size());
@@ -100,16 +116,28 @@ void findAxisDirectionNotMirrored(Facts const& facts, Report const& report)
             limbs[pair.side.limb].add(pair);
         }
     }
+    std::vector<JointPair const*> odd;
     for (Convention const& limb : limbs) {
-        JointPair const* const odd = limb.alike.size() == 1      ? limb.alike.front()
-                                     : limb.opposite.size() == 1 ? limb.opposite.front()
-                                                                 : nullptr;
-        if (odd != nullptr && limb.alike.size() + limb.opposite.size() >= enough) {
-            report.ofTwo(odd->second, odd->first, Part::axis,
-                         "The axes of " + namesOf(odd->first, odd->second) +
-                             (limb.alike.size() == 1 ? " have the same direction" : " have opposite directions") +
-                             " in the frames of their links, unlike those of all others of the limb.");
+        if (limb.alike.size() + limb.opposite.size() < enough) {
+            continue;
         }
+        for (auto const* few : {&limb.alike, &limb.opposite}) {
+            if (few->size() == 1) {
+                odd.push_back(few->front());
+            }
+        }
+    }
+    std::sort(odd.begin(), odd.end(), std::less<>());
+    return odd;
+}
+
+void findAxisDirectionNotMirrored(Facts const& facts, Report const& report)
+{
+    for (JointPair const* pair : pairsOfOddAxis(facts)) {
+        report.ofPair(*pair, false, Part::axis,
+                      "The axes of " + namesOf(pair->first, pair->second) +
+                          (areAxesAlike(*pair) ? " have the same direction" : " have opposite directions") +
+                          " in the frames of their links, unlike those of all others of the limb.");
     }
 }
 

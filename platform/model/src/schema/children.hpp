@@ -1,9 +1,10 @@
 #ifndef VARO_MODEL_SCHEMA_CHILDREN_HPP
 #define VARO_MODEL_SCHEMA_CHILDREN_HPP
 
+#include <map>
 #include <memory>
 #include <type_traits>
-#include <utility>
+#include <vector>
 
 #include "schema/element_reader.hpp"
 #include "schema/element_writer.hpp"
@@ -24,7 +25,13 @@ constexpr Child<RecordOfElement<element>> inPlace()
     using Parent = RecordOfElement<element>;
     return {{&element, Occurrence::optional},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) { reader.read(element, node, parent); },
-            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); }};
+            [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); },
+            [](Parent& parent) {
+                Parent const fresh;
+                for (Attribute<Parent> const& row : element.attributeRows) {
+                    row.store(row.print(fresh), parent);
+                }
+            }};
 }
 
 template <class Record, class = void>
@@ -71,19 +78,28 @@ constexpr Child<Parent> pointedTo()
                 if (parent.*member != nullptr) {
                     writer.write(element, *(parent.*member));
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
-template <class Item>
-void add(Table<Item>& items, Item&& item)
+// Records are large, and therefore read where they are to stay.
+
+template <auto const& element, class Item>
+void addRecord(ElementReader& reader, pugi::xml_node node, Table<Item>& items)
 {
-    items.add(std::move(item));
+    readItem<RecordOfElement<element>>(reader, element, node, items.add());
 }
 
-template <class Items, class Item>
-void add(Items& items, Item&& item)
+template <auto const& element, class Item>
+void addRecord(ElementReader& reader, pugi::xml_node node, std::vector<Item>& items)
 {
-    items.insert(items.end(), std::move(item));
+    readItem<RecordOfElement<element>>(reader, element, node, items.emplace_back());
+}
+
+template <auto const& element, class Key, class Item>
+void addRecord(ElementReader& reader, pugi::xml_node node, std::map<Key, Item>& items)
+{
+    items.insert(readRecord<element>(reader, node));
 }
 
 /// A child that is a record of its own, in an optional member of the record of its parent.
@@ -92,13 +108,14 @@ constexpr Child<Parent> childOf()
 {
     return {{&element, Occurrence::optional},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                parent.*member = readRecord<element>(reader, node);
+                readItem(reader, element, node, (parent.*member).emplace());
             },
             [](ElementWriter& writer, Parent const& parent) {
                 if (parent.*member) {
                     writer.write(element, *(parent.*member));
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 /// Children each of which is a record of its own, in a member of the record of their parent.
@@ -108,14 +125,15 @@ constexpr Child<Parent> childrenOf()
     using Item = RecordOfElement<element>;
     return {{&element, Occurrence::any},
             [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                add(parent.*member, readRecord<element>(reader, node));
+                addRecord<element>(reader, node, parent.*member);
             },
             [](ElementWriter& writer, Parent const& parent) {
                 for (auto const& each : parent.*member) {
                     Item const& item = each;
                     writer.write(element, item);
                 }
-            }};
+            },
+            [](Parent& parent) { parent.*member = {}; }};
 }
 
 }  // namespace Varo::Model::Schema

@@ -12,13 +12,24 @@ RowSet bitOf(std::size_t row)
     return row == noRow ? 0 : RowSet{1} << row;
 }
 
+/// Whether the text is that one, which mostly shows at its first characters.
+bool isText(char const* text, std::string_view wanted)
+{
+    for (char const c : wanted) {
+        if (*text++ != c) {
+            return false;
+        }
+    }
+    return *text == '\0';
+}
+
 /// The row of that name, looked for from `start` on and then from the beginning: texts mostly keep the tables' order.
 template <class Info>
-std::size_t findRow(Infos<Info> const& rows, std::string_view name, std::size_t start)
+std::size_t findRow(Infos<Info> const& rows, char const* name, std::size_t start)
 {
     std::size_t index = start < rows.size() ? start : 0;
     for (std::size_t left = rows.size(); left > 0; --left) {
-        if (nameOf(rows[index]) == name) {
+        if (isText(name, nameOf(rows[index]))) {
             return index;
         }
         index = index + 1 < rows.size() ? index + 1 : 0;

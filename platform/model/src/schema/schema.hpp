@@ -91,9 +91,11 @@ template <class Parent>
 struct Child : ChildInfo {
     using Read = void (*)(ElementReader& reader, pugi::xml_node node, Parent& parent);
     using Write = void (*)(ElementWriter& writer, Parent const& parent);
+    using Clear = void (*)(Parent& parent);
 
     Read read;  ///< into the record of the parent
     Write write;  ///< what the record of the parent has to say in such children; null for those of another row
+    Clear clear = nullptr;  ///< makes the record of the parent one without such children; null where nobody asks
 };
 
 /// Something that attributes or children together may be wrong in.

@@ -10,9 +10,9 @@ namespace Varo::Model::Urdf {
 
 namespace {
 
-void reportIncomplete(Inertial const& inertial, bool hasMass, Diagnostics& diagnostics)
+void reportIncomplete(Inertial const& inertial, bool hasMass, bool hasInertia, Diagnostics& diagnostics)
 {
-    std::string const missing = hasMass ? "inertia" : inertial.inertia ? "mass" : "mass and no inertia";
+    std::string const missing = hasMass ? "inertia" : hasInertia ? "mass" : "mass and no inertia";
     diagnostics.report(at(inertial.node), codes::incompleteInertial,
                        "This inertial states no " + missing + "; what is missing counts as 0.");
 }
@@ -21,10 +21,12 @@ void reportIncomplete(Inertial const& inertial, bool hasMass, Diagnostics& diagn
 void translateInertial(Inertial const& inertial, JointConfig& body, Diagnostics& diagnostics)
 {
     Mass const mass = inertial.mass.value_or(Mass());
-    if (!mass.node.attribute("value") || !inertial.inertia) {
-        reportIncomplete(inertial, mass.node.attribute("value"), diagnostics);
-    }
     Inertia const inertia = inertial.inertia.value_or(Inertia());
+    bool const hasMass = mass.node.attribute("value") || *mass.node.child_value() != 0;  // a text is told already
+    bool const hasInertia = inertial.inertia.has_value();
+    if (!hasMass || !hasInertia) {
+        reportIncomplete(inertial, hasMass, hasInertia, diagnostics);
+    }
     Matrix const stated = {{{inertia.xx, inertia.xy, inertia.xz},
                             {inertia.xy, inertia.yy, inertia.yz},
                             {inertia.xz, inertia.yz, inertia.zz}}};

@@ -33,10 +33,11 @@ std::string stepOf(std::string_view name, std::size_t rank)
 
 }  // namespace
 
-ExtendingWriter::ExtendingWriter(Records const& records, StatementsOf const& statements)
+ExtendingWriter::ExtendingWriter(Records const& records, StatementsOf const& statements,
+                                 std::vector<ExtensionConfig> const& extensions)
     : ElementWriter(records), _statements(statements)
 {
-    for (ExtensionConfig const& extension : records.extensions) {
+    for (ExtensionConfig const& extension : extensions) {
         _groups[{extension.owner, extension.ownerName}].push_back({&extension});
     }
     for (auto& [owner, group] : _groups) {
@@ -237,7 +238,8 @@ void ExtendingWriter::writeSensors()
         for (Kept const& each : kept == nullptr ? Group() : *kept) {
             within.push_back(each.extension->within);
         }
-        writeTree(toStatement(sensor, _statements.linkOf(sensor.parent), within));
+        writeTree(
+            toStatement(sensor, _statements.linkOf(sensor.parent), _statements.shiftOfLink(sensor.parent), within));
     }
 }
 

@@ -16,13 +16,14 @@
 
 namespace Varo::Model::Urdf {
 
-/// Writes a `robot` and, where they stood, the extensions that its records have kept: the way back from `Extensions`.
+/// Writes a `robot` and, where they stood, extensions that its records have kept: the way back from `Extensions`.
 ///
 /// An element between an owner and an extension that nothing else needs is written for the extension alone. What has no
 /// place in the text is left out.
 class ExtendingWriter final : public Schema::ElementWriter {
 public:
-    ExtendingWriter(Records const& records, StatementsOf const& statements);
+    ExtendingWriter(Records const& records, StatementsOf const& statements,
+                    std::vector<ExtensionConfig> const& extensions);
 
     /// The robot, with `behind` as its last lines.
     void writeRobot(std::string_view declaration, std::string_view behind);

@@ -17,7 +17,9 @@ constexpr Element<LinkReference> parentElement{"parent", "the link that the join
 constexpr Element<LinkReference> childElement{"child", "the link that the joint moves", linkAttributes};
 
 constexpr Attribute<Axis> axisAttributes[] = {
-    optional<&Axis::xyz>("xyz", "1 0 0", "", "direction, of any length but 0, in the frame of the child link"),
+    required<&Axis::xyz>("xyz", "", "direction, of any length but 0, in the frame of the child link")
+        .orElse({&codes::missingAttribute, "This axis does not say its direction: 1 0 0 is taken.",
+                 "Give it an attribute \"xyz\"."}),
 };
 constexpr Element<Axis> axisElement{
     "axis", "what the joint turns about or slides along; means nothing for one that does not move", axisAttributes};
@@ -77,7 +79,7 @@ constexpr Attribute<Joint> attributes[] = {
     required<&Joint::type, JointTypes>(
         "type", "",
         "how the joint moves: `continuous` is `revolute` without limits; `fixed`, `planar` and `floating` stay at 0 "
-        "(the latter two with a warning) and have no motor")
+        "(the latter two with a note) and have no motor")
         .orElse({&codes::unknownJointType, "This joint has no type.", jointTypeHint}),
 };
 constexpr Child<Joint> children[] = {

@@ -24,7 +24,7 @@ void translateAxis(Joint const& stated, Matrix& axis, Diagnostics& diagnostics)
 /// Those of a joint that turns or slides within limits.
 void checkLimits(Joint const& stated, Diagnostics& diagnostics)
 {
-    std::string const hint = "Give it a limit element, or the type continuous.";
+    static constexpr char hint[] = "Give it a limit element, or the type continuous.";
     if (!stated.limit) {
         diagnostics.report(at(stated.node), codes::missingLimit, "This joint states no limits; it stays at 0.", hint);
         return;
@@ -39,12 +39,22 @@ void checkLimits(Joint const& stated, Diagnostics& diagnostics)
     }
 }
 
+/// Those of a joint that turns on and on are its effort and velocity.
+void checkNotEmpty(Joint const& stated, Diagnostics& diagnostics)
+{
+    if (stated.limit && !stated.limit->node.first_attribute()) {
+        diagnostics.report(at(stated.limit->node), codes::missingAttribute, "This limit says nothing.",
+                           "Give it the attributes \"effort\" and \"velocity\", or leave it out.");
+    }
+}
+
 void translateLimits(Joint const& stated, JointConfig& config, Diagnostics& diagnostics)
 {
     Limit const limit = stated.limit.value_or(Limit());
     config.maxTorque = static_cast<float>(limit.effort);
     config.maxAngularSpeed = static_cast<float>(limit.velocity);
     if (stated.type == continuous) {
+        checkNotEmpty(stated, diagnostics);
         config.minAngle = -std::numeric_limits<float>::infinity();
         config.maxAngle = std::numeric_limits<float>::infinity();
     } else if (isMoving(stated.type)) {
@@ -90,15 +100,16 @@ void translateExtras(Joint const& stated, JointConfig& config)
 }
 
 /// The link that is the joint's parent or child, which `role` says.
-Reference toReference(Joint const& joint, std::optional<LinkReference> const& link, std::string const& role,
+Reference toReference(Joint const& joint, std::optional<LinkReference> const& link, char const* role,
                       Diagnostics& diagnostics)
 {
     pugi::xml_node const node = link ? link->node : joint.node;
     if (link && node.attribute("link")) {
         return {link->link, at(node, "link")};
     }
-    diagnostics.report(at(node), codes::unattachedJoint, "This joint does not say which link is its " + role + ".",
-                       "Write <" + role + " link=\"...\"/>.");
+    diagnostics.report(at(node), codes::unattachedJoint,
+                       "This joint does not say which link is its " + std::string(role) + ".",
+                       "Write <" + std::string(role) + " link=\"...\"/>.");
     return {};
 }
 
@@ -113,27 +124,21 @@ Model::Mimic toMimic(Mimic const& stated)
     return mimic;
 }
 
-void translateType(Joint const& stated, JointConfig& config, Diagnostics& diagnostics)
+void translateType(Joint const& stated, JointConfig& config)
 {
     config.jointType = stated.type == noJointType ? fixed : stated.type;
     config.hasMotor = isMoving(config.jointType);
-    if (stated.type == planar || stated.type == floating) {
-        diagnostics.report(
-            at(stated.node, "type"), codes::jointFrozen,
-            "A " + JointTypes::print(stated.type) + " joint cannot be modelled; it is held where it is.");
-    }
 }
 
 }  // namespace
 
-Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics)
+void translateJoint(Joint const& stated, Model::Joint& joint, Diagnostics& diagnostics)
 {
-    Model::Joint joint;
     joint.config.name = stated.name;
     joint.config.textOffset = at(stated.node);
     joint.nameOffset = at(stated.node, "name");
     joint.origin = stated.origin.value_or(Origin()).pose();
-    translateType(stated, joint.config, diagnostics);
+    translateType(stated, joint.config);
     translateLimits(stated, joint.config, diagnostics);
     translateDynamics(stated, joint.config);
     translateExtras(stated, joint.config);
@@ -145,7 +150,6 @@ Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics)
     }
     joint.parent = toReference(stated, stated.parent, "parent", diagnostics);
     joint.child = toReference(stated, stated.child, "child", diagnostics);
-    return joint;
 }
 
 }  // namespace Varo::Model::Urdf

@@ -77,7 +77,7 @@ std::vector<std::string> namesOf(pugi::xml_node joint, char const* element)
 
 }  // namespace
 
-void readRos2Control(pugi::xml_node system, LinkTree const& tree, Records& robot, Report const& report)
+void readRos2Control(pugi::xml_node system, LinkTree& tree, Records& robot, Report const& report)
 {
     Drives drives;
     for (pugi::xml_node const transmission : system.children("transmission")) {
@@ -90,7 +90,8 @@ void readRos2Control(pugi::xml_node system, LinkTree const& tree, Records& robot
         driven.joint = joint.attribute("name").value();
         if (find(tree.jointByName, driven.joint) == none) {
             report.diagnostics.report(at(joint, "name"), codes::unknownDrivenJoint,
-                                      "There is no joint " + quoted(driven.joint) + " that this could drive.");
+                                      "There is no joint " + quoted(driven.joint) + " that this could drive.",
+                                      didYouMean(tree.closestJoint(driven.joint)));
         }
         auto const found = drives.find(driven.joint);
         Drive const drive = found == drives.end() ? Drive() : found->second;

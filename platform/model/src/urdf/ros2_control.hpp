@@ -10,7 +10,7 @@
 namespace Varo::Model::Urdf {
 
 /// Adds a transmission for each joint of a `ros2_control` element, the whole of which is passed over besides.
-void readRos2Control(pugi::xml_node system, LinkTree const& tree, Records& robot, Report const& report);
+void readRos2Control(pugi::xml_node system, LinkTree& tree, Records& robot, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

@@ -92,10 +92,20 @@ void renameParts(SensorStatement& element, std::vector<std::string_view> const& 
     }
 }
 
+/// Of what is in a link that lies elsewhere in the text.
+Math::Transform shifted(Math::Transform const& placement, Vector const& shift)
+{
+    Pose pose = toPose(placement);
+    for (std::size_t i = 0; i < shift.size(); ++i) {
+        pose.translation[i] += shift[i];
+    }
+    return shift == Vector() ? placement : toTransform(pose);
+}
+
 /// As an `origin` or, where an extension is in such an element, a `pose`.
 void addPlacement(Math::Transform const& placement, bool isPose, SensorStatement& element)
 {
-    auto const [xyz, rpy] = poseBetween({}, placement, {});
+    auto const [xyz, rpy] = poseOf(placement);
     std::string const position = Reals3::print(xyz);
     std::string const angles = Reals3::print(rpy);
     if (isPose) {
@@ -107,7 +117,7 @@ void addPlacement(Math::Transform const& placement, bool isPose, SensorStatement
 
 }  // namespace
 
-SensorStatement toStatement(SensorConfig const& sensor, std::string_view link,
+SensorStatement toStatement(SensorConfig const& sensor, std::string_view link, Vector const& shift,
                             std::vector<std::string_view> const& within)
 {
     std::string const kind = kindNameOf(sensor);
@@ -115,7 +125,7 @@ SensorStatement toStatement(SensorConfig const& sensor, std::string_view link,
     element.parts.push_back({"parent", {{"link", std::string(link)}}});
     bool const isPose =
         std::any_of(within.begin(), within.end(), [](std::string_view path) { return firstStep(path) == "pose"; });
-    addPlacement(sensor.placement, isPose, element);
+    addPlacement(shifted(sensor.placement, shift), isPose, element);
     if (sensor.settings != nullptr) {
         addSettings(sensorSettings, *sensor.settings, element);
         addNoises(sensor.settings->noises, noisyElementOf(sensor, kind), element);

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "robot/pose.hpp"
 #include "varo/model/configs.hpp"
 
 namespace Varo::Model::Urdf {
@@ -18,8 +19,9 @@ struct SensorStatement {
     std::vector<SensorStatement> parts = {};
 };
 
-/// What the reader makes that record of, as far as it can; `within` is where the extensions of the sensor stand.
-SensorStatement toStatement(SensorConfig const& sensor, std::string_view link,
+/// What the reader makes that record of, as far as it can; `within` is where the extensions of the sensor stand, and
+/// `shift` is from where the record has its link to where the text has it.
+SensorStatement toStatement(SensorConfig const& sensor, std::string_view link, Vector const& shift,
                             std::vector<std::string_view> const& within);
 
 }  // namespace Varo::Model::Urdf

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include "urdf/numbers.hpp"
 #include "urdf/sensor_settings.hpp"
+#include "urdf/unknown_names.hpp"
 #include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
@@ -68,6 +71,9 @@ void SensorReader::readExtension(pugi::xml_node gazebo)
     pugi::xml_attribute const reference = gazebo.attribute("reference");
     ExtensionConfig bearer;
     bool const isDangling = reference && !findBearer(reference.value(), _tree, bearer);
+    if (isDangling && !gazebo.child("sensor")) {
+        reportDangling(gazebo, reference);
+    }
     for (pugi::xml_attribute const attribute : gazebo.attributes()) {
         if (!isDangling && attribute != reference) {
             _report.passOver(gazebo, attribute);
@@ -84,9 +90,30 @@ void SensorReader::readExtension(pugi::xml_node gazebo)
     }
 }
 
-/// In one note: there is nothing to be done about it.
-void SensorReader::reportKindsWithoutClass() const
+/// Only what looks like a name that there is: others may be those of another robot, or of one that is attached later.
+void SensorReader::reportDangling(pugi::xml_node gazebo, pugi::xml_attribute reference)
 {
+    std::string_view const name = reference.value();
+    for (std::string_view const close : {_tree.closestLink(name), _tree.closestJoint(name)}) {
+        if (!close.empty() && isNear(name, close)) {
+            _report.diagnostics.report(at(gazebo, reference), codes::unknownReference,
+                                       "There is no link or joint " + quoted(name) + ".", didYouMean(close));
+            return;
+        }
+    }
+}
+
+/// In one note: there is nothing to be done about it.
+void SensorReader::reportKindsWithoutClass(pugi::xml_node amendment)
+{
+    std::unordered_set<std::string_view> amended;
+    for (pugi::xml_node const sensor : amendment.children("sensor")) {
+        if (sensor.attribute("type")) {
+            amended.insert(sensor.attribute("name").value());
+        }
+    }
+    auto const isAmended = [&](pugi::xml_node node) { return amended.count(node.attribute("name").value()) > 0; };
+    _withoutClass.erase(std::remove_if(_withoutClass.begin(), _withoutClass.end(), isAmended), _withoutClass.end());
     if (_withoutClass.empty()) {
         return;
     }
@@ -139,10 +166,11 @@ bool SensorReader::read(pugi::xml_node node, Carrier carrier)
     sensor.textOffset = at(node);
     if (!findParent(carrier, sensor.parent)) {
         std::string const kind = carrier.isJoint ? "joint " : "link ";
-        diagnostics.report(at(node), codes::sensorLost,
-                           carrier.name.empty()
-                               ? "This sensor is in no model: nothing says which link carries it."
-                               : "This sensor is in no model: there is no " + kind + quoted(carrier.name) + ".");
+        diagnostics.report(
+            at(node), codes::sensorLost,
+            carrier.name.empty() ? "This sensor is in no model: nothing says which link carries it."
+                                 : "This sensor is in no model: there is no " + kind + quoted(carrier.name) + ".",
+            didYouMean(carrier.isJoint ? _tree.closestJoint(carrier.name) : _tree.closestLink(carrier.name)));
         return false;
     }
     std::string_view const name = *node.attribute("name").value() != 0 ? readName(node, diagnostics) : carrier.name;

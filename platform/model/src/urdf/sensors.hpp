@@ -24,8 +24,8 @@ public:
     void readSensor(pugi::xml_node node);
     /// The sensors in a `gazebo` element, on the link or joint that it refers to; the rest of it is passed over.
     void readExtension(pugi::xml_node gazebo);
-    /// To be called when all sensors are read.
-    void reportKindsWithoutClass() const;
+    /// To be called when all sensors are read; `amendment` may say what some of them are.
+    void reportKindsWithoutClass(pugi::xml_node amendment);
 
 private:
     /// What carries a sensor, as the text says it.
@@ -35,6 +35,7 @@ private:
     };
 
     bool read(pugi::xml_node node, Carrier carrier);
+    void reportDangling(pugi::xml_node gazebo, pugi::xml_attribute reference);
     bool findParent(Carrier carrier, std::string& parent) const;
     void fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor);
     Pose readPose(pugi::xml_node node, std::string_view carrier);

@@ -75,7 +75,8 @@ constexpr Attribute<Texture> textureAttributes[] = {
 constexpr Element<Texture> textureElement{"texture", "an image on the surface", textureAttributes};
 
 constexpr Attribute<SurfaceMaterial> materialAttributes[] = {
-    optional<&SurfaceMaterial::name>("name", "", "", "name of the material, by which visuals refer to it"),
+    optional<&SurfaceMaterial::name>("name", "", "", "name of the material, by which visuals refer to it")
+        .alwaysWritten(),
 };
 constexpr Child<SurfaceMaterial> materialChildren[] = {
     childOf<&SurfaceMaterial::color, colorElement>(),

@@ -322,11 +322,14 @@ Vector axisOf(Math::Transform const& end)
     return seen;
 }
 
-StatedPose poseBetween(Pose const& before, Math::Transform const& whole, Pose const& behind)
+namespace {
+
+/// What a record has where a text states a pose.
+using Placing = std::function<Pose(Pose const& stated)>;
+
+StatedPose findPose(Placing const& placing, Pose const& wanted, Pose const& guess)
 {
-    Pose const wanted = toPose(whole);
-    Pose const guess = inverse(before) * wanted * inverse(behind);
-    Search const turns([&](Vector const& rpy) { return entriesOf((before * poseFrom({}, rpy) * behind).rotation); },
+    Search const turns([&](Vector const& rpy) { return entriesOf(placing(poseFrom({}, rpy)).rotation); },
                        entriesOf(wanted.rotation));
     auto const solutions = rpyOf(guess.rotation);
     StatedPose pose = {guess.translation, solutions.front()};
@@ -338,12 +341,27 @@ StatedPose poseBetween(Pose const& before, Math::Transform const& whole, Pose co
     }
     Matrix const turn = poseFrom({}, pose.rpy).rotation;
     auto const map = [&](Vector const& xyz) {
-        Vector const place = (before * Pose{turn, xyz} * behind).translation;
+        Vector const place = placing({turn, xyz}).translation;
         return Entries{place[0], place[1], place[2]};
     };
     Search const places(map, {wanted.translation[0], wanted.translation[1], wanted.translation[2]});
     places.run(pose.xyz);
     return pose;
+}
+
+}  // namespace
+
+StatedPose poseBetween(Pose const& before, Math::Transform const& whole, Pose const& behind)
+{
+    Pose const wanted = toPose(whole);
+    return findPose([&](Pose const& stated) { return before * stated * behind; }, wanted,
+                    inverse(before) * wanted * inverse(behind));
+}
+
+StatedPose poseOf(Math::Transform const& whole)
+{
+    Pose const wanted = toPose(whole);
+    return findPose([](Pose const& stated) { return stated; }, wanted, wanted);
 }
 
 }  // namespace Varo::Model::Urdf

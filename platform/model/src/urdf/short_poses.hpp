@@ -20,6 +20,9 @@ Vector axisOf(Math::Transform const& end);
 /// The pose between two given ones that makes their product `whole`; one close to it where none makes it exactly.
 StatedPose poseBetween(Pose const& before, Math::Transform const& whole, Pose const& behind);
 
+/// The same of a pose that the record has as the text states it, down to the signs of its zeros.
+StatedPose poseOf(Math::Transform const& whole);
+
 Pose toPose(Math::Transform const& transform);
 
 /// The number that the shortest text stands for of all that are `value` in single precision.

@@ -4,6 +4,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "robot/cycles.hpp"
 #include "urdf/short_poses.hpp"
 #include "urdf/values.hpp"
 
@@ -12,6 +13,9 @@ namespace Varo::Model::Urdf {
 namespace {
 
 using Urdf::shortest;
+
+/// Of the format, for which others take the attribute: they refuse any other.
+constexpr std::string_view onlyVersion = "1.0";
 
 Vector shortest(Position3D const& position)
 {
@@ -70,6 +74,10 @@ void fillShape(ShapeConfig const& config, Vector const& shift, Shape& shape)
     shape.geometry.size = shortest(geometry.size);
     shape.geometry.radius = shortest(geometry.radius);
     shape.geometry.length = shortest(geometry.length);
+    if (geometry.type == GeometryType::capsule) {  // which others refuse
+        shape.geometry.type = GeometryType::cylinder;
+        shape.geometry.length += 2.0 * shape.geometry.radius;
+    }
 }
 
 SurfaceMaterial toMaterial(Material const& material)
@@ -148,12 +156,34 @@ TransmissionEnd toEnd(std::string const& name)
     return end;
 }
 
+bool hasActuator(TransmissionConfig const& config)
+{
+    return !config.actuator.empty() || config.reduction != 1.0F;
+}
+
+/// Whether two records that follow each other are of the joints of one transmission.
+bool areOne(TransmissionConfig const& one, TransmissionConfig const& next)
+{
+    return one.name == next.name && one.type == next.type && hasActuator(one) == hasActuator(next);
+}
+
+void addDriven(TransmissionConfig const& config, Transmission& stated)
+{
+    stated.joints.emplace_back(toEnd(config.joint)).interfaces = config.interfaces;
+    if (hasActuator(config)) {
+        TransmissionEnd& actuator = stated.actuators.emplace_back(toEnd(config.actuator));
+        if (config.reduction != 1.0F) {
+            actuator.reduction.emplace().value = shortest(config.reduction);
+        }
+    }
+}
+
 }  // namespace
 
 StatementsOf::StatementsOf(Records const& records) : _records(records)
 {
     _robot.name = records.name;
-    _robot.version = records.version;
+    _robot.version = records.version == onlyVersion ? onlyVersion : std::string_view();
     nameLinks();
     attachJoints();
     _robot.links.push_back(toLink(records.root, {}));
@@ -195,6 +225,29 @@ void StatementsOf::attachJoints()
             next = {joint, {}};
         }
     }
+    cutCycles();
+}
+
+/// Joints that chains attach to each other are attached to the root instead.
+void StatementsOf::cutCycles()
+{
+    auto const& joints = _records.joints;
+    std::vector<std::size_t> parents;
+    for (JointConfig const& joint : joints) {
+        auto const attachment = _attachments.find(joint.name);
+        JointConfig const* const parent =
+            attachment == _attachments.end() ? nullptr : joints.find(attachment->second.parent);
+        parents.push_back(parent == nullptr ? none : static_cast<std::size_t>(parent - &joints[0]));
+    }
+    for (Cycle const& cycle : findCycles(parents)) {
+        _attachments.erase(joints[cycle.front()].name);
+    }
+}
+
+Vector StatementsOf::shiftOfLink(std::string_view bearer) const
+{
+    JointConfig const* const joint = _records.joints.find(bearer);
+    return joint == nullptr ? Vector() : shiftOf(*joint);
 }
 
 void StatementsOf::addJoint(JointConfig const& joint)
@@ -267,21 +320,18 @@ Link StatementsOf::toLink(JointConfig const& body, Vector const& shift)
 /// Those of ros2_control stand in its text, which is kept.
 void StatementsOf::addTransmissions()
 {
+    TransmissionConfig const* last = nullptr;
     for (TransmissionConfig const& config : _records.transmissions) {
         if (config.source != TransmissionSource::transmission) {
             continue;
         }
-        Transmission& stated = _robot.transmissions.emplace_back();
-        stated.name = config.name;
-        stated.type = config.type;
-        TransmissionEnd& joint = stated.joints.emplace_back(toEnd(config.joint));
-        joint.interfaces = config.interfaces;
-        if (!config.actuator.empty() || config.reduction != 1.0F) {
-            TransmissionEnd& actuator = stated.actuators.emplace_back(toEnd(config.actuator));
-            if (config.reduction != 1.0F) {
-                actuator.reduction.emplace().value = shortest(config.reduction);
-            }
+        if (last == nullptr || !areOne(*last, config)) {
+            Transmission& stated = _robot.transmissions.emplace_back();
+            stated.name = config.name;
+            stated.type = config.type;
         }
+        addDriven(config, _robot.transmissions.back());
+        last = &config;
     }
 }
 

@@ -25,6 +25,8 @@ public:
     Robot const& robot() const { return _robot; }
     /// The link that the joint moves, or that is the root; the root's for an unknown name.
     std::string_view linkOf(std::string_view bearer) const;
+    /// From where a record has that link to where the statements have it; m, in its axes.
+    Vector shiftOfLink(std::string_view bearer) const;
 
 private:
     /// Where the record has a joint.
@@ -41,6 +43,7 @@ private:
 
     void nameLinks();
     void attachJoints();
+    void cutCycles();
     void addJoint(JointConfig const& joint);
     void placeJoint(JointConfig const& joint, Joint& stated);
     End const& endOf(JointConfig const& joint);

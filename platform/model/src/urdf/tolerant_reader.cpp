@@ -1,8 +1,12 @@
 #include "urdf/tolerant_reader.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
+#include "native/amendment.hpp"
 #include "urdf/numbers.hpp"
+#include "urdf/own_namespace.hpp"
 #include "urdf/schema.hpp"
 #include "urdf/surplus.hpp"
 #include "urdf/values.hpp"
@@ -24,10 +28,9 @@ void reportUnknownType(TextOffset place, std::string_view value, Diagnostics& di
                        std::string(jointTypeHint));
 }
 
-/// Elements of the robot that others than the tables read.
 bool isReadElsewhere(std::string_view name)
 {
-    return name == "sensor" || name == "gazebo" || name == "ros2_control";
+    return std::find(std::begin(readElsewhere), std::end(readElsewhere), name) != std::end(readElsewhere);
 }
 
 /// Numbers that are ones, as many as there should be, but not such as there should be.
@@ -63,17 +66,50 @@ void reportWrongNumbers(ValueType const& type, TextOffset place, std::string_vie
 std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                                pugi::xml_attribute attribute)
 {
+    if (declaresOwnNamespace(attribute)) {
+        return noRow;
+    }
+    if (isOwn(attribute.name())) {
+        diagnostics().report(
+            at(node, attribute), codes::unknownAttribute,
+            std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ": it is passed over.");
+        return noRow;
+    }
     _report.passOver(node, attribute);
     return _unknown.noteAttribute(element, node, attribute);
 }
 
 std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
 {
-    if (&element != &robotElement || !isReadElsewhere(child.name())) {
+    if (isOwn(child.name())) {
+        takeOwn(element, child);
+    } else if (&element != &robotElement || !isReadElsewhere(child.name())) {
         _report.passOver(child);
         _unknown.noteChild(element, child);
     }
     return noRow;
+}
+
+bool TolerantReader::isOwn(std::string_view name) const
+{
+    return !_ownPrefix.empty() && name.substr(0, _ownPrefix.size()) == _ownPrefix;
+}
+
+/// What is in our own namespace is for nobody else: it is not kept as text.
+void TolerantReader::takeOwn(ElementInfo const& element, pugi::xml_node child)
+{
+    std::string const known = _ownPrefix + std::string(Native::amendmentName());
+    if (&element != &robotElement || child.name() != known) {
+        bool const isPlace = &element == &robotElement;
+        diagnostics().report(
+            at(child), codes::unknownElement,
+            std::string(element.name) + " holds no element " + quoted(child.name()) + ": it is passed over.",
+            isPlace ? "Did you mean " + quoted(known) + "?" : "Only robot holds " + quoted(known) + ".");
+    } else if (_amendment) {
+        reportSurplus(child, diagnostics());
+    } else {
+        _amendment = child;
+    }
 }
 
 void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_node child)
@@ -82,8 +118,27 @@ void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_n
     _report.passOver(child);
 }
 
+/// What stands between elements is prose; in one that holds none, it was meant for a value.
+void TolerantReader::onUnexpectedText(ElementInfo const& element, pugi::xml_node text)
+{
+    if (element.children.size() > 0) {
+        return;
+    }
+    std::string const tag(element.name);
+    std::string const value = quoted(trimmed(text.value()));
+    bool const isMeant = element.attributes.size() == 1 && !text.parent().attribute(element.attributes[0].name.data());
+    std::string const meant =
+        isMeant ? "Write <" + tag + " " + std::string(element.attributes[0].name) + "=" + value + "/>." : std::string();
+    diagnostics().report(at(text.parent()), codes::unexpectedText,
+                         "The text " + value + " in this " + tag + " is left out: URDF has none there.", meant);
+}
+
 void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
 {
+    bool const isError = attribute.missing.code != nullptr && attribute.missing.code->severity == Severity::error;
+    if (!isError && !trimmed(textOf(node)).empty()) {
+        return;  // which is told, and is probably meant for the attribute
+    }
     if (attribute.missing.code != nullptr) {
         reportMissing(attribute, node, diagnostics());
     } else if (attribute.type->count > 0) {

@@ -1,6 +1,10 @@
 #ifndef VARO_MODEL_URDF_TOLERANT_READER_HPP
 #define VARO_MODEL_URDF_TOLERANT_READER_HPP
 
+#include <string>
+#include <string_view>
+#include <utility>
+
 #include "schema/element_reader.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/unknown_names.hpp"
@@ -11,17 +15,23 @@ namespace Varo::Model::Urdf {
 /// rest.
 class TolerantReader final : public Schema::ElementReader {
 public:
-    TolerantReader(Report const& report, Records& robot) : ElementReader(report.diagnostics, robot), _report(report) {}
+    /// `ownPrefix` is what names of our own namespace begin with.
+    TolerantReader(Report const& report, Records& robot, std::string ownPrefix)
+        : ElementReader(report.diagnostics, robot), _report(report), _ownPrefix(std::move(ownPrefix))
+    {}
 
     /// What is said of each kind of thing once. To be called when all is read.
     void reportKinds() { _unknown.report(); }
+
+    /// The element that says what is beyond URDF; null for none.
+    pugi::xml_node amendment() const { return _amendment; }
 
 private:
     std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
                                    pugi::xml_attribute attribute) override;
     std::size_t onUnknownChild(ElementInfo const& element, pugi::xml_node child) override;
     void onRepeatedChild(ElementInfo const& element, pugi::xml_node child) override;
-    void onUnexpectedText(ElementInfo const& /*element*/, pugi::xml_node /*text*/) override {}
+    void onUnexpectedText(ElementInfo const& element, pugi::xml_node text) override;
     void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node) override;
     void onMissingChild(ElementInfo const& /*element*/, ChildInfo const& /*child*/, pugi::xml_node /*node*/) override {}
     void onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
@@ -30,7 +40,12 @@ private:
                 pugi::xml_attribute /*attribute*/) override
     {}
 
+    bool isOwn(std::string_view name) const;
+    void takeOwn(ElementInfo const& element, pugi::xml_node child);
+
     Report const& _report;
+    std::string _ownPrefix;
+    pugi::xml_node _amendment;
     UnknownNames _unknown{_report.diagnostics};
 };
 

@@ -11,8 +11,8 @@
 /// From what a URDF text says to links, joints and records.
 namespace Varo::Model::Urdf {
 
-/// What a `joint` says of the joint itself. Without a name when that cannot be used.
-Model::Joint toJoint(Joint const& stated, Diagnostics& diagnostics);
+/// Writes what a `joint` says of the joint itself. Without a name when that cannot be used.
+void translateJoint(Joint const& stated, Model::Joint& joint, Diagnostics& diagnostics);
 
 /// Writes what a `link` says of the body into the record of the joint that moves it, or of the root.
 void translateBody(Link const& link, Materials const& materials, JointConfig& body, Diagnostics& diagnostics);
@@ -21,7 +21,7 @@ void translateBody(Link const& link, Materials const& materials, JointConfig& bo
 void translateShapes(Link const& link, Materials const& materials, JointConfig& body, Diagnostics& diagnostics);
 
 /// The transmissions of a tree whose joints can be found by name. What the records have no place for is kept as text.
-void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Report const& report);
+void translateTransmissions(Robot const& stated, LinkTree& tree, Records& robot, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

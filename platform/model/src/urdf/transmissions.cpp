@@ -95,14 +95,15 @@ void keepRest(Transmission const& transmission, Report const& report)
 
 }  // namespace
 
-void translateTransmissions(Robot const& stated, LinkTree const& tree, Records& robot, Report const& report)
+void translateTransmissions(Robot const& stated, LinkTree& tree, Records& robot, Report const& report)
 {
     for (Transmission const& transmission : stated.transmissions) {
         for (std::size_t i = 0; i < transmission.joints.size(); ++i) {
             TransmissionEnd const& joint = transmission.joints[i];
             if (!joint.name.empty() && find(tree.jointByName, joint.name) == none) {
                 report.diagnostics.report(at(joint.node, "name"), codes::unknownDrivenJoint,
-                                          "There is no joint " + quoted(joint.name) + "; the record keeps the name.");
+                                          "There is no joint " + quoted(joint.name) + "; the record keeps the name.",
+                                          didYouMean(tree.closestJoint(joint.name)));
             }
             robot.transmissions.push_back(toConfig(transmission, i));
         }

@@ -3,6 +3,7 @@
 #include <string>
 #include <unordered_set>
 
+#include "robot/link_tree.hpp"
 #include "schema/element_reader.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/spelling.hpp"
@@ -27,17 +28,6 @@ constexpr Confusion confusions[] = {
     {"mass", "mass", "value"},
 };
 
-/// One letter may be wrong, and two in a long name.
-bool isNear(std::string_view written, std::string_view known)
-{
-    constexpr std::size_t farthest = 2;
-    if (written.size() > known.size() + farthest || known.size() > written.size() + farthest) {
-        return false;  // without a look at the letters
-    }
-    std::size_t const distance = spellingDistance(written, known);
-    return distance <= 1 || (distance == farthest && known.size() >= 6);
-}
-
 /// The row that was meant by a name that none has.
 template <class Info>
 std::size_t findMeant(Infos<Info> const& rows, std::string_view element, std::string_view written)
@@ -57,6 +47,23 @@ std::size_t findMeant(Infos<Info> const& rows, std::string_view element, std::st
         }
     }
     return meant;
+}
+
+/// The child that was meant by a name that none has; empty for none.
+std::string_view findMeantChild(ElementInfo const& element, std::string_view written)
+{
+    std::size_t const row = findMeant(element.children, element.name, written);
+    if (row != noRow) {
+        return nameOf(element.children[row]);
+    }
+    if (&element == &robotElement) {
+        for (std::string_view const name : readElsewhere) {
+            if (isNear(written, name)) {
+                return name;
+            }
+        }
+    }
+    return {};
 }
 
 bool isPrefixed(std::string_view name)
@@ -83,12 +90,17 @@ bool isDefined(std::string_view element)
     return names.count(element) > 0;
 }
 
-std::string didYouMean(std::string_view name)
-{
-    return "Did you mean " + quoted(name) + "?";
-}
-
 }  // namespace
+
+bool isNear(std::string_view written, std::string_view known)
+{
+    constexpr std::size_t farthest = 2;
+    if (written.size() > known.size() + farthest || known.size() > written.size() + farthest) {
+        return false;  // without a look at the letters
+    }
+    std::size_t const distance = spellingDistance(written, known);
+    return distance <= 1 || (distance == farthest && known.size() >= 6);
+}
 
 std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute)
 {
@@ -103,7 +115,8 @@ std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_no
     }
     AttributeInfo const& row = element.attributes[meant];
     _diagnostics.report(at(node, attribute), codes::unknownAttribute,
-                        std::string(element.name) + " has no attribute " + quoted(name) + ": it is passed over.",
+                        std::string(element.name) + " has no attribute " + quoted(name) +
+                            ": it is kept as text, and counts for nothing.",
                         didYouMean(row.name));
     bool const isRefused = row.missing.code != nullptr && row.missing.code->severity == Severity::error;
     return isRefused || node.attribute(row.name.data()) ? noRow : meant;
@@ -115,14 +128,16 @@ void UnknownNames::noteChild(ElementInfo const& element, pugi::xml_node child)
     if (isPrefixed(name)) {
         return;
     }
-    std::size_t const meant = findMeant(element.children, element.name, name);
-    if (meant != noRow) {
+    std::string_view const meant = findMeantChild(element, name);
+    if (!meant.empty()) {
         _diagnostics.report(at(child), codes::unknownElement,
-                            std::string(element.name) + " holds no element " + quoted(name) + ": it is passed over.",
-                            didYouMean(nameOf(element.children[meant])));
+                            std::string(element.name) + " holds no element " + quoted(name) +
+                                ": it is kept as text, and counts for nothing.",
+                            didYouMean(meant));
     } else if (isDefined(name)) {
         _diagnostics.report(at(child), codes::misplacedElement,
-                            "URDF has no " + quoted(name) + " in " + std::string(element.name) + ": it is passed over.",
+                            "URDF has no " + quoted(name) + " in " + std::string(element.name) +
+                                ": it is kept as text, and counts for nothing.",
                             "Put it where it belongs, or leave it out.");
     }
 }

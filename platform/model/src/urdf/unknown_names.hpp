@@ -13,6 +13,12 @@
 
 namespace Varo::Model::Urdf {
 
+/// Elements of the robot that others than the tables read.
+inline constexpr std::string_view readElsewhere[] = {"gazebo", "ros2_control", "sensor"};
+
+/// Whether one was probably meant by the other: one letter may be wrong, and two in a long name.
+bool isNear(std::string_view written, std::string_view known);
+
 /// Tells names that were meant for URDF, and misspelt or misplaced, from those that are for other programs.
 ///
 /// Names with a prefix are always for others, and so is all that stands in an element that is.

@@ -26,8 +26,10 @@ inline constexpr FindingCode unknownElement{"unknown-element", Severity::warning
                                             "An element is named nearly like one that URDF defines where it stands."};
 inline constexpr FindingCode misplacedElement{"misplaced-element", Severity::warning,
                                               "An element stands where URDF defines none of that name."};
+inline constexpr FindingCode unexpectedText{"unexpected-text", Severity::warning,
+                                            "A text stands where URDF has an attribute; it is left out."};
 inline constexpr FindingCode jointFrozen{"joint-frozen", Severity::note,
-                                         "A planar or floating joint is held in its zero position."};
+                                         "Planar and floating joints are held in their zero positions."};
 inline constexpr FindingCode missingLimit{"missing-limit", Severity::warning,
                                           "A revolute or prismatic joint without lower and upper limits cannot move."};
 inline constexpr FindingCode reversedLimits{"reversed-limits", Severity::warning,
@@ -60,19 +62,49 @@ inline constexpr FindingCode badReduction{"bad-reduction", Severity::warning,
                                           "The reduction of a transmission is no number other than 0; 1 is assumed."};
 inline constexpr FindingCode unknownDrivenJoint{"unknown-driven-joint", Severity::warning,
                                                 "A transmission or control system drives a joint that does not exist."};
+inline constexpr FindingCode unknownReference{
+    "unknown-reference", Severity::warning,
+    "What is said of a link or joint for other programs names none, but nearly one that there is."};
 inline constexpr FindingCode sensorKind{"sensor-kind", Severity::note,
                                         "Sensors of a kind that models have no class for."};
 
 inline constexpr FindingCode foreignAttribute{"foreign-attribute", Severity::note,
                                               "Attributes that URDF does not define are kept as text."};
 
+// What becomes of robots that are written as URDF.
+inline constexpr FindingCode notUrdf{"not-urdf", Severity::error,
+                                     "The robot cannot be written as a URDF that can be read."};
+inline constexpr FindingCode beyondRoot{"beyond-urdf-root", Severity::note,
+                                        "What URDF cannot say of the root is kept in a description of our own."};
+inline constexpr FindingCode beyondJoint{
+    "beyond-urdf-joint", Severity::note,
+    "What URDF cannot say of a joint or its body is kept in a description of our own."};
+inline constexpr FindingCode beyondSensor{"beyond-urdf-sensor", Severity::note,
+                                          "What URDF cannot say of a sensor or light is kept likewise."};
+inline constexpr FindingCode beyondPrettyName{"beyond-urdf-pretty-name", Severity::note,
+                                              "Names for people are kept likewise."};
+inline constexpr FindingCode beyondChain{"beyond-urdf-chain", Severity::note,
+                                         "Chains that are not those of URDF's tree are kept likewise."};
+inline constexpr FindingCode beyondActuator{"beyond-urdf-actuator", Severity::note,
+                                            "Coupled actuators that are not those of URDF's mimics are kept likewise."};
+inline constexpr FindingCode beyondWheel{"beyond-urdf-wheel", Severity::note, "Wheels are kept likewise."};
+inline constexpr FindingCode beyondPosture{"beyond-urdf-posture", Severity::note, "Postures are kept likewise."};
+inline constexpr FindingCode beyondTransmission{
+    "beyond-urdf-transmission", Severity::note,
+    "Transmissions that come back as others from URDF are kept likewise, all of them."};
+inline constexpr FindingCode beyondExtension{
+    "beyond-urdf-extension", Severity::note,
+    "Extensions that URDF has no place for, or another order of, are kept likewise, all of them."};
+
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
-    &missingName,      &nameTooLong,        &unknownJointType,   &zeroAxis,         &unnamedRobot,     &wrongCount,
-    &missingAttribute, &surplusElement,     &unknownAttribute,   &unknownElement,   &misplacedElement, &jointFrozen,
-    &missingLimit,     &reversedLimits,     &incompleteInertial, &incompleteShape,  &negativeLength,   &colorRange,
-    &unknownMaterial,  &duplicateMaterial,  &sensorLost,         &sensorFrame,      &sensorSize,       &badSetting,
-    &badReduction,     &unknownDrivenJoint, &sensorKind,         &foreignAttribute,
+    &missingName,      &nameTooLong,     &unknownJointType,   &zeroAxis,           &unnamedRobot,     &wrongCount,
+    &missingAttribute, &surplusElement,  &unknownAttribute,   &unknownElement,     &misplacedElement, &unexpectedText,
+    &jointFrozen,      &missingLimit,    &reversedLimits,     &incompleteInertial, &incompleteShape,  &negativeLength,
+    &colorRange,       &unknownMaterial, &duplicateMaterial,  &sensorLost,         &sensorFrame,      &sensorSize,
+    &badSetting,       &badReduction,    &unknownDrivenJoint, &unknownReference,   &sensorKind,       &foreignAttribute,
+    &notUrdf,          &beyondRoot,      &beyondJoint,        &beyondSensor,       &beyondPrettyName, &beyondChain,
+    &beyondActuator,   &beyondWheel,     &beyondPosture,      &beyondTransmission, &beyondExtension,
 };
 
 }  // namespace Varo::Model::Urdf::codes

@@ -6,10 +6,13 @@
 #include <utility>
 #include <vector>
 
+#include "native/amendment.hpp"
+#include "robot/kind_note.hpp"
 #include "robot/link_tree.hpp"
 #include "robot/tree_records.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/extensions.hpp"
+#include "urdf/own_namespace.hpp"
 #include "urdf/ros2_control.hpp"
 #include "urdf/schema.hpp"
 #include "urdf/sensors.hpp"
@@ -38,6 +41,8 @@ constexpr PartPlace parts[] = {
     {Part::damping, "damping", "dynamics"},
     {Part::friction, "friction", "dynamics"},
     {Part::mimic, {}, "mimic"},
+    {Part::geometry, {}, "visual/geometry/mesh", "link"},
+    {Part::geometry, {}, "geometry/mesh|box|cylinder|sphere|capsule"},
 };
 
 class Reader {
@@ -59,6 +64,7 @@ private:
     Extensions _kept;
     Report _report = {_diagnostics, _kept};
     Robot _stated;
+    pugi::xml_node _amendment;  ///< what is said beyond URDF; null for nothing
     LinkTree _tree;
     Records _robot;
 };
@@ -78,6 +84,9 @@ Records Reader::read()
     if (!_diagnostics.hasErrors()) {
         _kept.addRecords(_tree, *_diagnostics.source(), _robot);
         addRecords(std::move(_tree), _robot, _diagnostics);
+        if (_amendment) {
+            Native::readAmendment(_amendment, _diagnostics, _robot);
+        }
     }
     return std::move(_robot);
 }
@@ -93,9 +102,10 @@ void Reader::readElements()
 {
     reserve(_stated.links, _root, "link");
     reserve(_stated.joints, _root, "joint");
-    TolerantReader reader(_report, _robot);
+    TolerantReader reader(_report, _robot, ownPrefix(_root));
     reader.read(robotElement, _root, _stated);
     reader.reportKinds();
+    _amendment = reader.amendment();
 }
 
 void Reader::fillTree()
@@ -106,9 +116,15 @@ void Reader::fillTree()
         _tree.links.push_back({link.name, at(link.node), at(link.node, "name")});
     }
     _tree.joints.reserve(_stated.joints.size());
+    KindNote frozen;
     for (Joint const& joint : _stated.joints) {
-        _tree.joints.push_back(toJoint(joint, _diagnostics));
+        translateJoint(joint, _tree.joints.emplace_back(), _diagnostics);
+        if (joint.type == planar || joint.type == floating) {
+            frozen.add(at(joint.node, "type"), joint.name);
+        }
     }
+    frozen.report(codes::jointFrozen, "A planar or floating joint cannot be modelled and is held where it is",
+                  _diagnostics);
 }
 
 void Reader::readIdentity()
@@ -142,7 +158,7 @@ void Reader::readSensors()
     for (pugi::xml_node const extension : _root.children("gazebo")) {
         reader.readExtension(extension);
     }
-    reader.reportKindsWithoutClass();
+    reader.reportKindsWithoutClass(_amendment);
 }
 
 void Reader::readControls()

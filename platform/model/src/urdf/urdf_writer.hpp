@@ -7,8 +7,8 @@
 
 namespace Varo::Model {
 
-/// The text of a robot in URDF.
-std::string writeUrdf(Robot const& robot);
+/// The text of a robot in URDF, and of what URDF cannot say, in our own namespace, which `diagnostics` is told of.
+std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics);
 
 }  // namespace Varo::Model
 

@@ -101,7 +101,7 @@ bool parseXml(SourceText const& source, pugi::xml_document& document, Diagnostic
         throw std::bad_alloc();
     }
     std::size_t const end = result ? text.size() : static_cast<std::size_t>(result.offset);
-    XmlScanner scanner(text, diagnostics);
+    XmlScanner scanner(source.text(), diagnostics);
     scanner.scan(end);
     if (result && !scanner.isBroken()) {
         // The parser takes the character of value zero for the end; the scanner has complained about it.

@@ -1,10 +1,10 @@
 #include "xml/scanner.hpp"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 #include "finding_codes.hpp"
+#include "xml/plain_tag.hpp"
 #include "xml/raw_tag.hpp"
 #include "xml/utf8.hpp"
 
@@ -40,29 +40,9 @@ std::size_t findUnusual(std::string_view text, std::size_t start)
     return found == rest.end() ? text.npos : start + static_cast<std::size_t>(found - rest.begin());
 }
 
-/// Which of 64 bits stands for an attribute's name: names with different bits differ.
-std::uint64_t bitOf(std::string_view name)
-{
-    auto const mixed = static_cast<unsigned>(name.front() + 11 * name[name.size() / 2] + 17 * name.back());
-    return std::uint64_t{1} << (mixed % 64);
-}
-
-/// Goes to the end of the tag. True when its attributes are surely apart from each other and of different names.
-bool skipPlainAttributes(RawTag& tag)
-{
-    std::uint64_t names = 0;
-    bool isPlain = true;
-    for (RawAttribute attribute; tag.next(attribute);) {
-        std::uint64_t const bit = bitOf(attribute.name);
-        isPlain = isPlain && attribute.spaced && (names & bit) == 0;
-        names |= bit;
-    }
-    return isPlain;
-}
-
 }  // namespace
 
-XmlScanner::XmlScanner(std::string_view text, Diagnostics& diagnostics) : _text(text), _diagnostics(diagnostics)
+XmlScanner::XmlScanner(std::string const& text, Diagnostics& diagnostics) : _text(text), _diagnostics(diagnostics)
 {
     _start = byteOrderMarkSize(text);
     _position = _start;
@@ -74,12 +54,33 @@ void XmlScanner::scan(std::size_t end)
     _less = {_text, "<"};
     _ampersand = {_text, "&"};
     _brackets = {_text, "]]>"};
-    _nextUnusual = findUnusual(_text, _start);
     while (_position < _text.size()) {
+        skipPlainTags();
         scanContent(std::min(_less.from(_position), _text.size()));
         if (_position < _text.size()) {
             scanMarkup();
         }
+    }
+}
+
+/// Inside the root, nearly everything is a plain tag or white space, and there is nothing to say of it.
+void XmlScanner::skipPlainTags()
+{
+    char const* const text = _text.data();
+    char const* const end = text + _text.size();
+    while (!_openTags.empty()) {
+        char const* const less = skipWhiteSpace(text + _position);
+        bool const isEnd = *less == '<' && less[1] == '/';
+        PlainTag const tag = *less != '<' ? PlainTag() : isEnd ? readPlainEndTag(less) : readPlainStartTag(less);
+        if (tag.end == nullptr || tag.end > end) {
+            return;
+        }
+        if (isEnd) {
+            _openTags.pop_back();
+        } else if (!tag.isEmptyElement) {
+            _openTags.push_back(static_cast<std::size_t>(less - text));
+        }
+        _position = static_cast<std::size_t>(tag.end - text);
     }
 }
 
@@ -126,13 +127,9 @@ void XmlScanner::scanStartTag()
     enterRoot(start);
     _openTags.push_back(start);
     RawTag tag(_text, start);
-    bool const isPlain = skipPlainAttributes(tag);
+    checkAttributes(tag);
     _broken = tag.isBroken();
-    std::size_t const end = tag.isBroken() ? _text.size() : tag.end();
-    if (!isPlain || _less.from(start + 1) < end || _ampersand.from(start) < end) {
-        checkAttributes(start);
-    }
-    finishToken(end);
+    finishToken(tag.isBroken() ? _text.size() : tag.end());
     if (tag.isEmptyElement()) {
         _openTags.pop_back();
     }
@@ -243,11 +240,11 @@ void XmlScanner::scanDocumentType()
     finishToken(endOf(Markup::documentType));
 }
 
-/// All attributes of the tag that begins at `start`, one by one.
-void XmlScanner::checkAttributes(std::size_t start)
+/// All attributes of the tag, one by one.
+void XmlScanner::checkAttributes(RawTag& tag)
 {
+    std::size_t const start = _position;
     std::vector<std::string_view> names;
-    RawTag tag(_text, start);
     for (RawAttribute attribute; tag.next(attribute);) {
         names.push_back(attribute.name);
         if (!attribute.spaced) {
@@ -298,28 +295,30 @@ void XmlScanner::checkReferences(std::size_t begin, std::size_t end)
     }
 }
 
-/// Checks all characters up to `end` that were not checked yet. One finding for a token is enough.
+/// Checks the characters of the token. One finding for it is enough.
 void XmlScanner::checkCharacters(std::size_t end)
 {
     bool reported = false;
-    while (_nextUnusual < end) {
-        Utf8Character const character = decodeUtf8(_text.substr(_nextUnusual));
+    std::string_view const checked = _text.substr(0, end);
+    for (std::size_t at = findUnusual(checked, _position); at != checked.npos;) {
+        Utf8Character const character = decodeUtf8(_text.substr(at));
         if (character.length == 0 && !_encodingReported) {
             _encodingReported = true;
-            report(_nextUnusual, codes::badEncoding, "The bytes here are not UTF-8.", "Save the text as UTF-8.");
+            report(at, codes::badEncoding, "The bytes here are not UTF-8.", "Save the text as UTF-8.");
         } else if (character.length > 0 && !isXmlCharacter(character.codePoint) && !reported) {
             reported = true;
-            report(_nextUnusual, codes::badCharacter, "A character that XML forbids stands here.");
+            report(at, codes::badCharacter, "A character that XML forbids stands here.");
         }
-        _nextUnusual = findUnusual(_text, _nextUnusual + std::max<std::size_t>(character.length, 1));
+        at = findUnusual(checked, at + std::max<std::size_t>(character.length, 1));
     }
 }
 
 void XmlScanner::finishToken(std::size_t end)
 {
     _unclosed = end == _text.npos ? _position : _unclosed;
-    _position = std::min(end, _text.size());
-    checkCharacters(_position);
+    std::size_t const tokenEnd = std::min(end, _text.size());
+    checkCharacters(tokenEnd);
+    _position = tokenEnd;
 }
 
 void XmlScanner::report(std::size_t offset, FindingCode const& code, std::string message, std::string hint)

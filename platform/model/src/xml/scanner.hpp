@@ -8,6 +8,7 @@
 
 #include "varo/model/diagnostics.hpp"
 #include "xml/markup.hpp"
+#include "xml/raw_tag.hpp"
 
 namespace Varo::Model {
 
@@ -41,7 +42,7 @@ private:
 /// the text; it runs beside every load, hence the care for bytes.
 class XmlScanner {
 public:
-    XmlScanner(std::string_view text, Diagnostics& diagnostics);
+    XmlScanner(std::string const& text, Diagnostics& diagnostics);
 
     /// Scans what the parser has taken: the whole text, or all before the offset where it gave up.
     void scan(std::size_t end);
@@ -56,6 +57,7 @@ public:
     std::size_t unclosedMarkup() const { return _unclosed; }
 
 private:
+    void skipPlainTags();
     void scanMarkup();
     void scanContent(std::size_t end);
     void scanStartTag();
@@ -66,7 +68,7 @@ private:
     void scanDocumentType();
     void checkInstruction(std::string_view instruction);
     void checkDeclaration(std::string_view declaration);
-    void checkAttributes(std::size_t start);
+    void checkAttributes(RawTag& tag);
     void checkNamesDiffer(std::size_t tag, std::vector<std::string_view>& names);
     void checkValue(std::string_view value);
     void checkIsBlank(std::size_t end);
@@ -87,7 +89,6 @@ private:
     Upcoming _less;
     Upcoming _ampersand;
     Upcoming _brackets;
-    std::size_t _nextUnusual = 0;  ///< the next byte that is a control character or beyond ASCII
     bool _rootSeen = false;
     bool _encodingReported = false;
     bool _broken = false;

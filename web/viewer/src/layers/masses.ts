@@ -50,7 +50,10 @@ export class InertiaBoxes extends LinkLayer {
       return [];
     }
     const geometry = new BoxGeometry(...box.size.toArray());
-    const faces = new Mesh(geometry, new MeshBasicMaterial({ color: 0x7c3aed, transparent: true, opacity: 0.25, depthWrite: false }));
+    // The greater a box, the fainter: those of made-up inertias must not hide the others, nor fill the view from within.
+    const greatness = Math.max(...box.size.toArray()) / (0.15 * this.picture.stage.robotSize);
+    const opacity = 0.25 / Math.max(1, greatness ** 2);
+    const faces = new Mesh(geometry, new MeshBasicMaterial({ color: 0x7c3aed, transparent: true, opacity, depthWrite: false }));
     const edges = new LineSegments(new EdgesGeometry(geometry), new LineBasicMaterial({ color: 0x7c3aed }));
     const object = new Group().add(faces, edges);
     object.matrixAutoUpdate = false;

@@ -107,7 +107,8 @@ export class Figure {
     const box = equivalentBox(link.data.mass);
     const edges = box?.size ?? new Vector3(1, 1, 1).multiplyScalar(size * 0.03);
     // Inertias that are only made up may be those of boxes that would hide all else.
-    edges.multiplyScalar(Math.min(1, (size * 0.35) / Math.max(...edges.toArray())));
+    const most = Math.max(1.2 * reachOf(link, this.robot), size * 0.03);
+    edges.multiplyScalar(Math.min(1, most / Math.max(...edges.toArray())));
     const mesh = new Mesh(solidOf({ type: 'box', size: edges.max(least(size)).toArray() }), surface(standIn));
     const object = new Group().add(mesh);
     object.userData.standIn = true;
@@ -151,6 +152,13 @@ function surface(color = plain): MeshStandardMaterial {
 
 function least(size: number): Vector3 {
   return new Vector3(1, 1, 1).multiplyScalar(size * 2e-3);
+}
+
+/** How far a link's own joint is from the link before, and what the link carries from its origin, in metres. */
+function reachOf(link: Link, robot: Robot): number {
+  const joints = [link.joint, ...link.children.map((child) => robot.links[child].joint)];
+  const places = joints.flatMap((joint) => (joint === null ? [] : [[joint.pose[3], joint.pose[7], joint.pose[11]]]));
+  return Math.max(...[...places, link.data.mass?.com ?? [0, 0, 0]].map(([x, y, z]) => Math.hypot(x, y, z)));
 }
 
 /** How far the links' origins are apart. */

@@ -62,11 +62,14 @@ VAROROBOTMODEL_API std::vector<std::string> findingCodes();
 VAROROBOTMODEL_API std::string toXml(Robot const& robot);
 
 /// The robot as a URDF text, whatever the dialect it was read from: its links and joints with all that URDF says of
-/// them, its transmissions, its sensors with their settings, and the extensions where they stood. Reading that text
-/// gives a robot read from URDF the same again, but for the last digit of some placements. Left out is what URDF has no
-/// words for: coupled actuators that are no mimics, wheels, sub-joints, postures, chains as they are stated, mirrors,
-/// free attributes, names for people, and whether a joint has a motor.
+/// them, its transmissions, its sensors with their settings, and the extensions where they stood. What URDF has no
+/// words for stands in one element of a namespace of our own, which other programs pass over: docs/urdf.md. Reading the
+/// text gives a robot that holds the same, bit by bit, and whose text in either dialect is the same.
 VAROROBOTMODEL_API std::string toUrdf(Robot const& robot);
+/// The same; `findings` receives a note of each record that URDF cannot say, or not wholly, at its place in the text of
+/// the robot. An error among them, which only robots with names of more than 1000 bytes or robots of another make can
+/// cause, says that no reader will take the text.
+VAROROBOTMODEL_API std::string toUrdf(Robot const& robot, Findings& findings);
 
 /// The kinds of device keys: bits, to be combined at will.
 enum KeyKind : int {

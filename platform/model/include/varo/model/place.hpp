@@ -69,6 +69,9 @@ enum class Part {
     damping,
     friction,  ///< of a joint
     mimic,  ///< which joint it follows, and how
+    geometry,  ///< the solid of a shape, or the mesh of a body
+    tip,  ///< where the tool of a chain is
+    ratio,  ///< of a sub-joint to its actuator
 };
 
 /// Where a text says something, and what it has there.

@@ -42,6 +42,8 @@ public:
     void reserve(std::size_t size) { _records.reserve(size); }
     /// The record can be found once the names are sorted.
     void add(Config&& config) { _records.push_back(std::move(config)); }
+    /// A new record, to be filled in before another one is added.
+    Config& add() { return _records.emplace_back(); }
     /// To be called when all records are there, and before any is looked for.
     void sortNames()
     {

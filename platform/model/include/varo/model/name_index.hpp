@@ -1,0 +1,118 @@
+#ifndef VARO_MODEL_NAME_INDEX_HPP
+#define VARO_MODEL_NAME_INDEX_HPP
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+namespace Varo::Model {
+
+/// Numbers by name: a flat hash table, for tens of thousands of names that are added once and looked for often.
+/// Whoever adds a name keeps its text alive. Looking for names from several threads is safe while nobody adds any.
+class NameIndex {
+public:
+    /// The number of a name that has none.
+    static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+
+    /// Makes room for so many names.
+    void reserve(std::size_t names)
+    {
+        _entries.reserve(names);
+        std::size_t slots = 16;
+        while (slots < 2 * names) {
+            slots *= 2;
+        }
+        if (slots > _slots.size()) {
+            rehash(slots);
+        }
+    }
+
+    /// Gives the name the number, unless it has one. Answers the number that it has now.
+    std::uint32_t add(std::string_view name, std::uint32_t number)
+    {
+        if (2 * (_entries.size() + 1) > _slots.size()) {
+            reserve(_entries.size() + _entries.size() / 2 + 8);
+        }
+        std::uint32_t const hash = hashOf(name);
+        std::uint32_t& slot = _slots[slotOf(name, hash)];
+        if (slot == none) {
+            slot = static_cast<std::uint32_t>(_entries.size());
+            _entries.push_back({name, hash, number});
+        }
+        return _entries[slot].number;
+    }
+
+    /// The number of the name, or none.
+    std::uint32_t find(std::string_view name) const
+    {
+        std::uint32_t const slot = _slots.empty() ? none : _slots[slotOf(name, hashOf(name))];
+        return slot == none ? none : _entries[slot].number;
+    }
+
+    /// Whether the name has a number.
+    bool contains(std::string_view name) const { return find(name) != none; }
+    /// How many names there are.
+    std::size_t size() const { return _entries.size(); }
+
+    /// Eight bytes at a time: names are short, and most work on them is finding them.
+    static std::uint32_t hashOf(std::string_view name)
+    {
+        constexpr std::uint64_t factor =
+            0x9E3779B97F4A7C15U;  // odd, its bits as if by chance: 2^64 by the golden ratio
+        char const* at = name.data();
+        std::size_t left = name.size();
+        std::uint64_t hash = left * factor;
+        for (; left >= sizeof(std::uint64_t); left -= sizeof(std::uint64_t), at += sizeof(std::uint64_t)) {
+            std::uint64_t word;
+            std::memcpy(&word, at, sizeof word);
+            hash = (hash ^ word) * factor;
+            hash ^= hash >> 32U;
+        }
+        std::uint64_t last = 0;
+        for (; left > 0; --left, ++at) {
+            last = (last << 8U) | static_cast<unsigned char>(*at);
+        }
+        hash = (hash ^ last) * factor;
+        return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
+    }
+
+private:
+    struct Entry {
+        std::string_view name;
+        std::uint32_t hash;
+        std::uint32_t number;
+    };
+
+    /// Where the name stands, or would.
+    std::size_t slotOf(std::string_view name, std::uint32_t hash) const
+    {
+        std::size_t const mask = _slots.size() - 1;
+        std::size_t slot = hash & mask;
+        while (_slots[slot] != none && !isAt(_slots[slot], name, hash)) {
+            slot = (slot + 1) & mask;
+        }
+        return slot;
+    }
+    bool isAt(std::uint32_t entry, std::string_view name, std::uint32_t hash) const
+    {
+        return _entries[entry].hash == hash && _entries[entry].name == name;
+    }
+
+    void rehash(std::size_t slots)
+    {
+        _slots.assign(slots, none);
+        for (std::size_t entry = 0; entry < _entries.size(); ++entry) {
+            _slots[slotOf(_entries[entry].name, _entries[entry].hash)] = static_cast<std::uint32_t>(entry);
+        }
+    }
+
+    std::vector<Entry> _entries;
+    std::vector<std::uint32_t> _slots;  ///< indices of entries by hash: a power of two, at most half of them in use
+};
+
+}  // namespace Varo::Model
+
+#endif

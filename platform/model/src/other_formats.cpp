@@ -1,0 +1,139 @@
+#include "other_formats.hpp"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include "finding_codes.hpp"
+#include "xml/node_offset.hpp"
+
+namespace Varo::Model {
+
+namespace {
+
+constexpr char whatIsRead[] = "What is read is URDF, and texts whose root element is robotDescription.";
+
+/// A format that its root element says.
+struct Format {
+    std::string_view root;
+    char const* message;
+};
+constexpr Format formats[] = {
+    {"sdf", "This is an SDF file, which describes a world or a robot for simulators."},
+    {"mujoco", "This is a MuJoCo file (MJCF), which describes a robot for that simulator."},
+};
+
+bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// SRDF says of a robot that URDF describes which of its joints belong together.
+bool isSemantic(pugi::xml_node root)
+{
+    auto const children = root.children();
+    return !root.child("link") && std::any_of(children.begin(), children.end(), [](pugi::xml_node child) {
+        return isOneOf(child.name(), {"group", "group_state", "end_effector", "virtual_joint", "passive_joint",
+                                      "disable_collisions", "enable_collisions", "disable_default_collisions"});
+    });
+}
+
+bool hasExpression(std::string_view text)
+{
+    return text.find("${") != text.npos || text.find("$(") != text.npos;
+}
+
+/// What only xacro has a use for: the first such place.
+class XacroFinder {
+public:
+    /// Nowhere when nothing in the element, or below it, is for xacro.
+    TextOffset find(pugi::xml_node root)
+    {
+        pugi::xml_node node = root;
+        while (node && !isFor(node)) {
+            node = next(node, root);
+        }
+        return _found;
+    }
+
+private:
+    bool isFor(pugi::xml_node node)
+    {
+        bool const isElement = std::string_view(node.name()).substr(0, 6) == "xacro:";
+        bool const isText = node.type() == pugi::node_pcdata && hasExpression(node.value());
+        if (isElement || isText) {
+            _found = at(isText ? node.parent() : node);
+            return true;
+        }
+        for (pugi::xml_attribute const attribute : node.attributes()) {
+            if (hasExpression(attribute.value())) {
+                _found = at(node, attribute);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /// In the order of the text, without recursion.
+    static pugi::xml_node next(pugi::xml_node node, pugi::xml_node root)
+    {
+        if (pugi::xml_node const child = node.first_child()) {
+            return child;
+        }
+        while (node != root && !node.next_sibling()) {
+            node = node.parent();
+        }
+        return node == root ? pugi::xml_node() : node.next_sibling();
+    }
+
+    TextOffset _found;
+};
+
+/// Colons are rarer than tags, and so are searched for.
+bool hasXacroElement(std::string_view text)
+{
+    constexpr std::string_view start = "<xacro";
+    for (std::size_t colon = text.find(':'); colon != text.npos; colon = text.find(':', colon + 1)) {
+        if (colon >= start.size() && text.substr(colon - start.size(), start.size()) == start) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Few texts have any of what xacro goes by, comments included, and the others need not be walked through.
+bool mayBeXacro(std::string_view text)
+{
+    return hasExpression(text) || hasXacroElement(text);
+}
+
+}  // namespace
+
+bool reportOtherFormat(pugi::xml_node root, Diagnostics& diagnostics)
+{
+    std::string_view const name = root.name();
+    auto const* const format =
+        std::find_if(std::begin(formats), std::end(formats), [name](Format const& each) { return each.root == name; });
+    if (format != std::end(formats)) {
+        diagnostics.report(at(root), codes::otherFormat, format->message, whatIsRead);
+        return true;
+    }
+    TextOffset const xacro = name != "robotDescription" && mayBeXacro(diagnostics.source()->text())
+                                 ? XacroFinder().find(root)
+                                 : TextOffset();
+    if (xacro.isKnown()) {
+        diagnostics.report(xacro, codes::xacroFile, "This is a xacro file, of which URDF has yet to be made.",
+                           "Expand it first: xacro robot.urdf.xacro > robot.urdf");
+    } else if (name == "robot" && isSemantic(root)) {
+        diagnostics.report(
+            at(root), codes::otherFormat,
+            "This is an SRDF file, which adds groups and collision pairs to a robot described elsewhere.",
+            "Read the URDF file of the robot; an SRDF file has no links.");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+}  // namespace Varo::Model

@@ -1,0 +1,39 @@
+#ifndef VARO_MODEL_URDF_OWN_NAMESPACE_HPP
+#define VARO_MODEL_URDF_OWN_NAMESPACE_HPP
+
+#include <string>
+#include <string_view>
+
+#include <pugixml.hpp>
+
+/// The namespace of the elements in which a URDF text says what URDF has no words for. Other programs pass over them.
+namespace Varo::Model::Urdf {
+
+inline constexpr std::string_view ownNamespace = "urn:varorobotmodel:description";
+inline constexpr std::string_view usualPrefix = "varo";
+inline constexpr std::string_view declaringAttribute = "xmlns:";
+
+/// Whether the attribute gives a prefix to our namespace.
+inline bool declaresOwnNamespace(pugi::xml_attribute attribute)
+{
+    std::string_view const name = attribute.name();
+    return name.substr(0, declaringAttribute.size()) == declaringAttribute && attribute.value() == ownNamespace;
+}
+
+/// What names of our namespace begin with: the prefix that the root declares for it, or the usual one, which may go
+/// without; empty where that is another namespace's.
+inline std::string ownPrefix(pugi::xml_node root)
+{
+    for (pugi::xml_attribute const attribute : root.attributes()) {
+        if (declaresOwnNamespace(attribute)) {
+            return std::string(attribute.name() + declaringAttribute.size()) + ":";
+        }
+    }
+    std::string const usual(usualPrefix);
+    bool const isTaken = root.attribute((std::string(declaringAttribute) + usual).c_str());
+    return isTaken ? std::string() : usual + ":";
+}
+
+}  // namespace Varo::Model::Urdf
+
+#endif

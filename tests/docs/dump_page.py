@@ -1,0 +1,55 @@
+#!/usr/bin/env python3
+"""dump_page.py VARO_ROBOT PAGE SCHEMA ROBOT...: does the page list the keys that dump prints, no less and no more?
+
+Those of the robots, and those of the schema, object by object. Prints what is missing on either side; the exit status
+is 1 then.
+"""
+import json
+import pathlib
+import re
+import subprocess
+import sys
+
+
+def keys_on(page):
+    """The keys in the tables of the page, by the title above: those of the whole object first."""
+    keys = {}
+    for title, text in re.findall(r"^## (.*?)\n(.*?)(?=^## |\Z)", page, re.DOTALL | re.MULTILINE):
+        keys["" if title == "The object" else title] = set(re.findall(r"^\| `(\w+)` \|", text, re.MULTILINE))
+    return keys
+
+
+def keys_in(dump):
+    keys = {"": set(dump)}
+    for name, elements in dump.items():
+        if isinstance(elements, list):
+            keys[name] = {key for element in elements for key in element}
+    return keys
+
+
+def keys_of(schema):
+    keys = {"": set(schema["properties"])}
+    for name, value in schema["properties"].items():
+        reference = value.get("items", {}).get("$ref", "")
+        if reference:
+            keys[name] = set(schema["definitions"][reference.rsplit("/", 1)[-1]]["properties"])
+    return keys
+
+
+def main():
+    tool, page, schema, *robots = sys.argv[1:]
+    dumps = [keys_in(json.loads(subprocess.run([tool, "dump", robot], check=True, capture_output=True).stdout))
+             for robot in robots]
+    known = dumps + [keys_of(json.loads(pathlib.Path(schema).read_text(encoding="utf-8")))]
+    written = keys_on(pathlib.Path(page).read_text(encoding="utf-8"))
+    faults = []
+    for name in sorted(set(written).union(*known)):
+        real = set().union(*(keys.get(name, set()) for keys in known))
+        faults += [f"{name} {key} is not on the page" for key in sorted(real - written.get(name, set()))]
+        faults += [f"{name} {key} is on the page alone" for key in sorted(written.get(name, set()) - real)]
+    print("\n".join(faults), end="\n" if faults else "")
+    return 1 if faults or not dumps else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,142 @@
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <sstream>
+
+#include <gmock/gmock.h>
+
+#include "files.hpp"
+#include "findings_of_text.hpp"
+
+/// What is found in whole robots: our own, and real ones where they stand beside the sources.
+namespace RulesTest {
+
+namespace {
+
+std::string const data = VARO_SOURCE_DIR "/tests/rules";
+
+Strings linesOf(std::string const& file)
+{
+    Strings lines;
+    std::istringstream text(Tests::readFile(file));
+    for (std::string line; std::getline(text, line);) {
+        if (!line.empty() && line[0] != '#') {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+Strings robotFiles()
+{
+    Strings files = Tests::filesIn(Tests::realRobotsFolder(), ".urdf");
+    for (char const* ending : {".xml", ".urdf"}) {
+        Strings const own = Tests::filesIn(VARO_SOURCE_DIR "/robots", ending);
+        files.insert(files.end(), own.begin(), own.end());
+    }
+    return files;
+}
+
+std::string nameOf(std::string const& file)
+{
+    return std::filesystem::path(file).filename().string();
+}
+
+/// "LINE:COLUMN SEVERITY CODE".
+std::string compact(Finding const& finding)
+{
+    constexpr char const* severities[] = {"note", "warning", "error"};
+    return std::to_string(finding.line) + ":" + std::to_string(finding.column) + " " +
+           severities[static_cast<int>(finding.severity)] + " " + finding.code;
+}
+
+/// Each line was judged beside the text that it is about; the lines that begin with # say how.
+TEST(KnownRobots, HaveTheFindingsThatWereJudged)
+{
+    for (std::string const& file : robotFiles()) {
+        Strings found;
+        for (Finding const& finding : findingsOf(Tests::readFile(file))) {
+            found.push_back(compact(finding));
+        }
+        std::string const judged = data + "/expected/" + nameOf(file) + ".txt";
+        bool const isJudged = std::filesystem::exists(judged);
+        EXPECT_EQ(found, isJudged ? linesOf(judged) : Strings{"judged in " + judged}) << file;
+    }
+}
+
+/// A fault of the list, in the order of its parts there.
+struct Seed {
+    std::string start;
+    std::string from;
+    std::string to;
+    std::string code;
+};
+
+Seed seedOf(std::string const& line)
+{
+    constexpr char separator[] = " | ";
+    Strings parts;
+    for (std::size_t begin = 0; begin <= line.size();) {
+        std::size_t const end = std::min(line.find(separator, begin), line.size());
+        parts.push_back(line.substr(begin, end - begin));
+        begin = end + std::size(separator) - 1;
+    }
+    EXPECT_EQ(parts.size(), 4U) << line;
+    parts.resize(4);
+    return {parts[0], parts[1], parts[2], parts[3]};
+}
+
+/// Puts the fault into the text and returns "LINE CODE" of what is to be found.
+std::string sow(Seed const& seed, std::string& text)
+{
+    std::size_t const start = text.find(seed.start);
+    std::size_t const place = start == text.npos ? start : text.find(seed.from, start);
+    if (place == text.npos) {
+        ADD_FAILURE() << seed.start << " | " << seed.from;
+        return {};
+    }
+    text.replace(place, seed.from.size(), seed.to);
+    auto const end = text.begin() + static_cast<std::ptrdiff_t>(place);
+    return std::to_string(1 + std::count(text.begin(), end, '\n')) + " " + seed.code;
+}
+
+/// The seeds of each file.
+std::map<std::string, std::vector<Seed>> seeds()
+{
+    std::map<std::string, std::vector<Seed>> seeds;
+    std::string file;
+    for (std::string const& line : linesOf(data + "/data/seeded_faults.txt")) {
+        if (line.find("file ") == 0) {
+            file = line.substr(5);
+        } else {
+            seeds[file].push_back(seedOf(line));
+        }
+    }
+    return seeds;
+}
+
+/// All of them, on their lines, and nothing that only follows from them.
+TEST(KnownRobots, ShowTenSeededFaultsEachOnItsLine)
+{
+    auto const all = seeds();
+    std::size_t sown = 0;
+    for (std::string const& file : robotFiles()) {
+        auto const faults = all.find(nameOf(file));
+        if (faults == all.end()) {
+            continue;
+        }
+        std::string text = Tests::readFile(file);
+        Strings expected = linesAndCodes(text);
+        for (Seed const& seed : faults->second) {
+            expected.push_back(sow(seed, text));
+        }
+        EXPECT_EQ(faults->second.size(), 10U) << file;
+        EXPECT_THAT(linesAndCodes(text), testing::UnorderedElementsAreArray(expected)) << file;
+        ++sown;
+    }
+    EXPECT_GE(sown, 2U);  // our own
+}
+
+}  // namespace
+
+}  // namespace RulesTest
