@@ -40,7 +40,7 @@ std::string placeOf(std::string const& file, Finding const& finding)
 constexpr std::size_t mostApart = 3;
 constexpr std::size_t widestLine = 80;
 /// More places of one kind than this are cut short.
-constexpr std::size_t mostPlaces = 8;
+constexpr std::size_t mostPlaces = 6;
 
 /// What is the same fault again and again.
 using Kind = std::pair<Severity, std::string>;
