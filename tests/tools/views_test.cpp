@@ -95,7 +95,7 @@ TEST_F(Tree, DrawsBranchesAsTheLocaleCan)
 }
 
 /// What a terminal of that width gets.
-class Terminal : public ToolFixture {
+class AtATerminal : public ToolFixture {
 protected:
     std::string shownAt(int columns, std::string const& arguments) const
     {
@@ -118,7 +118,7 @@ std::size_t widestLine(std::string const& text)
     return widest;
 }
 
-TEST_F(Terminal, IsFittedUnlessAllIsWanted)
+TEST_F(AtATerminal, IsFittedUnlessAllIsWanted)
 {
     write("legs.xml", legs);
     EXPECT_EQ(shownAt(60, "tree --pose legs.xml"),
@@ -142,7 +142,7 @@ TEST_F(Terminal, IsFittedUnlessAllIsWanted)
     }
 }
 
-TEST_F(Terminal, TellsWhatTakesLongerThanASecond)
+TEST_F(AtATerminal, TellsWhatTakesLongerThanASecond)
 {
     write("legs.xml", legs);
     std::string const line = "\rReading <stdin>, 1 s";
