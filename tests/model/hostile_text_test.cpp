@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <chrono>
 #include <random>
 #include <string>
@@ -80,6 +81,43 @@ TEST(HostileText, ManyFaultsInOneElementAreFoundInLinearTime)
         attributes += " a" + std::to_string(i) + "='&'";
     }
     expectRefused(head + "<joint" + attributes + "/>" + tail);
+}
+
+TEST(HostileText, ChainsThatListOneJointAgainAndAgainAreBounded)
+{
+    auto const textOf = [](int chains) {
+        std::string text = head + "<joint name='J' min='0' max='1'/>";
+        for (int i = 0; i < chains; ++i) {
+            std::string const number = std::to_string(i);
+            text += "<chain name='C" + number + "' parent='B'><jointRef name='J'/></chain>";
+            text += "<actuator name='A" + number + "' parent='J' min='0' max='1'/>";
+        }
+        return text + tail;
+    };
+    EXPECT_TRUE(ModelUtils::checkXml(textOf(100)));
+    EXPECT_FALSE(ModelUtils::checkXml(textOf(1500)));
+    Findings const findings = ModelUtils::diagnose(textOf(1500));
+    EXPECT_EQ(std::count_if(findings.begin(), findings.end(),
+                            [](Finding const& finding) {
+                                return finding.severity == Severity::error &&
+                                       (finding.code == "too-many-chain-places" || finding.code == "too-many-findings");
+                            }),
+              1);
+}
+
+TEST(HostileText, WhatIsSpentOnSuggestionsIsBounded)
+{
+    std::string const stem(55, 'n');
+    std::string text = head;
+    for (int i = 0; i < 2500; ++i) {
+        std::string const number = std::to_string(10000 + i);
+        text += "<joint name='" + stem + number + "' min='0' max='1'/>";
+        text += "<sensor name='S" + number + "' type='bumper' parent='" + stem + "x" + number + "'/>";
+    }
+    auto const start = std::chrono::steady_clock::now();
+    EXPECT_EQ(ModelUtils::diagnose(text + tail).size(), 1001U);
+    std::chrono::duration<double> const seconds = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(seconds.count(), 20.0);
 }
 
 TEST(HostileText, EntityBombsAreRefused)
