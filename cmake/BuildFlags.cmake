@@ -20,6 +20,23 @@ endif()
 
 set(VAROROBOTMODEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
 
+# What makes a fault harder to abuse, in optimised builds and where the compiler has it: guards on the stack, checks of
+# the buffers of the C library, indirect jumps to marked places only, tables that cannot be written once all is loaded.
+# Symbols that are unique in the process would keep the library in it for ever.
+include(CheckCXXCompilerFlag)
+set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+foreach(flag stack-protector-strong stack-clash-protection cf-protection no-gnu-unique)
+    string(MAKE_C_IDENTIFIER COMPILER_HAS_${flag} has_flag)
+    check_cxx_compiler_flag(-f${flag} ${has_flag})
+    if(${has_flag})
+        add_compile_options($<${optimised}:-f${flag}>)
+    endif()
+endforeach()
+add_link_options($<${optimised}:LINKER:-z,relro,-z,now>)
+if(NOT VAROROBOTMODEL_SANITIZE)
+    add_compile_options($<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=2>)
+endif()
+
 # For those who only build it: another compiler, or one that optimises in another way, may warn of more.
 option(VAROROBOTMODEL_WERROR "Take warnings for errors" ON)
 set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow)

@@ -33,6 +33,9 @@ set_target_properties(varorobotmodel PROPERTIES
 # Installed programs find the library beside them, wherever the tree stands.
 file(RELATIVE_PATH library_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
 set(CMAKE_INSTALL_RPATH $ORIGIN/${library_from_programs})
+# The same beside the build tree's own path: CMake would fill up a shorter one with an empty entry, which stands for the
+# folder that a program is started in.
+set(CMAKE_BUILD_RPATH ${CMAKE_INSTALL_RPATH})
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/varorobotmodel)
 install(TARGETS varorobotmodel EXPORT varorobotmodelTargets

@@ -20,8 +20,12 @@ public:
     {}
     /// Shares the findings.
     BuildError(BuildError const&) = default;
+    /// Takes over the findings.
+    BuildError(BuildError&&) = default;
     /// Shares the findings.
     BuildError& operator=(BuildError const&) = default;
+    /// Takes over the findings.
+    BuildError& operator=(BuildError&&) = default;
     ~BuildError() override;
 };
 
@@ -35,8 +39,12 @@ public:
     {}
     /// Shares the findings.
     StartAngleError(StartAngleError const&) = default;
+    /// Takes over the findings.
+    StartAngleError(StartAngleError&&) = default;
     /// Shares the findings.
     StartAngleError& operator=(StartAngleError const&) = default;
+    /// Takes over the findings.
+    StartAngleError& operator=(StartAngleError&&) = default;
     ~StartAngleError() override;
 };
 

@@ -61,18 +61,25 @@ class ModelImpl;
 class VAROROBOTMODEL_API Model {
 public:
     /// Loads the description, native or URDF, that stands in the file of this path or, when there is no such file, in
-    /// the string itself.
+    /// the string itself. Who knows which of the two it is says so with fromFile() or fromText(): a text is taken for a
+    /// path where there is a file that is named like it.
     ///
-    /// Throws std::invalid_argument when it is neither a readable file nor a valid description; for a refused text that
-    /// is a Varo::Model::DescriptionError. Throws BuildError, which is a std::runtime_error, when the description lacks
+    /// Throws Varo::Model::DescriptionError, which is a std::invalid_argument, when it is neither a readable file nor a
+    /// valid description. Throws BuildError, which is a std::runtime_error, when the description lacks
     /// what its elements need, and StartAngleError, which is a std::out_of_range, when its posture "StandInit" gives an
     /// angle to a name that no chain leads to, or to a joint without a motor. All three say by their findings what is
-    /// wrong where. Takes time and memory proportional to the size of the robot.
+    /// wrong where. Throws std::bad_alloc when there is not enough memory. Takes time and memory proportional to the
+    /// size of the robot.
     explicit Model(std::string const& pathOrXml);
     /// Of a description that was read before, which is not read again. Throws as the constructor above does; for a
     /// reading without a robot, a DescriptionError with its findings. Neither prints nor logs: what building notices is
     /// in the findings.
     explicit Model(Varo::Model::ModelUtils::Reading&& reading);
+    /// Of a text, whatever files there are. As `Model(ModelUtils::read(xml))`.
+    static Model fromText(std::string xml);
+    /// Of the file of that name, which is never taken for a text. As `Model(ModelUtils::readFile(path))`, but what() of
+    /// a DescriptionError names the file.
+    static Model fromFile(std::string const& path);
     /// Takes over all of `other`, which is then one that was moved from. What `other` handed out stays valid.
     Model(Model&& other) noexcept;
     /// The same; what this model handed out before ends its life.

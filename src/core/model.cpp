@@ -5,6 +5,7 @@
 
 #include "core/handle.hpp"
 #include "core/model_impl.hpp"
+#include "varo/model/diagnostics.hpp"
 
 namespace Sim {
 
@@ -13,6 +14,22 @@ namespace Sim {
 Model::Model(std::string const& pathOrXml) : _impl(new ModelImpl(pathOrXml)) {}
 
 Model::Model(Varo::Model::ModelUtils::Reading&& reading) : _impl(new ModelImpl(std::move(reading))) {}
+
+Model Model::fromText(std::string xml)
+{
+    return Model(Varo::Model::ModelUtils::read(std::move(xml)));
+}
+
+Model Model::fromFile(std::string const& path)
+{
+    auto reading = Varo::Model::ModelUtils::readFile(path);
+    if (reading.robot == nullptr) {
+        std::string const what =
+            "Could not load model. " + Varo::Model::quoted(path) + ": " + summaryOf(reading.findings);
+        throw Varo::Model::DescriptionError(what, std::move(reading.findings));
+    }
+    return Model(std::move(reading));
+}
 
 Model::Model(Model&& other) noexcept : _impl(std::exchange(other._impl, nullptr)) {}
 

@@ -1,71 +1,79 @@
-#include <array>
-#include <fstream>
+#include <new>
 
 #include <boost/filesystem/operations.hpp>
 #include <boost/filesystem/path.hpp>
 
 #include "core/model_impl.hpp"
 #include "varo/model/model_utils.hpp"
+#include "varo/model/text_file.hpp"
 
 namespace Sim {
 
 namespace {
 
-bool isExistingPath(std::string const& text)
+using Varo::Model::DescriptionError;
+using Varo::Model::readTextFile;
+using Varo::Model::TextFile;
+using Varo::Model::ModelUtils::Reading;
+
+/// Whether there is a file of that name. The reason why that cannot be told goes into `error`; it is left alone when
+/// there is none for certain.
+bool isExistingPath(std::string const& text, boost::system::error_code& error)
 {
     constexpr std::size_t longestPath = 4096;  // bytes; the system knows no longer ones
     if (text.size() >= longestPath || text.find('\0') != std::string::npos) {
         return false;  // of one with a zero, the system would look at the part before it only
     }
-    boost::system::error_code error;
-    boost::filesystem::file_type const type = boost::filesystem::status(text, error).type();
+    boost::system::error_code reason;
+    boost::filesystem::file_type const type = boost::filesystem::status(text, reason).type();
+    if (reason == boost::system::errc::not_enough_memory) {
+        throw std::bad_alloc();
+    }
+    if (type == boost::filesystem::status_error) {
+        error = reason;
+    }
     return type != boost::filesystem::status_error && type != boost::filesystem::file_not_found;
 }
 
 constexpr char failure[] = "Could not load model. ";
 
-/// The whole file, or a little more of it than the reader accepts: a device file may never end.
-std::string contentOfFile(std::string const& path)
-{
-    std::fstream file(path, std::ios::in);
-    if (file.fail()) {
-        throw std::invalid_argument(failure + ("'" + path + "' could not be opened.\n"));
-    }
-    std::string content;
-    std::array<char, 65536> block;
-    while (content.size() <= Varo::Model::ModelUtils::maxTextSize && file) {
-        file.read(block.data(), block.size());
-        content.append(block.data(), static_cast<std::size_t>(file.gcount()));
-    }
-    return content;
-}
-
-std::string refusal(std::string const& pathOrXml, bool isFile)
+std::string refusal(std::string const& pathOrXml, bool isFile, bool isOpened)
 {
     std::string const quoted = "'" + pathOrXml + "'";
+    if (isFile && !isOpened) {
+        return failure + quoted + " could not be opened.\n";
+    }
     std::string const note = quoted + " does not exist.Trying to load the given string as XML.\n";
     return failure + (isFile ? std::string() : note) + quoted + " is not a valid DCM XML.\n";
+}
+
+/// Texts are too long for names, too, but hold tags.
+bool isMeantAsPath(std::string const& text)
+{
+    return text.find('<') == std::string::npos;
 }
 
 }  // namespace
 
 void ModelImpl::loadModel(std::string const& pathOrXml)
 {
-    bool const isFile = isExistingPath(pathOrXml);
-    std::unique_ptr<Varo::Model::Robot> robot;
-    try {
-        robot = Varo::Model::ModelUtils::robotFromXml(isFile ? contentOfFile(pathOrXml) : std::string(pathOrXml));
-    } catch (Varo::Model::DescriptionError const& error) {
-        throw Varo::Model::DescriptionError(refusal(pathOrXml, isFile), error.findings());
+    boost::system::error_code inTheWay;
+    bool const isFile = isExistingPath(pathOrXml, inTheWay);
+    bool const isRead = isFile || (inTheWay && isMeantAsPath(pathOrXml));
+    TextFile file = isRead ? readTextFile(pathOrXml) : TextFile{pathOrXml, {}, true};
+    bool const isOpened = file.isOpened;
+    Reading reading = Varo::Model::ModelUtils::read(std::move(file));
+    if (reading.robot == nullptr) {
+        throw DescriptionError(refusal(pathOrXml, isFile, isOpened), std::move(reading.findings));
     }
-    makeMotionModel(std::move(robot));
+    makeMotionModel(std::move(reading.robot));
 }
 
-void ModelImpl::loadModel(Varo::Model::ModelUtils::Reading&& reading)
+void ModelImpl::loadModel(Reading&& reading)
 {
     if (reading.robot == nullptr) {
         std::string const what = failure + Varo::Model::summaryOf(reading.findings);
-        throw Varo::Model::DescriptionError(what, std::move(reading.findings));
+        throw DescriptionError(what, std::move(reading.findings));
     }
     makeMotionModel(std::move(reading.robot));
 }

@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 
 #include <gmock/gmock.h>
@@ -8,6 +9,7 @@
 
 #include "descriptions.hpp"
 #include "sim/link.hpp"
+#include "sim/load_error.hpp"
 #include "sim/model.hpp"
 #include "throws.hpp"
 #include "varo/model/finding.hpp"
@@ -35,6 +37,17 @@ public:
 std::string refusalOf(std::string const& argument)
 {
     return messageOf<Varo::Model::DescriptionError>([&] { Sim::Model const model(argument); });
+}
+
+template <class Action>
+Varo::Model::Findings findingsOf(Action const& action)
+{
+    try {
+        action();
+    } catch (Varo::Model::DescriptionError const& error) {
+        return error.findings();
+    }
+    return {};
 }
 
 }  // namespace
@@ -88,17 +101,72 @@ TEST(Loading, SaysThatAFileCannotBeOpened)
     std::remove(path.c_str());
 }
 
+TEST(Loading, SaysInItsFindingsWhatIsInTheWayOfAFile)
+{
+    std::string const path = ownPath();
+    std::filesystem::create_directory(path);
+    std::filesystem::create_symlink("loop", path + "/loop");
+    struct Case {
+        std::string argument;
+        std::string message;
+        std::string reason;
+    };
+    std::string const noFile = " does not exist.Trying to load the given string as XML.\n";
+    std::vector<Case> const cases = {
+        {path, "", "It cannot be read: Is a directory."},
+        {"/dev/zero", "", "It cannot be read: It is a device."},
+        {"/proc/self/mem", "", "It cannot be read: Input/output error."},
+        {path + "/loop", "'" + path + "/loop'" + noFile, "It cannot be read: Too many levels of symbolic links."},
+        {path + "/none.xml", "'" + path + "/none.xml'" + noFile, "There is no file of that name"},
+    };
+    for (auto const& [argument, note, reason] : cases) {
+        Varo::Model::Findings const findings = findingsOf([&a = argument] { Sim::Model const model(a); });
+        ASSERT_EQ(findings.size(), 1U) << argument;
+        EXPECT_THAT(findings[0].message + findings[0].hint, testing::HasSubstr(reason));
+        EXPECT_EQ(refusalOf(argument),
+                  "Could not load model. " + note + "'" + argument + "' is not a valid DCM XML.\n");
+    }
+    std::filesystem::remove_all(path);
+}
+
+TEST(Loading, TakesATextForATextAndANameForAName)
+{
+    // A folder tree that is named like a text, and has another robot in it.
+    std::string const text = robot("<prettyName>N</prettyName>");
+    std::filesystem::path const before = std::filesystem::current_path();
+    std::filesystem::path const folder = ownPath();
+    std::filesystem::create_directories((folder / text).parent_path());
+    std::filesystem::current_path(folder);
+    std::string other = robot("");
+    other.replace(other.find("Testbot"), 7, "Another");
+    std::ofstream(text) << other;
+    EXPECT_EQ(Sim::Model(text).name(), "Another");
+    EXPECT_EQ(Sim::Model::fromText(text).name(), "Testbot");
+    EXPECT_EQ(Sim::Model::fromFile(text).name(), "Another");
+    std::filesystem::current_path(before);
+    std::filesystem::remove_all(folder);
+
+    EXPECT_EQ(messageOf<Varo::Model::DescriptionError>([] { Sim::Model::fromFile("no such file"); }),
+              "Could not load model. \"no such file\": It cannot be read: No such file or directory.");
+    EXPECT_EQ(findingsOf([] { Sim::Model::fromText("robot.xml"); }).at(0).code, "path-not-text");
+}
+
+TEST(Loading, AnErrorThatWasMovedFromHasNoFindings)
+{
+    Varo::Model::DescriptionError error("what", {Varo::Model::Finding{}});
+    Varo::Model::DescriptionError const taken(std::move(error));
+    EXPECT_EQ(taken.findings().size(), 1U);
+    EXPECT_TRUE(error.findings().empty());
+    Sim::BuildError build("what", taken.findings());
+    build = Sim::BuildError("other", {});
+    EXPECT_TRUE(build.findings().empty());
+}
+
 TEST(Loading, RefusalsCarryTheFindings)
 {
-    try {
-        Sim::Model const model("<robotDescription name='x'>\n  <nonsense/></robotDescription>");
-        FAIL();
-    } catch (Varo::Model::DescriptionError const& error) {
-        ASSERT_FALSE(error.findings().empty());
-        EXPECT_THAT(error.findings(),
-                    testing::Contains(testing::AllOf(testing::Field(&Varo::Model::Finding::line, 2),
-                                                     testing::Field(&Varo::Model::Finding::column, 3))));
-    }
+    EXPECT_THAT(findingsOf([] { Sim::Model("<robotDescription name='x'>\n  <nonsense/></robotDescription>"); }),
+                testing::Contains(testing::AllOf(testing::Field(&Varo::Model::Finding::line, 2),
+                                                 testing::Field(&Varo::Model::Finding::column, 3))));
 }
 
 TEST(Loading, AMovedFromModelSaysSo)

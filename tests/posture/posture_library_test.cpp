@@ -102,6 +102,21 @@ TEST_F(PostureLibraryTest, ARobotWithoutPosturesHasNoLibrary)
     EXPECT_FALSE(library.loadLibraryFromName(""));
 }
 
+TEST_F(PostureLibraryTest, TheNameGrowsWithWhatIsStated)
+{
+    std::vector<std::string> joints;
+    for (int i = 0; i < 1000; ++i) {
+        joints.push_back("Joint" + std::to_string(i));
+    }
+    robot.addChain("Tail", "Torso", joints);
+    for (int i = 0; i < 1000; ++i) {
+        robot.postureList.push_back({"P" + std::to_string(i), {{"Joint999", 0.5F}}});
+    }
+    EXPECT_LT(getRobotPostureLibraryName(robot).size(), 20'000U);
+    load();
+    EXPECT_EQ(valuesOf("P999", true).back(), 0.5F);
+}
+
 TEST_F(PostureLibraryTest, AnUnknownPostureLeavesEveryNameOut)
 {
     robot.postureList = {{"Stand", {{"Neck", 1.0F}, {"Tail", 7.0F}}}};
@@ -117,13 +132,29 @@ TEST_F(PostureLibraryTest, AnUnknownPostureLeavesEveryNameOut)
 TEST_F(PostureLibraryTest, RefusesNamesThatAreNotItsOwnAndIsEmptyThen)
 {
     std::string const prefix = "data:application/vnd.varo.postures,";
-    for (std::string const& name :
-         {std::string("stand.postures"), std::string("data:text/plain,1;A=1"), prefix, prefix + "1", prefix + "x;A=1",
-          prefix + "-1;A=1", prefix + "2;A=1", prefix + "1;A", prefix + "1;A=one", prefix + "1;A=0x1",
-          prefix + "1;A=+1", prefix + "1;A=1 ", prefix + "1;A%4=1", prefix + "1;A%zz=1",
-          prefix + "18446744073709551615;A=1", prefix + "18446744073709551615;", prefix + "99999999999999999999;A=1",
-          prefix + "1;A=1;B=1e99"}) {
-        ASSERT_TRUE(library.loadLibraryFromName(prefix + "1;A=1"));
+    for (std::string const& name : {std::string("stand.postures"),
+                                    std::string("data:text/plain,1;A=1"),
+                                    prefix,
+                                    prefix + "1",
+                                    prefix + "x;A=1",
+                                    prefix + "-1;A=0:1",
+                                    prefix + "1;A=1:1",
+                                    prefix + "1;A=1",
+                                    prefix + "1;A=0:one",
+                                    prefix + "1;A=0:0x1",
+                                    prefix + "1;A=0:+1",
+                                    prefix + "1;A=0:1 ",
+                                    prefix + "1;A%4=0:1",
+                                    prefix + "1;A%zz=0:1",
+                                    prefix + "1,0;A=0:1",
+                                    prefix + "1,0=1;A=0:1",
+                                    prefix + "1,1=0;A=0:1",
+                                    prefix + "18446744073709551615;A=:1",
+                                    prefix + "100000000;A=0:1",
+                                    prefix + "18446744073709551615;",
+                                    prefix + "99999999999999999999;A=0:1",
+                                    prefix + "1;A=0:1;B=0:1e99"}) {
+        ASSERT_TRUE(library.loadLibraryFromName(prefix + "1;A=0:1"));
         EXPECT_FALSE(library.loadLibraryFromName(name)) << name;
         EXPECT_EQ(library.getIdFromName("A"), -1) << name;
         Posture posture;

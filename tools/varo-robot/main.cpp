@@ -1,7 +1,10 @@
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <new>
+#include <sstream>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
@@ -9,6 +12,7 @@
 #include "commands/commands.hpp"
 #include "support/description.hpp"
 #include "support/finding_text.hpp"
+#include "support/visible_text.hpp"
 #include "usage/completion.hpp"
 #include "usage/suggestion.hpp"
 
@@ -42,6 +46,17 @@ void declareCommands(CLI::App& app, std::function<int()>& chosen)
         subcommand->callback([&chosen, action = command->declare(*subcommand)] { chosen = action; });
     }
     app.require_subcommand(1);
+}
+
+/// Says what is wrong with the arguments, or prints the help that they ask for. The answer is 0 for the latter.
+int explain(CLI::App const& app, CLI::Error const& error)
+{
+    std::ostringstream out;
+    std::ostringstream err;
+    int const status = app.exit(error, out, err);
+    std::cout << out.str();
+    std::cerr << visibleLines(err.str());
+    return status;
 }
 
 /// The answer is the exit status.
@@ -78,19 +93,41 @@ int run(int argumentCount, char** arguments)
     } catch (CLI::RequiredError const& error) {
         std::vector<std::string> const unknown = app.remaining();
         if (!unknown.empty()) {
-            std::cerr << "There is no command \"" << unknown.front() << "\".\n";
+            std::cerr << "There is no command \"" << visible(unknown.front()) << "\".\n";
             suggestCommand(unknown.front(), app);
         }
-        app.exit(error);
+        explain(app, error);
         return exitStatus::wrongUsage;
     } catch (CLI::ParseError const& error) {
-        bool const isFine = app.exit(error) == 0;
+        bool const isFine = explain(app, error) == 0;
         for (CLI::App const* command : app.get_subcommands()) {
             suggestOption(*command);
         }
         return isFine ? exitStatus::fine : exitStatus::wrongUsage;
     }
     return runChosen(chosen);
+}
+
+/// The status with which the tool ends for this.
+int sayLackOfMemory()
+{
+    std::fputs("varo-robot: error: not enough memory\n", stderr);
+    return exitStatus::bad;
+}
+
+/// Destructors of JSON need memory, and cannot say that there is none in another way.
+[[noreturn]] void endInTheMiddle()
+{
+    try {
+        if (std::exception_ptr const reason = std::current_exception()) {
+            std::rethrow_exception(reason);
+        }
+    } catch (std::bad_alloc const&) {
+        std::_Exit(sayLackOfMemory());
+    } catch (...) {
+        // A fault of the tool.
+    }
+    std::abort();
 }
 
 }  // namespace
@@ -100,10 +137,13 @@ int run(int argumentCount, char** arguments)
 int main(int argumentCount, char** arguments)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
+    std::set_terminate(Tool::endInTheMiddle);
     try {
         return Tool::run(argumentCount, arguments);
-    } catch (std::exception const& error) {  // want of memory, say
-        std::fprintf(stderr, "varo-robot: error: %s\n", error.what());
+    } catch (std::bad_alloc const&) {
+        return Tool::sayLackOfMemory();
+    } catch (std::exception const& error) {
+        std::fprintf(stderr, "varo-robot: error: %s\n", Tool::visible(error.what()).c_str());
     }
     return Tool::exitStatus::bad;
 }

@@ -12,9 +12,20 @@ namespace {
 
 constexpr std::size_t longestQuote = 64;  // bytes
 
+std::string placed(Finding const& finding)
+{
+    return std::to_string(finding.line) + ":" + std::to_string(finding.column) + ": " + finding.message;
+}
+
 }  // namespace
 
 WithFindings::~WithFindings() = default;
+
+Findings const& WithFindings::findings() const noexcept
+{
+    static Findings const none;
+    return _findings == nullptr ? none : *_findings;
+}
 
 DescriptionError::~DescriptionError() = default;
 
@@ -42,7 +53,7 @@ void Diagnostics::escalate(TextOffset offset, FindingCode const& code, std::stri
 
 bool Diagnostics::countIfFull(FindingCode const& code)
 {
-    if (_records.size() < maximumFindings) {
+    if (_records.size() < _mostFindings) {
         return false;
     }
     ++_dropped;
@@ -68,8 +79,8 @@ Findings Diagnostics::findings() const
     }
     if (_dropped > 0) {
         Finding last = overflowFinding();
-        last.line = findings.back().line;
-        last.column = findings.back().column;
+        last.line = findings.empty() ? 0 : findings.back().line;
+        last.column = findings.empty() ? 0 : findings.back().column;
         findings.push_back(std::move(last));
     }
     return findings;
@@ -103,7 +114,7 @@ std::string summaryOf(Findings const& findings)
     auto const isError = [](Finding const& finding) { return finding.severity == Severity::error; };
     auto const first = std::find_if(findings.begin(), findings.end(), isError);
     auto const others = std::count_if(first, findings.end(), isError) - 1;
-    std::string text = std::to_string(first->line) + ":" + std::to_string(first->column) + ": " + first->message;
+    std::string text = first->line == 0 ? first->message : placed(*first);
     if (others > 0) {
         text += " (and " + std::to_string(others) + " more)";
     }

@@ -9,6 +9,8 @@ namespace Varo::Model {
 /// documentation are made of these lines.
 namespace codes {
 
+inline constexpr FindingCode unreadableFile{"unreadable-file", Severity::error,
+                                            "A file cannot be read, or is none that a description can stand in."};
 inline constexpr FindingCode textTooLarge{"text-too-large", Severity::error, "The text is longer than 256 MiB."};
 inline constexpr FindingCode malformedXml{"malformed-xml", Severity::error, "The text breaks a rule of XML."};
 inline constexpr FindingCode documentType{
@@ -46,9 +48,9 @@ inline constexpr FindingCode tooManyFindings{
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofTexts[] = {
-    &textTooLarge, &malformedXml, &documentType,  &contentOutsideRoot, &repeatedAttribute,
-    &badReference, &badCharacter, &badEncoding,   &unknownRoot,        &xacroFile,
-    &otherFormat,  &pathNotText,  &ambiguousName, &ambiguousLinkName,  &tooManyFindings,
+    &unreadableFile, &textTooLarge,  &malformedXml,      &documentType,    &contentOutsideRoot, &repeatedAttribute,
+    &badReference,   &badCharacter,  &badEncoding,       &unknownRoot,     &xacroFile,          &otherFormat,
+    &pathNotText,    &ambiguousName, &ambiguousLinkName, &tooManyFindings,
 };
 
 }  // namespace codes

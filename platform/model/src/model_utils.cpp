@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "finding_codes.hpp"
 #include "native/native_codes.hpp"
 #include "native/native_reader.hpp"
 #include "native/native_writer.hpp"
@@ -85,6 +86,21 @@ Reading read(std::string xml, ReadOptions const& options)
     return reading;
 }
 
+Reading read(TextFile file, ReadOptions const& options)
+{
+    if (file.obstacle.empty()) {
+        return read(std::move(file.text), options);
+    }
+    Diagnostics diagnostics(nullptr);
+    diagnostics.report(TextOffset(), codes::unreadableFile, std::move(file.obstacle));
+    return {nullptr, diagnostics.findings(), nullptr};
+}
+
+Reading readFile(std::string const& path, ReadOptions const& options)
+{
+    return read(readTextFile(path), options);
+}
+
 std::unique_ptr<Robot> robotFromXml(std::string const& xml)
 {
     return robotFromXml(std::string(xml));
@@ -139,7 +155,9 @@ std::string toUrdf(Robot const& robot, Findings& findings)
 
 bool checkXml(std::string const& xml)
 {
-    return read(xml).robot != nullptr;
+    auto const source = std::make_shared<SourceText const>(xml);
+    Diagnostics diagnostics(source.get(), 0);  // nobody will see them
+    return readAnyDialect(source, diagnostics, {false}) != nullptr;
 }
 
 Findings diagnose(std::string const& xml)

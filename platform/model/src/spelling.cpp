@@ -55,6 +55,7 @@ bool ClosestWord::offer(std::string_view word)
     if (lengthDifference >= _distance) {
         return false;
     }
+    _work += std::min(_written.size(), longestWord) * std::min(word.size(), longestWord);
     std::size_t const distance = spellingDistance(_written, word);
     if (distance >= _distance || distance >= std::max(word.size(), _written.size())) {
         return false;

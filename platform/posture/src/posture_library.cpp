@@ -13,11 +13,15 @@ namespace posture {
 
 namespace {
 
-// The name of a library is a data URI (RFC 2397): behind the prefix stands the number of angle names, then each
-// posture as its percent-encoded name and its values, which are empty where the posture says nothing:
-//     2;StandInit=0.5,;Rest=,-1,7
+// The name of a library is a data URI (RFC 2397): behind the prefix stands the number of angle names, with the pairs of
+// places that have one name, then each posture as its percent-encoded name and the values that it states, each behind
+// its place; those without a place are surplus:
+//     4,0=3;StandInit=0:0.5;Rest=2:-1,:7
+// So it grows with what is stated, however many names there are.
 constexpr std::string_view prefix = "data:application/vnd.varo.postures,";
 constexpr float unset = std::numeric_limits<float>::quiet_NaN();
+/// More names than any text can list are no library's.
+constexpr std::size_t mostNames = std::size_t{1} << 24U;
 
 bool isUnreserved(char c)
 {
@@ -79,50 +83,29 @@ std::string_view takePiece(std::string_view& text, char separator)
     return piece;
 }
 
-std::vector<float> layOut(Varo::Model::PostureConfig const& posture, std::size_t nameCount,
-                          std::unordered_map<std::string_view, std::vector<std::size_t>> const& places)
-{
-    std::vector<float> values(nameCount, unset);
-    for (Varo::Model::PostureAngle const& angle : posture.angles) {
-        auto const found = places.find(angle.name);
-        if (found == places.end()) {
-            values.push_back(angle.value);
-            continue;
-        }
-        for (std::size_t const place : found->second) {
-            values[place] = angle.value;
-        }
-    }
-    return values;
-}
+/// The first place of each name.
+using Places = std::unordered_map<std::string_view, std::size_t>;
 
-void appendPosture(std::string& out, std::string const& name, std::vector<float> const& values)
+void appendPosture(std::string& out, Varo::Model::PostureConfig const& posture, Places const& places)
 {
     out += ';';
-    appendEncoded(out, name);
+    appendEncoded(out, posture.name);
     char separator = '=';
-    for (float const value : values) {
+    for (Varo::Model::PostureAngle const& angle : posture.angles) {
         out += separator;
         separator = ',';
-        if (!std::isnan(value)) {
-            appendNumber(out, value);
+        if (auto const found = places.find(angle.name); found != places.end()) {
+            appendNumber(out, found->second);
         }
+        out += ':';
+        appendNumber(out, angle.value);
     }
 }
 
-bool parseValues(std::string_view text, std::vector<float>& values)
+/// "0=3": what stands before the separator, and behind it.
+bool parsePair(std::string_view text, std::size_t& first, std::size_t& second)
 {
-    while (true) {
-        bool const isLast = text.find(',') == std::string_view::npos;
-        std::string_view const piece = takePiece(text, ',');
-        values.push_back(unset);
-        if (!piece.empty() && !parseNumber(piece, values.back())) {
-            return false;
-        }
-        if (isLast) {
-            return true;
-        }
-    }
+    return parseNumber(takePiece(text, '='), first) && parseNumber(text, second);
 }
 
 }  // namespace
@@ -134,48 +117,93 @@ std::string getRobotPostureLibraryName(Varo::Model::Robot const& robot)
     }
     auto const records = Varo::Model::recordsOf(robot);
     std::vector<std::string const*> const names = Varo::Model::angleNames(*records);
-    std::unordered_map<std::string_view, std::vector<std::size_t>> places;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        places[*names[i]].push_back(i);
-    }
-
     std::string library(prefix);
     appendNumber(library, names.size());
+    Places places;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        auto const [first, isNew] = places.try_emplace(*names[i], i);
+        if (!isNew) {
+            library += ',';
+            appendNumber(library, first->second);
+            library += '=';
+            appendNumber(library, i);
+        }
+    }
     for (Varo::Model::PostureConfig const& posture : robot.postures()) {
-        appendPosture(library, posture.name, layOut(posture, names.size(), places));
+        appendPosture(library, posture, places);
     }
     return library;
 }
 
 bool PostureLibrary::loadLibraryFromName(std::string const& name)
 {
-    _postures.clear();
-    _angleCount = 0;
+    *this = PostureLibrary();
     std::string_view text = name;
     if (text.substr(0, prefix.size()) != prefix) {
         return false;
     }
     text.remove_prefix(prefix.size());
-    std::size_t angleCount = 0;
-    std::vector<Named> postures;
-    if (!parseNumber(takePiece(text, ';'), angleCount)) {
+    PostureLibrary library;
+    if (!library.readNames(takePiece(text, ';')) || text.empty()) {
         return false;
     }
     while (!text.empty()) {
         std::string_view piece = takePiece(text, ';');
-        Named& posture = postures.emplace_back();
-        bool const hasValues = piece.find('=') != std::string_view::npos;
-        if (!decode(takePiece(piece, '='), posture.name) || (hasValues && !parseValues(piece, posture.values)) ||
-            posture.values.size() < angleCount) {
+        Named& posture = library._postures.emplace_back();
+        if (!decode(takePiece(piece, '='), posture.name) || !library.readValues(piece, posture)) {
             return false;
         }
     }
-    if (postures.empty()) {
+    *this = std::move(library);
+    return true;
+}
+
+/// "4,0=3": how many names there are, and the later places of those that stand at several.
+bool PostureLibrary::readNames(std::string_view text)
+{
+    if (!parseNumber(takePiece(text, ','), _angleCount) || _angleCount > mostNames) {
         return false;
     }
-    _postures = std::move(postures);
-    _angleCount = angleCount;
+    while (!text.empty()) {
+        auto& [first, later] = _repeated.emplace_back();
+        if (!parsePair(takePiece(text, ','), first, later) || first >= _angleCount || later >= _angleCount) {
+            return false;
+        }
+    }
     return true;
+}
+
+/// "2:-1,:7"
+bool PostureLibrary::readValues(std::string_view text, Named& posture) const
+{
+    while (!text.empty()) {
+        std::string_view piece = takePiece(text, ',');
+        std::string_view const place = takePiece(piece, ':');
+        Stated stated = {_angleCount, unset};
+        if ((!place.empty() && (!parseNumber(place, stated.place) || stated.place >= _angleCount)) ||
+            !parseNumber(piece, stated.value)) {
+            return false;
+        }
+        posture.stated.push_back(stated);
+    }
+    return true;
+}
+
+/// With NaN where the description says nothing.
+std::vector<float> PostureLibrary::layOut(Named const& posture) const
+{
+    std::vector<float> values(_angleCount, unset);
+    for (auto const& [place, value] : posture.stated) {
+        if (place == _angleCount) {
+            values.push_back(value);
+        } else {
+            values[place] = value;
+        }
+    }
+    for (auto const& [first, later] : _repeated) {
+        values[later] = values[first];
+    }
+    return values;
 }
 
 int PostureLibrary::getIdFromName(std::string const& name) const
@@ -191,8 +219,7 @@ int PostureLibrary::getIdFromName(std::string const& name) const
 bool PostureLibrary::getPostureFromId(int id, Posture& posture, bool completed) const
 {
     bool const known = id >= 0 && static_cast<std::size_t>(id) < _postures.size();
-    std::vector<float> values =
-        known ? _postures[static_cast<std::size_t>(id)].values : std::vector<float>(_angleCount, unset);
+    std::vector<float> values = layOut(known ? _postures[static_cast<std::size_t>(id)] : Named());
     if (completed) {
         for (float& value : values) {
             value = std::isnan(value) ? 0.0F : value;

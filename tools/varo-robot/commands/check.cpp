@@ -12,6 +12,7 @@
 #include "support/findings.hpp"
 #include "support/meshes.hpp"
 #include "support/progress.hpp"
+#include "support/visible_text.hpp"
 #include "varo/model/lint.hpp"
 
 namespace Tool {
@@ -115,7 +116,7 @@ bool areKnown(std::vector<std::string> const& codes, std::set<std::string> const
     if (unknown == codes.end()) {
         return true;
     }
-    std::cerr << "There " << things << " with the code \"" << *unknown << "\". The codes are:\n";
+    std::cerr << "There " << things << " with the code \"" << visible(*unknown) << "\". The codes are:\n";
     for (std::string const& code : known) {
         std::cerr << "  " << code << '\n';
     }

@@ -14,6 +14,7 @@
 #include "support/finding_text.hpp"
 #include "support/json.hpp"
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -101,7 +102,7 @@ std::vector<Difference> compared(RecordsByName const& a, RecordsByName const& b,
 
 std::string placeOf(std::string const& file, FactRecord const& record)
 {
-    return record.line == 0 ? file : file + ":" + std::to_string(record.line);
+    return visibleName(file) + (record.line == 0 ? "" : ":" + std::to_string(record.line));
 }
 
 /// On one line.
@@ -109,7 +110,7 @@ std::string textOf(Fact const* fact)
 {
     std::string text = fact == nullptr ? "not stated" : fact->text.empty() ? "empty" : fact->text;
     std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
+    return visible(text);
 }
 
 void printForEyes(std::vector<Difference> const& differences, std::string const& a, std::string const& b)
@@ -118,16 +119,16 @@ void printForEyes(std::vector<Difference> const& differences, std::string const&
     for (Difference const& difference : differences) {
         FactRecord const& any = difference.any();
         auto const [first, second] = difference.records;
-        std::cout << palette.paint(Ink::heading, any.kind + (any.name.empty() ? "" : " " + any.name));
+        std::cout << palette.paint(Ink::heading, any.kind + (any.name.empty() ? "" : " " + visible(any.name)));
         if (second == nullptr) {
-            std::cout << " (" << placeOf(a, *first) << ") is not in " << b << '\n';
+            std::cout << " (" << placeOf(a, *first) << ") is not in " << visibleName(b) << '\n';
         } else if (first == nullptr) {
-            std::cout << " (" << placeOf(b, *second) << ") is not in " << a << '\n';
+            std::cout << " (" << placeOf(b, *second) << ") is not in " << visibleName(a) << '\n';
         } else {
             std::cout << " (" << placeOf(a, *first) << ", " << placeOf(b, *second) << ")\n";
         }
         for (auto const& [name, facts] : difference.facts) {
-            std::cout << "  " << name << ": " << textOf(facts[0]) << " | " << textOf(facts[1]) << '\n';
+            std::cout << "  " << visible(name) << ": " << textOf(facts[0]) << " | " << textOf(facts[1]) << '\n';
         }
     }
 }

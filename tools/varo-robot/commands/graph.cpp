@@ -14,6 +14,7 @@
 #include "support/device_kinds.hpp"
 #include "support/link_carriers.hpp"
 #include "support/numbers.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -25,17 +26,22 @@ struct Options {
     bool actuators = false;
 };
 
-/// A name as DOT quotes it.
-std::string quoted(std::string const& name)
+/// Text as it stands between the quotes of DOT.
+std::string inQuotes(std::string const& text)
 {
-    std::string text = "\"";
-    for (char const c : name) {
+    std::string result;
+    for (char const c : visible(text)) {
         if (c == '"' || c == '\\') {
-            text += '\\';
+            result += '\\';
         }
-        text += c;
+        result += c;
     }
-    return text + "\"";
+    return result;
+}
+
+std::string quoted(std::string const& text)
+{
+    return "\"" + inQuotes(text) + "\"";
 }
 
 void printLegend(ChainColours const& colours)
@@ -57,7 +63,7 @@ void printLinks(Sim::Model const& model, ChainColours const& colours)
     }
 }
 
-/// What moves the joints of coupled actuators, as an arrow says it.
+/// What moves the joints of coupled actuators, as an arrow says it between quotes.
 using Couplings = std::map<Sim::Joint const*, std::string>;
 
 Couplings couplings(Sim::Model const& model)
@@ -65,7 +71,7 @@ Couplings couplings(Sim::Model const& model)
     Couplings labels;
     for (Sim::CoupledActuator const* actuator : model.coupledActuators()) {
         for (auto const& [joint, ratio] : actuator->controlledJointAndRatios()) {
-            labels[joint] += "\n" + actuator->name() + " x " + shortest(ratio);
+            labels[joint] += "\\n" + inQuotes(actuator->name()) + " x " + shortest(ratio);
         }
     }
     return labels;
@@ -78,10 +84,9 @@ void printJoints(Sim::Model const& model, ChainColours const& colours, Couplings
             continue;
         }
         auto const coupling = couplings.find(joint);
-        std::string const label = joint->name() + (coupling == couplings.end() ? "" : coupling->second);
+        std::string const label = inQuotes(joint->name()) + (coupling == couplings.end() ? "" : coupling->second);
         std::cout << "  " << quoted(joint->parentLink()->name()) << " -> " << quoted(joint->childLink()->name())
-                  << " [label=" << quoted(label) << ", color=" << quoted(colours.strokeOf(*joint->childLink()))
-                  << "];\n";
+                  << " [label=\"" << label << "\", color=" << quoted(colours.strokeOf(*joint->childLink())) << "];\n";
     }
 }
 
@@ -109,8 +114,7 @@ void printNotes(std::string const& prefix, char const* fill, std::vector<Device 
     std::map<Sim::Link const*, std::string> labels;
     for (Device const* device : devices) {
         std::string const line = std::string(typeName(*device)) + " " + device->name();
-        std::string const inQuotes = quoted(line);
-        labels[carriers.of(device->frame())] += inQuotes.substr(1, inQuotes.size() - 2) + "\\l";
+        labels[carriers.of(device->frame())] += inQuotes(line) + "\\l";
     }
     for (Sim::Link const* link : model.links()) {
         auto const found = labels.find(link);

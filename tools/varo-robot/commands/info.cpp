@@ -18,6 +18,7 @@
 #include "support/numbers.hpp"
 #include "support/shape_json.hpp"
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -32,7 +33,7 @@ public:
     void add(std::string const& label, std::string const& fact)
     {
         std::string const padding(label.size() < width ? width - label.size() : 0, ' ');
-        std::cout << _palette.paint(Ink::heading, label) << padding << fact << '\n';
+        std::cout << _palette.paint(Ink::heading, label) << padding << visible(fact) << '\n';
     }
 
     /// Several lines under one label.

@@ -9,6 +9,7 @@
 #include "support/kinds.hpp"
 #include "support/link_names.hpp"
 #include "support/table.hpp"
+#include "support/visible_text.hpp"
 #include "varo/model/spelling.hpp"
 
 namespace Tool {
@@ -34,29 +35,28 @@ std::string cellOf(Json const& element, Column const& column, LinkNames const& n
     return column.isLink ? names.of(text) : text;
 }
 
-void printForEyes(Kind const& kind, std::vector<Json> const& elements, LinkNames const& names, bool wide)
+void printForEyes(Kind const& kind, Sim::Model const& model, bool wide)
 {
+    LinkNames const names(model);
     std::vector<Row> rows(1);
     for (Column const& column : kind.columns) {
         rows.front().emplace_back(column.title);
     }
-    for (Json const& element : elements) {
+    kind.visit(model, [&](Json&& element) {
         Row row;
         for (Column const& column : kind.columns) {
             row.push_back(cellOf(element, column, names));
         }
         rows.push_back(std::move(row));
-    }
+    });
     printTable(std::move(rows), wide);
 }
 
-void printForPrograms(std::vector<Json> const& elements)
+void printForPrograms(Kind const& kind, Sim::Model const& model)
 {
     {
         JsonStream array(std::cout, '[');
-        for (Json const& element : elements) {
-            array.add(element);
-        }
+        kind.visit(model, [&array](Json&& element) { array.add(element); });
     }
     std::cout << '\n';
 }
@@ -92,15 +92,13 @@ int list(Options options)
     }
     Kind const* const kind = findKind(options.kind);
     if (kind == nullptr) {
-        std::cerr << "There are no elements of the kind \"" << options.kind << "\"." << suggestion(options.kind)
-                  << " Known kinds:\n"
+        std::cerr << "There are no elements of the kind \"" << visible(options.kind) << "\"."
+                  << suggestion(options.kind) << " Known kinds:\n"
                   << knownKinds() << '\n';
         return exitStatus::wrongUsage;
     }
     Robot const robot = loadRobot(options.file, options.reading);
-    Sim::Model const& model = robot.model;
-    std::vector<Json> const elements = kind->elements(model);
-    options.json ? printForPrograms(elements) : printForEyes(*kind, elements, LinkNames(model), options.wide);
+    options.json ? printForPrograms(*kind, robot.model) : printForEyes(*kind, robot.model, options.wide);
     return exitStatus::fine;
 }
 

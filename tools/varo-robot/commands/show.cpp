@@ -21,6 +21,7 @@
 #include "support/kinds.hpp"
 #include "support/link_names.hpp"
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/spelling.hpp"
 
@@ -133,7 +134,7 @@ void Search::addSymmetries()
 void printFact(std::string const& key, std::string const& text)
 {
     constexpr std::size_t width = 28;
-    std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << text << '\n';
+    std::cout << "  " << key << std::string(key.size() < width ? width - key.size() : 1, ' ') << visible(text) << '\n';
 }
 
 /// One line for each part of the settings that is stated.
@@ -169,7 +170,7 @@ void printForEyes(std::vector<Sighting> const& found, LinkNames const& names)
 {
     Palette const palette(STDOUT_FILENO);
     for (Sighting const& sighting : found) {
-        std::string const heading = sighting.kind + " " + sighting.name;
+        std::string const heading = sighting.kind + " " + visible(sighting.name);
         std::cout << (&sighting == &found.front() ? "" : "\n") << palette.paint(Ink::heading, heading) << '\n';
         printFacts(sighting, sighting.facts, names);
     }

@@ -17,6 +17,7 @@
 #include "support/moved_robot.hpp"
 #include "support/numbers.hpp"
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -185,15 +186,15 @@ std::string TreePainter::strokesOf(Step const& step) const
 
 std::string TreePainter::labelOf(Sim::Link const& link, Palette const& palette) const
 {
-    std::string const label = palette.paint(Ink::link, "[" + link.descriptionName() + "]");
+    std::string const label = palette.paint(Ink::link, "[" + visible(link.descriptionName()) + "]");
     return link.type() == Sim::Link::Wheel ? label + palette.paint(Ink::faint, " wheel") : label;
 }
 
 std::string TreePainter::labelOf(Sim::Joint const& joint, Palette const& palette) const
 {
     std::string const word = _words.of(joint);
-    std::string const name =
-        palette.paint(Ink::joint, joint.name()) + (word == "actuated" ? "" : palette.paint(Ink::faint, " " + word));
+    std::string const name = palette.paint(Ink::joint, visible(joint.name())) +
+                             (word == "actuated" ? "" : palette.paint(Ink::faint, " " + word));
     Sim::Link const* const link = joint.childLink();
     return link == nullptr ? name : name + _strokes.moves + labelOf(*link, palette);
 }

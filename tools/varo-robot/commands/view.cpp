@@ -13,6 +13,7 @@
 #include "support/moved_robot.hpp"
 #include "support/output_file.hpp"
 #include "support/progress.hpp"
+#include "support/visible_text.hpp"
 #include "view/embedding.hpp"
 #include "view/page.hpp"
 #include "view/shape_uris.hpp"
@@ -52,7 +53,7 @@ std::string pageFor(std::string const& file)
 template <class Read>
 Json embedded(std::set<std::string> const& uris, std::string const& file, Read const& read)
 {
-    Json data = Json::object();
+    Members data;
     Varo::Model::Findings findings;
     auto progress = std::make_unique<Progress>("Reading meshes and images");
     for (std::string const& uri : uris) {
@@ -62,11 +63,11 @@ Json embedded(std::set<std::string> const& uris, std::string const& file, Read c
             findings.push_back(
                 fileFinding(Severity::warning, codes::meshNotShown, "\"" + uri + "\" is not shown. " + reason));
         }
-        data[uri] = std::move(entry);
+        data.set(uri, std::move(entry));
     }
     progress.reset();  // before anything else is printed
     printFindings(std::cerr, file, findings);
-    return data;
+    return data.take();
 }
 
 std::string jsonOf(Robot const& robot, Options const& options)
@@ -116,7 +117,7 @@ int view(Options const& options)
     Robot const robot = loadRobot(options.file);
     std::string const page = options.page.empty() ? pageFor(options.file) : options.page;
     writeFile(page, pageOf(viewerPage(), jsonOf(robot, options)), Existing::isReplaced);
-    std::cout << page << '\n';
+    std::cout << visible(page) << '\n';
     return options.open ? openInBrowser(page) : exitStatus::fine;
 }
 

@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "formats/formats.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -54,9 +55,10 @@ void printAsGithub(std::vector<CheckedFile> const& files)
 {
     for (CheckedFile const& file : files) {
         for (Finding const& finding : file.findings) {
-            std::string const hint = finding.hint.empty() ? "" : "\n" + finding.hint;
-            std::cout << "::" << commandOf(finding.severity) << " file=" << property(file.name) << placeOf(finding)
-                      << ",title=" << property(finding.code) << "::" << message(finding.message + hint) << '\n';
+            std::string const hint = finding.hint.empty() ? "" : "\n" + visible(finding.hint);
+            std::cout << "::" << commandOf(finding.severity) << " file=" << property(visible(file.name))
+                      << placeOf(finding) << ",title=" << property(finding.code)
+                      << "::" << message(visible(finding.message) + hint) << '\n';
         }
     }
 }

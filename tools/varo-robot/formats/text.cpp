@@ -3,6 +3,7 @@
 
 #include "formats/formats.hpp"
 #include "support/finding_text.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -34,7 +35,7 @@ void printFile(CheckedFile const& file, bool all)
     } else {
         printFolded(std::cerr, file.name, file.findings);
     }
-    std::cout << file.name << ": " << summary(file.findings) << std::endl;  // in step with the findings
+    std::cout << visibleName(file.name) << ": " << summary(file.findings) << std::endl;  // in step with the findings
 }
 
 /// What to do next; nothing when there is nothing to do.

@@ -1,17 +1,15 @@
 #include "support/description.hpp"
 
-#include <array>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
+#include <algorithm>
 #include <iostream>
-#include <memory>
 #include <utility>
-#include <vector>
+
+#include <unistd.h>
 
 #include "support/finding_text.hpp"
 #include "support/progress.hpp"
-#include "zu/log.hpp"
+#include "support/visible_text.hpp"
+#include "varo/model/text_file.hpp"
 
 namespace Tool {
 
@@ -19,36 +17,9 @@ namespace {
 
 using Varo::Model::Finding;
 using Varo::Model::Findings;
+using Varo::Model::readTextFile;
 using Varo::Model::Severity;
-
-using FilePtr = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-FilePtr open(std::string const& file)
-{
-    if (file == "-") {
-        return {stdin, [](std::FILE*) { return 0; }};
-    }
-    return {std::fopen(file.c_str(), "rb"), std::fclose};
-}
-
-/// The reason why nothing came of the file, or 0. Reads a little more than the reader accepts at most: a device file
-/// may never end.
-int readText(std::string const& file, std::string& text)
-{
-    FilePtr const stream = open(file);
-    if (stream == nullptr) {
-        return errno;
-    }
-    std::array<char, 65536> block;
-    while (text.size() <= Varo::Model::ModelUtils::maxTextSize) {
-        std::size_t const count = std::fread(block.data(), 1, block.size(), stream.get());
-        text.append(block.data(), count);
-        if (count < block.size()) {
-            break;
-        }
-    }
-    return std::ferror(stream.get()) != 0 ? errno : 0;
-}
+using Varo::Model::TextFile;
 
 }  // namespace
 
@@ -66,16 +37,12 @@ Description readDescription(std::string const& file, Varo::Model::ModelUtils::Re
 {
     Description description;
     description.file = file == "-" ? "<stdin>" : file;
-    Progress const progress("Reading " + description.file);
-    std::string text;
-    int const error = readText(file, text);
-    Findings& findings = description.reading.findings;
-    if (error != 0) {
-        std::string const reason = std::strerror(error);
-        findings.push_back(fileFinding(Severity::error, codes::unreadableFile, "It cannot be read: " + reason + "."));
-    } else if (text.empty()) {
-        findings.push_back(fileFinding(Severity::error, codes::emptyFile, "There is nothing in it.",
-                                       "A description begins with <robotDescription> or, in URDF, with <robot>."));
+    Progress const progress("Reading " + visibleName(description.file));
+    TextFile text = file == "-" ? readTextFile(STDIN_FILENO) : readTextFile(file);
+    if (text.obstacle.empty() && text.text.empty()) {
+        description.reading.findings = {
+            fileFinding(Severity::error, codes::emptyFile, "There is nothing in it.",
+                        "A description begins with <robotDescription> or, in URDF, with <robot>.")};
     } else {
         description.reading = Varo::Model::ModelUtils::read(std::move(text), options);
     }

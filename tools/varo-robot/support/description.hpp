@@ -12,7 +12,6 @@ namespace Tool {
 
 /// The codes of what the tool itself has to say of a file.
 namespace codes {
-inline constexpr char unreadableFile[] = "unreadable-file";
 inline constexpr char emptyFile[] = "empty-file";
 // What building a model adds to the findings of the reader.
 inline constexpr char modelNotBuilt[] = "model-not-built";

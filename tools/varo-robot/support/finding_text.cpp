@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -30,16 +31,16 @@ Ink inkOf(Severity severity)
 std::string placeOf(std::string const& file, Finding const& finding)
 {
     if (finding.line == 0) {
-        return file + ": ";
+        return visibleName(file) + ": ";
     }
-    return file + ":" + std::to_string(finding.line) + ":" + std::to_string(finding.column) + ": ";
+    return visibleName(file) + ":" + std::to_string(finding.line) + ":" + std::to_string(finding.column) + ": ";
 }
 
 /// More of one kind than this stand together.
 constexpr std::size_t mostApart = 3;
 constexpr std::size_t widestLine = 80;
 /// More places of one kind than this are cut short.
-constexpr std::size_t mostPlaces = 8;
+constexpr std::size_t mostPlaces = 6;
 
 /// What is the same fault again and again.
 using Kind = std::pair<Severity, std::string>;
@@ -106,9 +107,9 @@ void printFindings(std::ostream& out, std::string const& file, Varo::Model::Find
     for (Finding const& finding : findings) {
         std::string const severity = std::string(nameOf(finding.severity)) + ":";
         out << palette.paint(Ink::heading, placeOf(file, finding)) << palette.paint(inkOf(finding.severity), severity)
-            << ' ' << finding.message << palette.paint(Ink::faint, " [" + finding.code + "]") << '\n';
+            << ' ' << visible(finding.message) << palette.paint(Ink::faint, " [" + finding.code + "]") << '\n';
         if (!finding.hint.empty()) {
-            out << "    " << finding.hint << '\n';
+            out << "    " << visible(finding.hint) << '\n';
         }
     }
 }

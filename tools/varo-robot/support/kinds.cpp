@@ -12,91 +12,81 @@ namespace Tool {
 
 namespace {
 
+using Take = std::function<void(Json&&)>;
+
 template <class Element>
-std::vector<Json> dataOf(std::vector<Element const*> const& elements)
+void visitAll(std::vector<Element const*> const& elements, Take const& take)
 {
     ElementJson json;
-    std::vector<Json> data;
-    data.reserve(elements.size());
     for (Element const* element : elements) {
-        data.push_back(json.of(*element));
+        take(json.of(*element));
     }
-    return data;
 }
 
 template <auto list>
-std::vector<Json> all(Sim::Model const& model)
+void all(Sim::Model const& model, Take const& take)
 {
-    return dataOf((model.*list)());
+    visitAll((model.*list)(), take);
 }
 
 /// Those elements of a list that are of the class.
 template <auto list, class Class>
-std::vector<Json> ofClass(Sim::Model const& model)
+void ofClass(Sim::Model const& model, Take const& take)
 {
     auto elements = (model.*list)();
     auto const isOther = [](auto const* element) { return dynamic_cast<Class const*>(element) == nullptr; };
     elements.erase(std::remove_if(elements.begin(), elements.end(), isOther), elements.end());
-    return dataOf(elements);
+    visitAll(elements, take);
 }
 
-std::vector<Json> wheels(Sim::Model const& model)
+void wheels(Sim::Model const& model, Take const& take)
 {
     std::vector<Sim::Link const*> links = model.links();
     auto const isOther = [](Sim::Link const* link) { return link->type() != Sim::Link::Wheel; };
     links.erase(std::remove_if(links.begin(), links.end(), isOther), links.end());
-    return dataOf(links);
+    visitAll(links, take);
 }
 
-std::vector<Json> groups(Sim::Model const& model)
+void groups(Sim::Model const& model, Take const& take)
 {
-    std::vector<Json> data = dataOf(model.jointGroups());
-    for (Json& group : dataOf(model.actuatorGroups())) {
-        data.push_back(std::move(group));
-    }
-    return data;
+    visitAll(model.jointGroups(), take);
+    visitAll(model.actuatorGroups(), take);
 }
 
 /// What the model has no elements of, but its records do.
-std::vector<Json> chains(Sim::Model const& model)
+void chains(Sim::Model const& model, Take const& take)
 {
-    std::vector<Json> data;
     auto const records = Varo::Model::recordsOf(model.robot());
     for (Varo::Model::ChainConfig const& chain : records->chains) {
-        data.push_back({{"name", chain.name}, {"parent", chain.parentJoint}, {"joints", chain.jointNames}});
+        take({{"name", chain.name}, {"parent", chain.parentJoint}, {"joints", chain.jointNames}});
     }
-    return data;
 }
 
-std::vector<Json> postures(Sim::Model const& model)
+void postures(Sim::Model const& model, Take const& take)
 {
-    std::vector<Json> data;
     for (Varo::Model::PostureConfig const& posture : model.postures()) {
-        Json angles = Json::object();
+        Members angles;
         for (Varo::Model::PostureAngle const& angle : posture.angles) {
-            angles[angle.name] = angle.value;
+            angles.set(angle.name, angle.value);
         }
-        data.push_back({{"name", posture.name}, {"angles", std::move(angles)}});
+        take({{"name", posture.name}, {"angles", angles.take()}});
     }
-    return data;
 }
 
-std::vector<Json> transmissions(Sim::Model const& model)
+void transmissions(Sim::Model const& model, Take const& take)
 {
     using Varo::Model::TransmissionSource;
-    std::vector<Json> data;
     auto const records = Varo::Model::recordsOf(model.robot());
     for (Varo::Model::TransmissionConfig const& driven : records->transmissions) {
-        data.push_back({{"name", driven.name},
-                        {"type", driven.type},
-                        {"joint", driven.joint},
-                        {"actuator", driven.actuator},
-                        {"reduction", driven.reduction},
-                        {"interfaces", driven.interfaces},
-                        {"stateInterfaces", driven.stateInterfaces},
-                        {"source", driven.source == TransmissionSource::ros2Control ? "ros2Control" : "transmission"}});
+        take({{"name", driven.name},
+              {"type", driven.type},
+              {"joint", driven.joint},
+              {"actuator", driven.actuator},
+              {"reduction", driven.reduction},
+              {"interfaces", driven.interfaces},
+              {"stateInterfaces", driven.stateInterfaces},
+              {"source", driven.source == TransmissionSource::ros2Control ? "ros2Control" : "transmission"}});
     }
-    return data;
 }
 
 using Columns = std::vector<Column>;
@@ -200,6 +190,13 @@ std::string plain(std::string const& name)
 }
 
 }  // namespace
+
+std::vector<Json> Kind::elements(Sim::Model const& model) const
+{
+    std::vector<Json> data;
+    visit(model, [&data](Json&& element) { data.push_back(std::move(element)); });
+    return data;
+}
 
 std::vector<Kind> const& kinds()
 {

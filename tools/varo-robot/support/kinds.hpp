@@ -1,6 +1,7 @@
 #ifndef TOOL_SUPPORT_KINDS_HPP
 #define TOOL_SUPPORT_KINDS_HPP
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,10 @@ struct Kind {
     std::string plural;
     std::vector<std::string> otherNames;  ///< that it goes by, too: the singular, and what the library calls it
     std::vector<Column> columns;
-    std::vector<Json> (*elements)(Sim::Model const& model);
+    /// Hands over the JSON of the elements one by one: all of them would take a multiple of the model's memory.
+    void (*visit)(Sim::Model const& model, std::function<void(Json&&)> const& take);
+
+    std::vector<Json> elements(Sim::Model const& model) const;
 };
 
 std::vector<Kind> const& kinds();

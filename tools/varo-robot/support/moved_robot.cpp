@@ -106,11 +106,11 @@ std::vector<Varo::Math::Transform> MovedRobot::linkPoses() const
 
 Json MovedRobot::configurationJson() const
 {
-    Json values = Json::object();
+    Members values;
     for (std::size_t i = 0; i < _configuration.size(); ++i) {
-        values[_kinematics.variables()[i].name] = static_cast<float>(_configuration[i]);
+        values.set(_kinematics.variables()[i].name, static_cast<float>(_configuration[i]));
     }
-    return values;
+    return values.take();
 }
 
 Sim::Frame const& MovedRobot::frameNamed(std::string const& name) const

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "support/terminal.hpp"
+#include "support/visible_text.hpp"
 
 namespace Tool {
 
@@ -48,6 +49,11 @@ Widths fitted(Widths widths, std::size_t total)
 
 void printTable(std::vector<Row> rows, bool wide)
 {
+    for (Row& row : rows) {
+        for (std::string& cell : row) {
+            cell = visible(cell);
+        }
+    }
     Widths const widths = fitted(widthsOf(rows), wide ? unboundedWidth : outputWidth());
     Palette const palette(STDOUT_FILENO);
     for (Row const& row : rows) {

@@ -1,11 +1,16 @@
 #include "meshes/package_folders.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <deque>
+#include <memory>
+#include <new>
 #include <set>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
+#include <dirent.h>
 #include <pugixml.hpp>
 
 namespace Varo::Model {
@@ -17,6 +22,14 @@ namespace fs = std::filesystem;
 /// Longer ones are passed over: who writes them has something else in mind.
 constexpr std::uintmax_t maximumPackageXml = 1024 * 1024;
 
+/// What else is in the way of a folder makes no difference.
+void throwIfNoMemory(std::error_code const& error)
+{
+    if (error == std::errc::not_enough_memory) {
+        throw std::bad_alloc();
+    }
+}
+
 /// The name in the folder's package.xml; empty without one.
 std::string statedNameOf(fs::path const& folder)
 {
@@ -27,7 +40,9 @@ std::string statedNameOf(fs::path const& folder)
         return {};
     }
     pugi::xml_document document;
-    document.load_file(file.c_str(), pugi::parse_trim_pcdata);
+    if (document.load_file(file.c_str(), pugi::parse_trim_pcdata).status == pugi::status_out_of_memory) {
+        throw std::bad_alloc();
+    }
     return document.child("package").child_value("name");
 }
 
@@ -57,6 +72,7 @@ private:
     {
         std::error_code error;
         fs::path const canonical = fs::canonical(folder, error);
+        throwIfNoMemory(error);
         if (!error && _seen.insert(canonical.native()).second) {
             _waiting.emplace_back(folder, depth);
         }
@@ -78,13 +94,21 @@ private:
     std::vector<fs::path> foldersIn(fs::path const& folder)
     {
         std::vector<fs::path> folders;
-        std::error_code error;
-        fs::directory_iterator entry(folder, fs::directory_options::skip_permission_denied, error);
-        for (; !error && entry != fs::directory_iterator() && _entriesLeft > 0;
-             entry.increment(error), --_entriesLeft) {
+        // Not std::filesystem::directory_iterator, which ends the program when there is not enough memory.
+        std::unique_ptr<DIR, int (*)(DIR*)> const entries(::opendir(folder.c_str()), ::closedir);
+        if (entries == nullptr) {
+            throwIfNoMemory({errno, std::generic_category()});
+            return folders;
+        }
+        for (dirent const* entry = nullptr; _entriesLeft > 0 && (entry = ::readdir(entries.get())) != nullptr;) {
+            std::string_view const name = entry->d_name;
+            if (name == "." || name == "..") {
+                continue;
+            }
+            --_entriesLeft;
             std::error_code unreadable;
-            if (entry->path().filename().native().front() != '.' && entry->is_directory(unreadable)) {
-                folders.push_back(entry->path());
+            if (name.front() != '.' && fs::is_directory(folder / name, unreadable)) {
+                folders.push_back(folder / name);
             }
         }
         std::sort(folders.begin(), folders.end());
@@ -103,6 +127,7 @@ fs::path plainPath(fs::path const& folder)
 {
     std::error_code error;
     fs::path const absolute = fs::absolute(folder, error).lexically_normal();
+    throwIfNoMemory(error);
     return absolute.has_filename() ? absolute : absolute.parent_path();
 }
 

@@ -100,6 +100,9 @@ void Names::checkUses(bool afterChains)
 void Names::reportUnknown(Use const& use)
 {
     auto const& [rule, entry, node, attribute] = use;
+    if (_diagnostics.countIfFull(*rule->wants.unknown.code)) {
+        return;
+    }
     std::string hint(rule->wants.unknown.hint);
     bool const isSomethingElse = rule->wants.kinds == names::hasAngle && entry->second != 0;
     if (hint.empty() && !isSomethingElse) {
@@ -112,20 +115,23 @@ void Names::reportUnknown(Use const& use)
                         filledIn(rule->wants.unknown.message, entry->first.first), std::move(hint));
 }
 
-/// The name of such a kind that was probably meant; null when there is none, and when very many were compared before.
+/// The name of such a kind that was probably meant; null when there is none, and when very much was compared before.
 Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
 {
-    if (_comparisonsLeft < _kinds.size()) {
-        return nullptr;
-    }
-    _comparisonsLeft -= _kinds.size();
     ClosestWord closest(written);
     Entry* meant = nullptr;
+    // To look at a name counts, too.
+    std::size_t const looks = _kinds.size();
     for (Entry& entry : _kinds) {
+        if (closest.work() + looks >= _workLeft) {
+            _workLeft = 0;
+            return nullptr;  // not one that happens to come first
+        }
         if ((entry.second & kinds) != 0 && closest.offer(entry.first.first)) {
             meant = &entry;
         }
     }
+    _workLeft -= closest.work() + looks;
     return meant;
 }
 

@@ -71,7 +71,9 @@ private:
     std::pmr::monotonic_buffer_resource _memory;
     Kinds _kinds{&_memory};
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
-    std::size_t _comparisonsLeft = 1000000;
+    /// Of pairs of letters that may be compared to say what was meant. In very large texts the first findings use it
+    /// up.
+    std::size_t _workLeft = 30'000'000;
     bool _isAnyLost = false;
 };
 

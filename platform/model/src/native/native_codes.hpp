@@ -52,6 +52,10 @@ inline constexpr FindingCode jointInNoChain{"joint-in-no-chain", Severity::warni
                                             "A joint stands in no chain, so that no model will contain it."};
 inline constexpr FindingCode jointInTwoChains{"joint-in-two-chains", Severity::warning,
                                               "A joint stands in chains more than once."};
+inline constexpr FindingCode tooManyChainPlaces{
+    "too-many-chain-places", Severity::error,
+    "The chains list joints again and again: more than 1,000,000 places of joints and what is attached to them, and 16 "
+    "for each joint, chain, actuator and sub-joint."};
 inline constexpr FindingCode chainCycle{
     "chain-cycle", Severity::warning,
     "Chains are attached to each other in a cycle, so that none is attached to the root."};
@@ -82,6 +86,7 @@ inline constexpr FindingCode const* ofDialect[] = {
     &danglingReference,
     &jointInNoChain,
     &jointInTwoChains,
+    &tooManyChainPlaces,
     &chainCycle,
     &angleOfUnknown,
 };

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "native/chain_places.hpp"
 #include "native/elements.hpp"
 #include "native/strict_reader.hpp"
 #include "robot/mimics.hpp"
@@ -59,6 +60,7 @@ Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
     reader.read(Native::robotDescriptionElement, root, robot);
     reader.names().checkReferences(robot);
     checkMimics(robot, diagnostics);
+    Native::checkChainPlaces(robot, root, diagnostics);
     return robot;
 }
 

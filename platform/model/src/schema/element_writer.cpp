@@ -1,8 +1,18 @@
 #include "schema/element_writer.hpp"
 
+#include "xml/utf8.hpp"
+
 namespace Varo::Model::Schema {
 
 namespace {
+
+/// Whether it is written as a reference, so that whoever looks at the text sees it, and a terminal that shows it does
+/// not obey it: control characters, separators of lines, and what turns the direction of writing.
+bool isHidden(char32_t c)
+{
+    return (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029 || (c >= 0x202A && c <= 0x202E) ||
+           (c >= 0x2066 && c <= 0x2069);
+}
 
 /// The text as it stands between quotes or tags. White space other than blanks is written as references: readers of XML
 /// change it.
@@ -10,7 +20,16 @@ std::string escaped(std::string_view text)
 {
     std::string result;
     result.reserve(text.size());
-    for (char const c : text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        char const c = text[i];
+        if (static_cast<unsigned char>(c) >= 0x7F) {
+            Utf8Character const character = decodeUtf8(text.substr(i));
+            if (isHidden(character.codePoint) && character.length > 0) {
+                result += "&#" + std::to_string(static_cast<unsigned>(character.codePoint)) + ";";
+                i += character.length - 1;
+                continue;
+            }
+        }
         switch (c) {
         case '&': result += "&amp;"; break;
         case '<': result += "&lt;"; break;

@@ -35,9 +35,10 @@ std::size_t findMeant(Infos<Info> const& rows, std::string_view element, std::st
     std::size_t meant = noRow;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         std::string_view const known = nameOf(rows[i]);
-        bool const isCloser =
-            meant == noRow || spellingDistance(written, known) < spellingDistance(written, nameOf(rows[meant]));
-        meant = isNear(written, known) && isCloser ? i : meant;
+        auto const isCloser = [&] {
+            return meant == noRow || spellingDistance(written, known) < spellingDistance(written, nameOf(rows[meant]));
+        };
+        meant = isNear(written, known) && isCloser() ? i : meant;
     }
     for (Confusion const& confusion : confusions) {
         for (std::size_t i = 0; meant == noRow && i < rows.size(); ++i) {
@@ -93,8 +94,12 @@ bool isDefined(std::string_view element)
 
 bool isNear(std::string_view written, std::string_view known)
 {
+    constexpr std::size_t farthest = 2;
+    if (written.size() > known.size() + farthest || known.size() > written.size() + farthest) {
+        return false;  // without a look at the letters
+    }
     std::size_t const distance = spellingDistance(written, known);
-    return distance <= 1 || (distance == 2 && known.size() >= 6);
+    return distance <= 1 || (distance == farthest && known.size() >= 6);
 }
 
 std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute)

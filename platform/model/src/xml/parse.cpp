@@ -1,6 +1,7 @@
 #include "xml/parse.hpp"
 
 #include <algorithm>
+#include <new>
 #include <string>
 
 #include "finding_codes.hpp"
@@ -62,12 +63,20 @@ bool looksLikePath(std::string_view text)
            std::none_of(text.begin(), text.end(), isControl);
 }
 
+/// By its mark or, without one, by the other half of the "<" that a description begins with.
+bool isUtf16(std::string_view text)
+{
+    using namespace std::string_view_literals;
+    std::string_view const start = text.substr(0, 2);
+    return start == "\xFF\xFE"sv || start == "\xFE\xFF"sv || start == "<\0"sv || start == "\0<"sv;
+}
+
 /// Whether the text is one that can be parsed at all.
 bool checkText(std::string_view text, Diagnostics& diagnostics)
 {
     if (text.size() > ModelUtils::maxTextSize) {
         diagnostics.report(TextOffset(0), codes::textTooLarge, std::string(codes::textTooLarge.meaning));
-    } else if (text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF") {
+    } else if (isUtf16(text)) {
         diagnostics.report(TextOffset(0), codes::badEncoding, "The text is in UTF-16.", "Save it as UTF-8.");
     } else if (looksLikePath(text)) {
         diagnostics.report(TextOffset(0), codes::pathNotText,
@@ -88,6 +97,9 @@ bool parseXml(SourceText const& source, pugi::xml_document& document, Diagnostic
         return false;
     }
     auto const result = document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_utf8);
+    if (result.status == pugi::status_out_of_memory) {
+        throw std::bad_alloc();
+    }
     std::size_t const end = result ? text.size() : static_cast<std::size_t>(result.offset);
     XmlScanner scanner(source.text(), diagnostics);
     scanner.scan(end);

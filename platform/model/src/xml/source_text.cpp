@@ -43,6 +43,9 @@ public:
     void makeFor(std::string_view text)
     {
         std::call_once(_made, [&] {
+            // Lack of memory may have ended an earlier attempt halfway.
+            _positions.clear();
+            _children.clear();
             notePositions(text);
             noteElements(text);
         });

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -31,8 +32,9 @@ private:
     std::vector<float> _jointValues;
 };
 
-/// The name under which the postures of `robot` load. The name carries the postures with it (a `data:` URI), so that
-/// loading needs neither a file nor anything shared; it is empty when the description has no postures.
+/// The name under which the postures of `robot` load. The name carries the postures with it (a `data:` URI), as long as
+/// what they state, so that loading needs neither a file nor anything shared; it is empty when the description has no
+/// postures.
 VAROROBOTMODEL_API std::string getRobotPostureLibraryName(Varo::Model::Robot const& robot);
 
 /// A set of postures loaded by name. Reading one object from several threads is safe, loading into it is not.
@@ -50,11 +52,21 @@ public:
     bool getPostureFromId(int id, Posture& posture, bool completed) const;
 
 private:
+    struct Stated {
+        std::size_t place;  // among the angle names; their number for a surplus value
+        float value;
+    };
     struct Named {
         std::string name;
-        std::vector<float> values;  // NaN where the description says nothing
+        std::vector<Stated> stated;
     };
+
+    bool readNames(std::string_view text);
+    bool readValues(std::string_view text, Named& posture) const;
+    std::vector<float> layOut(Named const& posture) const;
+
     std::vector<Named> _postures;
+    std::vector<std::pair<std::size_t, std::size_t>> _repeated;  // a name's first place, and a later one
     std::size_t _angleCount = 0;
 };
 

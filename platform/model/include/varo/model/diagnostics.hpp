@@ -17,15 +17,17 @@ namespace Varo::Model {
 /// reference to whoever looks.
 ///
 /// Findings may be reported in any order; where they stand is worked out when somebody wants to see them. The first
-/// `maximumFindings` are kept; the others are counted, and stand in the list as one last finding of the highest
-/// severity among them. For one thread at a time.
+/// `maximumFindings`, or fewer for those who want that, are kept; the others are counted, and stand in the list as one
+/// last finding of the highest severity among them. For one thread at a time.
 class VAROROBOTMODEL_API Diagnostics {
 public:
     /// How many findings are kept.
     static constexpr std::size_t maximumFindings = 1000;
 
     /// `source` must outlive the sink. Without a text (null), findings have no place.
-    explicit Diagnostics(SourceText const* source) : _source(source) {}
+    explicit Diagnostics(SourceText const* source, std::size_t mostFindings = maximumFindings)
+        : _source(source), _mostFindings(mostFindings)
+    {}
 
     /// `message` is one sentence, with a full stop, that says what is wrong; `hint` one that says what to do about it.
     /// Texts of the input enter both through `quoted`.
@@ -60,6 +62,7 @@ private:
     Finding overflowFinding() const;
 
     SourceText const* _source;
+    std::size_t _mostFindings;
     std::vector<Record> _records;
     std::size_t _dropped = 0;
     Severity _highestDropped = Severity::note;

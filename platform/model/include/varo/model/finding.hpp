@@ -48,15 +48,20 @@ struct FindingCode {
 class VAROROBOTMODEL_API WithFindings {
 public:
     /// All findings of the text, warnings and notes included; the reference lives as long as any copy of the exception.
-    Findings const& findings() const noexcept { return *_findings; }
+    /// Empty for an exception that was moved from.
+    Findings const& findings() const noexcept;
 
 protected:
     /// What the exception carries; copies share it.
     explicit WithFindings(Findings findings) : _findings(std::make_shared<Findings const>(std::move(findings))) {}
     /// Shares the findings.
     WithFindings(WithFindings const&) = default;
+    /// Takes over the findings.
+    WithFindings(WithFindings&&) = default;
     /// Shares the findings.
     WithFindings& operator=(WithFindings const&) = default;
+    /// Takes over the findings.
+    WithFindings& operator=(WithFindings&&) = default;
     virtual ~WithFindings();
 
 private:
@@ -72,8 +77,12 @@ public:
     {}
     /// Shares the findings.
     DescriptionError(DescriptionError const&) = default;
+    /// Takes over the findings.
+    DescriptionError(DescriptionError&&) = default;
     /// Shares the findings.
     DescriptionError& operator=(DescriptionError const&) = default;
+    /// Takes over the findings.
+    DescriptionError& operator=(DescriptionError&&) = default;
     ~DescriptionError() override;
 };
 

@@ -9,10 +9,12 @@
 #include "varo/export.hpp"
 #include "varo/model/finding.hpp"
 #include "varo/model/robot.hpp"
+#include "varo/model/text_file.hpp"
 
 /// Reading of robot descriptions, and the names under which the device layer knows a robot's devices.
 ///
-/// Pure functions: thread-safe, nothing is kept between calls.
+/// Pure functions, but for those that read a file: thread-safe, nothing is kept between calls. All of them throw
+/// std::bad_alloc when there is not enough memory, and nothing else but what they say.
 namespace Varo::Model::ModelUtils {
 
 /// The longest text that is read, in bytes; longer ones are refused.
@@ -34,6 +36,12 @@ struct ReadOptions {
 
 /// Reads the XML text of a description of either dialect. Never throws for what the text says.
 VAROROBOTMODEL_API Reading read(std::string xml, ReadOptions const& options = {});
+
+/// Reads the file of that name, a regular one or a pipe (`readTextFile`), and then the text in it as `read` does. What
+/// is in the way of the file is a finding without a place.
+VAROROBOTMODEL_API Reading readFile(std::string const& path, ReadOptions const& options = {});
+/// The same of a file that was read before.
+VAROROBOTMODEL_API Reading read(TextFile file, ReadOptions const& options = {});
 
 /// As `read`, for those who only want a robot: throws DescriptionError when the text is refused. Never null.
 VAROROBOTMODEL_API std::unique_ptr<Robot> robotFromXml(std::string const& xml);

@@ -26,9 +26,13 @@ public:
     /// The closest of the offered words; empty when none was close.
     std::string_view word() const { return _word; }
 
+    /// How many pairs of letters were compared, which is what the search takes.
+    std::size_t work() const { return _work; }
+
 private:
     std::string_view _written;
     std::string_view _word;
+    std::size_t _work = 0;
     std::size_t _distance;  ///< words must be closer than this
 };
 

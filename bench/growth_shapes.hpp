@@ -1,0 +1,20 @@
+#ifndef VARO_BENCH_GROWTH_SHAPES_HPP
+#define VARO_BENCH_GROWTH_SHAPES_HPP
+
+#include <string>
+
+namespace Bench {
+
+/// A kind of text that can be made as long as one likes.
+struct Shape {
+    char const* name;
+    std::string (*text)(int elements);
+    bool isAccepted;  ///< whether it is one of a robot, of which commands have something to print
+};
+
+/// All of them; the last has no name.
+extern Shape const growthShapes[];
+
+}  // namespace Bench
+
+#endif
