@@ -56,7 +56,7 @@ Transform poseOf(pugi::xml_node element)
     };
     if (element.attribute("matrix")) {
         std::vector<float> const values = numbers("matrix", 12);
-        std::array<float, 12> rows;
+        std::array<float, 12> rows = {};
         std::copy(values.begin(), values.end(), rows.begin());
         return Transform::fromRows(rows);
     }
