@@ -5,7 +5,7 @@ set(data_folder ${CMAKE_INSTALL_DATADIR}/varorobotmodel)
 install(DIRECTORY robots schema DESTINATION ${data_folder})
 install(FILES package.xml DESTINATION ${data_folder})  # by which workspaces of colcon know it
 
-install(FILES README.md CONTRIBUTING.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CONTRIBUTING.md CHANGELOG.md SECURITY.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.png)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN *.cpp)
 file(RELATIVE_PATH data_from_documents /${CMAKE_INSTALL_DOCDIR} /${data_folder})
