@@ -79,7 +79,7 @@ TEST(FormatDocuments, SchemaAndReaderAcceptTheExampleRobots)
 TEST(FormatDocuments, SchemaRefusesWhatTheReaderRefuses)
 {
     // What XSD 1.0 cannot say, as the documentation lists it.
-    std::set<std::string> const beyondSchema = {"actuator_cycle",    "matrix_beside_xyz",  "missing_geometry",
+    std::set<std::string> const beyondSchema = {"actuator_cycle",   "matrix_beside_xyz",  "missing_geometry",
                                                 "number_too_large", "repeated_placement", "two_geometries"};
     auto const files = Tests::filesIn(tree + "/tests/model/data", ".xml");
     EXPECT_GE(files.size(), 15U);
