@@ -43,10 +43,16 @@ void* orThrow(void* memory)
 
 }  // namespace
 
-// As the standard library has them, but counted; its other forms call these.
+// As the standard library has them, but counted; its other forms call these, save the one that does not throw when a
+// sanitizer has one of its own.
 [[gnu::noinline]] void* operator new(std::size_t size)
 {
     return orThrow(counted(plain, size, 0));
+}
+
+[[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const&) noexcept
+{
+    return counted(plain, size, 0);
 }
 
 [[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment)
