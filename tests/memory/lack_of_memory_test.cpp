@@ -2,7 +2,6 @@
 #include <typeinfo>
 
 #include <gtest/gtest.h>
-#include <pugixml.hpp>
 
 #include "allocations.hpp"
 #include "files.hpp"
@@ -116,9 +115,6 @@ void expectBadAllocs(Work const& work)
 
 class LackOfMemory : public testing::TestWithParam<char const*> {
 protected:
-    static void SetUpTestSuite() { pugi::set_memory_management_functions(Tests::allocate, Tests::deallocate); }
-    static void TearDownTestSuite() { pugi::set_memory_management_functions(std::malloc, std::free); }
-
     std::string const file = std::string(VARO_SOURCE_DIR) + "/" + GetParam();
     std::string const text = Tests::readFile(file);
 };

@@ -17,7 +17,7 @@
 #include "urdf/urdf_writer.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/spelling.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 #include "xml/parse.hpp"
 
 namespace Varo::Model::ModelUtils {
@@ -26,12 +26,12 @@ namespace {
 
 struct Dialect {
     std::string_view root;
-    Records (*read)(pugi::xml_node root, Diagnostics& diagnostics);
+    Records (*read)(XmlNode root, Diagnostics& diagnostics);
     Range<PartPlace> const& parts;
 };
 constexpr Dialect dialects[] = {{"robotDescription", readNative, nativeParts}, {"robot", readUrdf, urdfParts}};
 
-void reportUnknownRoot(pugi::xml_node root, Diagnostics& diagnostics)
+void reportUnknownRoot(XmlNode root, Diagnostics& diagnostics)
 {
     ClosestWord closest(root.name());
     for (Dialect const& dialect : dialects) {
@@ -48,11 +48,11 @@ void reportUnknownRoot(pugi::xml_node root, Diagnostics& diagnostics)
 std::unique_ptr<Robot> readAnyDialect(std::shared_ptr<SourceText const> const& source, Diagnostics& diagnostics,
                                       ReadOptions const& options)
 {
-    pugi::xml_document document;
+    XmlDocument document;
     if (!parseXml(*source, document, diagnostics)) {
         return nullptr;
     }
-    pugi::xml_node const root = document.document_element();
+    XmlNode const root = document.root();
     if (reportOtherFormat(root, diagnostics)) {
         return nullptr;
     }

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "finding_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model {
 
@@ -30,10 +30,10 @@ bool isOneOf(std::string_view name, std::initializer_list<std::string_view> name
 }
 
 /// SRDF says of a robot that URDF describes which of its joints belong together.
-bool isSemantic(pugi::xml_node root)
+bool isSemantic(XmlNode root)
 {
     auto const children = root.children();
-    return !root.child("link") && std::any_of(children.begin(), children.end(), [](pugi::xml_node child) {
+    return !root.child("link") && std::any_of(children.begin(), children.end(), [](XmlNode child) {
         return isOneOf(child.name(), {"group", "group_state", "end_effector", "virtual_joint", "passive_joint",
                                       "disable_collisions", "enable_collisions", "disable_default_collisions"});
     });
@@ -44,51 +44,32 @@ bool hasExpression(std::string_view text)
     return text.find("${") != text.npos || text.find("$(") != text.npos;
 }
 
-/// What only xacro has a use for: the first such place.
-class XacroFinder {
-public:
-    /// Nowhere when nothing in the element, or below it, is for xacro.
-    TextOffset find(pugi::xml_node root)
-    {
-        pugi::xml_node node = root;
-        while (node && !isFor(node)) {
-            node = next(node, root);
-        }
-        return _found;
+/// Where the node is for xacro, which alone has a use for such names and expressions; nowhere when it is not.
+TextOffset placeForXacro(XmlNode node)
+{
+    if (node.isText()) {
+        return !node.isCharacterData() && hasExpression(node.text()) ? at(node.parent()) : TextOffset();
     }
-
-private:
-    bool isFor(pugi::xml_node node)
-    {
-        bool const isElement = std::string_view(node.name()).substr(0, 6) == "xacro:";
-        bool const isText = node.type() == pugi::node_pcdata && hasExpression(node.value());
-        if (isElement || isText) {
-            _found = at(isText ? node.parent() : node);
-            return true;
-        }
-        for (pugi::xml_attribute const attribute : node.attributes()) {
-            if (hasExpression(attribute.value())) {
-                _found = at(node, attribute);
-                return true;
-            }
-        }
-        return false;
+    if (node.name().substr(0, 6) == "xacro:") {
+        return at(node);
     }
-
-    /// In the order of the text, without recursion.
-    static pugi::xml_node next(pugi::xml_node node, pugi::xml_node root)
-    {
-        if (pugi::xml_node const child = node.first_child()) {
-            return child;
+    for (XmlAttribute const attribute : node.attributes()) {
+        if (hasExpression(attribute.value())) {
+            return at(node, attribute);
         }
-        while (node != root && !node.next_sibling()) {
-            node = node.parent();
-        }
-        return node == root ? pugi::xml_node() : node.next_sibling();
     }
+    return {};
+}
 
-    TextOffset _found;
-};
+/// The first place that is for xacro; nowhere when there is none.
+TextOffset findXacro(XmlNode root)
+{
+    TextOffset found;
+    for (XmlNode const node : root.subtree()) {
+        found = found.isKnown() ? found : placeForXacro(node);
+    }
+    return found;
+}
 
 /// Colons are rarer than tags, and so are searched for.
 bool hasXacroElement(std::string_view text)
@@ -110,7 +91,7 @@ bool mayBeXacro(std::string_view text)
 
 }  // namespace
 
-bool reportOtherFormat(pugi::xml_node root, Diagnostics& diagnostics)
+bool reportOtherFormat(XmlNode root, Diagnostics& diagnostics)
 {
     std::string_view const name = root.name();
     auto const* const format =
@@ -119,11 +100,10 @@ bool reportOtherFormat(pugi::xml_node root, Diagnostics& diagnostics)
         diagnostics.report(at(root), codes::otherFormat, format->message, whatIsRead);
         return true;
     }
-    TextOffset const xacro = name != "robotDescription" && mayBeXacro(diagnostics.source()->text())
-                                 ? XacroFinder().find(root)
-                                 : TextOffset();
+    TextOffset const xacro =
+        name != "robotDescription" && mayBeXacro(diagnostics.source()->text()) ? findXacro(root) : TextOffset();
     if (xacro.isKnown()) {
-        diagnostics.report(xacro, codes::xacroFile, "This is a xacro file, of which URDF has yet to be made.",
+        diagnostics.report(xacro, codes::xacroFile, "This is a xacro file, not yet expanded to URDF.",
                            "Expand it first: xacro robot.urdf.xacro > robot.urdf");
     } else if (name == "robot" && isSemantic(root)) {
         diagnostics.report(

@@ -11,7 +11,11 @@
 #include <utility>
 
 #include <dirent.h>
-#include <pugixml.hpp>
+
+#include "schema/values.hpp"
+#include "varo/model/diagnostics.hpp"
+#include "varo/model/text_file.hpp"
+#include "xml/parse.hpp"
 
 namespace Varo::Model {
 
@@ -39,11 +43,12 @@ std::string statedNameOf(fs::path const& folder)
     if (!fs::is_regular_file(file, error) || fs::file_size(file, error) > maximumPackageXml || error) {
         return {};
     }
-    pugi::xml_document document;
-    if (document.load_file(file.c_str(), pugi::parse_trim_pcdata).status == pugi::status_out_of_memory) {
-        throw std::bad_alloc();
-    }
-    return document.child("package").child_value("name");
+    TextFile const text = readTextFile(file.string());
+    SourceText const source(text.text);
+    Diagnostics unseen(nullptr, 0);
+    XmlDocument document;
+    XmlNode const name = parseXml(source, document, unseen) ? document.root().child("name") : XmlNode();
+    return std::string(document.root().name() == "package" ? Schema::trimmed(name.text()) : std::string_view());
 }
 
 /// What is walked through breadth first, each folder once however many links lead to it.

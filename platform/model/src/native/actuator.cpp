@@ -6,6 +6,7 @@
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 #include "native/shapes.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -41,7 +42,7 @@ constexpr Element<SubActuatorConfig> followerElement{
     "jointRef", "a joint that is defined elsewhere as the next of the group", followerAttributes};
 
 template <auto const& element>
-void readMember(ElementReader& reader, pugi::xml_node node, Group& group)
+void readMember(ElementReader& reader, XmlNode node, Group& group)
 {
     SubActuatorConfig subJoint;
     reader.read(element, node, subJoint);

@@ -8,6 +8,7 @@
 #include "native/strict_reader.hpp"
 #include "robot/mimics.hpp"
 #include "schema/element_writer.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -168,7 +169,7 @@ std::string_view amendmentName()
     return amendmentElement.name;
 }
 
-void readAmendment(pugi::xml_node node, Diagnostics& diagnostics, Records& robot)
+void readAmendment(XmlNode node, Diagnostics& diagnostics, Records& robot)
 {
     robot.joints.sortNames();
     robot.sensors.sortNames();
@@ -177,7 +178,7 @@ void readAmendment(pugi::xml_node node, Diagnostics& diagnostics, Records& robot
     reader.names().addAll(robot);
     reader.names().checkReferences(robot);
     auto const joints = node.children("joint");
-    if (std::any_of(joints.begin(), joints.end(), [](pugi::xml_node joint) { return !joint.child("mimic").empty(); })) {
+    if (std::any_of(joints.begin(), joints.end(), [](XmlNode joint) { return bool(joint.child("mimic")); })) {
         checkMimics(robot, diagnostics);
     }
 }

@@ -5,10 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include <pugixml.hpp>
-
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/records.hpp"
+#include "xml/document.hpp"
 
 /// What texts of other dialects say of a robot in the words of the native one, because they have none of their own.
 namespace Varo::Model::Native {
@@ -35,7 +34,7 @@ Amendment amendmentOf(Records const& wanted, Records given, std::string_view pre
 std::string_view amendmentName();
 
 /// Changes the records as the element says.
-void readAmendment(pugi::xml_node node, Diagnostics& diagnostics, Records& robot);
+void readAmendment(XmlNode node, Diagnostics& diagnostics, Records& robot);
 
 }  // namespace Varo::Model::Native
 

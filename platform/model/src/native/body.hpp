@@ -6,6 +6,7 @@
 
 #include "native/schema.hpp"
 #include "schema/children.hpp"
+#include "xml/document.hpp"
 
 /// What several kinds of elements say in the same way: mass, free attributes and mirror. The record only has to name
 /// its members as the others do.
@@ -50,7 +51,7 @@ inline constexpr Element<Mirror> mirrorElement{"mirror", "the element's partner 
                                                mirrorAttributes<rule>};
 
 template <class Record, NameRule const& rule>
-void readMirror(ElementReader& reader, pugi::xml_node node, Record& record)
+void readMirror(ElementReader& reader, XmlNode node, Record& record)
 {
     Mirror mirror;
     reader.read(mirrorElement<rule>, node, mirror);

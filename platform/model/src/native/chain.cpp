@@ -4,6 +4,7 @@
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 #include "schema/children.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -15,7 +16,7 @@ constexpr Attribute<std::string> jointRefAttributes[] = {
 constexpr Element<std::string> jointRefElement{"jointRef", "the next joint of the chain, from the parent outward",
                                                jointRefAttributes};
 
-void readJointRef(ElementReader& reader, pugi::xml_node node, ChainConfig& chain)
+void readJointRef(ElementReader& reader, XmlNode node, ChainConfig& chain)
 {
     reader.read(jointRefElement, node, chain.jointNames.emplace_back());
     chain.jointOffsets.push_back(at(node));

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "native/native_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -67,7 +67,7 @@ private:
 
 }  // namespace
 
-void checkChainPlaces(Records const& robot, pugi::xml_node root, Diagnostics& diagnostics)
+void checkChainPlaces(Records const& robot, XmlNode root, Diagnostics& diagnostics)
 {
     std::uint64_t const most =
         mostChainPlaces + chainPlacesOfRecord * (robot.joints.size() + robot.chains.size() + robot.actuators.size() +

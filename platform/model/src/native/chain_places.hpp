@@ -3,10 +3,9 @@
 
 #include <cstddef>
 
-#include <pugixml.hpp>
-
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/records.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -16,7 +15,7 @@ inline constexpr std::size_t chainPlacesOfRecord = 16;
 
 /// Reports a robot whose chains list more places than that. Each chain that lists a joint lists all that is attached to
 /// the joint, too, and models have each of them again: a small text could take any time and memory.
-void checkChainPlaces(Records const& robot, pugi::xml_node root, Diagnostics& diagnostics);
+void checkChainPlaces(Records const& robot, XmlNode root, Diagnostics& diagnostics);
 
 }  // namespace Varo::Model::Native
 

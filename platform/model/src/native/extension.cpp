@@ -1,11 +1,12 @@
+#include <cstddef>
 #include <iterator>
+#include <optional>
 #include <string>
-
-#include <pugixml.hpp>
 
 #include "native/elements.hpp"
 #include "schema/children.hpp"
 #include "varo/model/source_text.hpp"
+#include "xml/document.hpp"
 #include "xml/markup.hpp"
 #include "xml/parse.hpp"
 
@@ -13,28 +14,28 @@ namespace Varo::Model::Native {
 
 namespace {
 
-bool parses(std::string text, pugi::xml_document& document)
+/// How many attributes the root element of the text has; none for a text that XML forbids.
+std::optional<std::ptrdiff_t> countAttributes(std::string text)
 {
     SourceText const source(std::move(text));
     Diagnostics diagnostics(&source);
-    return parseXml(source, document, diagnostics) && !diagnostics.hasErrors();
+    XmlDocument document;
+    if (!parseXml(source, document, diagnostics) || diagnostics.hasErrors()) {
+        return {};
+    }
+    auto const attributes = document.root().attributes();
+    return std::distance(attributes.begin(), attributes.end());
 }
 
 bool isElement(std::string_view text)
 {
-    pugi::xml_document document;
     return markupAt(text, 0) == Markup::startTag && elementAt(text, 0).size() == text.size() && text.back() == '>' &&
-           parses(std::string(text), document);
+           countAttributes(std::string(text));
 }
 
 bool isAttribute(std::string_view text)
 {
-    pugi::xml_document document;
-    if (attributeAt(text, 0).size() != text.size() || !parses("<a " + std::string(text) + "/>", document)) {
-        return false;
-    }
-    auto const attributes = document.document_element().attributes();
-    return std::distance(attributes.begin(), attributes.end()) == 1;
+    return attributeAt(text, 0).size() == text.size() && countAttributes("<a " + std::string(text) + "/>") == 1;
 }
 
 /// What can be written back into another text without breaking that.
@@ -65,7 +66,7 @@ constexpr Attribute<ExtensionReading> attributes[] = {
 constexpr Attribute<ExtensionReading> text =
     required<&ExtensionReading::text, MarkupText, ExtensionReading>("", "", "the element or attribute itself");
 
-bool hasManyOwners(ExtensionReading const& extension, pugi::xml_node /*node*/)
+bool hasManyOwners(ExtensionReading const& extension, XmlNode /*node*/)
 {
     return !extension.link.empty() + !extension.joint.empty() + !extension.sensor.empty() > 1;
 }

@@ -5,6 +5,7 @@
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 #include "native/shapes.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -35,10 +36,10 @@ constexpr auto meshRpyRow = ofMesh<&JointConfig::meshOrientation, Vector3, Recor
     "meshRpy", "0 0 0", "rad", "roll, pitch and yaw of the mesh of `mesh`, in the link frame");
 
 template <class Record>
-bool placesNoMesh(Record const& body, pugi::xml_node node)
+bool placesNoMesh(Record const& body, XmlNode node)
 {
     bool const placesMesh = node.attribute("meshXyz") || node.attribute("meshRpy");
-    bool const hasMesh = *node.attribute("mesh").value() != '\0';
+    bool const hasMesh = !node.attribute("mesh").value().empty();
     return placesMesh && !hasMesh && firstMeshOf(body.shapes) != nullptr;
 }
 template <class Record>

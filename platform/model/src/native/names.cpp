@@ -5,7 +5,7 @@
 #include "robot/cycles.hpp"
 #include "schema/values.hpp"
 #include "varo/model/spelling.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -19,18 +19,18 @@ std::string filledIn(std::string_view message, std::string_view name)
 
 }  // namespace
 
-Names::Entry& Names::entryOf(std::string_view name, void const* scope)
+Names::Entry& Names::entryOf(std::string_view name, std::size_t scope)
 {
     return *_kinds.try_emplace(Key(name, scope)).first;
 }
 
-void Names::use(NameRule const& rule, std::string_view name, pugi::xml_node node, pugi::xml_attribute attribute)
+void Names::use(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute)
 {
     std::int32_t number = 0;
     if (rule.gives.isNumber && parseInteger(name, number)) {
         name = keep(std::to_string(number));
     }
-    Entry& entry = entryOf(name, rule.gives.isLocal ? node.parent().internal_object() : nullptr);
+    Entry& entry = entryOf(name, rule.gives.isLocal ? node.parent().id() : wholeText);
     if ((entry.second & rule.gives.kinds) != 0) {
         _diagnostics.report(at(node, attribute), *rule.gives.twice.code, filledIn(rule.gives.twice.message, name),
                             std::string(rule.gives.twice.hint));
@@ -138,11 +138,11 @@ Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
 void Names::checkCycle(names::Cycle const& cycle)
 {
     std::vector<Use const*> attached;
-    std::unordered_map<void const*, std::size_t> indexOfNode;
+    std::unordered_map<std::size_t, std::size_t> indexOfNode;
     std::unordered_map<Entry const*, std::size_t> owners;  // of the names that something is attached to
     for (Use const& use : _uses) {
         if (use.rule == cycle.parent) {
-            indexOfNode.emplace(use.node.internal_object(), attached.size());
+            indexOfNode.emplace(use.node.id(), attached.size());
             owners.emplace(use.entry, none);
             attached.push_back(&use);
         }
@@ -150,8 +150,8 @@ void Names::checkCycle(names::Cycle const& cycle)
     for (Use const& use : _uses) {
         auto const owner = use.rule == cycle.part ? owners.find(use.entry) : owners.end();
         if (owner != owners.end() && owner->second == none) {
-            auto const own = indexOfNode.find(use.node.internal_object());
-            auto const found = own != indexOfNode.end() ? own : indexOfNode.find(use.node.parent().internal_object());
+            auto const own = indexOfNode.find(use.node.id());
+            auto const found = own != indexOfNode.end() ? own : indexOfNode.find(use.node.parent().id());
             owner->second = found == indexOfNode.end() ? none : found->second;
         }
     }
@@ -161,7 +161,7 @@ void Names::checkCycle(names::Cycle const& cycle)
     }
     for (Model::Cycle const& found : findCycles(parents)) {
         Use const& first = *attached[found.front()];
-        pugi::xml_node const node = first.node;
+        XmlNode const node = first.node;
         _diagnostics.report(at(node, first.attribute), *cycle.complaint.code,
                             filledIn(cycle.complaint.message, node.attribute("name").value()),
                             std::string(cycle.complaint.hint));

@@ -11,11 +11,10 @@
 #include <utility>
 #include <vector>
 
-#include <pugixml.hpp>
-
 #include "native/name_rules.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/records.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -25,7 +24,7 @@ public:
     explicit Names(Diagnostics& diagnostics) : _diagnostics(diagnostics) {}
 
     /// A name as it stands in the attribute; its characters must outlive this. Null for an attribute that is left out.
-    void use(NameRule const& rule, std::string_view name, pugi::xml_node node, pugi::xml_attribute attribute);
+    void use(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute);
 
     /// The characters of a name that does not stand in the text itself.
     std::string_view keep(std::string name) { return _kept.emplace_back(std::move(name)); }
@@ -43,12 +42,13 @@ public:
     void checkReferences(Records const& robot);
 
 private:
-    /// The name and within what it differs; null for the whole text.
-    using Key = std::pair<std::string_view, void const*>;
+    static constexpr std::size_t wholeText = 0;
+    /// The name and the number of the element within which it differs from others.
+    using Key = std::pair<std::string_view, std::size_t>;
     struct Hash {
         std::size_t operator()(Key const& key) const
         {
-            return std::hash<std::string_view>()(key.first) ^ std::hash<void const*>()(key.second);
+            return std::hash<std::string_view>()(key.first) ^ std::hash<std::size_t>()(key.second);
         }
     };
     using Kinds = std::pmr::unordered_map<Key, unsigned, Hash>;
@@ -56,11 +56,11 @@ private:
     struct Use {
         NameRule const* rule;
         Entry* entry;
-        pugi::xml_node node;
-        pugi::xml_attribute attribute;
+        XmlNode node;
+        XmlAttribute attribute;
     };
 
-    Entry& entryOf(std::string_view name, void const* scope = nullptr);
+    Entry& entryOf(std::string_view name, std::size_t scope = wholeText);
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
     Entry* findMeant(std::string_view written, unsigned kinds);

@@ -6,6 +6,7 @@
 #include "native/elements.hpp"
 #include "native/strict_reader.hpp"
 #include "robot/mimics.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model {
 
@@ -39,7 +40,7 @@ constexpr PartPlace parts[] = {
 };
 
 template <class Config>
-void reserve(Table<Config>& table, pugi::xml_node root, char const* element)
+void reserve(Table<Config>& table, XmlNode root, char const* element)
 {
     auto const elements = root.children(element);
     table.reserve(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
@@ -49,7 +50,7 @@ void reserve(Table<Config>& table, pugi::xml_node root, char const* element)
 
 Range<PartPlace> const nativeParts = parts;
 
-Records readNative(pugi::xml_node root, Diagnostics& diagnostics)
+Records readNative(XmlNode root, Diagnostics& diagnostics)
 {
     Records robot;
     robot.dialect = "native";

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "varo/math/rpy.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -21,7 +21,7 @@ constexpr Attribute<Pose> attributes[] = {
                             "homogeneous matrix, row by row"),
 };
 
-bool saysPoseTwice(Pose const& /*pose*/, pugi::xml_node node)
+bool saysPoseTwice(Pose const& /*pose*/, XmlNode node)
 {
     return node.attribute("matrix") && (node.attribute("xyz") || node.attribute("rpy"));
 }
@@ -107,7 +107,7 @@ bool findAngles(Transform const& transform, Position3D& rpy)
 
 }  // namespace
 
-Transform readPose(ElementReader& reader, Element<Pose> const& element, pugi::xml_node node)
+Transform readPose(ElementReader& reader, Element<Pose> const& element, XmlNode node)
 {
     Pose pose;
     reader.read(element, node, pose);

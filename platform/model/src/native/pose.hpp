@@ -6,6 +6,7 @@
 #include "native/schema.hpp"
 #include "schema/element_reader.hpp"
 #include "schema/element_writer.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -16,7 +17,7 @@ struct Pose {
 };
 
 /// The pose that an element of the pose family says; the identity when it says nothing or something wrong.
-Transform readPose(ElementReader& reader, Element<Pose> const& element, pugi::xml_node node);
+Transform readPose(ElementReader& reader, Element<Pose> const& element, XmlNode node);
 
 /// Writes the pose, unless it is the identity: as position and angles when reading these gives the same bits, and as a
 /// matrix otherwise.
@@ -35,12 +36,11 @@ extern Element<Pose> const subJointPlacementElement;
 template <auto member, auto const& element, class Parent = RecordOf<member>>
 constexpr Child<Parent> poseChild()
 {
-    return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                parent.*member = readPose(reader, element, node);
-            },
-            [](ElementWriter& writer, Parent const& parent) { writePose(writer, element, parent.*member); },
-            [](Parent& parent) { parent.*member = Transform(); }};
+    return {
+        {&element, Occurrence::optional},
+        [](ElementReader& reader, XmlNode node, Parent& parent) { parent.*member = readPose(reader, element, node); },
+        [](ElementWriter& writer, Parent const& parent) { writePose(writer, element, parent.*member); },
+        [](Parent& parent) { parent.*member = Transform(); }};
 }
 
 }  // namespace Varo::Model::Native

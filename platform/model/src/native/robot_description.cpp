@@ -9,6 +9,7 @@
 #include "native/shapes.hpp"
 #include "native/strict_reader.hpp"
 #include "schema/children.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -23,7 +24,7 @@ constexpr Attribute<PrettyName> prettyNameText = required<&PrettyName::second, L
 constexpr Element<PrettyName> prettyNameElement{
     "prettyName", "a name of the robot for people", prettyNameAttributes, {}, {}, &prettyNameText};
 
-void readRoot(ElementReader& reader, pugi::xml_node node, Records& robot)
+void readRoot(ElementReader& reader, XmlNode node, Records& robot)
 {
     reader.read(rootElement, node, robot.root);
     robot.root.textOffset = robot.root.bodyOffset = at(node);
@@ -34,7 +35,7 @@ void writeRoot(ElementWriter& writer, Records const& robot)
     writer.write(rootElement, robot.root);
 }
 
-void readJoint(ElementReader& reader, pugi::xml_node node, Records& robot)
+void readJoint(ElementReader& reader, XmlNode node, Records& robot)
 {
     JointReading joint;
     reader.read(jointElement, node, joint);
@@ -53,7 +54,7 @@ void writeJoints(ElementWriter& writer, Records const& robot)
     }
 }
 
-void readSensor(ElementReader& reader, pugi::xml_node node, Records& robot)
+void readSensor(ElementReader& reader, XmlNode node, Records& robot)
 {
     SensorConfig sensor;
     reader.read(sensorElement, node, sensor);
@@ -65,7 +66,7 @@ void readSensor(ElementReader& reader, pugi::xml_node node, Records& robot)
     robot.sensors.add(std::move(sensor));
 }
 
-void readExtension(ElementReader& reader, pugi::xml_node node, Records& robot)
+void readExtension(ElementReader& reader, XmlNode node, Records& robot)
 {
     ExtensionReading extension;
     reader.read(extensionElement, node, extension);
@@ -94,7 +95,7 @@ void writeExtensions(ElementWriter& writer, Records const& robot)
 
 /// The record that an amendment is of; null, and reported, where there is none.
 template <class Config>
-Config* findAmended(Table<Config>& table, pugi::xml_node node, Diagnostics& diagnostics)
+Config* findAmended(Table<Config>& table, XmlNode node, Diagnostics& diagnostics)
 {
     std::string_view const name = node.attribute("name").value();
     if (Config const* const found = table.find(name)) {
@@ -106,7 +107,7 @@ Config* findAmended(Table<Config>& table, pugi::xml_node node, Diagnostics& diag
 }
 
 template <class Body>
-void amendBody(ElementReader& reader, Element<Body> const& element, pugi::xml_node node, Body& body)
+void amendBody(ElementReader& reader, Element<Body> const& element, XmlNode node, Body& body)
 {
     if (node.attribute("mesh")) {
         forgetImpliedMesh(body);
@@ -114,12 +115,12 @@ void amendBody(ElementReader& reader, Element<Body> const& element, pugi::xml_no
     static_cast<StrictReader&>(reader).amend(element, node, body);
 }
 
-void amendRoot(ElementReader& reader, pugi::xml_node node, Records& robot)
+void amendRoot(ElementReader& reader, XmlNode node, Records& robot)
 {
     amendBody(reader, rootElement, node, robot.root);
 }
 
-void amendJoint(ElementReader& reader, pugi::xml_node node, Records& robot)
+void amendJoint(ElementReader& reader, XmlNode node, Records& robot)
 {
     JointConfig* const config = findAmended(robot.joints, node, reader.diagnostics());
     if (config == nullptr) {
@@ -133,7 +134,7 @@ void amendJoint(ElementReader& reader, pugi::xml_node node, Records& robot)
     *config = static_cast<JointConfig&&>(joint);
 }
 
-void amendSensor(ElementReader& reader, pugi::xml_node node, Records& robot)
+void amendSensor(ElementReader& reader, XmlNode node, Records& robot)
 {
     auto& strict = static_cast<StrictReader&>(reader);
     SensorConfig* const sensor = findAmended(robot.sensors, node, reader.diagnostics());

@@ -1,11 +1,10 @@
 #ifndef VARO_MODEL_NATIVE_SCHEMA_HPP
 #define VARO_MODEL_NATIVE_SCHEMA_HPP
 
-#include <pugixml.hpp>
-
 #include "native/name_rules.hpp"
 #include "native/native_codes.hpp"
 #include "schema/schema.hpp"
+#include "xml/document.hpp"
 
 /// What the tables of the native dialect have of their own.
 namespace Varo::Model::Native {
@@ -17,7 +16,7 @@ template <auto lower, auto upper, class Record = RecordOf<lower>>
 constexpr Rule<Record> inOrder(char const* attribute)
 {
     return {attribute,
-            [](Record const& record, pugi::xml_node /*node*/) { return record.*lower > record.*upper; },
+            [](Record const& record, XmlNode /*node*/) { return record.*lower > record.*upper; },
             {&codes::reversedLimits, "The limit min is greater than max."}};
 }
 

@@ -5,6 +5,7 @@
 #include "native/body.hpp"
 #include "native/elements.hpp"
 #include "native/pose.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -19,7 +20,7 @@ constexpr Attribute<std::string> keyText = whole<Line>("", "a device key");
 constexpr Element<std::string> keyElement{"key",   "a key under which the device layer knows the sensor", {}, {}, {},
                                           &keyText};
 
-void readSettings(ElementReader& reader, pugi::xml_node node, SensorConfig& sensor)
+void readSettings(ElementReader& reader, XmlNode node, SensorConfig& sensor)
 {
     SensorSettings settings;
     reader.read(sensorSettingsElement, node, settings);

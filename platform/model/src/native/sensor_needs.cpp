@@ -8,7 +8,7 @@
 #include "native/native_codes.hpp"
 #include "range.hpp"
 #include "schema/values.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -101,7 +101,7 @@ constexpr SensorNeeds allNeeds[] = {
     {led, ledTexts},        {sonar, {}, sonarKeys},
 };
 
-void checkText(SensorText const& text, SensorConfig const& sensor, pugi::xml_node node, Diagnostics& diagnostics)
+void checkText(SensorText const& text, SensorConfig const& sensor, XmlNode node, Diagnostics& diagnostics)
 {
     auto const stated = sensor.attributes.find(std::string(text.name));
     if (stated == sensor.attributes.end()) {
@@ -112,7 +112,10 @@ void checkText(SensorText const& text, SensorConfig const& sensor, pugi::xml_nod
                                std::string(text.hint));
         }
     } else if (!text.isRight(stated->second)) {
-        pugi::xml_node const child = node.find_child_by_attribute("attribute", "name", stated->first.c_str());
+        auto const attributes = node.children("attribute");
+        XmlNode const child = *std::find_if(attributes.begin(), attributes.end(), [&](XmlNode each) {
+            return each.attribute("name").value() == stated->first;
+        });
         diagnostics.report(at(child, "value"), codes::wrongSensorText,
                            "The text " + quoted(text.name) + ", " + quoted(stated->second) + ", is not " +
                                std::string(text.rightForm) + ".",
@@ -120,7 +123,7 @@ void checkText(SensorText const& text, SensorConfig const& sensor, pugi::xml_nod
     }
 }
 
-void checkKeys(Range<std::size_t> counts, SensorConfig const& sensor, pugi::xml_node node, Diagnostics& diagnostics)
+void checkKeys(Range<std::size_t> counts, SensorConfig const& sensor, XmlNode node, Diagnostics& diagnostics)
 {
     std::string known;
     for (std::size_t const count : counts) {
@@ -137,7 +140,7 @@ void checkKeys(Range<std::size_t> counts, SensorConfig const& sensor, pugi::xml_
 
 }  // namespace
 
-void checkNeeds(SensorConfig const& sensor, pugi::xml_node node, Diagnostics& diagnostics)
+void checkNeeds(SensorConfig const& sensor, XmlNode node, Diagnostics& diagnostics)
 {
     for (SensorNeeds const& needs : allNeeds) {
         if (needs.type != sensor.type) {

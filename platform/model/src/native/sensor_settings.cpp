@@ -2,6 +2,7 @@
 
 #include "native/elements.hpp"
 #include "schema/children.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -48,7 +49,7 @@ constexpr Child<SensorSettings> part()
 {
     using Part = RecordOfElement<element>;
     return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, SensorSettings& settings) {
+            [](ElementReader& reader, XmlNode node, SensorSettings& settings) {
                 Part part;
                 reader.read(element, node, part);
                 settings.*member = std::move(part);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "xml/document.hpp"
+
 namespace Varo::Model::Native {
 
 namespace {
@@ -20,7 +22,7 @@ template <class Shape>
 constexpr Element<Shape> placementElement{"placement", "the shape's frame, in the link frame",
                                           placementAttributes<Shape>};
 
-bool isMirrored(Geometry const& mesh, pugi::xml_node /*node*/)
+bool isMirrored(Geometry const& mesh, XmlNode /*node*/)
 {
     return std::min({mesh.scale.x, mesh.scale.y, mesh.scale.z}) < 0.0F;
 }
@@ -69,9 +71,9 @@ bool isGeometry(std::string_view name)
 }
 
 /// The second of two of one kind is told of by the reader of elements.
-bool followsAnother(pugi::xml_node geometry)
+bool followsAnother(XmlNode geometry)
 {
-    for (auto other = geometry.previous_sibling(); other; other = other.previous_sibling()) {
+    for (XmlNode other = geometry.previous(); other; other = other.previous()) {
         if (isGeometry(other.name())) {
             return true;
         }
@@ -83,12 +85,12 @@ template <GeometryType type, auto const& element, class Shape>
 constexpr Child<Shape> geometryChild()
 {
     return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, Shape& shape) {
+            [](ElementReader& reader, XmlNode node, Shape& shape) {
                 if (followsAnother(node)) {
                     reader.diagnostics().report(at(node), codes::repeatedElement,
                                                 std::string(node.parent().name()) +
-                                                    " already has a geometry, beside which no " + node.name() +
-                                                    " can stand.",
+                                                    " already has a geometry, beside which no " +
+                                                    std::string(node.name()) + " can stand.",
                                                 "Make it a " + std::string(node.parent().name()) + " of its own.");
                     return;
                 }
@@ -104,10 +106,10 @@ constexpr Child<Shape> geometryChild()
 
 /// An element that is unknown was meant as a geometry, and is told of.
 template <class Shape>
-bool lacksGeometry(Shape const& /*shape*/, pugi::xml_node node)
+bool lacksGeometry(Shape const& /*shape*/, XmlNode node)
 {
     auto const children = node.children();
-    return std::all_of(children.begin(), children.end(), [](pugi::xml_node child) {
+    return std::all_of(children.begin(), children.end(), [](XmlNode child) {
         std::string_view const name = child.name();
         return name.empty() || name == "placement" || name == "material";
     });

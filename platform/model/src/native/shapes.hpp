@@ -7,6 +7,7 @@
 
 #include "native/schema.hpp"
 #include "schema/children.hpp"
+#include "xml/document.hpp"
 
 /// What a body looks like and what it collides with: visuals and collisions, and the attribute `mesh`, which is short
 /// for one visual. Where visuals stand without it, their first mesh is the mesh of the record as well.
@@ -91,7 +92,7 @@ constexpr Child<Record> shapesChild()
 {
     using Shape = RecordOfElement<element>;
     return {{&element, Occurrence::any},
-            [](ElementReader& reader, pugi::xml_node node, Record& body) {
+            [](ElementReader& reader, XmlNode node, Record& body) {
                 Shape shape = readRecord<element>(reader, node);
                 implyMesh(body, shape);
                 (body.shapes.*list).push_back(std::move(shape));

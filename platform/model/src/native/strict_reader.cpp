@@ -6,7 +6,7 @@
 
 #include "native/native_codes.hpp"
 #include "varo/model/spelling.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -47,8 +47,7 @@ bool isForEditors(std::string_view attribute)
 
 }  // namespace
 
-std::size_t StrictReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
-                                             pugi::xml_attribute attribute)
+std::size_t StrictReader::onUnknownAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute)
 {
     bool const isOfAmendment = node == _amendment && std::string_view(attribute.name()) == leftOut;
     if (isOfAmendment || isForEditors(attribute.name()) || diagnostics().countIfFull(codes::unknownAttribute)) {
@@ -57,14 +56,14 @@ std::size_t StrictReader::onUnknownAttribute(ElementInfo const& element, pugi::x
     std::string message = std::string(element.name) + " has no attribute " + quoted(attribute.name()) + ".";
     auto [hint, meant] = suggest(element.attributes, attribute.name());
     diagnostics().report(at(node, attribute), codes::unknownAttribute, std::move(message), std::move(hint));
-    if (meant == noRow || node.attribute(element.attributes[meant].name.data())) {
+    if (meant == noRow || node.attribute(element.attributes[meant].name)) {
         return noRow;
     }
     loseName(element.attributes[meant]);
     return meant;
 }
 
-std::size_t StrictReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
+std::size_t StrictReader::onUnknownChild(ElementInfo const& element, XmlNode child)
 {
     _names.loseAny();
     if (diagnostics().countIfFull(codes::unknownElement)) {
@@ -76,23 +75,23 @@ std::size_t StrictReader::onUnknownChild(ElementInfo const& element, pugi::xml_n
     return meant;
 }
 
-void StrictReader::onRepeatedChild(ElementInfo const& element, pugi::xml_node child)
+void StrictReader::onRepeatedChild(ElementInfo const& element, XmlNode child)
 {
     diagnostics().report(at(child), codes::repeatedElement,
-                         std::string(element.name) + " may hold only one " + child.name() + ".",
+                         std::string(element.name) + " may hold only one " + std::string(child.name()) + ".",
                          "Leave one of them out; only the first is read.");
 }
 
 /// Where it says something: the white space before that is looked at in the source, which has it as it was written.
-void StrictReader::onUnexpectedText(ElementInfo const& element, pugi::xml_node text)
+void StrictReader::onUnexpectedText(ElementInfo const& element, XmlNode text)
 {
     std::string const& source = diagnostics().source()->text();
     diagnostics().report(
         TextOffset(source.find_first_not_of(" \t\r\n", at(text).value())), codes::unexpectedText,
-        std::string(element.name) + " holds no text, but here stands " + quoted(trimmed(text.value())) + ".");
+        std::string(element.name) + " holds no text, but here stands " + quoted(trimmed(text.text())) + ".");
 }
 
-void StrictReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
+void StrictReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, XmlNode node)
 {
     if (node == _amendment) {  // its record has a value
         return;
@@ -103,15 +102,14 @@ void StrictReader::onMissingAttribute(ElementInfo const& element, AttributeInfo 
     loseName(attribute);
 }
 
-void StrictReader::onMissingChild(ElementInfo const& element, ChildInfo const& child, pugi::xml_node node)
+void StrictReader::onMissingChild(ElementInfo const& element, ChildInfo const& child, XmlNode node)
 {
     diagnostics().report(at(node), codes::missingElement,
                          std::string(element.name) + " lacks its element " + quoted(child.element->name) + ".",
                          "Add it: " + std::string(child.element->meaning));
 }
 
-void StrictReader::onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
-                                std::string_view value)
+void StrictReader::onWrongValue(AttributeInfo const& row, XmlNode node, XmlAttribute attribute, std::string_view value)
 {
     loseName(row);
     if (diagnostics().countIfFull(codes::wrongValue)) {
@@ -133,8 +131,7 @@ void StrictReader::onWrongValue(AttributeInfo const& row, pugi::xml_node node, p
                          std::move(hint));
 }
 
-void StrictReader::onName(NameRule const& rule, std::string_view name, pugi::xml_node node,
-                          pugi::xml_attribute attribute)
+void StrictReader::onName(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute)
 {
     _names.use(rule, name, node, attribute);
 }
@@ -146,7 +143,7 @@ void StrictReader::loseName(AttributeInfo const& attribute)
     }
 }
 
-void StrictReader::checkLeftOut(Infos<ChildInfo> const& children, pugi::xml_node node)
+void StrictReader::checkLeftOut(Infos<ChildInfo> const& children, XmlNode node)
 {
     std::string_view list = node.attribute(leftOut).value();
     for (std::string_view word = takeWord(list); !word.empty(); word = takeWord(list)) {
@@ -162,7 +159,7 @@ void StrictReader::checkLeftOut(Infos<ChildInfo> const& children, pugi::xml_node
     }
 }
 
-bool isAmended(ChildInfo const& child, pugi::xml_node amendment)
+bool isAmended(ChildInfo const& child, XmlNode amendment)
 {
     std::string_view list = amendment.attribute(leftOut).value();
     for (std::string_view word = takeWord(list); !word.empty(); word = takeWord(list)) {
@@ -170,7 +167,7 @@ bool isAmended(ChildInfo const& child, pugi::xml_node amendment)
             return true;
         }
     }
-    return !amendment.child(child.element->name.data()).empty();
+    return bool(amendment.child(child.element->name));
 }
 
 }  // namespace Varo::Model::Native

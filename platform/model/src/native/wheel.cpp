@@ -2,6 +2,7 @@
 #include "native/elements.hpp"
 #include "native/pose.hpp"
 #include "native/shapes.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Native {
 
@@ -22,7 +23,7 @@ constexpr Child<WheelConfig> children[] = {
     freeAttributeChild<WheelConfig>,
 };
 
-bool lacksMaterial(WheelConfig const& wheel, pugi::xml_node /*node*/)
+bool lacksMaterial(WheelConfig const& wheel, XmlNode /*node*/)
 {
     return wheel.attributes.find("material") == wheel.attributes.end();
 }

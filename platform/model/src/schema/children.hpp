@@ -10,7 +10,7 @@
 #include "schema/element_writer.hpp"
 #include "schema/schema.hpp"
 #include "varo/model/table.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 /// The usual ways in which children are read into the record of their parent, and written from there.
 namespace Varo::Model::Schema {
@@ -24,7 +24,7 @@ constexpr Child<RecordOfElement<element>> inPlace()
 {
     using Parent = RecordOfElement<element>;
     return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, Parent& parent) { reader.read(element, node, parent); },
+            [](ElementReader& reader, XmlNode node, Parent& parent) { reader.read(element, node, parent); },
             [](ElementWriter& writer, Parent const& parent) { writer.writeUnlessDefault(element, parent); },
             [](Parent& parent) {
                 Parent const fresh;
@@ -46,7 +46,7 @@ constexpr bool keepsItsNode<Record, std::void_t<decltype(Record::node)>> = true;
 
 /// Reads a record from an element of its own.
 template <class Item>
-void readItem(ElementReader& reader, Element<Item> const& element, pugi::xml_node node, Item& item)
+void readItem(ElementReader& reader, Element<Item> const& element, XmlNode node, Item& item)
 {
     reader.read(element, node, item);
     if constexpr (keepsItsPlace<Item>) {
@@ -58,7 +58,7 @@ void readItem(ElementReader& reader, Element<Item> const& element, pugi::xml_nod
 }
 
 template <auto const& element>
-RecordOfElement<element> readRecord(ElementReader& reader, pugi::xml_node node)
+RecordOfElement<element> readRecord(ElementReader& reader, XmlNode node)
 {
     RecordOfElement<element> record;
     readItem(reader, element, node, record);
@@ -71,7 +71,7 @@ constexpr Child<Parent> pointedTo()
 {
     using Item = RecordOfElement<element>;
     return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
+            [](ElementReader& reader, XmlNode node, Parent& parent) {
                 parent.*member = std::make_shared<Item const>(readRecord<element>(reader, node));
             },
             [](ElementWriter& writer, Parent const& parent) {
@@ -85,19 +85,19 @@ constexpr Child<Parent> pointedTo()
 // Records are large, and therefore read where they are to stay.
 
 template <auto const& element, class Item>
-void addRecord(ElementReader& reader, pugi::xml_node node, Table<Item>& items)
+void addRecord(ElementReader& reader, XmlNode node, Table<Item>& items)
 {
     readItem<RecordOfElement<element>>(reader, element, node, items.add());
 }
 
 template <auto const& element, class Item>
-void addRecord(ElementReader& reader, pugi::xml_node node, std::vector<Item>& items)
+void addRecord(ElementReader& reader, XmlNode node, std::vector<Item>& items)
 {
     readItem<RecordOfElement<element>>(reader, element, node, items.emplace_back());
 }
 
 template <auto const& element, class Key, class Item>
-void addRecord(ElementReader& reader, pugi::xml_node node, std::map<Key, Item>& items)
+void addRecord(ElementReader& reader, XmlNode node, std::map<Key, Item>& items)
 {
     items.insert(readRecord<element>(reader, node));
 }
@@ -107,7 +107,7 @@ template <auto member, auto const& element, class Parent = RecordOf<member>>
 constexpr Child<Parent> childOf()
 {
     return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
+            [](ElementReader& reader, XmlNode node, Parent& parent) {
                 readItem(reader, element, node, (parent.*member).emplace());
             },
             [](ElementWriter& writer, Parent const& parent) {
@@ -123,17 +123,16 @@ template <auto member, auto const& element, class Parent = RecordOf<member>>
 constexpr Child<Parent> childrenOf()
 {
     using Item = RecordOfElement<element>;
-    return {{&element, Occurrence::any},
-            [](ElementReader& reader, pugi::xml_node node, Parent& parent) {
-                addRecord<element>(reader, node, parent.*member);
-            },
-            [](ElementWriter& writer, Parent const& parent) {
-                for (auto const& each : parent.*member) {
-                    Item const& item = each;
-                    writer.write(element, item);
-                }
-            },
-            [](Parent& parent) { parent.*member = {}; }};
+    return {
+        {&element, Occurrence::any},
+        [](ElementReader& reader, XmlNode node, Parent& parent) { addRecord<element>(reader, node, parent.*member); },
+        [](ElementWriter& writer, Parent const& parent) {
+            for (auto const& each : parent.*member) {
+                Item const& item = each;
+                writer.write(element, item);
+            }
+        },
+        [](Parent& parent) { parent.*member = {}; }};
 }
 
 }  // namespace Varo::Model::Schema

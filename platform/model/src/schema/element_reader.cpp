@@ -1,6 +1,6 @@
 #include "schema/element_reader.hpp"
 
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Schema {
 
@@ -12,24 +12,27 @@ RowSet bitOf(std::size_t row)
     return row == noRow ? 0 : RowSet{1} << row;
 }
 
-/// Whether the text is that one, which mostly shows at its first characters.
-bool isText(char const* text, std::string_view wanted)
+/// Names mostly differ in their size or their first characters, so that no function need be called.
+bool isSame(std::string_view a, std::string_view b)
 {
-    for (char const c : wanted) {
-        if (*text++ != c) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] != b[i]) {
             return false;
         }
     }
-    return *text == '\0';
+    return true;
 }
 
 /// The row of that name, looked for from `start` on and then from the beginning: texts mostly keep the tables' order.
 template <class Info>
-std::size_t findRow(Infos<Info> const& rows, char const* name, std::size_t start)
+std::size_t findRow(Infos<Info> const& rows, std::string_view name, std::size_t start)
 {
     std::size_t index = start < rows.size() ? start : 0;
     for (std::size_t left = rows.size(); left > 0; --left) {
-        if (isText(name, nameOf(rows[index]))) {
+        if (isSame(name, nameOf(rows[index]))) {
             return index;
         }
         index = index + 1 < rows.size() ? index + 1 : 0;
@@ -39,22 +42,17 @@ std::size_t findRow(Infos<Info> const& rows, char const* name, std::size_t start
 
 }  // namespace
 
-bool isText(pugi::xml_node node)
-{
-    return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
-}
-
-std::string textOf(pugi::xml_node node)
+std::string textOf(XmlNode node)
 {
     std::string text;
-    for (pugi::xml_node const child : node.children()) {
-        text += isText(child) ? child.value() : "";
+    for (XmlNode const child : node.children()) {
+        text += child.isText() ? child.text() : "";
     }
     return text;
 }
 
 /// The row to read the attribute with; the second of two like-named ones is a fault of the text itself and found there.
-std::size_t ElementReader::findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
+std::size_t ElementReader::findAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute,
                                          std::size_t start, RowSet& seen)
 {
     std::size_t const index = findRow(element.attributes, attribute.name(), start);
@@ -66,10 +64,10 @@ std::size_t ElementReader::findAttribute(ElementInfo const& element, pugi::xml_n
 }
 
 /// The row to read the child with.
-std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node child, std::size_t start, RowSet& seen)
+std::size_t ElementReader::findChild(ElementInfo const& element, XmlNode child, std::size_t start, RowSet& seen)
 {
-    if (child.type() != pugi::node_element) {
-        if (isText(child) && element.text == nullptr && !trimmed(child.value()).empty()) {
+    if (!child.isElement()) {
+        if (child.isText() && element.text == nullptr && !trimmed(child.text()).empty()) {
             onUnexpectedText(element, child);
         }
         return noRow;
@@ -87,7 +85,7 @@ std::size_t ElementReader::findChild(ElementInfo const& element, pugi::xml_node 
     return isRepeated ? noRow : index;
 }
 
-void ElementReader::noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, RowSet seen)
+void ElementReader::noteMissingAttributes(ElementInfo const& element, XmlNode node, RowSet seen)
 {
     RowSet bit = 1;
     for (AttributeInfo const& attribute : element.attributes) {
@@ -100,7 +98,7 @@ void ElementReader::noteMissingAttributes(ElementInfo const& element, pugi::xml_
     }
 }
 
-void ElementReader::noteMissingChildren(ElementInfo const& element, pugi::xml_node node, RowSet seen)
+void ElementReader::noteMissingChildren(ElementInfo const& element, XmlNode node, RowSet seen)
 {
     RowSet bit = 1;
     for (ChildInfo const& child : element.children) {
@@ -111,7 +109,7 @@ void ElementReader::noteMissingChildren(ElementInfo const& element, pugi::xml_no
     }
 }
 
-void ElementReader::reportBroken(Complaint const& complaint, pugi::xml_node node, char const* attribute)
+void ElementReader::reportBroken(Complaint const& complaint, XmlNode node, std::string_view attribute)
 {
     _diagnostics.report(at(node, attribute), *complaint.code, std::string(complaint.message),
                         std::string(complaint.hint));

@@ -5,11 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include <pugixml.hpp>
-
 #include "schema/schema.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/records.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Schema {
 
@@ -25,7 +24,7 @@ public:
     ElementReader& operator=(ElementReader const&) = delete;
 
     template <class Record>
-    void read(Element<Record> const& element, pugi::xml_node node, Record& record);
+    void read(Element<Record> const& element, XmlNode node, Record& record);
 
     Diagnostics& diagnostics() { return _diagnostics; }
     Records& robot() { return _robot; }
@@ -35,48 +34,43 @@ protected:
 
 private:
     // The first two answer the row that was probably meant; noRow for none.
-    virtual std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
-                                           pugi::xml_attribute attribute) = 0;
-    virtual std::size_t onUnknownChild(ElementInfo const& element, pugi::xml_node child) = 0;
-    virtual void onRepeatedChild(ElementInfo const& element, pugi::xml_node child) = 0;
-    virtual void onUnexpectedText(ElementInfo const& element, pugi::xml_node text) = 0;
-    virtual void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute,
-                                    pugi::xml_node node) = 0;
-    virtual void onMissingChild(ElementInfo const& element, ChildInfo const& child, pugi::xml_node node) = 0;
+    virtual std::size_t onUnknownAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute) = 0;
+    virtual std::size_t onUnknownChild(ElementInfo const& element, XmlNode child) = 0;
+    virtual void onRepeatedChild(ElementInfo const& element, XmlNode child) = 0;
+    virtual void onUnexpectedText(ElementInfo const& element, XmlNode text) = 0;
+    virtual void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, XmlNode node) = 0;
+    virtual void onMissingChild(ElementInfo const& element, ChildInfo const& child, XmlNode node) = 0;
     /// `attribute` is null for the text of the element, `value`.
-    virtual void onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
+    virtual void onWrongValue(AttributeInfo const& row, XmlNode node, XmlAttribute attribute,
                               std::string_view value) = 0;
     /// `attribute` is null for one that is left out, of which `name` is the default.
-    virtual void onName(NameRule const& rule, std::string_view name, pugi::xml_node node,
-                        pugi::xml_attribute attribute) = 0;
+    virtual void onName(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute) = 0;
 
     template <class Record>
-    void readAttributes(Element<Record> const& element, pugi::xml_node node, Record& record);
+    void readAttributes(Element<Record> const& element, XmlNode node, Record& record);
     template <class Record>
-    void readChildren(Element<Record> const& element, pugi::xml_node node, Record& record);
+    void readChildren(Element<Record> const& element, XmlNode node, Record& record);
 
-    std::size_t findAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute,
-                              std::size_t start, RowSet& seen);
-    std::size_t findChild(ElementInfo const& element, pugi::xml_node child, std::size_t start, RowSet& seen);
-    void noteMissingAttributes(ElementInfo const& element, pugi::xml_node node, RowSet seen);
-    void noteMissingChildren(ElementInfo const& element, pugi::xml_node node, RowSet seen);
-    void reportBroken(Complaint const& complaint, pugi::xml_node node, char const* attribute);
+    std::size_t findAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute, std::size_t start,
+                              RowSet& seen);
+    std::size_t findChild(ElementInfo const& element, XmlNode child, std::size_t start, RowSet& seen);
+    void noteMissingAttributes(ElementInfo const& element, XmlNode node, RowSet seen);
+    void noteMissingChildren(ElementInfo const& element, XmlNode node, RowSet seen);
+    void reportBroken(Complaint const& complaint, XmlNode node, std::string_view attribute);
 
     Diagnostics& _diagnostics;
     Records& _robot;
 };
 
 /// All text of an element, without that of its children.
-std::string textOf(pugi::xml_node node);
-
-bool isText(pugi::xml_node node);
+std::string textOf(XmlNode node);
 
 template <class Record>
-void ElementReader::readAttributes(Element<Record> const& element, pugi::xml_node node, Record& record)
+void ElementReader::readAttributes(Element<Record> const& element, XmlNode node, Record& record)
 {
     RowSet seen = 0;
     std::size_t next = 0;
-    for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
+    for (XmlAttribute const attribute : node.attributes()) {
         std::size_t const index = findAttribute(element, node, attribute, next, seen);
         if (index == noRow) {
             continue;
@@ -96,11 +90,11 @@ void ElementReader::readAttributes(Element<Record> const& element, pugi::xml_nod
 }
 
 template <class Record>
-void ElementReader::readChildren(Element<Record> const& element, pugi::xml_node node, Record& record)
+void ElementReader::readChildren(Element<Record> const& element, XmlNode node, Record& record)
 {
     RowSet seen = 0;
     std::size_t last = 0;
-    for (auto child = node.first_child(); child; child = child.next_sibling()) {
+    for (XmlNode const child : node.children()) {
         std::size_t const index = findChild(element, child, last, seen);
         if (index != noRow) {
             last = index;
@@ -113,7 +107,7 @@ void ElementReader::readChildren(Element<Record> const& element, pugi::xml_node 
 }
 
 template <class Record>
-void ElementReader::read(Element<Record> const& element, pugi::xml_node node, Record& record)
+void ElementReader::read(Element<Record> const& element, XmlNode node, Record& record)
 {
     readAttributes(element, node, record);
     readChildren(element, node, record);

@@ -6,11 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include <pugixml.hpp>
-
 #include "range.hpp"
 #include "schema/name_rule.hpp"
 #include "schema/values.hpp"
+#include "xml/document.hpp"
 
 /// What a dialect consists of, as tables: which elements there are, what each may hold, and where it goes.
 ///
@@ -89,7 +88,7 @@ struct ChildInfo {
 
 template <class Parent>
 struct Child : ChildInfo {
-    using Read = void (*)(ElementReader& reader, pugi::xml_node node, Parent& parent);
+    using Read = void (*)(ElementReader& reader, XmlNode node, Parent& parent);
     using Write = void (*)(ElementWriter& writer, Parent const& parent);
     using Clear = void (*)(Parent& parent);
 
@@ -102,7 +101,7 @@ struct Child : ChildInfo {
 template <class Record>
 struct Rule {
     char const* attribute;  ///< at which it is reported; empty for the element
-    bool (*isBroken)(Record const& record, pugi::xml_node node);
+    bool (*isBroken)(Record const& record, XmlNode node);
     Complaint complaint;
 };
 

@@ -4,7 +4,7 @@
 
 #include "urdf/translation.hpp"
 #include "urdf/urdf_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -22,7 +22,7 @@ void translateInertial(Inertial const& inertial, JointConfig& body, Diagnostics&
 {
     Mass const mass = inertial.mass.value_or(Mass());
     Inertia const inertia = inertial.inertia.value_or(Inertia());
-    bool const hasMass = mass.node.attribute("value") || *mass.node.child_value() != 0;  // a text is told already
+    bool const hasMass = mass.node.attribute("value") || !mass.node.text().empty();  // a text is told already
     bool const hasInertia = inertial.inertia.has_value();
     if (!hasMass || !hasInertia) {
         reportIncomplete(inertial, hasMass, hasInertia, diagnostics);

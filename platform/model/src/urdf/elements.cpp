@@ -3,6 +3,7 @@
 #include <string>
 
 #include "urdf/values.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -11,7 +12,7 @@ void reportLongName(TextOffset place, Diagnostics& diagnostics)
     diagnostics.report(place, codes::nameTooLong, "This name has more than " + std::to_string(longestName) + " bytes.");
 }
 
-std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics)
+std::string_view readName(XmlNode node, Diagnostics& diagnostics)
 {
     std::string_view const stated = node.attribute("name").value();
     std::string_view name;

@@ -3,12 +3,10 @@
 
 #include <string_view>
 
-#include <pugixml.hpp>
-
 #include "urdf/extensions.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/diagnostics.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -18,14 +16,14 @@ struct Report {
     Extensions& extensions;
 
     /// What nothing in the records is for is kept as it stands.
-    void passOver(pugi::xml_node element) const { extensions.add(element); }
-    void passOver(pugi::xml_node element, pugi::xml_attribute attribute) const { extensions.add(element, attribute); }
+    void passOver(XmlNode element) const { extensions.add(element); }
+    void passOver(XmlNode element, XmlAttribute attribute) const { extensions.add(element, attribute); }
 };
 
 void reportLongName(TextOffset place, Diagnostics& diagnostics);
 
 /// The name that an element states; empty, and reported, when it is too long.
-std::string_view readName(pugi::xml_node node, Diagnostics& diagnostics);
+std::string_view readName(XmlNode node, Diagnostics& diagnostics);
 
 }  // namespace Varo::Model::Urdf
 

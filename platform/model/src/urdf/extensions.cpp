@@ -5,8 +5,8 @@
 #include <tuple>
 #include <utility>
 
+#include "xml/document.hpp"
 #include "xml/markup.hpp"
-#include "xml/node_offset.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -32,9 +32,9 @@ bool setJoint(std::string_view name, LinkTree& tree, ExtensionConfig& extension)
     return joint != none;
 }
 
-bool isTopLevel(pugi::xml_node element)
+bool isTopLevel(XmlNode element)
 {
-    return element.parent().parent() == element.root();
+    return element.parent().isRoot();
 }
 
 /// What stands in one place follows each other, wherever in the text such places are.
@@ -72,15 +72,15 @@ void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& r
 }
 
 /// Whether the element is one that extensions may stand in.
-bool Extensions::findOwner(pugi::xml_node element, LinkTree& tree, ExtensionConfig& extension) const
+bool Extensions::findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& extension) const
 {
-    if (auto const sensor = _sensors.find(idOf(element)); sensor != _sensors.end()) {
+    if (auto const sensor = _sensors.find(element.id()); sensor != _sensors.end()) {
         extension.owner = ExtensionOwner::sensor;
         extension.ownerName = sensor->second;
         return true;
     }
     if (!isTopLevel(element)) {
-        return element.parent() == element.root();  // the robot itself
+        return element.isRoot();  // the robot itself
     }
     std::string_view const tag = element.name();
     std::string_view const name = element.attribute("name").value();
@@ -90,9 +90,9 @@ bool Extensions::findOwner(pugi::xml_node element, LinkTree& tree, ExtensionConf
 /// The way from what is kept outward to its owner.
 void Extensions::findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& extension)
 {
-    pugi::xml_node around = kept.attribute ? kept.element : kept.element.parent();
+    XmlNode around = kept.attribute ? kept.element : kept.element.parent();
     while (!findOwner(around, tree, extension)) {
-        bool const isGazebo = isTopLevel(around) && std::string_view(around.name()) == "gazebo";
+        bool const isGazebo = isTopLevel(around) && around.name() == "gazebo";
         std::string const step = isGazebo ? "gazebo" : stepTo(around);
         extension.within = extension.within.empty() ? step : step + "/" + extension.within;
         if (isGazebo) {
@@ -104,16 +104,16 @@ void Extensions::findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& ex
 }
 
 /// The element's name and, unless it is the first of that name in its parent, which of them it is.
-std::string Extensions::stepTo(pugi::xml_node element)
+std::string Extensions::stepTo(XmlNode element)
 {
-    if (_ranks.find(idOf(element)) == _ranks.end()) {
+    if (_ranks.find(element.id()) == _ranks.end()) {
         std::unordered_map<std::string_view, std::size_t> counts;
-        for (pugi::xml_node const sibling : element.parent().children()) {
-            _ranks.emplace(idOf(sibling), ++counts[sibling.name()]);
+        for (XmlNode const sibling : element.parent().children()) {
+            _ranks.emplace(sibling.id(), ++counts[sibling.name()]);
         }
     }
-    std::size_t const rank = _ranks[idOf(element)];
-    return element.name() + (rank > 1 ? "[" + std::to_string(rank) + "]" : std::string());
+    std::size_t const rank = _ranks[element.id()];
+    return std::string(element.name()) + (rank > 1 ? "[" + std::to_string(rank) + "]" : std::string());
 }
 
 }  // namespace Varo::Model::Urdf

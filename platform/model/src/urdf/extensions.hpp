@@ -6,11 +6,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include <pugixml.hpp>
-
 #include "robot/link_tree.hpp"
 #include "varo/model/records.hpp"
 #include "varo/model/source_text.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -21,29 +20,28 @@ namespace Varo::Model::Urdf {
 class Extensions {
 public:
     /// An element that has no place in the records, with all that it holds, be that added, too, or not.
-    void add(pugi::xml_node element) { _kept.push_back({element, {}}); }
+    void add(XmlNode element) { _kept.push_back({element, {}}); }
     /// An attribute of that kind.
-    void add(pugi::xml_node element, pugi::xml_attribute attribute) { _kept.push_back({element, attribute}); }
+    void add(XmlNode element, XmlAttribute attribute) { _kept.push_back({element, attribute}); }
     /// What is kept of the sensor's element stands in the record of that name.
-    void addSensor(pugi::xml_node element, std::string name) { _sensors.emplace(idOf(element), std::move(name)); }
+    void addSensor(XmlNode element, std::string name) { _sensors.emplace(element.id(), std::move(name)); }
 
     /// To be called once, of a connected tree without errors.
     void addRecords(LinkTree& tree, SourceText const& source, Records& robot);
 
 private:
     struct Kept {
-        pugi::xml_node element;
-        pugi::xml_attribute attribute;  ///< null when the whole element is kept
+        XmlNode element;
+        XmlAttribute attribute;  ///< null when the whole element is kept
     };
 
-    static void const* idOf(pugi::xml_node node) { return node.internal_object(); }
-    bool findOwner(pugi::xml_node element, LinkTree& tree, ExtensionConfig& extension) const;
+    bool findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& extension) const;
     void findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& extension);
-    std::string stepTo(pugi::xml_node element);
+    std::string stepTo(XmlNode element);
 
     std::vector<Kept> _kept;
-    std::unordered_map<void const*, std::string> _sensors;  ///< names of their records by their elements
-    std::unordered_map<void const*, std::size_t> _ranks;  ///< of elements among their like-named siblings, from 1
+    std::unordered_map<std::size_t, std::string> _sensors;  ///< names of their records by their elements
+    std::unordered_map<std::size_t, std::size_t> _ranks;  ///< of elements among their like-named siblings, from 1
 };
 
 /// The link or joint of that name, the link where there are both, as what an extension stands in; false for neither.

@@ -5,7 +5,7 @@
 #include "urdf/translation.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/values.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -29,7 +29,7 @@ void checkLimits(Joint const& stated, Diagnostics& diagnostics)
         diagnostics.report(at(stated.node), codes::missingLimit, "This joint states no limits; it stays at 0.", hint);
         return;
     }
-    pugi::xml_node const limit = stated.limit->node;
+    XmlNode const limit = stated.limit->node;
     if (!limit.attribute("lower") && !limit.attribute("upper")) {
         diagnostics.report(at(limit), codes::missingLimit,
                            "This states neither a lower nor an upper limit; the joint stays at 0.", hint);
@@ -42,7 +42,7 @@ void checkLimits(Joint const& stated, Diagnostics& diagnostics)
 /// Those of a joint that turns on and on are its effort and velocity.
 void checkNotEmpty(Joint const& stated, Diagnostics& diagnostics)
 {
-    if (stated.limit && !stated.limit->node.first_attribute()) {
+    if (stated.limit && stated.limit->node.attributes().empty()) {
         diagnostics.report(at(stated.limit->node), codes::missingAttribute, "This limit says nothing.",
                            "Give it the attributes \"effort\" and \"velocity\", or leave it out.");
     }
@@ -103,7 +103,7 @@ void translateExtras(Joint const& stated, JointConfig& config)
 Reference toReference(Joint const& joint, std::optional<LinkReference> const& link, char const* role,
                       Diagnostics& diagnostics)
 {
-    pugi::xml_node const node = link ? link->node : joint.node;
+    XmlNode const node = link ? link->node : joint.node;
     if (link && node.attribute("link")) {
         return {link->link, at(node, "link")};
     }

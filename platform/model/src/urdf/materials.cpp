@@ -4,7 +4,7 @@
 #include <string>
 
 #include "urdf/urdf_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 

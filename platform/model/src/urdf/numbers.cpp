@@ -9,7 +9,7 @@
 #include "decimal_size.hpp"
 #include "short_decimal.hpp"
 #include "urdf/urdf_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 #include "xml/words.hpp"
 
 namespace Varo::Model::Urdf {
@@ -115,21 +115,20 @@ void reportWrongList(TextOffset place, std::string_view text, std::size_t count,
     }
 }
 
-void readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* values, std::size_t count,
-                 Diagnostics& diagnostics)
+void readNumbers(XmlNode node, XmlAttribute attribute, double* values, std::size_t count, Diagnostics& diagnostics)
 {
-    std::string_view const text = attribute ? attribute.value() : node.child_value();
+    std::string_view const text = attribute ? attribute.value() : node.text();
     std::size_t found = 0;
     if (!parseNumbers(text, values, count, found) || found != count) {
         reportWrongList(at(node, attribute), text, count, missingIsZero, diagnostics);
     }
 }
 
-Pose readOrigin(pugi::xml_node origin, Diagnostics& diagnostics)
+Pose readOrigin(XmlNode origin, Diagnostics& diagnostics)
 {
     auto const vector = [&](char const* name) {
         Vector values = {0.0, 0.0, 0.0};
-        if (pugi::xml_attribute const attribute = origin.attribute(name)) {
+        if (XmlAttribute const attribute = origin.attribute(name)) {
             readNumbers(origin, attribute, values.data(), values.size(), diagnostics);
         }
         return values;

@@ -4,10 +4,9 @@
 #include <cstddef>
 #include <string_view>
 
-#include <pugixml.hpp>
-
 #include "robot/link_tree.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "xml/document.hpp"
 
 /// The numbers of a URDF text, which are looser than our own: lists may be too short, too long or padded. What is no
 /// number at all is reported, and read as the default.
@@ -35,11 +34,10 @@ void reportWrongList(TextOffset place, std::string_view text, std::size_t count,
 
 /// The first numbers of the list that is the attribute's value or, when `attribute` is null, the element's text; those
 /// that it lacks are left as they are.
-void readNumbers(pugi::xml_node node, pugi::xml_attribute attribute, double* values, std::size_t count,
-                 Diagnostics& diagnostics);
+void readNumbers(XmlNode node, XmlAttribute attribute, double* values, std::size_t count, Diagnostics& diagnostics);
 
 /// The pose that an `origin` element states; the identity for a null node.
-Pose readOrigin(pugi::xml_node origin, Diagnostics& diagnostics);
+Pose readOrigin(XmlNode origin, Diagnostics& diagnostics);
 
 }  // namespace Varo::Model::Urdf
 

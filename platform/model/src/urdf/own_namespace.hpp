@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include <pugixml.hpp>
+#include "xml/document.hpp"
 
 /// The namespace of the elements in which a URDF text says what URDF has no words for. Other programs pass over them.
 namespace Varo::Model::Urdf {
@@ -14,7 +14,7 @@ inline constexpr std::string_view usualPrefix = "varo";
 inline constexpr std::string_view declaringAttribute = "xmlns:";
 
 /// Whether the attribute gives a prefix to our namespace.
-inline bool declaresOwnNamespace(pugi::xml_attribute attribute)
+inline bool declaresOwnNamespace(XmlAttribute attribute)
 {
     std::string_view const name = attribute.name();
     return name.substr(0, declaringAttribute.size()) == declaringAttribute && attribute.value() == ownNamespace;
@@ -22,15 +22,15 @@ inline bool declaresOwnNamespace(pugi::xml_attribute attribute)
 
 /// What names of our namespace begin with: the prefix that the root declares for it, or the usual one, which may go
 /// without; empty where that is another namespace's.
-inline std::string ownPrefix(pugi::xml_node root)
+inline std::string ownPrefix(XmlNode root)
 {
-    for (pugi::xml_attribute const attribute : root.attributes()) {
+    for (XmlAttribute const attribute : root.attributes()) {
         if (declaresOwnNamespace(attribute)) {
-            return std::string(attribute.name() + declaringAttribute.size()) + ":";
+            return std::string(attribute.name().substr(declaringAttribute.size())) + ":";
         }
     }
     std::string const usual(usualPrefix);
-    bool const isTaken = root.attribute((std::string(declaringAttribute) + usual).c_str());
+    bool const isTaken(root.attribute(std::string(declaringAttribute) + usual));
     return isTaken ? std::string() : usual + ":";
 }
 

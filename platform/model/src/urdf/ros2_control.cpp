@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "urdf/numbers.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -18,31 +18,33 @@ namespace {
 
 /// How a joint is driven, as far as a `transmission` within the system says.
 struct Drive {
-    pugi::xml_node joint;
-    pugi::xml_node actuator;  ///< null when none is stated
+    XmlNode joint;
+    XmlNode actuator;  ///< null when none is stated
 };
 using Drives = std::unordered_map<std::string_view, Drive>;
 
 /// The joints and the actuators of a transmission belong together in their order.
-void addDrives(pugi::xml_node transmission, Drives& drives)
+void addDrives(XmlNode transmission, Drives& drives)
 {
-    pugi::xml_node actuator = transmission.child("actuator");
-    for (pugi::xml_node const joint : transmission.children("joint")) {
-        drives.try_emplace(joint.attribute("name").value(), Drive{joint, actuator});
-        actuator = actuator.next_sibling("actuator");
+    auto const actuators = transmission.children("actuator");
+    auto actuator = actuators.begin();
+    for (XmlNode const joint : transmission.children("joint")) {
+        bool const isStated = actuator != actuators.end();
+        drives.try_emplace(joint.attribute("name").value(), Drive{joint, isStated ? *actuator : XmlNode()});
+        actuator = isStated ? ++actuator : actuator;
     }
 }
 
 /// The first element that states the joint's reduction; null for none.
-pugi::xml_node findReduction(pugi::xml_node joint, Drive const& drive)
+XmlNode findReduction(XmlNode joint, Drive const& drive)
 {
-    for (pugi::xml_node const stated :
+    for (XmlNode const stated :
          {drive.joint.child("mechanical_reduction"), drive.actuator.child("mechanical_reduction")}) {
         if (stated) {
             return stated;
         }
     }
-    for (pugi::xml_node const parameter : joint.children("param")) {
+    for (XmlNode const parameter : joint.children("param")) {
         std::string_view const name = parameter.attribute("name").value();
         if (name == "mechanical_reduction" || name == "mechanicalReduction" || name == "reduction") {
             return parameter;
@@ -51,24 +53,23 @@ pugi::xml_node findReduction(pugi::xml_node joint, Drive const& drive)
     return {};
 }
 
-float readReduction(pugi::xml_node stated, Diagnostics& diagnostics)
+float readReduction(XmlNode stated, Diagnostics& diagnostics)
 {
     double value = 1.0;
     bool const isUsable =
-        !stated || (parseNumber(stated.child_value(), value) && value != 0.0 && std::abs(value) <= largestNumber);
+        !stated || (parseNumber(stated.text(), value) && value != 0.0 && std::abs(value) <= largestNumber);
     if (!isUsable) {
-        diagnostics.report(at(stated), codes::badReduction,
-                           quoted(stated.child_value()) + " is no reduction; 1 is assumed.");
+        diagnostics.report(at(stated), codes::badReduction, quoted(stated.text()) + " is no reduction; 1 is assumed.");
         return 1.0F;
     }
     return static_cast<float>(value);
 }
 
-std::vector<std::string> namesOf(pugi::xml_node joint, char const* element)
+std::vector<std::string> namesOf(XmlNode joint, std::string_view element)
 {
     std::vector<std::string> names;
-    for (pugi::xml_node const interface : joint.children(element)) {
-        if (pugi::xml_attribute const name = interface.attribute("name"); *name.value() != 0) {
+    for (XmlNode const interface : joint.children(element)) {
+        if (XmlAttribute const name = interface.attribute("name"); !name.value().empty()) {
             names.emplace_back(name.value());
         }
     }
@@ -77,13 +78,13 @@ std::vector<std::string> namesOf(pugi::xml_node joint, char const* element)
 
 }  // namespace
 
-void readRos2Control(pugi::xml_node system, LinkTree& tree, Records& robot, Report const& report)
+void readRos2Control(XmlNode system, LinkTree& tree, Records& robot, Report const& report)
 {
     Drives drives;
-    for (pugi::xml_node const transmission : system.children("transmission")) {
+    for (XmlNode const transmission : system.children("transmission")) {
         addDrives(transmission, drives);
     }
-    for (pugi::xml_node const joint : system.children("joint")) {
+    for (XmlNode const joint : system.children("joint")) {
         TransmissionConfig driven;
         driven.name = system.attribute("name").value();
         driven.type = system.attribute("type").value();

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "urdf/numbers.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -22,10 +22,10 @@ bool saysWhich(std::string_view attribute)
 }
 
 /// So are those elements; the origin of the old form, a text, is not.
-bool saysWhere(pugi::xml_node element)
+bool saysWhere(XmlNode element)
 {
     std::string_view const name = element.name();
-    return name == "parent" || name == "pose" || (name == "origin" && *element.child_value() == 0);
+    return name == "parent" || name == "pose" || (name == "origin" && element.text().empty());
 }
 
 template <class Record>
@@ -45,10 +45,10 @@ bool holdsSettings(std::string_view path)
     });
 }
 
-bool holdsNoise(pugi::xml_node element, std::size_t depth)
+bool holdsNoise(XmlNode element, std::size_t depth)
 {
     auto const children = element.children();
-    return std::any_of(children.begin(), children.end(), [depth](pugi::xml_node child) {
+    return std::any_of(children.begin(), children.end(), [depth](XmlNode child) {
         return std::string_view(child.name()) == "noise" || (depth > 1 && holdsNoise(child, depth - 1));
     });
 }
@@ -57,17 +57,17 @@ class SettingsReader {
 public:
     explicit SettingsReader(Report const& report) : _report(report) {}
 
-    std::shared_ptr<SensorSettings const> read(pugi::xml_node sensor);
+    std::shared_ptr<SensorSettings const> read(XmlNode sensor);
 
 private:
-    void readPart(pugi::xml_node element, std::string const& path);
-    void readAttributes(pugi::xml_node element, std::string const& path);
-    void readChild(pugi::xml_node child, std::string const& path);
-    void readElement(pugi::xml_node element, std::string const& path);
-    bool isFirst(pugi::xml_node element, std::string const& path);
-    void readNoise(pugi::xml_node noise, std::string const& quantity, std::string const& type);
+    void readPart(XmlNode element, std::string const& path);
+    void readAttributes(XmlNode element, std::string const& path);
+    void readChild(XmlNode child, std::string const& path);
+    void readElement(XmlNode element, std::string const& path);
+    bool isFirst(XmlNode element, std::string const& path);
+    void readNoise(XmlNode noise, std::string const& quantity, std::string const& type);
     void readRangeCount();
-    void checkOrder(pugi::xml_node sensor);
+    void checkOrder(XmlNode sensor);
     template <class Record>
     bool store(Setting<Record> const& setting, std::string_view text, TextOffset place, Record& record);
 
@@ -75,13 +75,13 @@ private:
     SensorSettings _settings;
     bool _isAnyStated = false;
     std::unordered_set<std::string> _seen;  ///< paths that may be stated once
-    pugi::xml_node _rangeCount;
+    XmlNode _rangeCount;
     bool _hasManyCameras = false;
 };
 
-std::shared_ptr<SensorSettings const> SettingsReader::read(pugi::xml_node sensor)
+std::shared_ptr<SensorSettings const> SettingsReader::read(XmlNode sensor)
 {
-    _hasManyCameras = std::string_view(sensor.attribute("type").value()) == "multicamera";
+    _hasManyCameras = sensor.attribute("type").value() == "multicamera";
     readPart(sensor, "");
     readRangeCount();
     checkOrder(sensor);
@@ -89,38 +89,39 @@ std::shared_ptr<SensorSettings const> SettingsReader::read(pugi::xml_node sensor
 }
 
 /// An element that holds settings; `path` is empty for the sensor's own, and ends with a slash for others.
-void SettingsReader::readPart(pugi::xml_node element, std::string const& path)
+void SettingsReader::readPart(XmlNode element, std::string const& path)
 {
     readAttributes(element, path);
-    for (pugi::xml_node const child : element.children()) {
-        if (child.type() == pugi::node_element) {
+    for (XmlNode const child : element.children()) {
+        if (child.isElement()) {
             readChild(child, path);
         }
     }
 }
 
-void SettingsReader::readAttributes(pugi::xml_node element, std::string const& path)
+void SettingsReader::readAttributes(XmlNode element, std::string const& path)
 {
-    for (pugi::xml_attribute const attribute : element.attributes()) {
+    for (XmlAttribute const attribute : element.attributes()) {
         if (path.empty() && saysWhich(attribute.name())) {
             continue;
         }
-        auto const* const setting = findSetting(sensorSettings, path + attribute.name());
+        std::string const name = path + std::string(attribute.name());
+        auto const* const setting = findSetting(sensorSettings, name);
         bool const isStored =
             setting != nullptr && store(*setting, attribute.value(), at(element, attribute), _settings);
         if (isStored) {
-            _seen.insert(path + attribute.name());
+            _seen.insert(name);
         } else {
             _report.passOver(element, attribute);
         }
     }
 }
 
-void SettingsReader::readChild(pugi::xml_node child, std::string const& path)
+void SettingsReader::readChild(XmlNode child, std::string const& path)
 {
     std::string_view name = child.name();
     if (path.empty() && saysWhere(child)) {
-        if (!isFirst(child, child.name())) {
+        if (!isFirst(child, std::string(name))) {
             _report.passOver(child);
         }
         return;
@@ -135,7 +136,7 @@ void SettingsReader::readChild(pugi::xml_node child, std::string const& path)
     readElement(child, path + std::string(alias == sensorAliases.end() ? name : alias->meant));
 }
 
-void SettingsReader::readElement(pugi::xml_node element, std::string const& path)
+void SettingsReader::readElement(XmlNode element, std::string const& path)
 {
     std::size_t const depth = static_cast<std::size_t>(std::count(path.begin(), path.end(), '/')) + 1;
     std::string const around = path.substr(0, path.find('/'));
@@ -152,13 +153,13 @@ void SettingsReader::readElement(pugi::xml_node element, std::string const& path
     bool const isRead = (setting != nullptr || isPart) && isFirst(element, path);
     if (isRead && isPart) {
         readPart(element, path + "/");
-    } else if (!isRead || !store(*setting, element.child_value(), at(element), _settings)) {
+    } else if (!isRead || !store(*setting, element.text(), at(element), _settings)) {
         _report.passOver(element);
     }
 }
 
 /// Reports an element that may stand once and stands again.
-bool SettingsReader::isFirst(pugi::xml_node element, std::string const& path)
+bool SettingsReader::isFirst(XmlNode element, std::string const& path)
 {
     bool const isNew = _seen.insert(path).second;
     if (!isNew && !_hasManyCameras) {
@@ -169,7 +170,7 @@ bool SettingsReader::isFirst(pugi::xml_node element, std::string const& path)
 }
 
 /// The noise of an inertial unit may state that of two quantities, with one type for both.
-void SettingsReader::readNoise(pugi::xml_node noise, std::string const& quantity, std::string const& type)
+void SettingsReader::readNoise(XmlNode noise, std::string const& quantity, std::string const& type)
 {
     NoiseSettings stated;
     stated.quantity = quantity;
@@ -181,23 +182,23 @@ void SettingsReader::readNoise(pugi::xml_node noise, std::string const& quantity
         saysMore = saysMore || (isStored && name != "type");
         return isStored;
     };
-    for (pugi::xml_attribute const attribute : noise.attributes()) {
+    for (XmlAttribute const attribute : noise.attributes()) {
         if (!take(attribute.name(), attribute.value(), at(noise, attribute))) {
             _report.passOver(noise, attribute);
         }
     }
-    std::vector<pugi::xml_node> parts;
-    for (pugi::xml_node const child : noise.children()) {
+    std::vector<XmlNode> parts;
+    for (XmlNode const child : noise.children()) {
         std::string_view const name = child.name();
         bool const isPart = quantity.empty() && (name == "accel" || name == "rate");
         if (isPart) {
             parts.push_back(child);
-        } else if (child.type() == pugi::node_element && !take(name, child.child_value(), at(child))) {
+        } else if (child.isElement() && !take(name, child.text(), at(child))) {
             _report.passOver(child);
         }
     }
-    for (pugi::xml_node const part : parts) {
-        readNoise(part, part.name(), stated.type);
+    for (XmlNode const part : parts) {
+        readNoise(part, std::string(part.name()), stated.type);
     }
     if (parts.empty() || saysMore) {
         _settings.noises.push_back(std::move(stated));
@@ -211,9 +212,9 @@ void SettingsReader::readRangeCount()
     if (!_rangeCount) {
         return;
     }
-    if (!parseNumber(_rangeCount.child_value(), count) || !(count >= 1.0 && count <= 100'000.0)) {
+    if (!parseNumber(_rangeCount.text(), count) || !(count >= 1.0 && count <= 100'000.0)) {
         _report.diagnostics.report(at(_rangeCount), codes::badSetting,
-                                   quoted(_rangeCount.child_value()) + " is not a count; it is left out.");
+                                   quoted(_rangeCount.text()) + " is not a count; it is left out.");
         _report.passOver(_rangeCount);
         return;
     }
@@ -226,7 +227,7 @@ void SettingsReader::readRangeCount()
     _isAnyStated = true;
 }
 
-void SettingsReader::checkOrder(pugi::xml_node sensor)
+void SettingsReader::checkOrder(XmlNode sensor)
 {
     auto const check = [&](float least, float greatest, char const* what) {
         if (least > greatest) {
@@ -262,7 +263,7 @@ bool SettingsReader::store(Setting<Record> const& setting, std::string_view text
 
 }  // namespace
 
-std::shared_ptr<SensorSettings const> readSensorSettings(pugi::xml_node sensor, Report const& report)
+std::shared_ptr<SensorSettings const> readSensorSettings(XmlNode sensor, Report const& report)
 {
     return SettingsReader(report).read(sensor);
 }

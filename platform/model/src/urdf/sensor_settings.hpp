@@ -5,11 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include <pugixml.hpp>
-
 #include "range.hpp"
 #include "urdf/elements.hpp"
 #include "varo/model/sensor_settings.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -42,7 +41,7 @@ extern Range<std::string_view> const noisyElements;
 
 /// What a sensor's element states of how the sensor is set; null for nothing. Whatever else stands in the element is
 /// passed over, but for what says which sensor it is and where.
-std::shared_ptr<SensorSettings const> readSensorSettings(pugi::xml_node sensor, Report const& report);
+std::shared_ptr<SensorSettings const> readSensorSettings(XmlNode sensor, Report const& report);
 
 }  // namespace Varo::Model::Urdf
 

@@ -9,7 +9,7 @@
 #include "urdf/numbers.hpp"
 #include "urdf/sensor_settings.hpp"
 #include "urdf/unknown_names.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -23,16 +23,16 @@ bool isSensor(std::string_view element)
 }
 
 /// Files that leave out the type say the kind by the element that holds its settings.
-std::string_view kindNameOf(pugi::xml_node sensor)
+std::string_view kindNameOf(XmlNode sensor)
 {
     std::string_view const element = sensor.name();
     if (element != "sensor") {
         return element.substr(oldPrefix.size());
     }
-    if (pugi::xml_attribute const type = sensor.attribute("type")) {
+    if (XmlAttribute const type = sensor.attribute("type")) {
         return type.value();
     }
-    for (pugi::xml_node child : sensor.children()) {
+    for (XmlNode child : sensor.children()) {
         if (findSensorKind(child.name()) != nullptr) {
             return child.name();
         }
@@ -56,32 +56,32 @@ bool hasSize(SensorType type)
 
 }  // namespace
 
-void SensorReader::readSensor(pugi::xml_node node)
+void SensorReader::readSensor(XmlNode node)
 {
-    pugi::xml_node const parent = node.child("parent");
-    pugi::xml_attribute const joint = parent.attribute("joint");
-    if (!read(node, {(joint ? joint : parent.attribute("link")).value(), !joint.empty()})) {
+    XmlNode const parent = node.child("parent");
+    XmlAttribute const joint = parent.attribute("joint");
+    if (!read(node, {(joint ? joint : parent.attribute("link")).value(), bool(joint)})) {
         _report.passOver(node);
     }
 }
 
 /// An element that refers to nothing is kept as one, so that what it refers to is kept with it.
-void SensorReader::readExtension(pugi::xml_node gazebo)
+void SensorReader::readExtension(XmlNode gazebo)
 {
-    pugi::xml_attribute const reference = gazebo.attribute("reference");
+    XmlAttribute const reference = gazebo.attribute("reference");
     ExtensionConfig bearer;
     bool const isDangling = reference && !findBearer(reference.value(), _tree, bearer);
     if (isDangling && !gazebo.child("sensor")) {
         reportDangling(gazebo, reference);
     }
-    for (pugi::xml_attribute const attribute : gazebo.attributes()) {
+    for (XmlAttribute const attribute : gazebo.attributes()) {
         if (!isDangling && attribute != reference) {
             _report.passOver(gazebo, attribute);
         }
     }
-    for (pugi::xml_node const child : gazebo.children()) {
+    for (XmlNode const child : gazebo.children()) {
         bool const isRead = isSensor(child.name()) && read(child, {reference.value()});
-        if (!isRead && !isDangling && child.type() == pugi::node_element) {
+        if (!isRead && !isDangling && child.isElement()) {
             _report.passOver(child);
         }
     }
@@ -91,7 +91,7 @@ void SensorReader::readExtension(pugi::xml_node gazebo)
 }
 
 /// Only what looks like a name that there is: others may be those of another robot, or of one that is attached later.
-void SensorReader::reportDangling(pugi::xml_node gazebo, pugi::xml_attribute reference)
+void SensorReader::reportDangling(XmlNode gazebo, XmlAttribute reference)
 {
     std::string_view const name = reference.value();
     for (std::string_view const close : {_tree.closestLink(name), _tree.closestJoint(name)}) {
@@ -104,15 +104,15 @@ void SensorReader::reportDangling(pugi::xml_node gazebo, pugi::xml_attribute ref
 }
 
 /// In one note: there is nothing to be done about it.
-void SensorReader::reportKindsWithoutClass(pugi::xml_node amendment)
+void SensorReader::reportKindsWithoutClass(XmlNode amendment)
 {
     std::unordered_set<std::string_view> amended;
-    for (pugi::xml_node const sensor : amendment.children("sensor")) {
+    for (XmlNode const sensor : amendment.children("sensor")) {
         if (sensor.attribute("type")) {
             amended.insert(sensor.attribute("name").value());
         }
     }
-    auto const isAmended = [&](pugi::xml_node node) { return amended.count(node.attribute("name").value()) > 0; };
+    auto const isAmended = [&](XmlNode node) { return amended.count(node.attribute("name").value()) > 0; };
     _withoutClass.erase(std::remove_if(_withoutClass.begin(), _withoutClass.end(), isAmended), _withoutClass.end());
     if (_withoutClass.empty()) {
         return;
@@ -136,13 +136,13 @@ bool SensorReader::findParent(Carrier carrier, std::string& parent) const
     return true;
 }
 
-Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
+Pose SensorReader::readPose(XmlNode node, std::string_view carrier)
 {
-    pugi::xml_node const pose = node.child("pose");
+    XmlNode const pose = node.child("pose");
     if (!pose) {
         return readOrigin(node.child("origin"), _report.diagnostics);
     }
-    for (pugi::xml_attribute const attribute : pose.attributes()) {
+    for (XmlAttribute const attribute : pose.attributes()) {
         _report.passOver(pose, attribute);
         std::string_view const name = attribute.name();
         std::string_view const frame = attribute.value();
@@ -159,7 +159,7 @@ Pose SensorReader::readPose(pugi::xml_node node, std::string_view carrier)
 }
 
 /// False for a sensor that nothing carries.
-bool SensorReader::read(pugi::xml_node node, Carrier carrier)
+bool SensorReader::read(XmlNode node, Carrier carrier)
 {
     Diagnostics& diagnostics = _report.diagnostics;
     SensorConfig sensor;
@@ -173,7 +173,7 @@ bool SensorReader::read(pugi::xml_node node, Carrier carrier)
             didYouMean(carrier.isJoint ? _tree.closestJoint(carrier.name) : _tree.closestLink(carrier.name)));
         return false;
     }
-    std::string_view const name = *node.attribute("name").value() != 0 ? readName(node, diagnostics) : carrier.name;
+    std::string_view const name = !node.attribute("name").value().empty() ? readName(node, diagnostics) : carrier.name;
     sensor.name = _names.claim(std::string(name), "this sensor", at(node), diagnostics);
     sensor.placement = toTransform(readPose(node, carrier.name));
     sensor.settings = readSensorSettings(node, _report);
@@ -193,7 +193,7 @@ bool SensorReader::read(pugi::xml_node node, Carrier carrier)
 }
 
 /// Type, keys and size, as the loaders of a model want them for sensors of this kind.
-void SensorReader::fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor)
+void SensorReader::fill(XmlNode node, SensorKind const& kind, SensorConfig& sensor)
 {
     sensor.type = kind.type;
     for (std::string_view const quantity : kind.quantities) {

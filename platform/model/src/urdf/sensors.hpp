@@ -5,13 +5,12 @@
 #include <string_view>
 #include <vector>
 
-#include <pugixml.hpp>
-
 #include "robot/link_tree.hpp"
 #include "robot/unique_names.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/sensor_kinds.hpp"
 #include "varo/model/records.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -21,11 +20,11 @@ public:
     SensorReader(LinkTree& tree, Records& robot, Report const& report) : _tree(tree), _robot(robot), _report(report) {}
 
     /// A `sensor` element that stands directly in the robot.
-    void readSensor(pugi::xml_node node);
+    void readSensor(XmlNode node);
     /// The sensors in a `gazebo` element, on the link or joint that it refers to; the rest of it is passed over.
-    void readExtension(pugi::xml_node gazebo);
+    void readExtension(XmlNode gazebo);
     /// To be called when all sensors are read; `amendment` may say what some of them are.
-    void reportKindsWithoutClass(pugi::xml_node amendment);
+    void reportKindsWithoutClass(XmlNode amendment);
 
 private:
     /// What carries a sensor, as the text says it.
@@ -34,17 +33,17 @@ private:
         bool isJoint = false;  ///< otherwise a link or, where there is none of the name, a joint
     };
 
-    bool read(pugi::xml_node node, Carrier carrier);
-    void reportDangling(pugi::xml_node gazebo, pugi::xml_attribute reference);
+    bool read(XmlNode node, Carrier carrier);
+    void reportDangling(XmlNode gazebo, XmlAttribute reference);
     bool findParent(Carrier carrier, std::string& parent) const;
-    void fill(pugi::xml_node node, SensorKind const& kind, SensorConfig& sensor);
-    Pose readPose(pugi::xml_node node, std::string_view carrier);
+    void fill(XmlNode node, SensorKind const& kind, SensorConfig& sensor);
+    Pose readPose(XmlNode node, std::string_view carrier);
 
     LinkTree& _tree;
     Records& _robot;
     Report const& _report;
     UniqueNames _names;
-    std::vector<pugi::xml_node> _withoutClass;  ///< sensors of kinds that the model has no class for
+    std::vector<XmlNode> _withoutClass;  ///< sensors of kinds that the model has no class for
 };
 
 }  // namespace Varo::Model::Urdf

@@ -2,6 +2,7 @@
 #include "urdf/schema.hpp"
 #include "urdf/surplus.hpp"
 #include "urdf/urdf_codes.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -39,7 +40,7 @@ template <GeometryType type, auto const& element>
 constexpr Child<Solid> solid()
 {
     return {{&element, Occurrence::optional},
-            [](ElementReader& reader, pugi::xml_node node, Solid& geometry) {
+            [](ElementReader& reader, XmlNode node, Solid& geometry) {
                 if (geometry.type) {
                     reportSurplus(node, reader.diagnostics());
                 } else {
@@ -92,7 +93,7 @@ constexpr Child<AnyShape> originChild = childOf<&Shape::origin, shapeOrigin, Any
 template <class AnyShape>
 constexpr Child<AnyShape> geometryChild = {
     {&geometryElement, Occurrence::optional},
-    [](ElementReader& reader, pugi::xml_node node, AnyShape& shape) {
+    [](ElementReader& reader, XmlNode node, AnyShape& shape) {
         readItem(reader, geometryElement, node, shape.geometry);
     },
     [](ElementWriter& writer, AnyShape const& shape) { writer.write<Solid>(geometryElement, shape.geometry); }};

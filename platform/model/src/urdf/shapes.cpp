@@ -4,7 +4,7 @@
 
 #include "urdf/translation.hpp"
 #include "urdf/urdf_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -18,7 +18,7 @@ bool isWhole(Shape const& shape, Diagnostics& diagnostics)
     if (solid.type && !lacksFile) {
         return true;
     }
-    std::string const kind = shape.node.name();
+    std::string const kind(shape.node.name());
     diagnostics.report(at(solid.node ? solid.node : shape.node), codes::incompleteShape,
                        lacksFile ? "This mesh says no file: the " + kind + " is left out."
                                  : "This says no solid that URDF knows: the " + kind + " is left out.",

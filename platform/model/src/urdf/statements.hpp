@@ -8,10 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include <pugixml.hpp>
-
 #include "robot/pose.hpp"
 #include "varo/model/configs.hpp"
+#include "xml/document.hpp"
 
 /// What a URDF text says, element by element: what the tables of `schema.hpp` are read into and written from.
 ///
@@ -20,7 +19,7 @@
 namespace Varo::Model::Urdf {
 
 struct Stated {
-    pugi::xml_node node;  ///< null for what was not read
+    XmlNode node;  ///< null for what was not read
 };
 
 struct Origin : Stated {

@@ -10,13 +10,13 @@
 #include "urdf/schema.hpp"
 #include "urdf/surplus.hpp"
 #include "urdf/values.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
 namespace {
 
-void reportMissing(AttributeInfo const& attribute, pugi::xml_node node, Diagnostics& diagnostics)
+void reportMissing(AttributeInfo const& attribute, XmlNode node, Diagnostics& diagnostics)
 {
     diagnostics.report(at(node), *attribute.missing.code, std::string(attribute.missing.message),
                        std::string(attribute.missing.hint));
@@ -63,8 +63,7 @@ void reportWrongNumbers(ValueType const& type, TextOffset place, std::string_vie
 
 }  // namespace
 
-std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
-                                               pugi::xml_attribute attribute)
+std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute)
 {
     if (declaresOwnNamespace(attribute)) {
         return noRow;
@@ -79,7 +78,7 @@ std::size_t TolerantReader::onUnknownAttribute(ElementInfo const& element, pugi:
     return _unknown.noteAttribute(element, node, attribute);
 }
 
-std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, pugi::xml_node child)
+std::size_t TolerantReader::onUnknownChild(ElementInfo const& element, XmlNode child)
 {
     if (isOwn(child.name())) {
         takeOwn(element, child);
@@ -96,7 +95,7 @@ bool TolerantReader::isOwn(std::string_view name) const
 }
 
 /// What is in our own namespace is for nobody else: it is not kept as text.
-void TolerantReader::takeOwn(ElementInfo const& element, pugi::xml_node child)
+void TolerantReader::takeOwn(ElementInfo const& element, XmlNode child)
 {
     std::string const known = _ownPrefix + std::string(Native::amendmentName());
     if (&element != &robotElement || child.name() != known) {
@@ -112,28 +111,28 @@ void TolerantReader::takeOwn(ElementInfo const& element, pugi::xml_node child)
     }
 }
 
-void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, pugi::xml_node child)
+void TolerantReader::onRepeatedChild(ElementInfo const& /*element*/, XmlNode child)
 {
     reportSurplus(child, diagnostics());
     _report.passOver(child);
 }
 
 /// What stands between elements is prose; in one that holds none, it was meant for a value.
-void TolerantReader::onUnexpectedText(ElementInfo const& element, pugi::xml_node text)
+void TolerantReader::onUnexpectedText(ElementInfo const& element, XmlNode text)
 {
     if (element.children.size() > 0) {
         return;
     }
     std::string const tag(element.name);
-    std::string const value = quoted(trimmed(text.value()));
-    bool const isMeant = element.attributes.size() == 1 && !text.parent().attribute(element.attributes[0].name.data());
+    std::string const value = quoted(trimmed(text.text()));
+    bool const isMeant = element.attributes.size() == 1 && !text.parent().attribute(element.attributes[0].name);
     std::string const meant =
         isMeant ? "Write <" + tag + " " + std::string(element.attributes[0].name) + "=" + value + "/>." : std::string();
     diagnostics().report(at(text.parent()), codes::unexpectedText,
                          "The text " + value + " in this " + tag + " is left out: URDF has none there.", meant);
 }
 
-void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node)
+void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, XmlNode node)
 {
     bool const isError = attribute.missing.code != nullptr && attribute.missing.code->severity == Severity::error;
     if (!isError && !trimmed(textOf(node)).empty()) {
@@ -149,7 +148,7 @@ void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInf
     }
 }
 
-void TolerantReader::onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
+void TolerantReader::onWrongValue(AttributeInfo const& row, XmlNode node, XmlAttribute attribute,
                                   std::string_view value)
 {
     TextOffset const place = at(node, attribute);

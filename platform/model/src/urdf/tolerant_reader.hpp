@@ -8,6 +8,7 @@
 #include "schema/element_reader.hpp"
 #include "urdf/elements.hpp"
 #include "urdf/unknown_names.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -24,28 +25,26 @@ public:
     void reportKinds() { _unknown.report(); }
 
     /// The element that says what is beyond URDF; null for none.
-    pugi::xml_node amendment() const { return _amendment; }
+    XmlNode amendment() const { return _amendment; }
 
 private:
-    std::size_t onUnknownAttribute(ElementInfo const& element, pugi::xml_node node,
-                                   pugi::xml_attribute attribute) override;
-    std::size_t onUnknownChild(ElementInfo const& element, pugi::xml_node child) override;
-    void onRepeatedChild(ElementInfo const& element, pugi::xml_node child) override;
-    void onUnexpectedText(ElementInfo const& element, pugi::xml_node text) override;
-    void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, pugi::xml_node node) override;
-    void onMissingChild(ElementInfo const& /*element*/, ChildInfo const& /*child*/, pugi::xml_node /*node*/) override {}
-    void onWrongValue(AttributeInfo const& row, pugi::xml_node node, pugi::xml_attribute attribute,
-                      std::string_view value) override;
-    void onName(NameRule const& /*rule*/, std::string_view /*name*/, pugi::xml_node /*node*/,
-                pugi::xml_attribute /*attribute*/) override
+    std::size_t onUnknownAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute) override;
+    std::size_t onUnknownChild(ElementInfo const& element, XmlNode child) override;
+    void onRepeatedChild(ElementInfo const& element, XmlNode child) override;
+    void onUnexpectedText(ElementInfo const& element, XmlNode text) override;
+    void onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, XmlNode node) override;
+    void onMissingChild(ElementInfo const& /*element*/, ChildInfo const& /*child*/, XmlNode /*node*/) override {}
+    void onWrongValue(AttributeInfo const& row, XmlNode node, XmlAttribute attribute, std::string_view value) override;
+    void onName(NameRule const& /*rule*/, std::string_view /*name*/, XmlNode /*node*/,
+                XmlAttribute /*attribute*/) override
     {}
 
     bool isOwn(std::string_view name) const;
-    void takeOwn(ElementInfo const& element, pugi::xml_node child);
+    void takeOwn(ElementInfo const& element, XmlNode child);
 
     Report const& _report;
     std::string _ownPrefix;
-    pugi::xml_node _amendment;
+    XmlNode _amendment;
     UnknownNames _unknown{_report.diagnostics};
 };
 

@@ -3,6 +3,7 @@
 #include "schema/children.hpp"
 #include "urdf/schema.hpp"
 #include "urdf/urdf_codes.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -34,7 +35,7 @@ constexpr Child<TransmissionEnd> actuatorChildren[] = {reductionChild, interface
 constexpr Element<TransmissionEnd> jointEnd{"joint", "a joint that is driven", endAttributes, jointChildren};
 constexpr Element<TransmissionEnd> actuatorEnd{"actuator", "what drives it", endAttributes, actuatorChildren};
 
-void readType(ElementReader& reader, pugi::xml_node node, Transmission& transmission)
+void readType(ElementReader& reader, XmlNode node, Transmission& transmission)
 {
     reader.read(typeElement, node, transmission.type);
 }

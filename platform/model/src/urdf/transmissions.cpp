@@ -4,7 +4,7 @@
 
 #include "urdf/translation.hpp"
 #include "urdf/urdf_codes.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -87,8 +87,7 @@ void keepRest(Transmission const& transmission, Report const& report)
         report.passOver(transmission.actuators[i].node);
     }
     keepOtherReductions(transmission, report);
-    if (pugi::xml_attribute const type = transmission.node.attribute("type");
-        type && type.value() != transmission.type) {
+    if (XmlAttribute const type = transmission.node.attribute("type"); type && type.value() != transmission.type) {
         report.passOver(transmission.node, type);
     }
 }

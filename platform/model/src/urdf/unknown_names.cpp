@@ -7,7 +7,7 @@
 #include "schema/element_reader.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "varo/model/spelling.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -102,7 +102,7 @@ bool isNear(std::string_view written, std::string_view known)
     return distance <= 1 || (distance == farthest && known.size() >= 6);
 }
 
-std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute)
+std::size_t UnknownNames::noteAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute)
 {
     std::string_view const name = attribute.name();
     if (isPrefixed(name)) {
@@ -119,10 +119,10 @@ std::size_t UnknownNames::noteAttribute(ElementInfo const& element, pugi::xml_no
                             ": it is kept as text, and counts for nothing.",
                         didYouMean(row.name));
     bool const isRefused = row.missing.code != nullptr && row.missing.code->severity == Severity::error;
-    return isRefused || node.attribute(row.name.data()) ? noRow : meant;
+    return isRefused || node.attribute(row.name) ? noRow : meant;
 }
 
-void UnknownNames::noteChild(ElementInfo const& element, pugi::xml_node child)
+void UnknownNames::noteChild(ElementInfo const& element, XmlNode child)
 {
     std::string_view const name = child.name();
     if (isPrefixed(name)) {

@@ -6,10 +6,9 @@
 #include <string_view>
 #include <utility>
 
-#include <pugixml.hpp>
-
 #include "urdf/schema.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -28,9 +27,9 @@ public:
 
     /// An attribute that the element does not define; answers the row that was meant, if nothing more need be said of
     /// its absence, and noRow otherwise.
-    std::size_t noteAttribute(ElementInfo const& element, pugi::xml_node node, pugi::xml_attribute attribute);
+    std::size_t noteAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute);
     /// A child that it does not define.
-    void noteChild(ElementInfo const& element, pugi::xml_node child);
+    void noteChild(ElementInfo const& element, XmlNode child);
 
     /// Notes on the attributes that nobody meant for URDF, each kind once. To be called once, in the end.
     void report();

@@ -18,7 +18,7 @@
 #include "urdf/sensors.hpp"
 #include "urdf/tolerant_reader.hpp"
 #include "urdf/translation.hpp"
-#include "xml/node_offset.hpp"
+#include "xml/document.hpp"
 
 namespace Varo::Model {
 
@@ -47,7 +47,7 @@ constexpr PartPlace parts[] = {
 
 class Reader {
 public:
-    Reader(pugi::xml_node root, Diagnostics& diagnostics) : _root(root), _diagnostics(diagnostics) {}
+    Reader(XmlNode root, Diagnostics& diagnostics) : _root(root), _diagnostics(diagnostics) {}
 
     Records read();
 
@@ -59,12 +59,12 @@ private:
     void readSensors();
     void readControls();
 
-    pugi::xml_node _root;
+    XmlNode _root;
     Diagnostics& _diagnostics;
     Extensions _kept;
     Report _report = {_diagnostics, _kept};
     Robot _stated;
-    pugi::xml_node _amendment;  ///< what is said beyond URDF; null for nothing
+    XmlNode _amendment;  ///< what is said beyond URDF; null for nothing
     LinkTree _tree;
     Records _robot;
 };
@@ -92,7 +92,7 @@ Records Reader::read()
 }
 
 template <class Item>
-void reserve(std::vector<Item>& items, pugi::xml_node root, char const* element)
+void reserve(std::vector<Item>& items, XmlNode root, char const* element)
 {
     auto const elements = root.children(element);
     items.reserve(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
@@ -152,10 +152,10 @@ void Reader::readBodies()
 void Reader::readSensors()
 {
     SensorReader reader(_tree, _robot, _report);
-    for (pugi::xml_node const sensor : _root.children("sensor")) {
+    for (XmlNode const sensor : _root.children("sensor")) {
         reader.readSensor(sensor);
     }
-    for (pugi::xml_node const extension : _root.children("gazebo")) {
+    for (XmlNode const extension : _root.children("gazebo")) {
         reader.readExtension(extension);
     }
     reader.reportKindsWithoutClass(_amendment);
@@ -163,7 +163,7 @@ void Reader::readSensors()
 
 void Reader::readControls()
 {
-    for (pugi::xml_node const system : _root.children("ros2_control")) {
+    for (XmlNode const system : _root.children("ros2_control")) {
         readRos2Control(system, _tree, _robot, _report);
     }
     std::stable_sort(_robot.transmissions.begin(), _robot.transmissions.end(),
@@ -176,7 +176,7 @@ void Reader::readControls()
 
 Range<PartPlace> const urdfParts = Urdf::parts;
 
-Records readUrdf(pugi::xml_node root, Diagnostics& diagnostics)
+Records readUrdf(XmlNode root, Diagnostics& diagnostics)
 {
     return Urdf::Reader(root, diagnostics).read();
 }

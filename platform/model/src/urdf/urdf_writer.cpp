@@ -7,8 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include <pugixml.hpp>
-
 #include "native/amendment.hpp"
 #include "robot/robot_record.hpp"
 #include "urdf/beyond_urdf.hpp"
@@ -17,6 +15,7 @@
 #include "urdf/statements_of.hpp"
 #include "urdf/urdf_codes.hpp"
 #include "urdf/urdf_reader.hpp"
+#include "xml/document.hpp"
 #include "xml/parse.hpp"
 
 namespace Varo::Model {
@@ -89,10 +88,10 @@ std::unique_ptr<RobotRecord> UrdfText::readBack(std::string& reason) const
 {
     auto const source = std::make_shared<SourceText const>(write({}, {}));
     Diagnostics diagnostics(source.get());
-    pugi::xml_document document;
+    XmlDocument document;
     Records records;
     if (parseXml(*source, document, diagnostics)) {
-        records = readUrdf(document.document_element(), diagnostics);
+        records = readUrdf(document.root(), diagnostics);
     }
     if (diagnostics.hasErrors()) {
         reason = summaryOf(diagnostics.findings());

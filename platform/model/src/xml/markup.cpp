@@ -1,13 +1,10 @@
 #include "xml/markup.hpp"
 
 #include <algorithm>
-#include <charconv>
-#include <cstdint>
-#include <system_error>
 
 #include "varo/model/diagnostics.hpp"
+#include "xml/decoding.hpp"
 #include "xml/raw_tag.hpp"
-#include "xml/utf8.hpp"
 
 namespace Varo::Model {
 
@@ -48,34 +45,15 @@ std::size_t endOfDocumentType(std::string_view text, std::size_t position)
     return text.npos;
 }
 
-/// The value with its references replaced by what they stand for.
-std::string unescaped(std::string_view value)
-{
-    std::string result;
-    while (!value.empty()) {
-        std::size_t const plain = std::min(value.find('&'), value.size());
-        result += value.substr(0, plain);
-        value.remove_prefix(plain);
-        std::size_t const close = std::min(value.find(';'), value.size());
-        auto const character = value.empty() ? std::nullopt : referencedCharacter(value.substr(1, close - 1));
-        if (character) {
-            appendUtf8(result, *character);
-            value.remove_prefix(close + 1);
-        } else if (!value.empty()) {
-            result += '&';
-            value.remove_prefix(1);
-        }
-    }
-    return result;
-}
-
 /// One step of a path: `/joint[@name="HeadYaw"]`, or just `/joint` for an element without a name.
 std::string pathStep(std::string_view element, std::string_view name)
 {
     std::string const quotedElement = quoted(element);
     std::string step = "/" + quotedElement.substr(1, quotedElement.size() - 2);
     if (!name.empty()) {
-        step += "[@name=" + quoted(unescaped(name)) + "]";
+        std::string decoded;
+        appendDecoded(name, XmlContext::attribute, decoded);
+        step += "[@name=" + quoted(decoded) + "]";
     }
     return step;
 }
@@ -153,30 +131,6 @@ std::size_t byteOrderMarkSize(std::string_view text)
 {
     std::string_view const mark = "\xEF\xBB\xBF";
     return startsWith(text, 0, mark) ? mark.size() : 0;
-}
-
-std::optional<char32_t> referencedCharacter(std::string_view reference)
-{
-    struct Known {
-        std::string_view name;
-        char32_t character;
-    };
-    for (auto const& [name, character] :
-         {Known{"amp", U'&'}, Known{"lt", U'<'}, Known{"gt", U'>'}, Known{"quot", U'"'}, Known{"apos", U'\''}}) {
-        if (reference == name) {
-            return character;
-        }
-    }
-    if (reference.size() < 2 || reference[0] != '#') {
-        return {};
-    }
-    int const base = reference[1] == 'x' ? 16 : 10;
-    std::string_view const digits = reference.substr(base == 16 ? 2 : 1);
-    std::uint32_t codePoint = 0;
-    auto const [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), codePoint, base);
-    bool const isCharacter =
-        error == std::errc() && end == digits.data() + digits.size() && isXmlCharacter(char32_t{codePoint});
-    return isCharacter ? std::optional(char32_t{codePoint}) : std::nullopt;
 }
 
 void OpenElements::advanceTo(std::size_t offset)

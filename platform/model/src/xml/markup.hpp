@@ -39,9 +39,6 @@ std::string_view attributeAt(std::string_view text, std::size_t offset);
 /// The size of the byte order mark that the text begins with, in bytes; 0 without one.
 std::size_t byteOrderMarkSize(std::string_view text);
 
-/// The character that stands between `&` and `;`; none for what XML does not know or allow.
-std::optional<char32_t> referencedCharacter(std::string_view reference);
-
 /// Knows, while it walks through a text, which elements it is in. Takes whatever has the shape of markup; in a broken
 /// text it stays where that breaks off.
 class OpenElements {

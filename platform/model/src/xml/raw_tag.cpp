@@ -40,18 +40,28 @@ bool RawTag::next(RawAttribute& attribute)
         return finish();
     }
     attribute.name = takeName();
-    skipSpace();
-    if (attribute.name.empty() || _position == _text.size() || _text[_position] != '=') {
+    if (attribute.name.empty()) {
         return breakOff();
+    }
+    _attributeBroken = !takeValue(attribute.value);
+    return !_attributeBroken || breakOff();
+}
+
+/// With the equals sign before it.
+bool RawTag::takeValue(std::string_view& value)
+{
+    skipSpace();
+    if (_position == _text.size() || _text[_position] != '=') {
+        return false;
     }
     ++_position;
     skipSpace();
     char const quote = _position < _text.size() ? _text[_position] : '\0';
     std::size_t const close = quote == '"' || quote == '\'' ? _text.find(quote, _position + 1) : _text.npos;
     if (close == _text.npos) {
-        return breakOff();
+        return false;
     }
-    attribute.value = {_text.data() + _position + 1, close - _position - 1};
+    value = {_text.data() + _position + 1, close - _position - 1};
     _position = close + 1;
     return true;
 }

@@ -26,13 +26,17 @@ public:
     bool next(RawAttribute& attribute);
 
     bool isBroken() const { return _broken; }
-    /// Once `next` has answered false: whether the tag is an element of its own, and the offset behind it.
+    /// Of a broken one: whether it broke off in an attribute.
+    bool isAttributeBroken() const { return _attributeBroken; }
+    /// Once `next` has answered false: whether the tag is an element of its own, and the offset behind it or, in a
+    /// broken one, of what does not belong there.
     bool isEmptyElement() const { return _emptyElement; }
     std::size_t end() const { return _position; }
 
 private:
     bool skipSpace();
     std::string_view takeName();
+    bool takeValue(std::string_view& value);
     bool finish();
     bool breakOff();
 
@@ -40,6 +44,7 @@ private:
     std::size_t _position;
     std::string_view _name;
     bool _broken = false;
+    bool _attributeBroken = false;
     bool _emptyElement = false;
 };
 

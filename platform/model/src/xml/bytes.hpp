@@ -1,0 +1,70 @@
+#ifndef VARO_MODEL_XML_BYTES_HPP
+#define VARO_MODEL_XML_BYTES_HPP
+
+#include <array>
+
+/// What the bytes of a text may be part of. In tables, since this is asked of every byte.
+namespace Varo::Model {
+
+/// Beyond ASCII every byte may be part of a name.
+enum ByteClass : unsigned char {
+    ofSpace = 1,
+    ofNameStart = 2,
+    ofName = 4,
+    ofPlainName = 8,  ///< in ASCII
+    ofPlainValue = 16,  ///< in ASCII, of an attribute, and standing for itself
+};
+
+constexpr std::array<unsigned char, 256> makeByteClasses()
+{
+    std::array<unsigned char, 256> classes{};
+    auto const add = [&classes](unsigned first, unsigned last, unsigned char of) {
+        for (unsigned byte = first; byte <= last; ++byte) {
+            classes[byte] |= of;
+        }
+    };
+    for (unsigned char const space : {' ', '\t', '\n', '\r'}) {
+        add(space, space, ofSpace);
+    }
+    for (auto const& [first, last] : {std::array{'a', 'z'}, {'A', 'Z'}, {'_', '_'}, {':', ':'}}) {
+        add(static_cast<unsigned char>(first), static_cast<unsigned char>(last), ofNameStart | ofName | ofPlainName);
+    }
+    for (auto const& [first, last] : {std::array{'0', '9'}, {'-', '-'}, {'.', '.'}}) {
+        add(static_cast<unsigned char>(first), static_cast<unsigned char>(last), ofName | ofPlainName);
+    }
+    add(0x80, 0xFF, ofNameStart | ofName);
+    add(' ', '~', ofPlainValue);
+    for (unsigned char const c : {'<', '&', '"', '\''}) {
+        classes[c] = 0;
+    }
+    return classes;
+}
+inline constexpr std::array<unsigned char, 256> byteClasses = makeByteClasses();
+
+constexpr bool isByte(char c, ByteClass wanted)
+{
+    return (byteClasses[static_cast<unsigned char>(c)] & wanted) != 0;
+}
+
+/// The first byte from there on that is not of the class. The text must end in a byte of value zero, which is of none.
+template <ByteClass wanted>
+char const* skip(char const* at)
+{
+    while (isByte(at[0], wanted)) {
+        if (!isByte(at[1], wanted)) {
+            return at + 1;
+        }
+        if (!isByte(at[2], wanted)) {
+            return at + 2;
+        }
+        if (!isByte(at[3], wanted)) {
+            return at + 3;
+        }
+        at += 4;
+    }
+    return at;
+}
+
+}  // namespace Varo::Model
+
+#endif

@@ -1,0 +1,99 @@
+#include <cstring>
+
+#include "xml/bytes.hpp"
+#include "xml/parser.hpp"
+
+/// Tags that need no closer look: all of ASCII, without control characters, without white space where mere style puts
+/// it, and surely right.
+namespace Varo::Model {
+
+namespace {
+
+/// Which of 64 bits stands for an attribute's name: names with different bits differ.
+std::uint64_t bitOf(char const* begin, char const* end)
+{
+    auto const mixed = static_cast<unsigned>(*begin + 11 * begin[(end - begin) / 2] + 17 * end[-1]);
+    return std::uint64_t{1} << (mixed % 64);
+}
+
+}  // namespace
+
+/// Inside the root, nearly everything is a plain tag or white space, and there is nothing to say of it.
+void XmlParser::takePlainTags()
+{
+    char const* const text = _text.data();
+    while (!isOutsideRoot()) {
+        char const* const less = skip<ofSpace>(text + _position);
+        char const* const end = *less != '<'     ? nullptr
+                                : less[1] == '/' ? takePlainEndTag(less)
+                                                 : takePlainStartTag(less);
+        if (end == nullptr) {
+            return;
+        }
+        _position = static_cast<std::size_t>(end - text);
+    }
+}
+
+/// The end of the tag that closes the open element; null for any other.
+char const* XmlParser::takePlainEndTag(char const* less)
+{
+    std::string_view const name = openName();
+    std::string_view const rest = _text.substr(static_cast<std::size_t>(less + 2 - _text.data()));
+    bool const isIt = rest.size() > name.size() && std::memcmp(rest.data(), name.data(), name.size()) == 0 &&
+                      rest[name.size()] == '>';
+    if (!isIt) {
+        return nullptr;
+    }
+    closeElement();
+    return rest.data() + name.size() + 1;
+}
+
+/// The end of the tag; null, with nothing done, for one that takes a closer look. Its attributes are apart from each
+/// other and of different names, and their values hold neither references nor `<`.
+char const* XmlParser::takePlainStartTag(char const* less)
+{
+    auto const firstAttribute = static_cast<std::uint32_t>(_document._attributes.size());
+    char const* const nameEnd = skip<ofPlainName>(less + 1);
+    char const* const end = isByte(less[1], ofNameStart) ? takePlainAttributes(nameEnd) : nullptr;
+    if (end == nullptr) {
+        _document._attributes.resize(firstAttribute);
+        return nullptr;
+    }
+    openElement(pieceOf({less + 1, static_cast<std::size_t>(nameEnd - less - 1)}), firstAttribute);
+    bool const isEmptyElement = end[-2] == '/';  // no value ends there
+    if (isEmptyElement) {
+        closeElement();
+    }
+    return end;
+}
+
+/// Of a start tag, from behind its name on.
+char const* XmlParser::takePlainAttributes(char const* at)
+{
+    std::uint64_t names = 0;
+    while (true) {
+        char const* const name = skip<ofSpace>(at);
+        if (*name == '>') {
+            return name + 1;
+        }
+        if (*name == '/' && name[1] == '>') {
+            return name + 2;
+        }
+        char const* const nameEnd = skip<ofPlainName>(name);
+        if (name == at || !isByte(*name, ofNameStart) || *nameEnd != '=' || (nameEnd[1] != '"' && nameEnd[1] != '\'')) {
+            return nullptr;
+        }
+        std::uint64_t const bit = bitOf(name, nameEnd);
+        char const* const value = nameEnd + 2;
+        at = skip<ofPlainValue>(value);
+        if ((names & bit) != 0 || *at != nameEnd[1]) {
+            return nullptr;
+        }
+        _document._attributes.push_back({pieceOf({name, static_cast<std::size_t>(nameEnd - name)}),
+                                         pieceOf({value, static_cast<std::size_t>(at - value)})});
+        names |= bit;
+        ++at;
+    }
+}
+
+}  // namespace Varo::Model
