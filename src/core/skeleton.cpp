@@ -81,10 +81,14 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint,
 
     // A second frame of the joint's name, unconnected: look-ups find the joint's own, which precedes it.
     addFrame(joint->_impl->sharedName(), Transform(), {});
-    _motionModel->endTransformFromJointName(branch.jointName, branch.end);
+    auto const* const record = joint->_impl->source().joint;
+    if (record != nullptr) {
+        branch.end = record->endTransform;
+    } else {
+        _motionModel->endTransformFromJointName(branch.jointName, branch.end);
+    }
     SharedName const linkName = linkNameOf(branch.jointName);
     FramePtr const linkFrame = addFrame(linkName, branch.end, joint->_impl->frame());
-    auto const* const record = joint->_impl->source().joint;
     auto const mass = record == nullptr ? massOf(branch.jointName) : massOf(*record);
     auto const visual =
         record == nullptr ? visualOf(branch.jointName) : createVisual(SharedName::of(record->meshName), Transform());

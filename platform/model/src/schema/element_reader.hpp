@@ -15,6 +15,36 @@ namespace Varo::Model::Schema {
 /// The index of a row that is not there.
 constexpr std::size_t noRow = static_cast<std::size_t>(-1);
 
+/// 0 for no row.
+constexpr RowSet bitOf(std::size_t row)
+{
+    return row == noRow ? 0 : RowSet{1} << row;
+}
+
+/// Names mostly differ in their size or their first characters, so that no function need be called.
+constexpr bool isSame(std::string_view a, std::string_view b)
+{
+    std::size_t same = 0;
+    while (a.size() == b.size() && same < a.size() && a[same] == b[same]) {
+        ++same;
+    }
+    return a.size() == b.size() && same == a.size();
+}
+
+/// The row of that name, looked for from `start` on and then from the beginning: texts mostly keep the tables' order.
+template <class Row>
+std::size_t findRow(Range<Row> rows, std::string_view name, std::size_t start)
+{
+    std::size_t index = start < rows.size() ? start : 0;
+    for (std::size_t left = rows.size(); left > 0; --left) {
+        if (isSame(name, nameOf(rows[index]))) {
+            return index;
+        }
+        index = index + 1 < rows.size() ? index + 1 : 0;
+    }
+    return noRow;
+}
+
 /// Reads elements as their tables say. What to make of a text that the tables do not allow, each dialect decides.
 class ElementReader {
 public:
@@ -51,9 +81,7 @@ private:
     template <class Record>
     void readChildren(Element<Record> const& element, XmlNode node, Record& record);
 
-    std::size_t findAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute, std::size_t start,
-                              RowSet& seen);
-    std::size_t findChild(ElementInfo const& element, XmlNode child, std::size_t start, RowSet& seen);
+    void noteText(ElementInfo const& element, XmlNode text);
     void noteMissingAttributes(ElementInfo const& element, XmlNode node, RowSet seen);
     void noteMissingChildren(ElementInfo const& element, XmlNode node, RowSet seen);
     void reportBroken(Complaint const& complaint, XmlNode node, std::string_view attribute);
@@ -71,10 +99,15 @@ void ElementReader::readAttributes(Element<Record> const& element, XmlNode node,
     RowSet seen = 0;
     std::size_t next = 0;
     for (XmlAttribute const attribute : node.attributes()) {
-        std::size_t const index = findAttribute(element, node, attribute, next, seen);
+        std::size_t const index = findRow(element.attributeRows, attribute.name(), next);
         if (index == noRow) {
+            seen |= bitOf(onUnknownAttribute(element, node, attribute));
             continue;
         }
+        if ((seen & bitOf(index)) != 0) {
+            continue;  // a fault of the text itself, which is told already
+        }
+        seen |= bitOf(index);
         next = index + 1;
         Attribute<Record> const& row = element.attributeRows[index];
         std::string_view const value = attribute.value();
@@ -95,8 +128,17 @@ void ElementReader::readChildren(Element<Record> const& element, XmlNode node, R
     RowSet seen = 0;
     std::size_t last = 0;
     for (XmlNode const child : node.children()) {
-        std::size_t const index = findChild(element, child, last, seen);
-        if (index != noRow) {
+        if (child.isText()) {
+            noteText(element, child);
+            continue;
+        }
+        std::size_t const index = findRow(element.childRows, child.name(), last);
+        if (index == noRow) {
+            seen |= bitOf(onUnknownChild(element, child));
+        } else if (element.childRows[index].occurrence != Occurrence::any && (seen & bitOf(index)) != 0) {
+            onRepeatedChild(element, child);
+        } else {
+            seen |= bitOf(index);
             last = index;
             element.childRows[index].read(*this, child, record);
         }

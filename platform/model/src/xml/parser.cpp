@@ -66,7 +66,7 @@ XmlParser::XmlParser(SourceText const& source, XmlDocument& document, Diagnostic
 bool XmlParser::parse()
 {
     // Roughly what descriptions have; where a text has more, it grows.
-    _document._nodes.reserve(_text.size() / 64);
+    _document._nodes.reserve(_text.size() / 40);
     _document._attributes.reserve(_text.size() / 32);
     while (_position < _text.size() && !_isBroken) {
         takePlainTags();
@@ -233,20 +233,6 @@ void XmlParser::takeDocumentType()
     report(_position, codes::documentType, "The text has a document type declaration.",
            "Leave it out: descriptions need none, and entities of one's own are not read.");
     finishToken(endOfMarkup(_text, _position, Markup::documentType));
-}
-
-void XmlParser::openElement(XmlDocument::Piece name, std::uint32_t firstAttribute)
-{
-    auto const index = static_cast<std::uint32_t>(_document._nodes.size());
-    _document._nodes.push_back({name, name.begin - 1, firstAttribute, 0, isOutsideRoot() ? index : _open});
-    _open = index;
-}
-
-void XmlParser::closeElement()
-{
-    XmlDocument::Node& node = _document._nodes[_open];
-    node.end = static_cast<std::uint32_t>(_document._nodes.size());
-    _open = node.parent == _open ? noNode : node.parent;
 }
 
 void XmlParser::addText(std::string_view raw, XmlContext context)

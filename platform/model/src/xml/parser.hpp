@@ -20,14 +20,14 @@ namespace Varo::Model {
 /// The next place in a text of what is looked for; where that is rare, most questions cost nothing.
 class Upcoming {
 public:
-    Upcoming(std::string_view text, std::string_view wanted) : _text(text), _wanted(wanted), _place(text.find(wanted))
-    {}
+    Upcoming(std::string_view text, std::string_view wanted) : _text(text), _wanted(wanted) {}
 
     /// The first one from `start` on, which must not go back; npos when there is none.
     std::size_t from(std::size_t start)
     {
-        if (_place < start) {
+        if (!_isKnown || _place < start) {
             _place = _text.find(_wanted, start);
+            _isKnown = true;
         }
         return _place;
     }
@@ -35,7 +35,8 @@ public:
 private:
     std::string_view _text;
     std::string_view _wanted;
-    std::size_t _place;
+    std::size_t _place = 0;
+    bool _isKnown = false;
 };
 
 /// Makes a document of a text and reports all that XML forbids, in one pass whose time is linear in the text. Plain
@@ -105,6 +106,22 @@ private:
     std::uint32_t _open = noNode;  ///< the index of the innermost open element
     bool _isBroken = false;
 };
+
+// For each element, and therefore inline.
+
+inline void XmlParser::openElement(XmlDocument::Piece name, std::uint32_t firstAttribute)
+{
+    auto const index = static_cast<std::uint32_t>(_document._nodes.size());
+    _document._nodes.push_back({name, name.begin - 1, firstAttribute, 0, isOutsideRoot() ? index : _open});
+    _open = index;
+}
+
+inline void XmlParser::closeElement()
+{
+    XmlDocument::Node& node = _document._nodes[_open];
+    node.end = static_cast<std::uint32_t>(_document._nodes.size());
+    _open = node.parent == _open ? noNode : node.parent;
+}
 
 }  // namespace Varo::Model
 

@@ -4,10 +4,12 @@
 #include <cstddef>
 #include <string_view>
 
+#include "xml/bytes.hpp"
+
 namespace Varo::Model {
 
 // Closures, so that calls are inlined.
-constexpr auto isXmlSpace = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; };
+constexpr auto isXmlSpace = [](char c) { return isByte(c, ofSpace); };
 constexpr auto isOfWord = [](char c) { return !isXmlSpace(c); };
 
 /// The first offset from `start` on whose character does not `belong`.

@@ -57,26 +57,26 @@ public:
     /// How many names there are.
     std::size_t size() const { return _entries.size(); }
 
-    /// Eight bytes at a time: names are short, and most work on them is finding them.
+    /// Eight bytes at a time, of which the last may be some of those before: names are short, and most work on them is
+    /// finding them.
     static std::uint32_t hashOf(std::string_view name)
     {
-        constexpr std::uint64_t factor =
-            0x9E3779B97F4A7C15U;  // odd, its bits as if by chance: 2^64 by the golden ratio
-        char const* at = name.data();
-        std::size_t left = name.size();
-        std::uint64_t hash = left * factor;
-        for (; left >= sizeof(std::uint64_t); left -= sizeof(std::uint64_t), at += sizeof(std::uint64_t)) {
-            std::uint64_t word;
-            std::memcpy(&word, at, sizeof word);
-            hash = (hash ^ word) * factor;
-            hash ^= hash >> 32U;
+        constexpr std::size_t step = sizeof(std::uint64_t);
+        std::uint64_t hash = name.size() * factor;
+        if (name.size() < step) {
+            std::uint64_t all = 0;
+            for (char const c : name) {
+                all = (all << 8U) | static_cast<unsigned char>(c);
+            }
+            hash = mixed(hash ^ all);
+        } else {
+            std::size_t const last = name.size() - step;
+            for (std::size_t at = 0; at < last; at += step) {
+                hash = mixed(hash ^ wordAt(name, at));
+            }
+            hash = mixed(hash ^ wordAt(name, last));
         }
-        std::uint64_t last = 0;
-        for (; left > 0; --left, ++at) {
-            last = (last << 8U) | static_cast<unsigned char>(*at);
-        }
-        hash = (hash ^ last) * factor;
-        return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
+        return static_cast<std::uint32_t>(hash);
     }
 
 private:
@@ -85,6 +85,23 @@ private:
         std::uint32_t hash;
         std::uint32_t number;
     };
+
+    static constexpr std::uint64_t factor =
+        0x9E3779B97F4A7C15U;  // odd, its bits as if by chance: 2^64 by the golden ratio
+
+    static std::uint64_t wordAt(std::string_view name, std::size_t at)
+    {
+        std::uint64_t word;
+        std::memcpy(&word, name.data() + at, sizeof word);
+        return word;
+    }
+    /// A product has in its low bits nothing of the high ones: those are folded into them before and after.
+    static std::uint64_t mixed(std::uint64_t hash)
+    {
+        hash ^= hash >> 32U;
+        hash *= factor;
+        return hash ^ (hash >> 32U);
+    }
 
     /// Where the name stands, or would.
     std::size_t slotOf(std::string_view name, std::uint32_t hash) const
