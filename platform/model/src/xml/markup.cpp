@@ -56,8 +56,8 @@ std::string unescaped(std::string_view value)
         std::size_t const plain = std::min(value.find('&'), value.size());
         result += value.substr(0, plain);
         value.remove_prefix(plain);
-        std::size_t const close = std::min(value.find(';'), value.size());
-        auto const character = value.empty() ? std::nullopt : referencedCharacter(value.substr(1, close - 1));
+        std::size_t const close = value.find(';');  // without which a reference is none
+        auto const character = close == value.npos ? std::nullopt : referencedCharacter(value.substr(1, close - 1));
         if (character) {
             appendUtf8(result, *character);
             value.remove_prefix(close + 1);
