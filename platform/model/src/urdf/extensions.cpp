@@ -5,6 +5,7 @@
 #include <tuple>
 #include <utility>
 
+#include "varo/model/name_hash.hpp"
 #include "xml/markup.hpp"
 #include "xml/node_offset.hpp"
 
@@ -107,7 +108,7 @@ void Extensions::findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& ex
 std::string Extensions::stepTo(pugi::xml_node element)
 {
     if (_ranks.find(idOf(element)) == _ranks.end()) {
-        std::unordered_map<std::string_view, std::size_t> counts;
+        std::unordered_map<std::string_view, std::size_t, NameHash> counts;
         for (pugi::xml_node const sibling : element.parent().children()) {
             _ranks.emplace(idOf(sibling), ++counts[sibling.name()]);
         }

@@ -3,10 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <string_view>
 #include <vector>
+
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model {
 
@@ -57,26 +58,10 @@ public:
     /// How many names there are.
     std::size_t size() const { return _entries.size(); }
 
-    /// Eight bytes at a time: names are short, and most work on them is finding them.
+    /// As NameHash, cut.
     static std::uint32_t hashOf(std::string_view name)
     {
-        constexpr std::uint64_t factor =
-            0x9E3779B97F4A7C15U;  // odd, its bits as if by chance: 2^64 by the golden ratio
-        char const* at = name.data();
-        std::size_t left = name.size();
-        std::uint64_t hash = left * factor;
-        for (; left >= sizeof(std::uint64_t); left -= sizeof(std::uint64_t), at += sizeof(std::uint64_t)) {
-            std::uint64_t word;
-            std::memcpy(&word, at, sizeof word);
-            hash = (hash ^ word) * factor;
-            hash ^= hash >> 32U;
-        }
-        std::uint64_t last = 0;
-        for (; left > 0; --left, ++at) {
-            last = (last << 8U) | static_cast<unsigned char>(*at);
-        }
-        hash = (hash ^ last) * factor;
-        return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
+        return static_cast<std::uint32_t>(Model::hashOf(name, hashSecret));
     }
 
 private:
