@@ -30,9 +30,6 @@ set_target_properties(varorobotmodel PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}  # before 1.0 every minor version may break the ABI
 )
-# Installed programs find the library beside them, wherever the tree stands.
-file(RELATIVE_PATH library_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-set(CMAKE_INSTALL_RPATH $ORIGIN/${library_from_programs})
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/varorobotmodel)
 install(TARGETS varorobotmodel EXPORT varorobotmodelTargets

@@ -9,9 +9,12 @@ function(varo_room name)
         PUBLIC ${PROJECT_SOURCE_DIR}/platform/export/include
         PRIVATE src
     )
-    if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/include)
-        target_include_directories(${name} PUBLIC include)
-    endif()
+    # What other rooms use, and what of that users do not: internal/ is not installed.
+    foreach(folder include internal)
+        if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+            target_include_directories(${name} PUBLIC ${folder})
+        endif()
+    endforeach()
     target_link_libraries(${name} PUBLIC ${ROOM_PUBLIC} PRIVATE ${ROOM_PRIVATE} varo_build_flags)
     set_property(GLOBAL APPEND PROPERTY VARO_ROOMS ${name})
 endfunction()

@@ -9,6 +9,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "sim/link.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Sim {
 
@@ -37,7 +38,8 @@ private:
     }
 
     mutable std::once_flag _isMade;
-    mutable std::unordered_map<std::string_view, Link const*> _byName;  // the links keep the names alive
+    // The links keep the names alive.
+    mutable std::unordered_map<std::string_view, Link const*, Varo::Model::NameHash> _byName;
 };
 
 }  // namespace Sim

@@ -72,7 +72,8 @@ void ModelImpl::loadModel(std::string const& pathOrXml)
 void ModelImpl::loadModel(Reading&& reading)
 {
     if (reading.robot == nullptr) {
-        std::string const what = failure + Varo::Model::summaryOf(reading.findings);
+        std::string const errors = Varo::Model::summaryOf(reading.findings);
+        std::string const what = failure + (errors.empty() ? "The reading holds no robot." : errors);
         throw DescriptionError(what, std::move(reading.findings));
     }
     makeMotionModel(std::move(reading.robot));

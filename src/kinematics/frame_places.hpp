@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "sim/pose.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Sim {
 
@@ -41,7 +42,7 @@ private:
     void addNames(Model const& model);
 
     std::unordered_map<Frame const*, Known> _known;
-    std::unordered_map<std::string, Frame const*> _byName;
+    std::unordered_map<std::string, Frame const*, Varo::Model::NameHash> _byName;
 };
 
 }  // namespace Sim

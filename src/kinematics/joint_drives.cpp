@@ -8,9 +8,12 @@
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
 #include "sim/model.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
 
 namespace Sim {
+
+using Varo::Model::NameHash;
 
 namespace {
 
@@ -71,16 +74,16 @@ private:
     Varo::Model::Records const& _records;
     JointDrives& _drives;
     std::vector<Coupling> _couplings;
-    std::unordered_map<std::string, std::size_t> _couplingOf;  // by the names of the joints that it moves
-    std::unordered_set<std::string_view> _leaders;  // the joints of the model that others mimic
-    std::unordered_map<std::string_view, Follower> _followers;  // by name
+    std::unordered_map<std::string, std::size_t, NameHash> _couplingOf;  // by the names of the joints that it moves
+    std::unordered_set<std::string_view, NameHash> _leaders;  // the joints of the model that others mimic
+    std::unordered_map<std::string_view, Follower, NameHash> _followers;  // by name
 };
 
 JointDrives::Builder::Builder(Varo::Model::Records const& records, std::vector<Joint const*> const& joints,
                               JointDrives& drives)
     : _records(records), _drives(drives)
 {
-    std::unordered_set<std::string_view> mimicked;
+    std::unordered_set<std::string_view, NameHash> mimicked;
     for (Varo::Model::JointConfig const& joint : records.joints) {
         if (joint.mimic != nullptr) {
             mimicked.insert(joint.mimic->joint);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "sim/joint_variable.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Sim {
 
@@ -44,7 +45,7 @@ private:
 
     std::vector<JointVariable> _variables;
     std::unordered_map<Joint const*, Drive> _byJoint;
-    std::unordered_map<std::string, Drive> _byName;
+    std::unordered_map<std::string, Drive, Varo::Model::NameHash> _byName;
 };
 
 }  // namespace Sim

@@ -8,6 +8,7 @@
 #include "posture/posture_library.hpp"
 #include "sim/load_error.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Sim {
 
@@ -22,7 +23,7 @@ constexpr char startPosture[] = "StandInit";
 /// What the posture library says is that there is a surplus angle; the posture's own record says which.
 [[noreturn]] void refuseSurplusAngles(Varo::Model::Robot const& robot, Varo::Model::Records const& records)
 {
-    std::unordered_set<std::string_view> known;
+    std::unordered_set<std::string_view, Varo::Model::NameHash> known;
     for (std::string const* name : angleNames(records)) {
         known.insert(*name);
     }

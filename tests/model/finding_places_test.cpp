@@ -102,6 +102,13 @@ TEST(FindingPlaces, ColumnsCountCharactersAndNotTheByteOrderMark)
     EXPECT_EQ(findings[0].column, 29);
 }
 
+TEST(FindingPlaces, PathsHoldNamesThatEndInAReferenceThatDoesNot)
+{
+    Findings const findings = ModelUtils::diagnose("<robotDescription><root name=\"A&#10;B&apos\"/>");
+    ASSERT_FALSE(findings.empty());
+    EXPECT_EQ(findings[0].path, "/robotDescription/root[@name=\"A?B&apos\"]");
+}
+
 TEST(FindingPlaces, AreTheSameWithAnyLineEnds)
 {
     std::string text = readData("unexpected_text");

@@ -113,6 +113,9 @@ std::string summaryOf(Findings const& findings)
 {
     auto const isError = [](Finding const& finding) { return finding.severity == Severity::error; };
     auto const first = std::find_if(findings.begin(), findings.end(), isError);
+    if (first == findings.end()) {
+        return {};
+    }
     auto const others = std::count_if(first, findings.end(), isError) - 1;
     std::string text = first->line == 0 ? first->message : placed(*first);
     if (others > 0) {

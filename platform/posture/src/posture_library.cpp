@@ -7,6 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "varo/model/name_hash.hpp"
 #include "varo/model/robot.hpp"
 
 namespace posture {
@@ -84,7 +85,7 @@ std::string_view takePiece(std::string_view& text, char separator)
 }
 
 /// The first place of each name.
-using Places = std::unordered_map<std::string_view, std::size_t>;
+using Places = std::unordered_map<std::string_view, std::size_t, Varo::Model::NameHash>;
 
 void appendPosture(std::string& out, Varo::Model::PostureConfig const& posture, Places const& places)
 {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "native/native_codes.hpp"
+#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Native {
@@ -62,7 +63,7 @@ private:
         return places;
     }
 
-    std::unordered_map<std::string_view, Entry> _of;
+    std::unordered_map<std::string_view, Entry, NameHash> _of;
 };
 
 }  // namespace

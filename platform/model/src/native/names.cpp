@@ -21,7 +21,11 @@ std::string filledIn(std::string_view message, std::string_view name)
 
 Names::Entry& Names::entryOf(std::string_view name, std::size_t scope)
 {
-    return *_kinds.try_emplace(Key(name, scope)).first;
+    auto const [found, isNew] = _kinds.try_emplace(Key(name, scope));
+    if (isNew) {
+        _inTextOrder.push_back(&*found);
+    }
+    return *found;
 }
 
 void Names::use(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute)
@@ -121,14 +125,14 @@ Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
     ClosestWord closest(written);
     Entry* meant = nullptr;
     // To look at a name counts, too.
-    std::size_t const looks = _kinds.size();
-    for (Entry& entry : _kinds) {
+    std::size_t const looks = _inTextOrder.size();
+    for (Entry* const entry : _inTextOrder) {
         if (closest.work() + looks >= _workLeft) {
             _workLeft = 0;
             return nullptr;  // not one that happens to come first
         }
-        if ((entry.second & kinds) != 0 && closest.offer(entry.first.first)) {
-            meant = &entry;
+        if ((entry->second & kinds) != 0 && closest.offer(entry->first.first)) {
+            meant = entry;
         }
     }
     _workLeft -= closest.work() + looks;

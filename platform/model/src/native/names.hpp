@@ -13,6 +13,7 @@
 
 #include "native/name_rules.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
 #include "xml/document.hpp"
 
@@ -48,7 +49,7 @@ private:
     struct Hash {
         std::size_t operator()(Key const& key) const
         {
-            return std::hash<std::string_view>()(key.first) ^ std::hash<std::size_t>()(key.second);
+            return NameHash()(key.first) ^ std::hash<std::size_t>()(key.second);
         }
     };
     using Kinds = std::pmr::unordered_map<Key, unsigned, Hash>;
@@ -70,6 +71,7 @@ private:
     std::deque<std::string> _kept;
     std::pmr::monotonic_buffer_resource _memory;
     Kinds _kinds{&_memory};
+    std::vector<Entry*> _inTextOrder;  ///< each of those, by its first mention
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
     /// Of pairs of letters that may be compared to say what was meant. In very large texts the first findings use it
     /// up.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "finding_codes.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
@@ -71,7 +72,7 @@ std::vector<JointConfig const*> linksNamedInText(Records const& records, Diagnos
 /// Warns of the links that the text calls what models call another one.
 void checkNamesInText(Records const& records, Diagnostics& diagnostics)
 {
-    std::unordered_map<std::string_view, JointConfig const*>
+    std::unordered_map<std::string_view, JointConfig const*, NameHash>
         suspects;  // by the name of the joint that models would call the link after
     for (JointConfig const* const body : linksNamedInText(records, diagnostics)) {
         std::string_view const name = body->linkName;
@@ -102,7 +103,7 @@ void checkNamesInText(Records const& records, Diagnostics& diagnostics)
 /// Warns of joints, wheels, sub-joints and roots that are named like links of models.
 void checkNamesInModels(Records const& records, Diagnostics& diagnostics)
 {
-    std::unordered_map<std::string_view, Mover> suspects;  // hardly any robot has one
+    std::unordered_map<std::string_view, Mover, NameHash> suspects;  // hardly any robot has one
     forEachMover(records, [&](std::string_view name, Mover const& mover) {
         if (isLinkName(name)) {
             suspects.try_emplace(name, mover);  // a follower of a mimic is a joint first

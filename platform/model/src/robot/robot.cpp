@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "robot/cycles.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model {
 
@@ -55,9 +56,9 @@ Records copyOfListings(Robot const& robot)
     return records;
 }
 
-std::unordered_set<std::string_view> jointsWithoutMotor(Records const& records)
+std::unordered_set<std::string_view, NameHash> jointsWithoutMotor(Records const& records)
 {
-    std::unordered_set<std::string_view> names;
+    std::unordered_set<std::string_view, NameHash> names;
     for (std::size_t joint = 0; joint < records.joints.size(); ++joint) {
         if (!records.joints[joint].hasMotor) {
             names.insert(records.joints.nameOf(joint));
@@ -101,8 +102,8 @@ ActuatorConfig const* findActuatorCycle(Records const& records)
 
 std::vector<std::string const*> angleNames(Records const& records)
 {
-    std::unordered_set<std::string_view> const passive = jointsWithoutMotor(records);
-    std::unordered_map<std::string_view, std::vector<std::string const*>> actuatorsOfJoint;
+    std::unordered_set<std::string_view, NameHash> const passive = jointsWithoutMotor(records);
+    std::unordered_map<std::string_view, std::vector<std::string const*>, NameHash> actuatorsOfJoint;
     for (std::uint32_t const index : records.actuators.nameOrder()) {
         ActuatorConfig const& actuator = records.actuators[index];
         actuatorsOfJoint[actuator.parentJoint].push_back(&actuator.name);

@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
@@ -25,7 +26,7 @@ public:
 private:
     bool isAmongOthers(std::string_view name) const { return _others != nullptr && _others->contains(name); }
 
-    std::unordered_map<std::string, std::size_t> _taken;  // with the number last appended to the name
+    std::unordered_map<std::string, std::size_t, NameHash> _taken;  // with the number last appended to the name
     NameIndex const* _others = nullptr;
 };
 

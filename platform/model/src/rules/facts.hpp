@@ -16,6 +16,7 @@
 #include "rules/mirrors.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/lint.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
 #include "varo/model/robot.hpp"
 
@@ -52,9 +53,9 @@ struct Facts {
     std::vector<PlacedJoint> places;  ///< of the joints, one for one
     Sides sides;
     std::vector<JointPair> jointPairs;  ///< one for one with those of the sides
-    std::unordered_map<std::string, std::vector<std::size_t>> pairsOfKind;  ///< by the names without sides
+    std::unordered_map<std::string, std::vector<std::size_t>, NameHash> pairsOfKind;  ///< by the names without sides
     std::vector<Pair<ActuatorConfig>> actuatorPairs;
-    std::unordered_map<std::string_view, PostureAngle const*> startAngles;  ///< those that are stated
+    std::unordered_map<std::string_view, PostureAngle const*, NameHash> startAngles;  ///< those that are stated
 };
 
 /// Whether the first of a pair is the odd one: more others of its kind, on other legs say, are like the second.

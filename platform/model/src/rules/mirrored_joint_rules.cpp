@@ -5,6 +5,7 @@
 
 #include "rules/numbers.hpp"
 #include "rules/rules.hpp"
+#include "varo/model/name_hash.hpp"
 
 /// The two joints of a pair are made alike.
 namespace Varo::Model::Rules {
@@ -70,9 +71,9 @@ void findLoneMimics(Facts const& facts, Report const& report)
 
 /// By joint, what turns its value into that of its counterpart: 0 for a joint that is in no pair, or in one of which
 /// that cannot be told.
-std::unordered_map<std::string_view, double> signsOf(Facts const& facts)
+std::unordered_map<std::string_view, double, NameHash> signsOf(Facts const& facts)
 {
-    std::unordered_map<std::string_view, double> signs;
+    std::unordered_map<std::string_view, double, NameHash> signs;
     for (JointPair const& pair : facts.jointPairs) {
         std::int32_t const kind = pair.side.isSure ? pair.kind() : std::int32_t{noMirror};
         double const sign = kind == noMirror ? 0.0 : kind == reflectedMirror ? -1.0 : 1.0;
@@ -82,7 +83,7 @@ std::unordered_map<std::string_view, double> signsOf(Facts const& facts)
     return signs;
 }
 
-double signOf(std::unordered_map<std::string_view, double> const& signs, std::string const& joint)
+double signOf(std::unordered_map<std::string_view, double, NameHash> const& signs, std::string const& joint)
 {
     auto const found = signs.find(joint);
     return found == signs.end() ? 0.0 : found->second;

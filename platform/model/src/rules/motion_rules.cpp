@@ -6,6 +6,7 @@
 
 #include "rules/numbers.hpp"
 #include "rules/rules.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model::Rules {
 
@@ -175,7 +176,7 @@ void findStartOutsideLimits(Facts const& facts, Report const& report)
     if (!facts.records->statesPostures) {
         return;  // the zero position is but one of reference
     }
-    std::unordered_set<std::string_view> checked;
+    std::unordered_set<std::string_view, NameHash> checked;
     for (std::string const* name : angleNames(*facts.records)) {
         if (checked.insert(*name).second) {
             visitDriven(*facts.records, *name, [&](auto const& driven) { checkStart(facts, report, driven); });

@@ -13,6 +13,7 @@
 #include "schema/element_writer.hpp"
 #include "urdf/sensor_statement.hpp"
 #include "urdf/statements_of.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -41,8 +42,8 @@ private:
     struct Level {
         Group* group = nullptr;  ///< of the owner that it stands in; null for none
         std::string path;  ///< from the owner's element inward
-        std::unordered_map<std::string, std::size_t> ranks;  ///< how many children of each name it has by now
-        std::unordered_set<std::string> attributes;
+        std::unordered_map<std::string, std::size_t, NameHash> ranks;  ///< how many children of each name it has by now
+        std::unordered_set<std::string, NameHash> attributes;
     };
 
     void openTag(std::string_view name) override;

@@ -5,6 +5,7 @@
 #include <tuple>
 #include <utility>
 
+#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 #include "xml/markup.hpp"
 
@@ -107,7 +108,7 @@ void Extensions::findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& ex
 std::string Extensions::stepTo(XmlNode element)
 {
     if (_ranks.find(element.id()) == _ranks.end()) {
-        std::unordered_map<std::string_view, std::size_t> counts;
+        std::unordered_map<std::string_view, std::size_t, NameHash> counts;
         for (XmlNode const sibling : element.parent().children()) {
             _ranks.emplace(sibling.id(), ++counts[sibling.name()]);
         }

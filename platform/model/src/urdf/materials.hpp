@@ -7,6 +7,7 @@
 
 #include "urdf/statements.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -22,7 +23,7 @@ public:
 private:
     void add(SurfaceMaterial const& stated);
 
-    std::unordered_map<std::string_view, std::shared_ptr<Material const>> _byName;
+    std::unordered_map<std::string_view, std::shared_ptr<Material const>, NameHash> _byName;
 };
 
 }  // namespace Varo::Model::Urdf

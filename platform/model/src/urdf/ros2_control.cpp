@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "urdf/numbers.hpp"
+#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
@@ -21,7 +22,7 @@ struct Drive {
     XmlNode joint;
     XmlNode actuator;  ///< null when none is stated
 };
-using Drives = std::unordered_map<std::string_view, Drive>;
+using Drives = std::unordered_map<std::string_view, Drive, NameHash>;
 
 /// The joints and the actuators of a transmission belong together in their order.
 void addDrives(XmlNode transmission, Drives& drives)

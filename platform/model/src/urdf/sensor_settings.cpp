@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "urdf/numbers.hpp"
+#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
@@ -74,7 +75,7 @@ private:
     Report const& _report;
     SensorSettings _settings;
     bool _isAnyStated = false;
-    std::unordered_set<std::string> _seen;  ///< paths that may be stated once
+    std::unordered_set<std::string, NameHash> _seen;  ///< paths that may be stated once
     XmlNode _rangeCount;
     bool _hasManyCameras = false;
 };

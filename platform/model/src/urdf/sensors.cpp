@@ -9,6 +9,7 @@
 #include "urdf/numbers.hpp"
 #include "urdf/sensor_settings.hpp"
 #include "urdf/unknown_names.hpp"
+#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
@@ -106,7 +107,7 @@ void SensorReader::reportDangling(XmlNode gazebo, XmlAttribute reference)
 /// In one note: there is nothing to be done about it.
 void SensorReader::reportKindsWithoutClass(XmlNode amendment)
 {
-    std::unordered_set<std::string_view> amended;
+    std::unordered_set<std::string_view, NameHash> amended;
     for (XmlNode const sensor : amendment.children("sensor")) {
         if (sensor.attribute("type")) {
             amended.insert(sensor.attribute("name").value());

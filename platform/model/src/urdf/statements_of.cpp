@@ -7,6 +7,7 @@
 #include "robot/cycles.hpp"
 #include "urdf/short_poses.hpp"
 #include "urdf/values.hpp"
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model::Urdf {
 
@@ -202,7 +203,7 @@ std::string_view StatementsOf::linkOf(std::string_view bearer) const
 /// Their own names, where the records have them; no name twice.
 void StatementsOf::nameLinks()
 {
-    std::unordered_set<std::string> taken;
+    std::unordered_set<std::string, NameHash> taken;
     auto const add = [&](JointConfig const& body, std::string name) {
         while (!taken.insert(name).second) {
             name += "_";

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "urdf/statements.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
 
 namespace Varo::Model::Urdf {
@@ -54,9 +55,9 @@ private:
     Records const& _records;
     Robot _robot;
     std::deque<std::string> _texts;
-    std::unordered_map<std::string_view, std::string_view> _links;  ///< by joint or root
-    std::unordered_map<std::string_view, Attachment> _attachments;  ///< by joint
-    std::unordered_map<std::string_view, End> _ends;  ///< by joint
+    std::unordered_map<std::string_view, std::string_view, NameHash> _links;  ///< by joint or root
+    std::unordered_map<std::string_view, Attachment, NameHash> _attachments;  ///< by joint
+    std::unordered_map<std::string_view, End, NameHash> _ends;  ///< by joint
     std::deque<std::vector<VisualConfig>> _meshVisuals;  ///< those that records say in short
 };
 

@@ -6,6 +6,7 @@
 #include "robot/link_tree.hpp"
 #include "schema/element_reader.hpp"
 #include "urdf/urdf_codes.hpp"
+#include "varo/model/name_hash.hpp"
 #include "varo/model/spelling.hpp"
 #include "xml/document.hpp"
 
@@ -71,7 +72,7 @@ bool isPrefixed(std::string_view name)
     return name.find(':') != name.npos || name == "xmlns";
 }
 
-void addNames(ElementInfo const& element, std::unordered_set<std::string_view>& names)
+void addNames(ElementInfo const& element, std::unordered_set<std::string_view, NameHash>& names)
 {
     names.insert(element.name);
     for (ChildInfo const& child : element.children) {
@@ -83,7 +84,7 @@ void addNames(ElementInfo const& element, std::unordered_set<std::string_view>& 
 bool isDefined(std::string_view element)
 {
     static auto const names = [] {
-        std::unordered_set<std::string_view> all;
+        std::unordered_set<std::string_view, NameHash> all;
         addNames(robotElement, all);
         return all;
     }();

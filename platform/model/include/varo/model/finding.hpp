@@ -30,8 +30,8 @@ struct Finding {
 /// In the order of their places in the text.
 using Findings = std::vector<Finding>;
 
-/// The first error with its place, and how many there are beside it: "3:5: There is no link "arm". (and 2 more)". For
-/// findings that hold an error.
+/// The first error with its place, and how many there are beside it: "3:5: There is no link "arm". (and 2 more)". Empty
+/// when none is an error.
 VAROROBOTMODEL_API std::string summaryOf(Findings const& findings);
 
 /// A kind of finding.

@@ -3,10 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <string_view>
 #include <vector>
+
+#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model {
 
@@ -57,26 +58,10 @@ public:
     /// How many names there are.
     std::size_t size() const { return _entries.size(); }
 
-    /// Eight bytes at a time, of which the last may be some of those before: names are short, and most work on them is
-    /// finding them.
+    /// As NameHash, cut.
     static std::uint32_t hashOf(std::string_view name)
     {
-        constexpr std::size_t step = sizeof(std::uint64_t);
-        std::uint64_t hash = name.size() * factor;
-        if (name.size() < step) {
-            std::uint64_t all = 0;
-            for (char const c : name) {
-                all = (all << 8U) | static_cast<unsigned char>(c);
-            }
-            hash = mixed(hash ^ all);
-        } else {
-            std::size_t const last = name.size() - step;
-            for (std::size_t at = 0; at < last; at += step) {
-                hash = mixed(hash ^ wordAt(name, at));
-            }
-            hash = mixed(hash ^ wordAt(name, last));
-        }
-        return static_cast<std::uint32_t>(hash);
+        return static_cast<std::uint32_t>(Model::hashOf(name, hashSecret));
     }
 
 private:
@@ -85,23 +70,6 @@ private:
         std::uint32_t hash;
         std::uint32_t number;
     };
-
-    static constexpr std::uint64_t factor =
-        0x9E3779B97F4A7C15U;  // odd, its bits as if by chance: 2^64 by the golden ratio
-
-    static std::uint64_t wordAt(std::string_view name, std::size_t at)
-    {
-        std::uint64_t word;
-        std::memcpy(&word, name.data() + at, sizeof word);
-        return word;
-    }
-    /// A product has in its low bits nothing of the high ones: those are folded into them before and after.
-    static std::uint64_t mixed(std::uint64_t hash)
-    {
-        hash ^= hash >> 32U;
-        hash *= factor;
-        return hash ^ (hash >> 32U);
-    }
 
     /// Where the name stands, or would.
     std::size_t slotOf(std::string_view name, std::uint32_t hash) const
