@@ -28,7 +28,7 @@ inline constexpr FindingCode badCharacter{"bad-character", Severity::error,
 inline constexpr FindingCode badEncoding{"bad-encoding", Severity::error,
                                          "Bytes that are not UTF-8, or a declaration of another encoding."};
 inline constexpr FindingCode unknownRoot{"unknown-root", Severity::error,
-                                         "The root element is that of no dialect of robot descriptions."};
+                                         "The root element is not one that a robot description begins with."};
 inline constexpr FindingCode xacroFile{
     "xacro-file", Severity::error,
     "The text has elements of xacro or expressions such as `${...}`: URDF is what xacro makes of it."};

@@ -41,7 +41,8 @@ void reportUnknownRoot(XmlNode root, Diagnostics& diagnostics)
                                  ? "A description begins with robotDescription, one in URDF with robot."
                                  : "Did you mean " + quoted(closest.word()) + "?";
     diagnostics.report(at(root), codes::unknownRoot,
-                       "The root element " + quoted(root.name()) + " is that of no known kind of description.", hint);
+                       "The root element " + quoted(root.name()) + " is not one that a robot description begins with.",
+                       hint);
 }
 
 /// Null when a finding is an error.

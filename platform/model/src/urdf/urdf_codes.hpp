@@ -71,30 +71,35 @@ inline constexpr FindingCode sensorKind{"sensor-kind", Severity::note,
 inline constexpr FindingCode foreignAttribute{"foreign-attribute", Severity::note,
                                               "Attributes that URDF does not define are kept as text."};
 
-// What becomes of robots that are written as URDF.
+// What becomes of robots that are written as URDF. The element that they name is one that other programs pass over.
 inline constexpr FindingCode notUrdf{"not-urdf", Severity::error,
                                      "The robot cannot be written as a URDF that can be read."};
 inline constexpr FindingCode beyondRoot{"beyond-urdf-root", Severity::note,
-                                        "What URDF cannot say of the root is kept in a description of our own."};
+                                        "What URDF cannot say of the root link is written into `varo:description`."};
 inline constexpr FindingCode beyondJoint{
     "beyond-urdf-joint", Severity::note,
-    "What URDF cannot say of a joint or its body is kept in a description of our own."};
-inline constexpr FindingCode beyondSensor{"beyond-urdf-sensor", Severity::note,
-                                          "What URDF cannot say of a sensor or light is kept likewise."};
+    "What URDF cannot say of a joint or its link is written into `varo:description`."};
+inline constexpr FindingCode beyondSensor{
+    "beyond-urdf-sensor", Severity::note,
+    "What URDF cannot say of a sensor or light is written into `varo:description`."};
 inline constexpr FindingCode beyondPrettyName{"beyond-urdf-pretty-name", Severity::note,
-                                              "Names for people are kept likewise."};
-inline constexpr FindingCode beyondChain{"beyond-urdf-chain", Severity::note,
-                                         "Chains that are not those of URDF's tree are kept likewise."};
-inline constexpr FindingCode beyondActuator{"beyond-urdf-actuator", Severity::note,
-                                            "Coupled actuators that are not those of URDF's mimics are kept likewise."};
-inline constexpr FindingCode beyondWheel{"beyond-urdf-wheel", Severity::note, "Wheels are kept likewise."};
-inline constexpr FindingCode beyondPosture{"beyond-urdf-posture", Severity::note, "Postures are kept likewise."};
+                                              "Display names are written into `varo:description`."};
+inline constexpr FindingCode beyondChain{
+    "beyond-urdf-chain", Severity::note,
+    "Chains that do not follow from URDF's tree are written into `varo:description`."};
+inline constexpr FindingCode beyondActuator{
+    "beyond-urdf-actuator", Severity::note,
+    "Coupled actuators that do not follow from URDF's mimics are written into `varo:description`."};
+inline constexpr FindingCode beyondWheel{"beyond-urdf-wheel", Severity::note,
+                                         "Wheels are written into `varo:description`."};
+inline constexpr FindingCode beyondPosture{"beyond-urdf-posture", Severity::note,
+                                           "Postures are written into `varo:description`."};
 inline constexpr FindingCode beyondTransmission{
     "beyond-urdf-transmission", Severity::note,
-    "Transmissions that come back as others from URDF are kept likewise, all of them."};
-inline constexpr FindingCode beyondExtension{
-    "beyond-urdf-extension", Severity::note,
-    "Extensions that URDF has no place for, or another order of, are kept likewise, all of them."};
+    "Transmissions that URDF would not give back as they are, are all written into `varo:description`."};
+inline constexpr FindingCode beyondExtension{"beyond-urdf-extension", Severity::note,
+                                             "Extensions that URDF has no place for, or would give back in another "
+                                             "order, are all written into `varo:description`."};
 
 /// In the order of the documentation.
 inline constexpr FindingCode const* ofDialect[] = {
