@@ -14,6 +14,7 @@
 #include <pugixml.hpp>
 
 #include "native/name_rules.hpp"
+#include "robot/suggestions.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/records.hpp"
 
@@ -63,7 +64,6 @@ private:
     Entry& entryOf(std::string_view name, void const* scope = nullptr);
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
-    Entry* findMeant(std::string_view written, unsigned kinds);
     void checkCycle(names::Cycle const& cycle);
 
     Diagnostics& _diagnostics;
@@ -71,9 +71,7 @@ private:
     std::pmr::monotonic_buffer_resource _memory;
     Kinds _kinds{&_memory};
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
-    /// Of pairs of letters that may be compared to say what was meant. In very large texts the first findings use it
-    /// up.
-    std::size_t _workLeft = 30'000'000;
+    Suggestions _suggestions;
     bool _isAnyLost = false;
 };
 
