@@ -255,7 +255,7 @@ void printForPrograms(Sim::Model const& model, LinkPoses const& poses)
         JsonStream array(std::cout, '[');
         for (Sim::Link const* const link : model.links()) {
             Sim::Joint const* const joint = link->parentJoint();
-            array.add({
+            array.add(objectOf({
                 {"link", link->name()},
                 {"descriptionName", link->descriptionName()},
                 {"urdfName", model.robot().dialect() == "urdf" ? Json(link->descriptionName()) : Json(nullptr)},
@@ -264,7 +264,7 @@ void printForPrograms(Sim::Model const& model, LinkPoses const& poses)
                 {"type", link->type() == Sim::Link::Wheel ? "wheel" : "regular"},
                 {"mass", link->mass() == nullptr ? Json(nullptr) : Json(link->mass()->mass())},
                 {"pose", matrixOf(poses.at(link))},
-            });
+            }));
         }
     }
     std::cout << '\n';
