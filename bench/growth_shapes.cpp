@@ -150,10 +150,12 @@ std::string findings(int count)
     }));
 }
 
+constexpr char longStem[] = "name_of_a_joint_that_is_as_long_as_names_may_be_";
+
 /// As many long names as misspelt references to them.
 std::string misspellings(int count)
 {
-    std::string const stem(50, 'n');
+    std::string const stem = longStem;
     int const half = count / 2;
     return native(
         each(half, [&](int i) { return "<joint name=\"" + stem + numbered("J", i) + "\" min=\"0\" max=\"1\"/>"; }) +
@@ -161,6 +163,32 @@ std::string misspellings(int count)
             return "<sensor name=\"" + numbered("S", i) + "\" parent=\"" + stem + numbered("K", i) +
                    "\" type=\"bumper\"/>";
         }));
+}
+
+std::string urdfMisspellings(int count)
+{
+    std::string const stem = longStem;
+    int const half = count / 2;
+    return urdf(each(half, [&](int i) { return "<link name=\"" + stem + numbered("L", i) + "\"/>"; }) +
+                each(half, [&](int i) {
+                    return "<gazebo reference=\"" + stem + numbered("K", i) + "\"><material>m</material></gazebo>";
+                }));
+}
+
+/// Elements with a misspelt attribute and a misspelt child each.
+std::string wrongWords(int count)
+{
+    return native(each(count, [](int i) {
+        return "<joint name=\"" + numbered("J", i) + "\" min=\"-1\" max=\"1\" maxSped=\"1\"><placment/></joint>";
+    }));
+}
+
+std::string urdfWrongWords(int count)
+{
+    return urdf(link(0) + each(count, [](int i) {
+                    return "<link name=\"" + numbered("L", i + 1) + "\" nmae=\"1\"><inertal/></link>" +
+                           urdfJoint(i, i, "<mimick joint=\"J0\"/>");
+                }));
 }
 
 /// As many chains that list one joint as actuators on it.
@@ -181,23 +209,26 @@ std::string repeatedPlaces(int count)
 }  // namespace
 
 Shape const growthShapes[] = {
-    {"chain", serialChain, true},
-    {"urdf-chain", urdfChain, true},
-    {"reversed", reversed, true},
-    {"star", star, true},
-    {"mimics", mimics, true},
-    {"sensors", sensors, true},
-    {"groups", groups, true},
-    {"leds", leds, true},
-    {"postures", postures, true},
-    {"actuators", coupledActuators, true},
-    {"attributes", attributes, false},
-    {"nesting", nesting, false},
-    {"comments", comments, true},
-    {"findings", findings, true},
-    {"misspellings", misspellings, true},
-    {"repeated-places", repeatedPlaces, false},
-    {nullptr, nullptr, false},
+    {"chain", serialChain, 1, true},
+    {"urdf-chain", urdfChain, 1, true},
+    {"reversed", reversed, 1, true},
+    {"star", star, 1, true},
+    {"mimics", mimics, 1, true},
+    {"sensors", sensors, 1, true},
+    {"groups", groups, 1, true},
+    {"leds", leds, 1, true},
+    {"postures", postures, 1, true},
+    {"actuators", coupledActuators, 1, true},
+    {"attributes", attributes, 0, false},
+    {"nesting", nesting, 0, false},
+    {"comments", comments, 0, true},
+    {"findings", findings, 0, true},
+    {"misspellings", misspellings, 0, true},
+    {"urdf-misspellings", urdfMisspellings, 0, false},
+    {"wrong-words", wrongWords, 0, false},
+    {"urdf-wrong-words", urdfWrongWords, 1, true},
+    {"repeated-places", repeatedPlaces, 0, false},
+    {nullptr, nullptr, 0, false},
 };
 
 }  // namespace Bench

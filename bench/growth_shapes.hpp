@@ -9,6 +9,8 @@ namespace Bench {
 struct Shape {
     char const* name;
     std::string (*text)(int elements);
+    double
+        partsPerElement;  ///< of a model: links, joints, devices, groups and postures that one element makes, at least
     bool isAccepted;  ///< whether it is one of a robot, of which commands have something to print
 };
 

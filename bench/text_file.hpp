@@ -3,7 +3,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -11,11 +10,12 @@ namespace Bench {
 
 inline std::string readText(std::filesystem::path const& file)
 {
+    std::string text(std::filesystem::file_size(file), '\0');
     std::ifstream stream(file, std::ios::binary);
-    if (!stream) {
+    if (!stream.read(text.data(), static_cast<std::streamsize>(text.size()))) {
         throw std::runtime_error("cannot read " + file.string());
     }
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    return text;
 }
 
 /// As tables call the file.

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <unordered_map>
@@ -91,6 +92,8 @@ struct Line {
 /// Draws a model's tree line by line, depth first.
 class TreePainter {
 public:
+    using Take = std::function<void(Line const&)>;
+
     TreePainter(Options const& options, JointWords const& words, LinkPoses const& poses)
         : _options(options),
           _words(words),
@@ -99,7 +102,8 @@ public:
           _palette(STDOUT_FILENO)
     {}
 
-    std::vector<Line> paint(Sim::Link const& root);
+    /// Hands over the lines one by one: all of them may take as much memory as the model.
+    void paint(Sim::Link const& root, Take const& take);
 
 private:
     struct Step {
@@ -109,7 +113,7 @@ private:
     };
 
     void pushChildren(Sim::Link const& link, std::size_t depth);
-    void paintJoint(Step const& step);
+    Line lineOf(Step const& step);
     std::string branchOf(Step const& step);
     std::string strokesOf(Step const& step) const;
     std::string labelOf(Sim::Link const& link, Palette const& palette) const;
@@ -124,20 +128,18 @@ private:
     Palette _colourless = Palette(-1);
     std::vector<bool> _isLast;  // of the joints above the current one, by depth
     std::vector<Step> _steps;  // a stack of our own: trees may be deeper than that of calls
-    std::vector<Line> _lines;
 };
 
-std::vector<Line> TreePainter::paint(Sim::Link const& root)
+void TreePainter::paint(Sim::Link const& root, Take const& take)
 {
-    _lines.push_back({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root),
-                      root.childrenJoints().empty() ? _strokes.blank : _strokes.pass});
+    take({labelOf(root, _palette), columnsOf(labelOf(root, _colourless)), factsOf(root),
+          root.childrenJoints().empty() ? _strokes.blank : _strokes.pass});
     pushChildren(root, 0);
     while (!_steps.empty()) {
         Step const step = _steps.back();
         _steps.pop_back();
-        paintJoint(step);
+        take(lineOf(step));
     }
-    return std::move(_lines);
 }
 
 void TreePainter::pushChildren(Sim::Link const& link, std::size_t depth)
@@ -148,7 +150,8 @@ void TreePainter::pushChildren(Sim::Link const& link, std::size_t depth)
     }
 }
 
-void TreePainter::paintJoint(Step const& step)
+/// That of the joint, with its link, whose joints come next.
+Line TreePainter::lineOf(Step const& step)
 {
     std::string const branch = branchOf(step);
     Line line = {branch + labelOf(*step.joint, _palette),
@@ -160,7 +163,7 @@ void TreePainter::paintJoint(Step const& step)
         line.below += link->childrenJoints().empty() ? _strokes.blank : _strokes.pass;
         pushChildren(*link, step.depth + 1);
     }
-    _lines.push_back(std::move(line));
+    return line;
 }
 
 std::string TreePainter::branchOf(Step const& step)
@@ -226,17 +229,19 @@ std::string factsBelow(std::string strokes, std::string const& facts, std::size_
 }
 
 /// Facts stand in columns of their own or, where those would not fit, below what they are about.
-void printTree(std::vector<Line> const& lines, std::size_t width)
+void printTree(TreePainter& painter, Sim::Link const& root, bool hasAnyFacts, std::size_t width)
 {
     constexpr std::size_t gap = 2;
     std::size_t widest = 0;
     std::size_t widestFacts = 0;
-    for (Line const& line : lines) {
-        widest = std::max(widest, std::min(line.columns, widestTree));
-        widestFacts = std::max(widestFacts, columnsOf(line.facts));
+    if (hasAnyFacts) {
+        painter.paint(root, [&](Line const& line) {
+            widest = std::max(widest, std::min(line.columns, widestTree));
+            widestFacts = std::max(widestFacts, columnsOf(line.facts));
+        });
     }
     bool const below = widest + gap + widestFacts > width;
-    for (Line const& line : lines) {
+    painter.paint(root, [&](Line const& line) {
         bool const hasFacts = !line.facts.empty();
         std::cout << shortened(line.text, width);
         if (hasFacts && below) {
@@ -245,7 +250,7 @@ void printTree(std::vector<Line> const& lines, std::size_t width)
             std::cout << std::string(line.columns < widest ? widest - line.columns + gap : gap, ' ') << line.facts;
         }
         std::cout << '\n';
-    }
+    });
 }
 
 /// An array of the links, each with what leads to it.
@@ -255,7 +260,7 @@ void printForPrograms(Sim::Model const& model, LinkPoses const& poses)
         JsonStream array(std::cout, '[');
         for (Sim::Link const* const link : model.links()) {
             Sim::Joint const* const joint = link->parentJoint();
-            array.add({
+            array.add(objectOf({
                 {"link", link->name()},
                 {"descriptionName", link->descriptionName()},
                 {"urdfName", model.robot().dialect() == "urdf" ? Json(link->descriptionName()) : Json(nullptr)},
@@ -264,7 +269,7 @@ void printForPrograms(Sim::Model const& model, LinkPoses const& poses)
                 {"type", link->type() == Sim::Link::Wheel ? "wheel" : "regular"},
                 {"mass", link->mass() == nullptr ? Json(nullptr) : Json(link->mass()->mass())},
                 {"pose", matrixOf(poses.at(link))},
-            });
+            }));
         }
     }
     std::cout << '\n';
@@ -274,11 +279,14 @@ int tree(Options const& options)
 {
     Robot const robot = loadRobot(options.file);
     Sim::Model const& model = robot.model;
-    LinkPoses const poses = posesOf(model, options.motion, robot.file);
+    bool const showsPoses = options.pose || options.json || options.motion.isGiven();
+    LinkPoses const poses = showsPoses ? posesOf(model, options.motion, robot.file) : LinkPoses();
     if (options.json) {
         printForPrograms(model, poses);
     } else {
-        printTree(TreePainter(options, JointWords(model), poses).paint(*model.rootLink()),
+        JointWords const words(model);
+        TreePainter painter(options, words, poses);
+        printTree(painter, *model.rootLink(), options.pose || options.mass,
                   options.wide ? unboundedWidth : outputWidth());
     }
     return exitStatus::fine;

@@ -47,7 +47,7 @@ void addOwn(Json& json, Device const& device)
 {
     auto const add = [&](char const* name, auto const& get) {
         if constexpr (std::is_invocable_v<decltype(get), Device const&>) {
-            json[name] = jsonOf(get(device));
+            append(json, {name, jsonOf(get(device))});
         }
     };
     add("dcmKeys", [](auto& of) -> decltype(of.dcmKeys()) { return of.dcmKeys(); });
@@ -78,13 +78,16 @@ void addOwn(Json& json, Device const& device)
 template <class Device, class Kinds>
 Json ElementJson::deviceJson(Device const& device, Kinds const& kinds)
 {
-    Json json = {
-        {"name", device.name()},
-        {"type", typeName(device)},
-        {"frame", nameOrNull(device.frame())},
-        {"globalPosition", globalPosition(device.frame())},
-        {"bufferSize", device.bufferSize()},
-    };
+    constexpr std::size_t mostOwn = 12;
+    Json json = objectOf(
+        {
+            {"name", device.name()},
+            {"type", typeName(device)},
+            {"frame", nameOrNull(device.frame())},
+            {"globalPosition", globalPosition(device.frame())},
+            {"bufferSize", device.bufferSize()},
+        },
+        mostOwn);
     forEachKind(kinds, [&](auto const& kind) {
         using Class = typename std::decay_t<decltype(kind)>::Class;
         if (kind.type == device.type()) {
@@ -102,7 +105,7 @@ Json ElementJson::of(Sim::Actuator const& actuator)
 Json ElementJson::of(Sim::Sensor const& sensor)
 {
     Json json = deviceJson(sensor, Sim::sensorKinds);
-    json["settings"] = settingsJson(sensor.settings());
+    append(json, {"settings", settingsJson(sensor.settings())});
     return json;
 }
 

@@ -23,7 +23,7 @@ Json massJson(Sim::MassData const* mass)
         return nullptr;
     }
     Varo::Math::Position3D const& com = mass->CoM();
-    return {{"mass", mass->mass()}, {"com", {com.x, com.y, com.z}}, {"inertia", mass->inertiaMatrix()}};
+    return objectOf({{"mass", mass->mass()}, {"com", {com.x, com.y, com.z}}, {"inertia", mass->inertiaMatrix()}});
 }
 
 Json visualJson(Sim::VisualData const* visual)
@@ -31,7 +31,7 @@ Json visualJson(Sim::VisualData const* visual)
     if (visual == nullptr) {
         return nullptr;
     }
-    return {{"meshPath", visual->meshPath()}, {"meshTransform", matrixOf(visual->meshTransform())}};
+    return objectOf({{"meshPath", visual->meshPath()}, {"meshTransform", matrixOf(visual->meshTransform())}});
 }
 
 Json mimicJson(Varo::Model::MimicConfig const* mimic)
@@ -39,7 +39,7 @@ Json mimicJson(Varo::Model::MimicConfig const* mimic)
     if (mimic == nullptr) {
         return nullptr;
     }
-    return {{"joint", mimic->joint}, {"multiplier", mimic->multiplier}, {"offset", mimic->offset}};
+    return objectOf({{"joint", mimic->joint}, {"multiplier", mimic->multiplier}, {"offset", mimic->offset}});
 }
 
 Json safetyJson(Varo::Model::SafetyConfig const* safety)
@@ -47,10 +47,10 @@ Json safetyJson(Varo::Model::SafetyConfig const* safety)
     if (safety == nullptr) {
         return nullptr;
     }
-    return {{"lower", safety->lowerLimit},
-            {"upper", safety->upperLimit},
-            {"positionGain", safety->positionGain},
-            {"velocityGain", safety->velocityGain}};
+    return objectOf({{"lower", safety->lowerLimit},
+                     {"upper", safety->upperLimit},
+                     {"positionGain", safety->positionGain},
+                     {"velocityGain", safety->velocityGain}});
 }
 
 Json calibrationJson(Varo::Model::CalibrationConfig const* calibration)
@@ -59,7 +59,7 @@ Json calibrationJson(Varo::Model::CalibrationConfig const* calibration)
         return nullptr;
     }
     auto const orNull = [](std::optional<float> const& position) { return position ? Json(*position) : Json(nullptr); };
-    return {{"rising", orNull(calibration->rising)}, {"falling", orNull(calibration->falling)}};
+    return objectOf({{"rising", orNull(calibration->rising)}, {"falling", orNull(calibration->falling)}});
 }
 
 }  // namespace
@@ -71,7 +71,7 @@ Json ElementJson::globalPosition(Sim::Frame const* frame)
 
 Json ElementJson::of(Sim::Link const& link)
 {
-    return {
+    return objectOf({
         {"name", link.name()},
         {"descriptionName", link.descriptionName()},
         {"frame", nameOrNull(link.frame())},
@@ -85,12 +85,12 @@ Json ElementJson::of(Sim::Link const& link)
         {"collisions", shapesJson(link.collisions())},
         {"localPosition", localPosition(link.frame())},
         {"globalPosition", globalPosition(link.frame())},
-    };
+    });
 }
 
 Json ElementJson::of(Sim::Joint const& joint)
 {
-    return {
+    return objectOf({
         {"name", joint.name()},
         {"frame", nameOrNull(joint.frame())},
         {"parentLink", nameOrNull(joint.parentLink())},
@@ -100,7 +100,7 @@ Json ElementJson::of(Sim::Joint const& joint)
         {"type", wordOf(joint.type())},
         {"moves", joint.moves()},
         {"motor", joint.hasMotor()},
-        {"limits", {{"lower", joint.limits().lower}, {"upper", joint.limits().upper}}},
+        {"limits", objectOf({{"lower", joint.limits().lower}, {"upper", joint.limits().upper}})},
         {"effort", joint.effort()},
         {"velocity", joint.velocity()},
         {"damping", joint.damping()},
@@ -108,31 +108,31 @@ Json ElementJson::of(Sim::Joint const& joint)
         {"mimic", mimicJson(joint.mimic())},
         {"safety", safetyJson(joint.safety())},
         {"calibration", calibrationJson(joint.calibration())},
-    };
+    });
 }
 
 Json ElementJson::of(Sim::JointSymmetry const& symmetry)
 {
     auto const [first, second] = symmetry.symmetricJoints();
     bool const reversed = symmetry.symmetryType() == Sim::JointSymmetry::ReflectedSymmetricReversed;
-    return {
+    return objectOf({
         {"joints", Json::array({nameOrNull(first), nameOrNull(second)})},
         {"type", reversed ? "ReflectedSymmetricReversed" : "ReflectedSymmetric"},
-    };
+    });
 }
 
 Json ElementJson::of(Sim::JointGroup const& group)
 {
-    return {{"name", group.name()}, {"joints", namesOf(group.joints())}};
+    return objectOf({{"name", group.name()}, {"joints", namesOf(group.joints())}});
 }
 
 Json ElementJson::of(Sim::ActuatorGroup const& group)
 {
-    return {
+    return objectOf({
         {"name", group.name()},
         {"parent", nameOrNull(group.parent())},
         {"actuators", namesOf(group.actuators())},
-    };
+    });
 }
 
 }  // namespace Tool

@@ -22,21 +22,35 @@ bool isPlainText(std::string const& text)
 void appendText(std::string& out, std::string const& text)
 {
     if (isPlainText(text)) {
-        out.append(1, '"').append(text).append(1, '"');
+        out += '"';
+        out += text;
+        out += '"';
     } else {
         out += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+}
+
+void appendNumber(std::string& out, float number)
+{
+    if (std::isfinite(number)) {
+        appendShortest(out, number);
+    } else {
+        out += "null";
     }
 }
 
 void appendScalar(std::string& out, Json const& value)
 {
     if (value.is_number_float()) {
-        float const number = value.get<float>();
-        out += std::isfinite(number) ? shortest(number) : "null";
+        appendNumber(out, *value.get_ptr<Json::number_float_t const*>());
     } else if (value.is_string()) {
         appendText(out, value.get_ref<std::string const&>());
+    } else if (value.is_null()) {
+        out += "null";
+    } else if (value.is_boolean()) {
+        out += value.get<bool>() ? "true" : "false";
     } else {
-        out += value.dump(-1, ' ', false, Json::error_handler_t::replace);
+        out += value.dump();
     }
 }
 
@@ -120,37 +134,53 @@ JsonStream::JsonStream(std::ostream& out, char bracket, int indent) : _out(out),
 JsonStream::~JsonStream()
 {
     if (!_empty) {
-        _out << '\n' << std::string(static_cast<std::size_t>(_indent), ' ');
+        appendBreak(_text, _indent);
     }
-    _out << (_bracket == '{' ? '}' : ']');
+    _text += _bracket == '{' ? '}' : ']';
+    write();
 }
 
-void JsonStream::next()
+void JsonStream::begin()
 {
-    std::string text = _empty ? "" : ",";
-    appendBreak(text, _indent + step);
-    _out << text;
+    if (!_empty) {
+        _text += ',';
+    }
+    appendBreak(_text, _indent + step);
     _empty = false;
+}
+
+void JsonStream::begin(std::string const& key)
+{
+    begin();
+    appendText(_text, key);
+    _text += ": ";
+}
+
+/// The string stays as large as the largest entry so far.
+void JsonStream::write()
+{
+    _out << _text;
+    _text.clear();
 }
 
 void JsonStream::next(std::string const& key)
 {
-    next();
-    std::string text;
-    appendText(text, key);
-    _out << text << ": ";
+    begin(key);
+    write();
 }
 
 void JsonStream::add(Json const& value)
 {
-    next();
-    printJson(_out, value, _indent + step);
+    begin();
+    appendJson(_text, value, _indent + step);
+    write();
 }
 
 void JsonStream::add(std::string const& key, Json const& value)
 {
-    next(key);
-    printJson(_out, value, _indent + step);
+    begin(key);
+    appendJson(_text, value, _indent + step);
+    write();
 }
 
 }  // namespace Tool

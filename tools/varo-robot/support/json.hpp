@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -15,6 +16,30 @@ namespace Tool {
 /// JSON whose objects keep the order of their members and whose numbers with a fraction are single-precision.
 using Json =
     nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool, std::int64_t, std::uint64_t, float>;
+
+struct Member {
+    char const* key;
+    Json value;
+};
+
+/// An object of these members, no two of which have one key. A Json that is made of braces is the same, but makes
+/// several of each member on its way. There is room for more of them.
+template <std::size_t count>
+Json objectOf(Member (&&members)[count], std::size_t more = 0)
+{
+    Json::object_t object;
+    object.reserve(count + more);
+    for (Member& member : members) {
+        object.emplace_back(member.key, std::move(member.value));
+    }
+    return object;
+}
+
+/// Adds a member, of a key that the object does not have, without a search for it.
+inline void append(Json& object, Member member)
+{
+    object.get_ref<Json::object_t&>().emplace_back(member.key, std::move(member.value));
+}
 
 /// Collects the members of an object of any size: to add to a Json takes the longer, the more it holds.
 class Members {
@@ -44,15 +69,18 @@ public:
     /// Closes it.
     ~JsonStream();
 
-    /// Starts an entry of an array.
-    void next();
     /// Starts a member of an object; its value is to be written next.
     void next(std::string const& key);
     void add(Json const& value);
     void add(std::string const& key, Json const& value);
 
 private:
+    void begin();
+    void begin(std::string const& key);
+    void write();
+
     std::ostream& _out;
+    std::string _text;  ///< that is not written yet
     char _bracket;
     int _indent;
     bool _empty = true;

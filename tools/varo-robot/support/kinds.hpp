@@ -17,13 +17,15 @@ struct Column {
     bool isLink = false;  ///< whether the value is the model's name of a link
 };
 
+/// Hands over the JSON of the elements of one kind one by one: all of them would take a multiple of the model's memory.
+using Visit = void (*)(Sim::Model const& model, std::function<void(Json&&)> const& take);
+
 /// A kind of elements that users can ask for.
 struct Kind {
     std::string plural;
     std::vector<std::string> otherNames;  ///< that it goes by, too: the singular, and what the library calls it
     std::vector<Column> columns;
-    /// Hands over the JSON of the elements one by one: all of them would take a multiple of the model's memory.
-    void (*visit)(Sim::Model const& model, std::function<void(Json&&)> const& take);
+    Visit visit;
 
     std::vector<Json> elements(Sim::Model const& model) const;
 };

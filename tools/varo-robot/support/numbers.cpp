@@ -34,6 +34,16 @@ std::string shortest(float value)
     return digitsOf(value);
 }
 
+void appendShortest(std::string& text, float value)
+{
+    if (value == 1.0F || (value == 0.0F && !std::signbit(value))) {  // as most entries of poses are
+        text += value == 1.0F ? '1' : '0';
+        return;
+    }
+    Digits digits;
+    text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
+}
+
 std::string fixedPoint(double value, int decimals)
 {
     std::string text = digitsOf(value, std::chars_format::fixed, decimals);

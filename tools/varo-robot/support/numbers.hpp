@@ -11,6 +11,7 @@ namespace Tool {
 
 /// The shortest decimal number that reads back as the same single-precision value.
 std::string shortest(float value);
+void appendShortest(std::string& text, float value);
 
 /// With `decimals` digits behind the point; never a negative zero.
 std::string fixedPoint(double value, int decimals);

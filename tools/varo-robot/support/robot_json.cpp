@@ -27,13 +27,11 @@ public:
     }
 
     /// What the model has no elements of, but its records do.
-    void addRecords(char const* key, std::vector<Json> const& records)
+    void addRecords(char const* key, Sim::Model const& model, Visit visit)
     {
         _object.next(key);
         JsonStream array(_out, '[', 2);
-        for (Json const& record : records) {
-            array.add(record);
-        }
+        visit(model, [&array](Json&& record) { array.add(record); });
     }
 
 private:
@@ -53,17 +51,15 @@ char const* wordFor(Varo::Model::ExtensionOwner owner)
     return "robot";
 }
 
-std::vector<Json> extensions(Sim::Model const& model)
+void visitExtensions(Sim::Model const& model, std::function<void(Json&&)> const& take)
 {
-    std::vector<Json> data;
     auto const records = Varo::Model::recordsOf(model.robot());
     for (Varo::Model::ExtensionConfig const& extension : records->extensions) {
-        data.push_back({{"owner", wordFor(extension.owner)},
-                        {"name", extension.ownerName},
-                        {"within", extension.within},
-                        {"text", extension.text}});
+        take(objectOf({{"owner", wordFor(extension.owner)},
+                       {"name", extension.ownerName},
+                       {"within", extension.within},
+                       {"text", extension.text}}));
     }
-    return data;
 }
 
 }  // namespace
@@ -84,8 +80,8 @@ void printRobot(std::ostream& out, Sim::Model const& model)
     arrays.add("actuators", model.actuators());
     arrays.add("actuatorGroups", model.actuatorGroups());
     arrays.add("sensors", model.sensors());
-    arrays.addRecords("transmissions", findKind("transmissions")->elements(model));
-    arrays.addRecords("extensions", extensions(model));
+    arrays.addRecords("transmissions", model, findKind("transmissions")->visit);
+    arrays.addRecords("extensions", model, visitExtensions);
 }
 
 }  // namespace Tool

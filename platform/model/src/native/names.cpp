@@ -4,7 +4,6 @@
 
 #include "robot/cycles.hpp"
 #include "schema/values.hpp"
-#include "varo/model/spelling.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Native {
@@ -110,33 +109,16 @@ void Names::reportUnknown(Use const& use)
     std::string hint(rule->wants.unknown.hint);
     bool const isSomethingElse = rule->wants.kinds == names::hasAngle && entry->second != 0;
     if (hint.empty() && !isSomethingElse) {
-        if (Entry* const meant = findMeant(entry->first.first, rule->wants.kinds)) {
-            meant->second |= rule->gives.kinds;  // so that what is misspelt here is not missed elsewhere
-            hint = "Did you mean " + quoted(meant->first.first) + "?";
+        auto const nameOfKind = [wanted = rule->wants.kinds](Entry const* known) {
+            return (known->second & wanted) != 0 ? known->first.first : std::string_view();
+        };
+        if (Entry* const* const meant = _suggestions.closest(_inTextOrder, nameOfKind, entry->first.first)) {
+            (*meant)->second |= rule->gives.kinds;  // so that what is misspelt here is not missed elsewhere
+            hint = "Did you mean " + quoted((*meant)->first.first) + "?";
         }
     }
     _diagnostics.report(rule->wants.blamesElement ? at(node) : at(node, attribute), *rule->wants.unknown.code,
                         filledIn(rule->wants.unknown.message, entry->first.first), std::move(hint));
-}
-
-/// The name of such a kind that was probably meant; null when there is none, and when very much was compared before.
-Names::Entry* Names::findMeant(std::string_view written, unsigned kinds)
-{
-    ClosestWord closest(written);
-    Entry* meant = nullptr;
-    // To look at a name counts, too.
-    std::size_t const looks = _inTextOrder.size();
-    for (Entry* const entry : _inTextOrder) {
-        if (closest.work() + looks >= _workLeft) {
-            _workLeft = 0;
-            return nullptr;  // not one that happens to come first
-        }
-        if ((entry->second & kinds) != 0 && closest.offer(entry->first.first)) {
-            meant = entry;
-        }
-    }
-    _workLeft -= closest.work() + looks;
-    return meant;
 }
 
 void Names::checkCycle(names::Cycle const& cycle)

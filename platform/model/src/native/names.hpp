@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "native/name_rules.hpp"
+#include "robot/suggestions.hpp"
 #include "varo/model/diagnostics.hpp"
 #include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
@@ -64,7 +65,6 @@ private:
     Entry& entryOf(std::string_view name, std::size_t scope = wholeText);
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
-    Entry* findMeant(std::string_view written, unsigned kinds);
     void checkCycle(names::Cycle const& cycle);
 
     Diagnostics& _diagnostics;
@@ -73,9 +73,7 @@ private:
     Kinds _kinds{&_memory};
     std::vector<Entry*> _inTextOrder;  ///< each of those, by its first mention
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
-    /// Of pairs of letters that may be compared to say what was meant. In very large texts the first findings use it
-    /// up.
-    std::size_t _workLeft = 30'000'000;
+    Suggestions _suggestions;
     bool _isAnyLost = false;
 };
 

@@ -93,8 +93,9 @@ float roundedTo(double scale, double value)
 /// Finds angles of at most seven decimals, the fewer the better, with which `compose` gives exactly the transform.
 bool findAngles(Transform const& transform, Position3D& rpy)
 {
+    auto const ways = anglesOf(transform);
     for (double const scale : {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7}) {
-        for (auto const& [roll, pitch, yaw] : anglesOf(transform)) {
+        for (auto const& [roll, pitch, yaw] : ways) {
             // Adding 0 keeps a rounded angle from being -0.
             rpy = {roundedTo(scale, roll) + 0.0F, roundedTo(scale, pitch) + 0.0F, roundedTo(scale, yaw) + 0.0F};
             if (sameBits(transform, compose(transform.position(), rpy))) {
@@ -116,6 +117,9 @@ Transform readPose(ElementReader& reader, Element<Pose> const& element, XmlNode 
 
 void writePose(ElementWriter& writer, Element<Pose> const& element, Transform const& transform)
 {
+    if (sameBits(transform, Transform())) {  // as most are
+        return;
+    }
     Pose pose;
     if (findAngles(transform, pose.rpy)) {
         pose.xyz = transform.position();

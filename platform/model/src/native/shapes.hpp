@@ -75,11 +75,9 @@ template <auto member, class Type, class Record>
 constexpr Attribute<Record> ofMesh(std::string_view name, std::string_view defaultText, std::string_view unit,
                                    std::string_view meaning)
 {
-    Attribute<Record> row = optional<member, Type, Record>(name, defaultText, unit, meaning);
-    row.print = [](Record const& body) {
+    return optional<member, Type, Record>(name, defaultText, unit, meaning).printedBy([](Record const& body) {
         return isMeshImplied(body) ? Type::print(Record().*member) : Type::print(body.*member);
-    };
-    return row;
+    });
 }
 
 template <class Record>

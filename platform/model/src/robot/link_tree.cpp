@@ -5,7 +5,6 @@
 
 #include "robot/couplings.hpp"
 #include "robot/link_tree_codes.hpp"
-#include "varo/model/spelling.hpp"
 
 namespace Varo::Model {
 
@@ -38,22 +37,6 @@ bool indexNames(LinkTree& tree, Diagnostics& diagnostics)
         isWhole &= addName(tree.jointByName, "joint", joint.config.name, i, joint.nameOffset, diagnostics);
     }
     return isWhole;
-}
-
-/// What was probably meant by a name that none of the items has.
-template <class Items, class NameOf>
-std::string_view closestAmong(Items const& items, NameOf const& nameOf, std::string_view written,
-                              std::size_t& comparisonsLeft)
-{
-    if (items.size() > comparisonsLeft) {
-        return {};
-    }
-    comparisonsLeft -= items.size();
-    ClosestWord closest(written);
-    for (auto const& item : items) {
-        closest.offer(nameOf(item));
-    }
-    return closest.word();
 }
 
 std::size_t findLink(LinkTree& tree, Reference const& link, Diagnostics& diagnostics)
@@ -145,14 +128,16 @@ std::string didYouMean(std::string_view word)
 
 std::string_view LinkTree::closestLink(std::string_view name)
 {
-    return closestAmong(
-        links, [](Link const& link) { return link.name; }, name, comparisonsLeft);
+    auto const nameOf = [](Link const& link) { return link.name; };
+    Link const* const meant = suggestions.closest(links, nameOf, name);
+    return meant == nullptr ? std::string_view() : meant->name;
 }
 
 std::string_view LinkTree::closestJoint(std::string_view name)
 {
-    return closestAmong(
-        joints, [](Joint const& joint) { return std::string_view(joint.config.name); }, name, comparisonsLeft);
+    auto const nameOf = [](Joint const& joint) { return std::string_view(joint.config.name); };
+    Joint const* const meant = suggestions.closest(joints, nameOf, name);
+    return meant == nullptr ? std::string_view() : meant->config.name;
 }
 
 void connect(LinkTree& tree, Diagnostics& diagnostics)

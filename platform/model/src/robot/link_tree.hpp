@@ -9,6 +9,7 @@
 
 #include "robot/cycles.hpp"
 #include "robot/pose.hpp"
+#include "robot/suggestions.hpp"
 #include "robot/unique_names.hpp"
 #include "varo/model/configs.hpp"
 #include "varo/model/diagnostics.hpp"
@@ -74,10 +75,10 @@ struct LinkTree {
     NameIndex linkByName;
     NameIndex jointByName;
     UniqueNames names{jointByName};  ///< those of the joints and the root
-    std::size_t comparisonsLeft = 1000000;  ///< of names, to find those that were meant
+    Suggestions suggestions;
 
-    /// The name that is closest to one that is not there; empty when none is close. After so many comparisons that more
-    /// would take long, none is looked for any more.
+    /// The name that is closest to one that is not there; empty when none is close, or when none is looked for any
+    /// more.
     std::string_view closestLink(std::string_view name);
     std::string_view closestJoint(std::string_view name);
 

@@ -92,18 +92,23 @@ private:
 
 }  // namespace
 
+void completeTables(Records& records)
+{
+    records.joints.sortNames();
+    records.chains.sortNames();
+    records.actuators.sortNames();
+    records.subActuators.sortNames();
+    records.sensors.sortNames();
+    records.wheels.sortNames();
+    records.chainOrder.resize(records.chains.size());
+    std::iota(records.chainOrder.begin(), records.chainOrder.end(), 0U);
+}
+
 RobotRecord::RobotRecord(Records records, std::shared_ptr<SourceText const> source, Diagnostics diagnostics,
                          Range<PartPlace> parts)
     : _records(std::move(records)), _source(std::move(source)), _diagnostics(std::move(diagnostics)), _parts(parts)
 {
-    _records.joints.sortNames();
-    _records.chains.sortNames();
-    _records.actuators.sortNames();
-    _records.subActuators.sortNames();
-    _records.sensors.sortNames();
-    _records.wheels.sortNames();
-    _records.chainOrder.resize(_records.chains.size());
-    std::iota(_records.chainOrder.begin(), _records.chainOrder.end(), 0U);
+    completeTables(_records);
 }
 
 std::string RobotRecord::prettyName(int index) const

@@ -22,6 +22,9 @@ struct PartPlace {
     std::string_view childName = {};  ///< the name that the child must have, where there are many of its kind
 };
 
+/// Makes the tables ready for look-ups and listings, once all records are there.
+void completeTables(Records& records);
+
 /// The robot that readers hand out.
 class RobotRecord final : public Robot {
 public:

@@ -14,12 +14,10 @@ bool isHidden(char32_t c)
            (c >= 0x2066 && c <= 0x2069);
 }
 
-/// The text as it stands between quotes or tags. White space other than blanks is written as references: readers of XML
-/// change it.
-std::string escaped(std::string_view text)
+/// Appends the text as it stands between quotes or tags. White space other than blanks is written as references:
+/// readers of XML change it.
+void appendEscaped(std::string& result, std::string_view text)
 {
-    std::string result;
-    result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         char const c = text[i];
         if (static_cast<unsigned char>(c) >= 0x7F) {
@@ -41,7 +39,6 @@ std::string escaped(std::string_view text)
         default: result += c; break;
         }
     }
-    return result;
 }
 
 }  // namespace
@@ -68,7 +65,9 @@ void ElementWriter::writeAttribute(std::string_view name, std::string_view value
 {
     _text += ' ';
     _text += name;
-    _text += "=\"" + escaped(value) + '"';
+    _text += "=\"";
+    appendEscaped(_text, value);
+    _text += '"';
 }
 
 void ElementWriter::appendAttribute(std::string_view markup)
@@ -95,7 +94,8 @@ void ElementWriter::appendLines(std::string_view markup)
 
 void ElementWriter::writeText(std::string_view text)
 {
-    _text += ">" + escaped(text);
+    _text += '>';
+    appendEscaped(_text, text);
     _isTagOpen = false;
     _isTextLast = true;
 }

@@ -53,7 +53,7 @@ private:
     template <class Record>
     static bool isDefault(Attribute<Record> const& row, Record const& record)
     {
-        return row.print(record) == row.print(Record());
+        return (row.isNew != nullptr && row.isNew(record)) || row.print(record) == row.print(Record());
     }
 
     void endTag();

@@ -3,8 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "range.hpp"
 #include "schema/name_rule.hpp"
@@ -40,6 +42,7 @@ template <class Record>
 struct Attribute : AttributeInfo {
     using Store = bool (*)(std::string_view text, Record& record);
     using Print = std::string (*)(Record const& record);
+    using IsNew = bool (*)(Record const& record);
 
     constexpr Attribute with(NameRule const& rule) const
     {
@@ -59,8 +62,15 @@ struct Attribute : AttributeInfo {
     /// An older form of what the writer writes in another way.
     constexpr Attribute onlyRead() const
     {
+        return printedBy([](Record const&) { return std::string(); });
+    }
+
+    /// One that is written in a way of its own.
+    constexpr Attribute printedBy(Print itsPrint) const
+    {
         Attribute copy = *this;
-        copy.print = [](Record const&) { return std::string(); };
+        copy.print = itsPrint;
+        copy.isNew = nullptr;
         return copy;
     }
 
@@ -75,6 +85,8 @@ struct Attribute : AttributeInfo {
     Store store;  ///< false when the text is not of the type; a tolerant type may take a part of it all the same
     Print print;
     bool writesDefault = false;
+    IsNew isNew = nullptr;  ///< whether the value is that of a new record, down to the sign of a zero; null where only
+                            ///< the texts tell
 };
 
 enum class Occurrence { optional, once, any };
@@ -208,11 +220,27 @@ using RecordOf = typename MemberPointer<member>::Record;
 template <auto member>
 using DefaultType = TypeOf<typename MemberPointer<member>::Value>;
 
+/// Most values are, so that this spares writers most of the printing.
+template <auto member, class Record>
+bool isAsInNew(Record const& record)
+{
+    using Value = typename MemberPointer<member>::Value;
+    static Value const fresh = Record().*member;
+    if constexpr (std::is_trivially_copyable_v<Value>) {
+        // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): 0 and -0 are to differ
+        return std::memcmp(&(record.*member), &fresh, sizeof fresh) == 0;
+    } else if constexpr (std::is_same_v<Value, std::string>) {
+        return record.*member == fresh;
+    } else {
+        return false;
+    }
+}
+
 template <auto member, class Type, class Record>
 constexpr Attribute<Record> memberRow(AttributeInfo const& info)
 {
     return {info, [](std::string_view text, Record& record) { return Type::parse(text, record.*member); },
-            [](Record const& record) { return Type::print(record.*member); }};
+            [](Record const& record) { return Type::print(record.*member); }, false, isAsInNew<member, Record>};
 }
 
 template <auto member, class Type = DefaultType<member>, class Record = RecordOf<member>>

@@ -161,7 +161,8 @@ std::string printNumbers(float const* values, std::size_t count)
 {
     std::string text;
     for (std::size_t i = 0; i < count; ++i) {
-        text += (i == 0 ? "" : " ") + printNumber(values[i]);
+        text += i == 0 ? "" : " ";
+        text += printNumber(values[i]);
     }
     return text;
 }

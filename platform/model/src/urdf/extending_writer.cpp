@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "urdf/schema.hpp"
-
 namespace Varo::Model::Urdf {
 
 namespace {
@@ -34,8 +32,8 @@ std::string stepOf(std::string_view name, std::size_t rank)
 }  // namespace
 
 ExtendingWriter::ExtendingWriter(Records const& records, StatementsOf const& statements,
-                                 std::vector<ExtensionConfig> const& extensions)
-    : ElementWriter(records), _statements(statements)
+                                 std::vector<ExtensionConfig> const& extensions, ShortPoses& poses)
+    : ElementWriter(records), _statements(statements), _poses(poses)
 {
     for (ExtensionConfig const& extension : extensions) {
         _groups[{extension.owner, extension.ownerName}].push_back({&extension});
@@ -44,13 +42,6 @@ ExtendingWriter::ExtendingWriter(Records const& records, StatementsOf const& sta
         std::stable_sort(group.begin(), group.end(),
                          [](Kept const& a, Kept const& b) { return a.extension->within < b.extension->within; });
     }
-}
-
-void ExtendingWriter::writeRobot(std::string_view declaration, std::string_view behind)
-{
-    _declaration = declaration;
-    _behind = behind;
-    write(robotElement, _statements.robot());
 }
 
 ExtendingWriter::Group* ExtendingWriter::groupOf(Owner const& owner)
@@ -76,7 +67,7 @@ void ExtendingWriter::openTag(std::string_view name)
     Level level;
     if (_levels.empty()) {
         level.group = groupOf({ExtensionOwner::robot, {}});
-    } else {
+    } else if (_levels.size() == 1 || _levels.back().group != nullptr) {
         Level& around = _levels.back();
         std::size_t const rank = ++around.ranks[std::string(name)];
         bool const isOwner = _levels.size() == 1 && (name == "link" || name == "joint" || name == "sensor");
@@ -92,7 +83,9 @@ void ExtendingWriter::openTag(std::string_view name)
 
 void ExtendingWriter::writeAttribute(std::string_view name, std::string_view value)
 {
-    _levels.back().attributes.emplace(name);
+    if (_levels.back().group != nullptr) {
+        _levels.back().attributes.emplace(name);
+    }
     ElementWriter::writeAttribute(name, value);
 }
 
@@ -100,7 +93,7 @@ void ExtendingWriter::endAttributes()
 {
     Level& level = _levels.back();
     if (_levels.size() == 1) {
-        appendAttributeOnce(_declaration);
+        _attributesEnd = text().size();
     }
     auto const [first, last] = inside(level);
     for (std::size_t i = first; i < last; ++i) {
@@ -130,7 +123,7 @@ void ExtendingWriter::closeTag(std::string_view name)
     writeElements(level);
     writeMissingParts(level);
     if (level == 0) {
-        appendLines(_behind);
+        _linesEnd = text().size();  // behind the element of a link, which every robot has
     }
     _levels.pop_back();
     ElementWriter::closeTag(name);
@@ -169,12 +162,12 @@ void ExtendingWriter::writeElements(std::size_t depth)
 void ExtendingWriter::writeMissingParts(std::size_t depth)
 {
     Group* const group = _levels[depth].group;
-    std::string const path = _levels[depth].path;
-    constexpr std::ptrdiff_t deepest = 30;
-    std::string const prefix = path.empty() ? path : path + "/";
     if (group == nullptr) {
         return;
     }
+    std::string const path = _levels[depth].path;
+    constexpr std::ptrdiff_t deepest = 30;
+    std::string const prefix = path.empty() ? path : path + "/";
     auto kept = std::lower_bound(group->begin(), group->end(), prefix,
                                  [](Kept const& each, auto const& wanted) { return each.extension->within < wanted; });
     for (; kept != group->end() && kept->extension->within.compare(0, prefix.size(), prefix) == 0; ++kept) {
@@ -238,8 +231,8 @@ void ExtendingWriter::writeSensors()
         for (Kept const& each : kept == nullptr ? Group() : *kept) {
             within.push_back(each.extension->within);
         }
-        writeTree(
-            toStatement(sensor, _statements.linkOf(sensor.parent), _statements.shiftOfLink(sensor.parent), within));
+        writeTree(toStatement(sensor, _statements.linkOf(sensor.parent), _statements.shiftOfLink(sensor.parent), within,
+                              _poses));
     }
 }
 

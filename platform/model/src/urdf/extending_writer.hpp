@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "schema/element_writer.hpp"
+#include "urdf/schema.hpp"
 #include "urdf/sensor_statement.hpp"
 #include "urdf/statements_of.hpp"
 #include "varo/model/name_hash.hpp"
@@ -24,10 +25,13 @@ namespace Varo::Model::Urdf {
 class ExtendingWriter final : public Schema::ElementWriter {
 public:
     ExtendingWriter(Records const& records, StatementsOf const& statements,
-                    std::vector<ExtensionConfig> const& extensions);
+                    std::vector<ExtensionConfig> const& extensions, ShortPoses& poses);
 
-    /// The robot, with `behind` as its last lines.
-    void writeRobot(std::string_view declaration, std::string_view behind);
+    void writeRobot() { write(robotElement, _statements.robot()); }
+
+    /// Where the text can take more of the robot: attributes, and lines behind all others.
+    std::size_t attributesEnd() const { return _attributesEnd; }
+    std::size_t linesEnd() const { return _linesEnd; }
 
 private:
     struct Kept {
@@ -63,10 +67,11 @@ private:
     void writeTree(SensorStatement const& statement);
 
     StatementsOf const& _statements;
+    ShortPoses& _poses;
     std::map<Owner, Group> _groups;
     std::vector<Level> _levels;
-    std::string_view _declaration;
-    std::string_view _behind;
+    std::size_t _attributesEnd = 0;
+    std::size_t _linesEnd = 0;
     Group* _referenced = nullptr;  ///< the owner that the next `gazebo` refers to
 };
 

@@ -6,7 +6,6 @@
 #include "robot/pose.hpp"
 #include "urdf/sensor_kinds.hpp"
 #include "urdf/sensor_settings.hpp"
-#include "urdf/short_poses.hpp"
 #include "urdf/values.hpp"
 
 namespace Varo::Model::Urdf {
@@ -103,9 +102,9 @@ Math::Transform shifted(Math::Transform const& placement, Vector const& shift)
 }
 
 /// As an `origin` or, where an extension is in such an element, a `pose`.
-void addPlacement(Math::Transform const& placement, bool isPose, SensorStatement& element)
+void addPlacement(Math::Transform const& placement, bool isPose, ShortPoses& poses, SensorStatement& element)
 {
-    auto const [xyz, rpy] = poseOf(placement);
+    auto const [xyz, rpy] = poses.poseOf(placement);
     std::string const position = Reals3::print(xyz);
     std::string const angles = Reals3::print(rpy);
     if (isPose) {
@@ -118,14 +117,14 @@ void addPlacement(Math::Transform const& placement, bool isPose, SensorStatement
 }  // namespace
 
 SensorStatement toStatement(SensorConfig const& sensor, std::string_view link, Vector const& shift,
-                            std::vector<std::string_view> const& within)
+                            std::vector<std::string_view> const& within, ShortPoses& poses)
 {
     std::string const kind = kindNameOf(sensor);
     SensorStatement element{"sensor", {{"name", sensor.name}, {"type", kind}}};
     element.parts.push_back({"parent", {{"link", std::string(link)}}});
     bool const isPose =
         std::any_of(within.begin(), within.end(), [](std::string_view path) { return firstStep(path) == "pose"; });
-    addPlacement(shifted(sensor.placement, shift), isPose, element);
+    addPlacement(shifted(sensor.placement, shift), isPose, poses, element);
     if (sensor.settings != nullptr) {
         addSettings(sensorSettings, *sensor.settings, element);
         addNoises(sensor.settings->noises, noisyElementOf(sensor, kind), element);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "robot/pose.hpp"
+#include "urdf/short_poses.hpp"
 #include "varo/model/configs.hpp"
 
 namespace Varo::Model::Urdf {
@@ -22,7 +23,7 @@ struct SensorStatement {
 /// What the reader makes that record of, as far as it can; `within` is where the extensions of the sensor stand, and
 /// `shift` is from where the record has its link to where the text has it.
 SensorStatement toStatement(SensorConfig const& sensor, std::string_view link, Vector const& shift,
-                            std::vector<std::string_view> const& within);
+                            std::vector<std::string_view> const& within, ShortPoses& poses);
 
 }  // namespace Varo::Model::Urdf
 

@@ -29,12 +29,16 @@ class Search {
 public:
     using Map = std::function<Entries(Vector const&)>;
 
-    Search(Map map, Entries const& wanted) : _map(std::move(map)), _wanted(wanted) {}
+    /// Counts down `triesLeft`.
+    Search(Map map, Entries const& wanted, std::size_t& triesLeft)
+        : _map(std::move(map)), _wanted(wanted), _triesLeft(triesLeft)
+    {}
 
     /// Numbers close to `numbers` which give the entries; false, with nothing changed, for none.
     bool run(Vector& numbers) const;
 
 private:
+    Entries entriesFor(Vector const& numbers) const;
     bool gives(Vector const& numbers) const;
     bool isReached(Entries const& entries, std::size_t i) const;
     bool tryEqualDigits(Vector& numbers) const;
@@ -45,6 +49,7 @@ private:
 
     Map _map;
     Entries _wanted;  ///< each of them is one in single precision
+    std::size_t& _triesLeft;
 };
 
 double rounded(double value, int decimals)
@@ -108,7 +113,13 @@ std::vector<double> candidatesFor(double value)
 
 bool Search::run(Vector& numbers) const
 {
-    return tryEqualDigits(numbers) || tryMixedDigits(numbers) || approachFromParts(numbers);
+    return tryEqualDigits(numbers) || (_triesLeft > 0 && (tryMixedDigits(numbers) || approachFromParts(numbers)));
+}
+
+Entries Search::entriesFor(Vector const& numbers) const
+{
+    _triesLeft -= _triesLeft > 0 ? 1 : 0;
+    return _map(numbers);
 }
 
 /// To the last bit, and to the sign of a zero.
@@ -120,7 +131,7 @@ bool Search::isReached(Entries const& entries, std::size_t i) const
 
 bool Search::gives(Vector const& numbers) const
 {
-    Entries const entries = _map(numbers);
+    Entries const entries = entriesFor(numbers);
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!isReached(entries, i)) {
             return false;
@@ -188,22 +199,22 @@ bool Search::approachFromParts(Vector& numbers) const
             }
         }
     }
-    return approach(numbers, {true, true, true});
+    std::array<bool, 3> const all = {true, true, true};
+    return isFree != all && approach(numbers, all);
 }
 
 /// Projects onto one after the other of the intervals that round to the entries (Kaczmarz 1937), which for numbers this
 /// close depend on them linearly.
 bool Search::approach(Vector& numbers, std::array<bool, 3> const& isFree) const
 {
-    bool const areAllFree = isFree[0] && isFree[1] && isFree[2];
-    int const mostSteps = areAllFree ? 1000 : 25;
-    Vector tried = numbers;
+    constexpr int mostSteps = 25;  // where there are such numbers, the first ones nearly always reach them
+    Vector reached = numbers;
     for (int i = 0; i < mostSteps; ++i) {
-        if (gives(tried)) {
-            numbers = tried;
+        if (gives(reached)) {
+            numbers = reached;
             return true;
         }
-        step(tried, isFree, _map(tried));
+        step(reached, isFree, entriesFor(reached));
     }
     return false;
 }
@@ -217,8 +228,8 @@ void Search::step(Vector& numbers, std::array<bool, 3> const& isFree, Entries co
         Vector below = numbers;
         above[j] += width;
         below[j] -= width;
-        Entries const high = _map(above);
-        Entries const low = _map(below);
+        Entries const high = entriesFor(above);
+        Entries const low = entriesFor(below);
         for (std::size_t i = 0; i < high.size(); ++i) {
             slopes[j][i] = isFree[j] ? (high[i] - low[i]) / (2.0 * width) : 0.0;
         }
@@ -302,7 +313,7 @@ double shortest(float value)
     return number;
 }
 
-Vector axisOf(Math::Transform const& end)
+Vector ShortPoses::axisOf(Math::Transform const& end)
 {
     Pose const pose = toPose(end);
     Vector const seen = pose.rotation[2];
@@ -313,7 +324,7 @@ Vector axisOf(Math::Transform const& end)
         [](Vector const& axis) {
             return axis == Vector{} ? Entries{} : entriesOf(inverse({rotationFromZ(axis), {}}).rotation);
         },
-        entriesOf(pose.rotation));
+        entriesOf(pose.rotation), _triesLeft);
     for (Vector axis : scalesOf(seen)) {
         if (search.run(axis)) {
             return axis;
@@ -327,10 +338,10 @@ namespace {
 /// What a record has where a text states a pose.
 using Placing = std::function<Pose(Pose const& stated)>;
 
-StatedPose findPose(Placing const& placing, Pose const& wanted, Pose const& guess)
+StatedPose findPose(Placing const& placing, Pose const& wanted, Pose const& guess, std::size_t& triesLeft)
 {
     Search const turns([&](Vector const& rpy) { return entriesOf(placing(poseFrom({}, rpy)).rotation); },
-                       entriesOf(wanted.rotation));
+                       entriesOf(wanted.rotation), triesLeft);
     auto const solutions = rpyOf(guess.rotation);
     StatedPose pose = {guess.translation, solutions.front()};
     for (Vector rpy : solutions) {
@@ -344,24 +355,24 @@ StatedPose findPose(Placing const& placing, Pose const& wanted, Pose const& gues
         Vector const place = placing({turn, xyz}).translation;
         return Entries{place[0], place[1], place[2]};
     };
-    Search const places(map, {wanted.translation[0], wanted.translation[1], wanted.translation[2]});
+    Search const places(map, {wanted.translation[0], wanted.translation[1], wanted.translation[2]}, triesLeft);
     places.run(pose.xyz);
     return pose;
 }
 
 }  // namespace
 
-StatedPose poseBetween(Pose const& before, Math::Transform const& whole, Pose const& behind)
+StatedPose ShortPoses::poseBetween(Pose const& before, Math::Transform const& whole, Pose const& behind)
 {
     Pose const wanted = toPose(whole);
     return findPose([&](Pose const& stated) { return before * stated * behind; }, wanted,
-                    inverse(before) * wanted * inverse(behind));
+                    inverse(before) * wanted * inverse(behind), _triesLeft);
 }
 
-StatedPose poseOf(Math::Transform const& whole)
+StatedPose ShortPoses::poseOf(Math::Transform const& whole)
 {
     Pose const wanted = toPose(whole);
-    return findPose([](Pose const& stated) { return stated; }, wanted, wanted);
+    return findPose([](Pose const& stated) { return stated; }, wanted, wanted, _triesLeft);
 }
 
 }  // namespace Varo::Model::Urdf

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "robot/cycles.hpp"
-#include "urdf/short_poses.hpp"
 #include "urdf/values.hpp"
 #include "varo/model/name_hash.hpp"
 
@@ -181,7 +180,7 @@ void addDriven(TransmissionConfig const& config, Transmission& stated)
 
 }  // namespace
 
-StatementsOf::StatementsOf(Records const& records) : _records(records)
+StatementsOf::StatementsOf(Records const& records, ShortPoses& poses) : _records(records), _poses(poses)
 {
     _robot.name = records.name;
     _robot.version = records.version == onlyVersion ? onlyVersion : std::string_view();
@@ -279,7 +278,7 @@ void StatementsOf::placeJoint(JointConfig const& joint, Joint& stated)
     Pose const start = before == nullptr ? Pose() : endOf(*before).pose;
     Math::Transform const placement =
         attachment.base == Math::Transform() ? joint.placement : attachment.base * joint.placement;
-    StatedPose const pose = poseBetween(start, placement, inverse(end.pose));
+    StatedPose const pose = _poses.poseBetween(start, placement, inverse(end.pose));
     stated.origin = toOrigin(pose.xyz, pose.rpy);
 }
 
@@ -288,7 +287,7 @@ StatementsOf::End const& StatementsOf::endOf(JointConfig const& joint)
     auto const [entry, isNew] = _ends.try_emplace(joint.name);
     End& end = entry->second;
     if (isNew) {
-        end.axis = isMoving(joint.jointType) ? axisOf(joint.endTransform) : Vector{0.0, 0.0, 1.0};
+        end.axis = isMoving(joint.jointType) ? _poses.axisOf(joint.endTransform) : Vector{0.0, 0.0, 1.0};
         end.pose = inverse({rotationFromZ(end.axis), {}});
         if (toTransform(end.pose) != joint.endTransform) {
             end.pose = {toPose(joint.endTransform).rotation, {}};

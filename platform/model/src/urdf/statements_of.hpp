@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "urdf/short_poses.hpp"
 #include "urdf/statements.hpp"
 #include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
@@ -19,7 +20,7 @@ namespace Varo::Model::Urdf {
 class StatementsOf {
 public:
     /// The records must outlive this.
-    explicit StatementsOf(Records const& records);
+    StatementsOf(Records const& records, ShortPoses& poses);
     StatementsOf(StatementsOf const&) = delete;
     StatementsOf& operator=(StatementsOf const&) = delete;
 
@@ -53,6 +54,7 @@ private:
     std::string_view keep(std::string text) { return _texts.emplace_back(std::move(text)); }
 
     Records const& _records;
+    ShortPoses& _poses;
     Robot _robot;
     std::deque<std::string> _texts;
     std::unordered_map<std::string_view, std::string_view, NameHash> _links;  ///< by joint or root

@@ -81,6 +81,7 @@ Records Reader::read()
     readSensors();
     translateTransmissions(_stated, _tree, _robot, _report);
     readControls();
+    _stated = {};  // to make room for the records
     if (!_diagnostics.hasErrors()) {
         _kept.addRecords(_tree, *_diagnostics.source(), _robot);
         addRecords(std::move(_tree), _robot, _diagnostics);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -22,7 +23,12 @@ namespace Varo::Model {
 
 namespace {
 
-using Urdf::StatementsOf;
+template <class Configs>
+bool hasMirrors(Configs const& configs)
+{
+    return std::any_of(configs.begin(), configs.end(),
+                       [](auto const& config) { return config.mirrorKind != noMirror; });
+}
 
 template <class Configs>
 void forgetMirrors(Configs& configs)
@@ -34,14 +40,16 @@ void forgetMirrors(Configs& configs)
 }
 
 /// Without what was inferred and will be again.
-Records statedRecordsOf(Robot const& robot)
+std::shared_ptr<Records const> statedRecordsOf(Robot const& robot)
 {
-    Records records = *recordsOf(robot);
-    if (!records.statesMirrors) {
-        forgetMirrors(records.joints);
-        forgetMirrors(records.actuators);
+    std::shared_ptr<Records const> records = recordsOf(robot);
+    if (records->statesMirrors || !(hasMirrors(records->joints) || hasMirrors(records->actuators))) {
+        return records;
     }
-    return records;
+    auto const stated = std::make_shared<Records>(*records);
+    forgetMirrors(stated->joints);
+    forgetMirrors(stated->actuators);
+    return stated;
 }
 
 using ExtensionList = std::vector<ExtensionConfig>;
@@ -60,75 +68,85 @@ std::string freePrefix(ExtensionList const& extensions)
     return prefix;
 }
 
-/// One robot, with more or less beside what URDF says of it.
-class UrdfText {
-public:
-    UrdfText(Records const& records, StatementsOf const& statements, ExtensionList const& extensions)
-        : _records(records), _statements(statements), _extensions(extensions)
-    {}
+/// What URDF says of a robot, and where it can take more.
+struct UrdfText {
+    std::string const& text() const { return source->text(); }
 
-    std::string write(std::string_view declaration, std::string_view behind) const
+    std::string with(std::string_view attribute, std::string_view lines) const
     {
-        Urdf::ExtendingWriter writer(_records, _statements, _extensions);
-        writer.writeRobot(declaration, behind);
-        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + writer.text();
+        std::string_view const all = text();
+        std::string result;
+        result.reserve(all.size() + attribute.size() + lines.size());
+        result += all.substr(0, attributesEnd);
+        result += attribute;
+        result += all.substr(attributesEnd, linesEnd - attributesEnd);
+        result += lines;
+        result += all.substr(linesEnd);
+        return result;
     }
 
-    /// What a reader makes of the plain text; null for one that it refuses or takes for another robot's, of which
-    /// `reason` says why.
-    std::unique_ptr<RobotRecord> readBack(std::string& reason) const;
-
-private:
-    Records const& _records;
-    StatementsOf const& _statements;
-    ExtensionList const& _extensions;
+    std::unique_ptr<SourceText const> source;
+    std::size_t attributesEnd = 0;
+    std::size_t linesEnd = 0;
 };
 
-std::unique_ptr<RobotRecord> UrdfText::readBack(std::string& reason) const
+UrdfText write(Records const& records, ExtensionList const& extensions)
 {
-    auto const source = std::make_shared<SourceText const>(write({}, {}));
-    Diagnostics diagnostics(source.get());
+    constexpr std::string_view head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+    Urdf::ShortPoses poses;
+    Urdf::StatementsOf const statements(records, poses);
+    Urdf::ExtendingWriter writer(records, statements, extensions, poses);
+    writer.writeRobot();
+    return {std::make_unique<SourceText>(std::string(head) + writer.text()), head.size() + writer.attributesEnd(),
+            head.size() + writer.linesEnd()};
+}
+
+/// What a reader makes of the text; nothing for one that it refuses or takes for another robot's, of which `reason`
+/// says why.
+std::optional<Records> readBack(UrdfText const& written, Records const& wanted, std::string& reason)
+{
+    Diagnostics diagnostics(written.source.get());
     XmlDocument document;
     Records records;
-    if (parseXml(*source, document, diagnostics)) {
+    if (parseXml(*written.source, document, diagnostics)) {
         records = readUrdf(document.root(), diagnostics);
     }
     if (diagnostics.hasErrors()) {
         reason = summaryOf(diagnostics.findings());
-        return nullptr;
+        return std::nullopt;
     }
-    if (records.joints.size() != _records.joints.size() || records.sensors.size() != _records.sensors.size()) {
+    if (records.joints.size() != wanted.joints.size() || records.sensors.size() != wanted.sensors.size()) {
         reason = "it would have other joints or sensors.";
-        return nullptr;
+        return std::nullopt;
     }
-    return std::make_unique<RobotRecord>(std::move(records), source, std::move(diagnostics), urdfParts);
+    completeTables(records);
+    return records;
 }
 
 }  // namespace
 
 std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics)
 {
-    Records const records = statedRecordsOf(robot);
-    StatementsOf const statements(records);
+    std::shared_ptr<Records const> const records = statedRecordsOf(robot);
     ExtensionList const none;
     std::string reason;
-    for (ExtensionList const* const extensions : {&records.extensions, &none}) {  // which may say anything
-        UrdfText const text(records, statements, *extensions);
-        auto const given = text.readBack(reason);
-        if (given == nullptr) {
+    for (ExtensionList const* const extensions : {&records->extensions, &none}) {  // which may say anything
+        UrdfText const written = write(*records, *extensions);
+        std::optional<Records> given = readBack(written, *records, reason);
+        if (!given) {
             continue;
         }
         std::string const prefix = freePrefix(*extensions);
-        Native::Amendment const amendment = Native::amendmentOf(records, *given->records(), prefix + ":");
+        Native::Amendment const amendment = Native::amendmentOf(*records, *std::move(given), prefix + ":");
         if (amendment.text.empty()) {
-            return text.write({}, {});
+            return written.text();
         }
-        Urdf::noteBeyondUrdf(amendment, records, diagnostics);
-        std::string const name = std::string(Urdf::declaringAttribute) + prefix;
-        return text.write(name + "=\"" + std::string(Urdf::ownNamespace) + "\"", amendment.text);
+        Urdf::noteBeyondUrdf(amendment, *records, diagnostics);
+        std::string const declaration = " " + std::string(Urdf::declaringAttribute) + prefix + "=\"";
+        return written.with(declaration + std::string(Urdf::ownNamespace) + "\"", amendment.text);
     }
     diagnostics.report({}, Urdf::codes::notUrdf, "No URDF can be made of this robot: " + reason);
-    return UrdfText(records, statements, none).write({}, {});
+    return write(*records, none).text();
 }
 
 }  // namespace Varo::Model

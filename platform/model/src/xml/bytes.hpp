@@ -23,8 +23,8 @@ constexpr std::array<unsigned char, 256> makeByteClasses()
             classes[byte] |= of;
         }
     };
-    for (unsigned char const space : {' ', '\t', '\n', '\r'}) {
-        add(space, space, ofSpace);
+    for (char const space : {' ', '\t', '\n', '\r'}) {
+        classes[static_cast<unsigned char>(space)] |= ofSpace;
     }
     for (auto const& [first, last] : {std::array{'a', 'z'}, {'A', 'Z'}, {'_', '_'}, {':', ':'}}) {
         add(static_cast<unsigned char>(first), static_cast<unsigned char>(last), ofNameStart | ofName | ofPlainName);
@@ -34,8 +34,8 @@ constexpr std::array<unsigned char, 256> makeByteClasses()
     }
     add(0x80, 0xFF, ofNameStart | ofName);
     add(' ', '~', ofPlainValue);
-    for (unsigned char const c : {'<', '&', '"', '\''}) {
-        classes[c] = 0;
+    for (char const c : {'<', '&', '"', '\''}) {
+        classes[static_cast<unsigned char>(c)] = 0;
     }
     return classes;
 }
