@@ -18,13 +18,6 @@ inline py::object packageClass(char const* name)
     return py::module_::import("varorobotmodel").attr(name);
 }
 
-/// The member of an enumeration of the package that has the number of `value`.
-template <class Enum>
-py::object enumerator(char const* name, Enum value)
-{
-    return packageClass(name)(static_cast<int>(value));
-}
-
 /// For texts that need not be UTF-8: what messages quote of a broken file.
 inline py::str textOf(std::string const& text)
 {
@@ -71,7 +64,7 @@ py::class_<Type, Options...> declareClass(py::module_& module, char const* name,
 /// The same of a class whose objects only models make: Python cannot make one that stands for nothing, be it by
 /// `__new__`.
 template <class Type, class... Options>
-py::class_<Type, Options...> declareElement(py::module_& module, char const* name, char const* documentation)
+py::class_<Type, Options...> declareMadeByModels(py::module_& module, char const* name, char const* documentation)
 {
     auto declared = declareClass<Type, Options...>(module, name, documentation);
     py::delattr(declared, "__init__");
