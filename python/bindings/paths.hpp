@@ -21,11 +21,7 @@ inline std::string fromPath(py::handle path)
 /// A str that `open` takes for the same file.
 inline py::str toPath(std::string const& path)
 {
-    PyObject* const decoded = PyUnicode_DecodeFSDefaultAndSize(path.data(), static_cast<Py_ssize_t>(path.size()));
-    if (decoded == nullptr) {
-        throw py::error_already_set();
-    }
-    return py::reinterpret_steal<py::str>(decoded);
+    return checked<py::str>(PyUnicode_DecodeFSDefaultAndSize(path.data(), static_cast<Py_ssize_t>(path.size())));
 }
 
 }  // namespace Python

@@ -18,14 +18,20 @@ inline py::object packageClass(char const* name)
     return py::module_::import("varorobotmodel").attr(name);
 }
 
+/// What a function of Python's own interface made; null stands for the exception that it has raised.
+template <class Type>
+Type checked(PyObject* made)
+{
+    if (made == nullptr) {
+        throw py::error_already_set();
+    }
+    return py::reinterpret_steal<Type>(made);
+}
+
 /// For texts that need not be UTF-8: what messages quote of a broken file.
 inline py::str textOf(std::string const& text)
 {
-    PyObject* const decoded = PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace");
-    if (decoded == nullptr) {
-        throw py::error_already_set();
-    }
-    return py::reinterpret_steal<py::str>(decoded);
+    return checked<py::str>(PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace"));
 }
 
 /// Raises an exception of the package.
