@@ -201,6 +201,14 @@ def test_representations_name_what_they_stand_for(humanoid):
     assert repr(humanoid.joint_symmetries[0]) and repr(humanoid.root_link.frame) == "<Frame 'PelvisLink': root>"
 
 
+def test_all_classes_are_in_the_package():
+    from varorobotmodel import _core
+
+    for module in (_core, _core.devices):
+        for name, thing in vars(module).items():
+            assert not isinstance(thing, type) or getattr(vr, name) is thing
+
+
 def test_everything_is_documented():
     for name in (name for name in dir(vr) if not name.startswith("_")):
         thing = getattr(vr, name)

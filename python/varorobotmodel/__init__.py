@@ -52,6 +52,7 @@ from ._core.devices import (
     InertialSensor as InertialSensor,
     LEDActuator as LEDActuator,
     MicrophoneSensor as MicrophoneSensor,
+    Sensor as Sensor,
     SingleDepthSensor as SingleDepthSensor,
     SonarSensor as SonarSensor,
     TactileSensor as TactileSensor,

@@ -4,6 +4,7 @@
 
 #include "sim/kinematics.hpp"
 #include "sim/model.hpp"
+#include "varo/math/rpy.hpp"
 #include "varo/model/mesh_search.hpp"
 
 namespace {
@@ -31,8 +32,17 @@ void ask()
               << ", in the root at x = " << inRoot(0, 3) << " m\n";
 
     for (Sim::Sensor const* sensor : model.sensors()) {
-        std::cout << sensor->name() << " gives " << sensor->bufferSize() << " bytes\n";
+        std::cout << sensor->name() << " is on " << sensor->frame()->parentFrame()->name() << '\n';
     }
+    // The tables of kinds say what each is called.
+    auto const printIfThere = [&model](auto const& kind) {
+        for (Sim::Sensor const* sensor : model.sensors()) {
+            if (sensor->type() == kind.type) {
+                std::cout << sensor->name() << ": " << kind.word << '\n';
+            }
+        }
+    };
+    std::apply([&](auto const&... kind) { (printIfThere(kind), ...); }, Sim::sensorKinds);
     Sim::CameraSensor const* camera = model.cameraSensor("FaceCamera");
     std::cout << camera->name() << ": " << camera->width() << " by " << camera->height() << " pixels\n";
     if (Sim::AngleActuator const* motor = model.angleActuator("LElbowBend")) {
@@ -67,6 +77,10 @@ void move()
     Sim::Pose const wrist = kinematics.pose(configuration, kinematics.frame("LWristTwistLink"));
     std::vector<Sim::Pose> const all = kinematics.linkPoses(configuration);  // in the order of model.links()
     Sim::MassProperties const body = kinematics.massProperties(configuration);
+
+    Sim::Vector3 const at = wrist.position();
+    Varo::Math::Rpy const turned = Varo::Math::rpyOf(wrist.toTransform());
+    std::cout << "at " << at[0] << ' ' << at[1] << ' ' << at[2] << " m, turned by " << turned.yaw << " rad about z\n";
 
     std::vector<Sim::Pose> poses(kinematics.linkCount());
     kinematics.linkPoses(configuration, poses.data(), poses.size());
