@@ -7,7 +7,7 @@ install(FILES package.xml DESTINATION ${data_folder})  # by which workspaces of 
 
 install(FILES README.md CONTRIBUTING.md CHANGELOG.md SECURITY.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.png)
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN *.cpp)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN *.cpp PATTERN *.hpp)
 file(RELATIVE_PATH data_from_documents /${CMAKE_INSTALL_DOCDIR} /${data_folder})
 foreach(folder robots schema)
     file(CREATE_LINK ${data_from_documents}/${folder} ${CMAKE_CURRENT_BINARY_DIR}/documents/${folder} SYMBOLIC)

@@ -1,8 +1,8 @@
 // Finds the cameras of a robot whose joints all stand at zero: where in the root frame each sits, and where it looks.
 #include <iomanip>
 #include <iostream>
-#include <stdexcept>
 
+#include "failure.hpp"
 #include "sim/camera_sensor.hpp"
 #include "sim/frame.hpp"
 #include "sim/model.hpp"
@@ -21,12 +21,6 @@ try {
                   << pose(1, 3) << ' ' << pose(2, 3) << " m along " << pose(0, 0) << ' ' << pose(1, 0) << ' '
                   << pose(2, 0) << ", " << camera->width() << " by " << camera->height() << " pixels\n";
     }
-} catch (Varo::Model::WithFindings const& refused) {
-    for (Varo::Model::Finding const& finding : refused.findings()) {
-        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
-    }
-    return 1;
-} catch (std::exception const& error) {
-    std::cerr << error.what() << '\n';
-    return 1;
+} catch (...) {
+    return reportFailure(arguments[1]);
 }

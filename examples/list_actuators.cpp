@@ -1,8 +1,8 @@
 // Lists the angle actuators of a robot: between which angles (rad; m for a sliding joint) each moves its joint, how
 // fast, and the device keys under which it is commanded.
 #include <iostream>
-#include <stdexcept>
 
+#include "failure.hpp"
 #include "sim/angle_actuator.hpp"
 #include "sim/model.hpp"
 
@@ -21,12 +21,6 @@ try {
         }
         std::cout << '\n';
     }
-} catch (Varo::Model::WithFindings const& refused) {
-    for (Varo::Model::Finding const& finding : refused.findings()) {
-        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
-    }
-    return 1;
-} catch (std::exception const& error) {
-    std::cerr << error.what() << '\n';
-    return 1;
+} catch (...) {
+    return reportFailure(arguments[1]);
 }

@@ -2,8 +2,8 @@
 // then, and how both move when one joint after the other does.
 #include <iomanip>
 #include <iostream>
-#include <stdexcept>
 
+#include "failure.hpp"
 #include "sim/kinematics.hpp"
 #include "sim/model.hpp"
 
@@ -41,12 +41,6 @@ try {
         print(": ", &ofHand[6 * i], " and ");
         print("", &ofMass[3 * i], " m/s per rad/s\n");
     }
-} catch (Varo::Model::WithFindings const& refused) {
-    for (Varo::Model::Finding const& finding : refused.findings()) {
-        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
-    }
-    return 1;
-} catch (std::exception const& error) {
-    std::cerr << error.what() << '\n';
-    return 1;
+} catch (...) {
+    return reportFailure(arguments[1]);
 }

@@ -1,10 +1,10 @@
 // Reads everything of one model from several threads at once: it is immutable, so that no lock is needed.
 #include <future>
 #include <iostream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "failure.hpp"
 #include "sim/actuator.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
@@ -43,12 +43,6 @@ try {
     for (std::future<std::string>& other : others) {
         std::cout << "Another thread read " << (other.get() == mine ? "the same\n" : "something else\n");
     }
-} catch (Varo::Model::WithFindings const& refused) {
-    for (Varo::Model::Finding const& finding : refused.findings()) {
-        std::cerr << arguments[1] << ':' << finding.line << ':' << finding.column << ": " << finding.message << '\n';
-    }
-    return 1;
-} catch (std::exception const& error) {
-    std::cerr << error.what() << '\n';
-    return 1;
+} catch (...) {
+    return reportFailure(arguments[1]);
 }

@@ -6,6 +6,8 @@
 /// What the module is put together from. A class is declared before others derive from it.
 namespace Python {
 
+void defineElement(pybind11::module_& module);
+void defineMeshes(pybind11::module_& module);
 void defineReading(pybind11::module_& module);
 void defineModel(pybind11::module_& module);
 void defineStructure(pybind11::module_& module);

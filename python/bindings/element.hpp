@@ -2,7 +2,6 @@
 #define PYTHON_ELEMENT_HPP
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -54,35 +53,39 @@ constexpr auto parentOf()
 template <class Type>
 using ParentOf = typename decltype(parentOf<Type>())::type;
 
-/// An element, and the model that it belongs to. Devices derive from each other as their classes do.
+/// An element of whatever class, and the model that it belongs to.
+struct AnyElement {
+    ModelPtr owner;
+    void const* pointer;  ///< to the class of the family: to a Sim::Sensor for a camera
+};
+
+/// An element of a class. Those of devices derive from each other as the devices do.
 template <class Type, class Parent = ParentOf<Type>>
 struct Element : Element<Parent> {
-    Type const* operator->() const { return static_cast<Type const*>(this->pointer); }
+    Element(ModelPtr const& model, Type const* element) : Element<Parent>(model, element) {}
+
+    Type const* operator->() const { return static_cast<Type const*>(Element<Parent>::operator->()); }
     Type const& operator*() const { return *operator->(); }
 };
 template <class Type>
-struct Element<Type, void> {
-    ModelPtr owner;
-    Type const* pointer = nullptr;
+struct Element<Type, void> : AnyElement {
+    Element(ModelPtr const& model, Type const* element) : AnyElement{model, element} {}
 
-    Type const* operator->() const { return pointer; }
-    Type const& operator*() const { return *pointer; }
+    Type const* operator->() const { return static_cast<Type const*>(pointer); }
+    Type const& operator*() const { return *operator->(); }
 };
 
+/// The class of Python for elements of a type.
 template <class Type>
-Element<Type> elementOf(ModelPtr const& owner, Type const* pointer)
-{
-    Element<Type> element;
-    element.owner = owner;
-    element.pointer = pointer;
-    return element;
-}
+using BaseOf = std::conditional_t<std::is_void_v<ParentOf<Type>>, AnyElement, Element<ParentOf<Type>>>;
+template <class Type>
+using ElementClass = py::class_<Element<Type>, BaseOf<Type>>;
 
 /// As an object of the class that `element` is of, None for null.
 template <class Type>
 py::object toPython(ModelPtr const& owner, Type const* element)
 {
-    return element == nullptr ? py::none() : py::cast(elementOf(owner, element));
+    return element == nullptr ? py::none() : py::cast(Element<Type>(owner, element));
 }
 
 /// The same of a device, whose class its type tells.
@@ -93,7 +96,7 @@ py::object deviceToPython(ModelPtr const& owner, Device const* device, Kinds con
     auto const castIfOf = [&](auto const& kind) {
         using Class = typename std::decay_t<decltype(kind)>::Class;
         if (device != nullptr && kind.type == device->type()) {
-            object = py::cast(elementOf(owner, static_cast<Class const*>(device)));
+            object = py::cast(Element<Class>(owner, static_cast<Class const*>(device)));
         }
     };
     std::apply([&](auto const&... kind) { (castIfOf(kind), ...); }, kinds);
@@ -125,30 +128,19 @@ py::object elementsOf(ModelPtr const& owner, std::vector<Type const*> const& poi
     return packageClass("Elements")(tupleOf(owner, pointers));
 }
 
-/// What is the same in the classes of all elements: they are equal when they stand for the same one, and know their
-/// model.
-template <class Class>
-void defineIdentity(Class& elementClass)
+/// Those of the classes that it derives from are declared before it.
+template <class Type>
+ElementClass<Type> declareElement(py::module_& module, char const* name, char const* documentation)
 {
-    using Handle = typename Class::type;
-    define(
-        elementClass, "__eq__(self, value, /)",
-        [](Handle const& self, Handle const& value) { return self.pointer == value.pointer; },
-        "Whether both stand for the same element of the same model.", py::is_operator());
-    define(
-        elementClass, "__hash__(self, /)", [](Handle const& self) { return std::hash<void const*>()(self.pointer); },
-        "Goes with ==.");
-    elementClass.def_property_readonly(
-        "model", [](Handle const& self) { return self.owner; }, "The model that it belongs to.");
+    return declareMadeByModels<Element<Type>, BaseOf<Type>>(module, name, documentation);
 }
 
 /// Of elements that a description states: where.
-template <class Class>
-void definePlace(Class& elementClass)
+template <class Type>
+void definePlace(ElementClass<Type>& declared)
 {
-    using Handle = typename Class::type;
-    elementClass.def_property_readonly(
-        "place", [](Handle const& self) { return placeOf(self.owner->model.place(*self.pointer), self.owner->file); },
+    declared.def_property_readonly(
+        "place", [](Element<Type> const& self) { return placeOf(self.owner->model.place(*self), self.owner->file); },
         "Where the description states it.");
 }
 

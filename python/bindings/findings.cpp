@@ -1,6 +1,6 @@
 #include "findings.hpp"
 
-#include "types.hpp"
+#include "enumerations.hpp"
 
 namespace Python {
 
@@ -14,7 +14,7 @@ py::list findingsOf(Varo::Model::Findings const& findings, std::string const& fi
     py::object const findingClass = packageClass("Finding");
     py::list list;
     for (Varo::Model::Finding const& finding : findings) {
-        list.append(findingClass(enumerator("Severity", finding.severity), finding.code,
+        list.append(findingClass(enumerator(finding.severity), finding.code,
                                  placeOf({finding.line, finding.column, finding.path}, file), textOf(finding.message),
                                  textOf(finding.hint)));
     }

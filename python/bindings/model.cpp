@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cctype>
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +9,7 @@
 #include "classes.hpp"
 #include "element.hpp"
 #include "findings.hpp"
+#include "records.hpp"
 
 namespace Python {
 
@@ -97,21 +97,7 @@ void defineElements(ModelClass& modelClass)
         "The pairs of joints that mirror each other.");
 }
 
-/// The first of several postures of one name counts, as it does for configurations.
-py::dict posturesOf(Sim::Model const& model)
-{
-    py::dict postures;
-    for (Varo::Model::PostureConfig const& posture : model.postures()) {
-        py::dict values;
-        for (Varo::Model::PostureAngle const& angle : posture.angles) {
-            values[py::str(angle.name)] = angle.value;
-        }
-        postures.attr("setdefault")(posture.name, values);
-    }
-    return postures;
-}
-
-void defineTexts(ModelClass& modelClass)
+void defineDescription(ModelClass& modelClass)
 {
     auto const property = [&modelClass](char const* name, auto get, char const* documentation) {
         modelClass.def_property_readonly(name, get, documentation);
@@ -136,9 +122,11 @@ void defineTexts(ModelClass& modelClass)
     property(
         "file", [](LoadedModel const& self) { return self.isFromFile ? py::object(textOf(self.file)) : py::none(); },
         "The file that was loaded, as it was given to load; None for a text.");
-    property(
-        "postures", [](LoadedModel const& self) { return posturesOf(self.model); },
-        "The values (rad, m) that each posture of the description gives to joints and actuators, by their names.");
+    property("postures", posturesOf,
+             "The values (rad, m) that each posture of the description gives to joints and actuators, by their names.");
+    property("transmissions", transmissionsOf,
+             "Which actuator drives which joint, and how, as far as the description says.");
+    property("extensions", extensionsOf, "What the description has for other programs, kept as it stands in its text.");
     property(
         "findings", [](LoadedModel const& self) { return findingsOf(self.model.findings(), self.file); },
         "The warnings and notes of reading the description and of building the model, in the order of their\n"
@@ -156,12 +144,12 @@ py::str representation(LoadedModel const& self)
 
 void defineModel(py::module_& module)
 {
-    auto modelClass = declareElement<LoadedModel, ModelPtr>(
+    auto modelClass = declareMadeByModels<LoadedModel, ModelPtr>(
         module, "Model",
         "A robot: its tree of links and joints, its sensors and actuators, its groups and symmetries.\n\n"
         "Made by load and loads, and never changed. Elements keep their model alive. Look-ups by name are exact; link\n"
         "also knows what the description itself calls links.");
-    defineTexts(modelClass);
+    defineDescription(modelClass);
     defineElements(modelClass);
     modelClass.def("__repr__", representation);
 }

@@ -1,9 +1,6 @@
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdio>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -14,10 +11,12 @@
 #include "classes.hpp"
 #include "element.hpp"
 #include "findings.hpp"
+#include "paths.hpp"
 #include "sim/friction.hpp"
 #include "varo/model/lint.hpp"
 #include "varo/model/model_utils.hpp"
 #include "varo/model/spelling.hpp"
+#include "varo/model/text_file.hpp"
 
 namespace Python {
 
@@ -34,46 +33,20 @@ struct Source {
     bool isFromFile = false;
 };
 
-/// The reason why nothing came of the file, or 0. Reads a little more than the reader accepts at most: a device file
-/// may never end.
-int readFile(std::string const& file, std::string& text)
-{
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const stream(std::fopen(file.c_str(), "rb"), std::fclose);
-    if (stream == nullptr) {
-        return errno;
-    }
-    std::array<char, 65536> block;
-    while (text.size() <= ModelUtils::maxTextSize) {
-        std::size_t const count = std::fread(block.data(), 1, block.size(), stream.get());
-        text.append(block.data(), count);
-        if (count < block.size()) {
-            break;
-        }
-    }
-    return std::ferror(stream.get()) != 0 ? errno : 0;
-}
-
 /// Throws OSError, of the kind that says why.
 Source readSource(py::object const& path)
 {
-    PyObject* encoded = nullptr;
-    if (PyUnicode_FSConverter(path.ptr(), &encoded) == 0) {
-        throw py::error_already_set();
-    }
-    Source source;
-    source.file = py::reinterpret_steal<py::bytes>(encoded);
-    source.isFromFile = true;
-    int error = 0;
-    {
+    std::string name = fromPath(path);
+    Varo::Model::TextFile file = [&name] {
         py::gil_scoped_release const release;
-        error = readFile(source.file, source.text);
-    }
-    if (error != 0) {
-        errno = error;
+        return Varo::Model::readTextFile(name);
+    }();
+    if (file.error != 0) {
+        errno = file.error;
         PyErr_SetFromErrnoWithFilenameObject(PyExc_OSError, path.ptr());
         throw py::error_already_set();
     }
-    return source;
+    return {std::move(file.text), std::move(name), true};
 }
 
 [[noreturn]] void refuse(Findings const& findings, Source const& source)

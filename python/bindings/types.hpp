@@ -18,21 +18,20 @@ inline py::object packageClass(char const* name)
     return py::module_::import("varorobotmodel").attr(name);
 }
 
-/// The member of an enumeration of the package that has the number of `value`.
-template <class Enum>
-py::object enumerator(char const* name, Enum value)
+/// What a function of Python's own interface made; null stands for the exception that it has raised.
+template <class Type>
+Type checked(PyObject* made)
 {
-    return packageClass(name)(static_cast<int>(value));
+    if (made == nullptr) {
+        throw py::error_already_set();
+    }
+    return py::reinterpret_steal<Type>(made);
 }
 
 /// For texts that need not be UTF-8: what messages quote of a broken file.
 inline py::str textOf(std::string const& text)
 {
-    PyObject* const decoded = PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace");
-    if (decoded == nullptr) {
-        throw py::error_already_set();
-    }
-    return py::reinterpret_steal<py::str>(decoded);
+    return checked<py::str>(PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace"));
 }
 
 /// Raises an exception of the package.
@@ -71,7 +70,7 @@ py::class_<Type, Options...> declareClass(py::module_& module, char const* name,
 /// The same of a class whose objects only models make: Python cannot make one that stands for nothing, be it by
 /// `__new__`.
 template <class Type, class... Options>
-py::class_<Type, Options...> declareElement(py::module_& module, char const* name, char const* documentation)
+py::class_<Type, Options...> declareMadeByModels(py::module_& module, char const* name, char const* documentation)
 {
     auto declared = declareClass<Type, Options...>(module, name, documentation);
     py::delattr(declared, "__init__");

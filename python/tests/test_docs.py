@@ -20,12 +20,13 @@ def run(text, name):
     assert not failures, "".join(failures)
 
 
-def test_every_snippet_of_the_document(monkeypatch):
+@pytest.mark.parametrize("name", ["python.md", "errors.md"])
+def test_every_snippet_of_the_document(monkeypatch, name):
     monkeypatch.chdir(ROOT)
-    document = (ROOT / "docs" / "python.md").read_text(encoding="utf-8")
+    document = (ROOT / "docs" / name).read_text(encoding="utf-8")
     blocks = re.findall(r"^```python\n(.*?)^```$", document, re.DOTALL | re.MULTILINE)
     assert all(block.startswith(">>> ") for block in blocks)
-    run("\n".join(blocks), "python.md")
+    run("\n".join(blocks), name)
 
 
 def test_the_snippet_of_the_package(monkeypatch):

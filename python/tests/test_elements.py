@@ -64,6 +64,32 @@ def test_structure_is_what_is_dumped(dumped):
     ] == [[group["name"], group["parent"], group["actuators"]] for group in dump["actuatorGroups"]]
 
 
+def test_what_has_no_elements_is_what_is_dumped(dumped):
+    model, dump = dumped
+    lines = model.text.splitlines()
+    assert [
+        {
+            "name": stated.name,
+            "type": stated.type,
+            "joint": stated.joint,
+            "actuator": stated.actuator,
+            "reduction": np.float32(stated.reduction),
+            "interfaces": list(stated.interfaces),
+            "stateInterfaces": list(stated.state_interfaces),
+            "source": {"TRANSMISSION": "transmission", "ROS2_CONTROL": "ros2Control"}[stated.source.name],
+        }
+        for stated in model.transmissions
+    ] == [{**each, "reduction": np.float32(each["reduction"])} for each in dump["transmissions"]]
+    assert [
+        {"owner": words(kept.owner), "name": kept.owner_name, "within": kept.within, "text": kept.text}
+        for kept in model.extensions
+    ] == dump["extensions"]
+    for kept in model.extensions:
+        assert lines[kept.place.line - 1][kept.place.column - 1 :].startswith(kept.text.splitlines()[0])
+    for stated in model.transmissions:
+        assert stated.name in model.transmissions and lines[stated.place.line - 1][stated.place.column - 1] == "<"
+
+
 # What the tool writes in another form than Python's attributes have, and the common part.
 ATTRIBUTES = {
     "dcm_keys": "dcmKeys",
@@ -173,6 +199,14 @@ def test_representations_name_what_they_stand_for(humanoid):
     for element in [*humanoid.links, *humanoid.joints, *humanoid.actuators, *humanoid.sensors, *humanoid.joint_groups]:
         assert type(element).__name__ in repr(element) and repr(element.name) in repr(element)
     assert repr(humanoid.joint_symmetries[0]) and repr(humanoid.root_link.frame) == "<Frame 'PelvisLink': root>"
+
+
+def test_all_classes_are_in_the_package():
+    from varorobotmodel import _core
+
+    for module in (_core, _core.devices):
+        for name, thing in vars(module).items():
+            assert not isinstance(thing, type) or getattr(vr, name) is thing
 
 
 def test_everything_is_documented():

@@ -33,6 +33,8 @@ def test_reading_fails_as_open_does(tmp_path):
     assert caught.value.filename == tmp_path / "none.xml"
     with pytest.raises(IsADirectoryError):
         vr.check(tmp_path)
+    with pytest.raises(OSError):
+        vr.load("/dev/zero")  # which would never end
     for wrong in (3, None, ["a"]):
         with pytest.raises(TypeError):
             vr.load(wrong)

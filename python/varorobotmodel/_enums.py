@@ -77,3 +77,19 @@ class SensorType(enum.Enum):
     ARRAY_DEPTH = 13
     CAMERA_DEPTH = 14
     MICROPHONE = 15
+
+
+class TransmissionSource(enum.Enum):
+    """Which element of a description stated a transmission."""
+
+    TRANSMISSION = 0
+    ROS2_CONTROL = 1
+
+
+class ExtensionOwner(enum.Enum):
+    """What an extension stands in."""
+
+    ROBOT = 0
+    LINK = 1
+    JOINT = 2
+    SENSOR = 3

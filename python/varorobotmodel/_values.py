@@ -2,16 +2,19 @@
 
 from __future__ import annotations
 
+import dataclasses
 from dataclasses import dataclass
+import os
 import typing
-from typing import Optional, Tuple, Union
+from typing import Dict, List, Optional, Tuple, Union
 
 import numpy as np
 from numpy.typing import NDArray
 
-from ._enums import Severity
+from ._enums import ExtensionOwner, Severity, TransmissionSource
 
 Array = NDArray[np.float64]
+Path = Union[str, bytes, os.PathLike[str], os.PathLike[bytes]]
 
 
 @dataclass(frozen=True)
@@ -205,3 +208,45 @@ class SensorSettings(typing.NamedTuple):
     vertical_scan: Optional[ScanSettings]
     range: Optional[RangeSettings]
     noises: Tuple[NoiseSettings, ...]
+
+
+class Transmission(typing.NamedTuple):
+    """Which actuator drives which joint, and how."""
+
+    name: str  #: of the transmission, or of the control system that states the joint
+    type: str  #: as stated; may be empty
+    joint: str  #: the name of the joint that is driven
+    actuator: str  #: what drives it; may be empty
+    reduction: float  #: turns of the actuator for one of the joint
+    interfaces: Tuple[str, ...]  #: to command the joint, as stated, such as "position"
+    state_interfaces: Tuple[str, ...]  #: to read the joint's state, where the text tells them apart
+    source: TransmissionSource
+    place: Place  #: where the description states it
+
+
+class Extension(typing.NamedTuple):
+    """What a description has for other programs, kept as it stands in its text: an element, or an attribute."""
+
+    owner: ExtensionOwner  #: what kind of element it stands in
+    owner_name: str  #: of the joint, sensor, or the joint that moves the link (or the root); empty for the robot
+    within: str  #: the elements between the owner's and it, as "visual[2]/geometry"; empty for none
+    text: str  #: the whole element or attribute, markup and all
+    place: Place  #: where it stands
+
+
+@dataclass
+class MeshFolders:
+    """Where files are looked for. Folders that do not exist do no harm."""
+
+    description: Path = ""  #: the folder of the description; empty for a text that stands in none
+    packages: Dict[str, Path] = dataclasses.field(default_factory=dict)  #: folders of packages, by the packages' names
+    package_path: List[Path] = dataclasses.field(default_factory=list)  #: folders that are packages, or have some below them
+    prefixes: List[Path] = dataclasses.field(default_factory=list)  #: folders that have packages in their folder "share"
+
+
+class MeshFile(typing.NamedTuple):
+    """What became of the search for one file."""
+
+    path: Optional[str]  #: of the file; None when it was not found
+    reason: str  #: a sentence: why it was not found; empty when it was
+    looked_for: Tuple[str, ...]  #: the files that are not there or, of an unknown package, the folders looked into

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """dump_page.py VARO_ROBOT PAGE SCHEMA ROBOT...: does the page list the keys that dump prints, no less and no more?
 
-Those of the robots, and those of the schema, object by object. Prints what is missing on either side; the exit status
-is 1 then.
+Those of the robots, and those of the schema, object by object; keys of objects within those stand anywhere on the page.
+Prints what is missing on either side; the exit status is 1 then.
 """
 import json
 import pathlib
@@ -36,17 +36,31 @@ def keys_of(schema):
     return keys
 
 
+def all_keys(value, within=()):
+    """Those that the JSON value has at any depth: of a schema, the keys that it states."""
+    for key, part in value.items() if isinstance(value, dict) else ():
+        if within and within[-1] == "properties":
+            yield key
+        yield from all_keys(part, (*within, key))
+    for part in value if isinstance(value, list) else ():
+        yield from all_keys(part, within)
+
+
 def main():
     tool, page, schema, *robots = sys.argv[1:]
     dumps = [keys_in(json.loads(subprocess.run([tool, "dump", robot], check=True, capture_output=True).stdout))
              for robot in robots]
-    known = dumps + [keys_of(json.loads(pathlib.Path(schema).read_text(encoding="utf-8")))]
-    written = keys_on(pathlib.Path(page).read_text(encoding="utf-8"))
+    stated = json.loads(pathlib.Path(schema).read_text(encoding="utf-8"))
+    known = dumps + [keys_of(stated)]
+    text = pathlib.Path(page).read_text(encoding="utf-8")
+    written = keys_on(text)
     faults = []
     for name in sorted(set(written).union(*known)):
         real = set().union(*(keys.get(name, set()) for keys in known))
         faults += [f"{name} {key} is not on the page" for key in sorted(real - written.get(name, set()))]
         faults += [f"{name} {key} is on the page alone" for key in sorted(written.get(name, set()) - real)]
+    words = set(re.findall(r"`(\w+)`", text))
+    faults += [f"{key} is not on the page" for key in sorted(set(all_keys(stated)) - words)]
     print("\n".join(faults), end="\n" if faults else "")
     return 1 if faults or not dumps else 0
 

@@ -182,7 +182,12 @@ TEST_F(Dump, IsAsItsSchemaSays)
     for (std::string const& file : Tests::exampleFiles()) {
         expectValid(run({"dump", file}).out, schema);
     }
-    EXPECT_NE(runCommand(VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/validate_json.py " + schema, "{}").status, 0);
+    Json more = Json::parse(run({"dump", VARO_SOURCE_DIR "/robots/minimal.xml"}).out);
+    more["links"][0]["mass"]["unknown"] = 1;
+    for (std::string const& wrong : {std::string("{}"), more.dump()}) {
+        EXPECT_NE(runCommand(VARO_PYTHON " " VARO_SOURCE_DIR "/tests/tools/validate_json.py " + schema, wrong).status,
+                  0);
+    }
 }
 
 }  // namespace

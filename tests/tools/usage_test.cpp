@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <set>
 #include <sstream>
@@ -67,12 +69,25 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
     }
 }
 
+std::size_t longestLineOf(std::string const& text)
+{
+    std::istringstream lines(text);
+    std::size_t longest = 0;
+    for (std::string line; std::getline(lines, line);) {
+        longest = std::max(longest, line.size());
+    }
+    return longest;
+}
+
 TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
 {
     std::vector<std::vector<std::string>> const commands = {{"check"},        {"info"},   {"tree"}, {"list", "joints"},
                                                             {"show", "LHip"}, {"pose"},   {"mass"}, {"graph"},
                                                             {"dump"},         {"convert"}};
     std::string const overview = run({"--help"}).out;
+    for (std::string const& help : {overview, run({"help", "diff"}).out, run({"help", "view"}).out}) {
+        EXPECT_LE(longestLineOf(help), 80U);
+    }
     for (std::vector<std::string> command : commands) {
         SCOPED_TRACE(command.front());
         EXPECT_NE(overview.find("\n  " + command.front() + " "), std::string::npos);
@@ -81,6 +96,7 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
         EXPECT_NE(help.find("Example"), std::string::npos);
         EXPECT_EQ(help.find("Example"), help.rfind("Example"));
         EXPECT_EQ(run({"help", command.front()}).out, help);
+        EXPECT_LE(longestLineOf(help), 80U);
 
         command.emplace_back("-");
         Outcome const outcome = run(command, legs);

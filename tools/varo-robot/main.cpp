@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <new>
 #include <sstream>
 #include <string_view>
@@ -14,6 +15,7 @@
 #include "support/finding_text.hpp"
 #include "support/visible_text.hpp"
 #include "usage/completion.hpp"
+#include "usage/help_format.hpp"
 #include "usage/suggestion.hpp"
 
 namespace Tool {
@@ -26,6 +28,7 @@ constexpr char footer[] =
     R"(A description is an XML file in the native dialect (root element
 robotDescription) or in URDF (robot); the root element decides. FILE may be -
 for standard input. Data goes to standard output, problems to standard error.
+The descriptions of the examples are installed in share/varorobotmodel/robots/.
 
 Exit status:
   0  fine
@@ -82,6 +85,7 @@ int run(int argumentCount, char** arguments)
     CLI::App app(description, "varo-robot");
     app.set_version_flag("-V,--version", "varo-robot " VARO_ROBOT_VERSION);
     app.footer(footer);
+    app.formatter(std::make_shared<HelpFormat>());  // before the commands, which take it over
     std::function<int()> chosen;
     declareCommands(app, chosen);
     if (argumentCount > 1 && std::string_view(arguments[1]) == "complete") {  // asked by the scripts in completion/

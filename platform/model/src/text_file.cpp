@@ -39,9 +39,9 @@ private:
     int _number;
 };
 
-TextFile inTheWay(std::string const& reason, bool isOpened)
+TextFile inTheWay(int error, std::string const& reason, bool isOpened)
 {
-    return {{}, "It cannot be read: " + reason + ".", isOpened};
+    return {{}, "It cannot be read: " + reason + ".", isOpened, error};
 }
 
 /// The system's own words; lack of memory is no fault of the file.
@@ -50,7 +50,7 @@ TextFile inTheWay(int error, bool isOpened)
     if (error == ENOMEM) {
         throw std::bad_alloc();
     }
-    return inTheWay(std::generic_category().message(error), isOpened);
+    return inTheWay(error, std::generic_category().message(error), isOpened);
 }
 
 /// Nothing when the system has none to tell.
@@ -113,7 +113,7 @@ TextFile readTextFile(std::string const& path)
         return inTheWay(errno, false);
     }
     if (isDevice(status) && !isStandardInput(status)) {
-        return inTheWay("It is a device", true);
+        return inTheWay(ENOTSUP, "It is a device", true);
     }
     Descriptor const file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
     return file.number() < 0 ? inTheWay(errno, false) : readTextFile(file.number());

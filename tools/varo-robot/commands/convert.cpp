@@ -72,7 +72,7 @@ std::function<int()> declare(CLI::App& app)
 
 }  // namespace
 
-Command const convertCommand = {"convert", "Write the description in the native dialect or in URDF",
+Command const convertCommand = {"convert", "Write the description in either dialect",
                                 R"(Reads a description of either dialect and writes it in the native one, in its
 canonical form: elements and attributes in the format's order, values that are
 defaults left out, comments dropped. The model of what is written equals that of
@@ -82,10 +82,10 @@ What the reader of a URDF description could not carry over is not written;
 `varo-robot check` says what that is. The names of links in a URDF description
 are kept in attributes "link".
 
-With --to urdf it is written in URDF. What URDF has no words for, such as lights,
-wheels and mirrors, is noted on standard error, and kept in an element of a
-namespace of our own, which other programs pass over: converting back gives the
-same description.
+With --to urdf it is written in URDF. What URDF has no words for, such as
+lights, wheels and mirrors, is noted on standard error, and kept in an element
+of a namespace of our own, which other programs pass over: converting back gives
+the same description.
 
 OUT may be FILE itself; any other file that is there already is replaced with
 --force only. OUT is the old file until the new one is whole and on the disk.

@@ -160,10 +160,10 @@ std::function<int()> declare(CLI::App& app)
 }  // namespace
 
 Command const graphCommand = {"graph", "Draw the robot with Graphviz",
-                              R"(Prints the kinematic tree in the DOT language: links are boxes (wheels ellipses),
-joints are arrows, both in the colour of their chain. Dashed lines join the links
-of mirrored joints; their ends are filled when opposite values of the two joints
-mirror each other, and hollow when equal ones do.
+                              R"(Prints the kinematic tree in the DOT language: links are boxes (wheels
+ellipses), joints are arrows, both in the colour of their chain. Dashed lines
+join the links of mirrored joints; their ends are filled when opposite values of
+the two joints mirror each other, and hollow when equal ones do.
 
 Examples:
   varo-robot graph robots/humanoid.xml | dot -Tsvg > humanoid.svg

@@ -351,13 +351,12 @@ std::function<int()> declare(CLI::App& app)
 Command const infoCommand = {"info", "Say on one screen what robot this is",
                              R"(Prints the robot's names and version, the dialect of its description, how many
 links, joints, actuators and sensors of each kind it has (joints are actuated,
-coupled to others by an actuator, mimics of others, passive, or do not move), the
-sum of its masses, how many meshes, boxes, cylinders, spheres and capsules are
-shown of it and collided with, its chains, how many files of meshes it names and
-how many of them are not found (docs/meshes.md), and what the reader had to
-remark, one line for each kind of
-finding; of a URDF description that is what could not be carried over.
-`varo-robot check` lists the findings one by one.
+coupled to others by an actuator, mimics of others, passive, or do not move),
+the sum of its masses, how many meshes, boxes, cylinders, spheres and capsules
+are shown of it and collided with, its chains, how many files of meshes it names
+and how many of them are not found (docs/meshes.md), and what the reader had to
+remark, one line for each kind of finding; of a URDF description that is what
+could not be carried over. `varo-robot check` lists the findings one by one.
 
 Example:
   varo-robot info robots/humanoid.xml)",

@@ -120,8 +120,8 @@ Command const listCommand = {"list", "List the elements of one kind as a table",
                              R"(Prints a table with a line for each element of the kind, in the order in which
 the model made them: "-" stands for none, positions are those in the root frame
 (m), numbers are in SI units. Links have the names that the description gives
-them. FILE may stand before KIND, too. On a terminal, cells
-that would not fit end with an ellipsis, unless --wide is given.
+them. FILE may stand before KIND, too. On a terminal, cells that would not fit
+end with an ellipsis, unless --wide is given.
 
 Examples:
   varo-robot list joints robots/humanoid.xml

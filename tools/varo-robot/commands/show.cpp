@@ -265,8 +265,8 @@ the model's, which is that of its joint with Link appended. FILE may stand
 before NAME, too.
 
 With --json: an array of objects, each with its kind (link, joint, symmetry,
-chain, joint group, actuator, actuator group, sensor, transmission or posture) and then as
-`dump` and `list` print it.
+chain, joint group, actuator, actuator group, sensor, transmission or posture)
+and then as `dump` and `list` print it.
 
 Poses read as origin (m) and roll, pitch and yaw (rad); "-" stands for none.
 The exit status is 1 when nothing has the name.

@@ -150,8 +150,8 @@ there is on it.
 
 The page carries the meshes (STL, OBJ, COLLADA) and images (PNG, JPEG) that the
 description names (docs/meshes.md), if they are in its folder or in a package; a
-warning says which it does not carry, and simple shapes stand for them. A page of
-that name is replaced.
+warning says which it does not carry, and simple shapes stand for them. A page
+of that name is replaced.
 
 Examples:
   varo-robot view robots/humanoid.xml

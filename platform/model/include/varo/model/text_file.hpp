@@ -12,6 +12,7 @@ struct TextFile {
     std::string text;  ///< all of it, or one byte more than `ModelUtils::maxTextSize`; empty when there is an obstacle
     std::string obstacle;  ///< one sentence that says why there is no text; empty when there is one
     bool isOpened = false;  ///< whether the file could be opened, whatever was in the way then
+    int error = 0;  ///< the number that the system has for the obstacle (errno); 0 when there is none
 };
 
 /// Reads a regular file or a pipe to its end. Other devices are refused before they are read, since reading from one
