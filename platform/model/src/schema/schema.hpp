@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -220,13 +221,20 @@ using RecordOf = typename MemberPointer<member>::Record;
 template <auto member>
 using DefaultType = TypeOf<typename MemberPointer<member>::Value>;
 
+template <class>
+constexpr bool isOptional = false;
+template <class Value>
+constexpr bool isOptional<std::optional<Value>> = true;
+
 /// Most values are, so that this spares writers most of the printing.
 template <auto member, class Record>
 bool isAsInNew(Record const& record)
 {
     using Value = typename MemberPointer<member>::Value;
     static Value const fresh = Record().*member;
-    if constexpr (std::is_trivially_copyable_v<Value>) {
+    if constexpr (isOptional<Value>) {
+        return !(record.*member) && !fresh;
+    } else if constexpr (std::is_trivially_copyable_v<Value>) {
         // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): 0 and -0 are to differ
         return std::memcmp(&(record.*member), &fresh, sizeof fresh) == 0;
     } else if constexpr (std::is_same_v<Value, std::string>) {
