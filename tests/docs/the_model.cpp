@@ -34,15 +34,6 @@ void ask()
     for (Sim::Sensor const* sensor : model.sensors()) {
         std::cout << sensor->name() << " is on " << sensor->frame()->parentFrame()->name() << '\n';
     }
-    // The tables of kinds say what each is called.
-    auto const printIfThere = [&model](auto const& kind) {
-        for (Sim::Sensor const* sensor : model.sensors()) {
-            if (sensor->type() == kind.type) {
-                std::cout << sensor->name() << ": " << kind.word << '\n';
-            }
-        }
-    };
-    std::apply([&](auto const&... kind) { (printIfThere(kind), ...); }, Sim::sensorKinds);
     Sim::CameraSensor const* camera = model.cameraSensor("FaceCamera");
     std::cout << camera->name() << ": " << camera->width() << " by " << camera->height() << " pixels\n";
     if (Sim::AngleActuator const* motor = model.angleActuator("LElbowBend")) {
