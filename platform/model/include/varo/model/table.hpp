@@ -51,7 +51,7 @@ public:
         _nameOrder.resize(_records.size());
         std::iota(_nameOrder.begin(), _nameOrder.end(), 0U);
         if (!std::is_sorted(_nameOrder.begin(), _nameOrder.end(), precedes)) {
-            std::sort(_nameOrder.begin(), _nameOrder.end(), precedes);
+            std::stable_sort(_nameOrder.begin(), _nameOrder.end(), precedes);
         }
     }
 
