@@ -23,7 +23,7 @@ class KinematicsImpl;
 /// Values outside limits are taken, until checkLimits or clampToLimits is called. A value is finite and no larger than
 /// single precision can hold; any other is refused, like every name that means nothing here, with
 /// std::invalid_argument, whose text says which one it is and what may have been meant. What is refused changes
-/// nothing.
+/// nothing. Only std::bad_alloc is thrown beside that.
 ///
 /// A plain value: copies are independent, and several threads may read one at once while none sets it. It may outlive
 /// its Kinematics and its Model. Moving copies.

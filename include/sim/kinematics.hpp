@@ -32,7 +32,8 @@ class Model;
 /// such as that of a coupled actuator, moves with what the joint moves.
 ///
 /// All queries throw std::invalid_argument for a configuration that was made for another Kinematics, for an element of
-/// another model, and for a buffer of the wrong size.
+/// another model, and for a buffer of the wrong size; std::runtime_error for a model that was moved from and for an
+/// element that no model made; and nothing else but std::bad_alloc.
 class VAROROBOTMODEL_API Kinematics {
 public:
     /// Takes time and memory proportional to the size of the robot.

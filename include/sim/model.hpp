@@ -57,6 +57,9 @@ class ModelImpl;
 /// which the elements were made. Every query on a model that was moved from throws std::runtime_error, and so does
 /// every getter of an element that no model made, such as a default-constructed Joint.
 ///
+/// Beside what is said here and at each function only std::bad_alloc is thrown, and what a sink of zu::log throws. That
+/// holds for all elements.
+///
 /// This header brings those of all elements with it.
 class VAROROBOTMODEL_API Model {
 public:

@@ -30,7 +30,8 @@ VAROROBOTMODEL_API std::vector<std::string> initStateDcmKeyNames();
 /// each query says in which order it tries them. A query that returns `bool` answers whether the name is known, and
 /// writes its out-arguments only when it is, unless it says otherwise. No query throws for an unknown name.
 ///
-/// Immutable once constructed, so that all queries may run in several threads at once.
+/// Immutable once constructed, so that all queries may run in several threads at once. Only std::bad_alloc is thrown
+/// beside what is said below.
 class VAROROBOTMODEL_API MotionModel {
 public:
     /// From the XML text of a description (never a path), native or URDF.

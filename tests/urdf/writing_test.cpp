@@ -8,6 +8,7 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "urdf_text.hpp"
 
@@ -122,7 +123,7 @@ TEST(UrdfWriting, PutsExtensionsWhereTheyStood)
 /// What check_urdf says of the tree; empty for a text that it refuses.
 std::string treeOf(std::string const& urdf)
 {
-    std::string const file = ::testing::TempDir() + "written_robot.urdf";
+    std::string const file = ::testing::TempDir() + "written_robot_" + std::to_string(::getpid()) + ".urdf";
     std::ofstream(file) << urdf;
     std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(("check_urdf \"" + file + "\" 2>/dev/null").c_str(), "r"), pclose);
     std::string output;
@@ -130,6 +131,7 @@ std::string treeOf(std::string const& urdf)
     while (std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), pipe.get())) {
         output.append(buffer.data(), count);
     }
+    std::remove(file.c_str());
     return output.find("Successfully") == std::string::npos ? std::string() : output;
 }
 

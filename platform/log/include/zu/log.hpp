@@ -9,7 +9,7 @@
 
 /// Diagnostics by category and numeric level: the higher the level, the chattier the line.
 ///
-/// Every operation may be called from any thread at any time.
+/// Every operation may be called from any thread at any time. Only std::bad_alloc is thrown, and what a sink throws.
 namespace zu::log {
 
 /// Levels in common use; any integer is a level.

@@ -13,7 +13,7 @@ namespace Varo::Model {
 class Robot;
 }
 
-/// Named reference postures of a robot: a joint value for each of its angle names.
+/// Named reference postures of a robot: a joint value for each of its angle names. Only std::bad_alloc is thrown.
 namespace posture {
 
 /// One posture: values in radians (metres for sliding joints), in the order of the robot's angle names

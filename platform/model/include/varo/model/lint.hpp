@@ -39,7 +39,8 @@ struct LintOptions {
 VAROROBOTMODEL_API std::vector<LintRule> lintRules();
 
 /// What the rules find in a robot, which is what its reader has not told already; in the order of the places in its
-/// text. Takes time that grows linearly with the robot. Throws std::invalid_argument for a code that no rule has.
+/// text. Takes time that grows linearly with the robot. Throws std::invalid_argument for a code that no rule has, and
+/// nothing else but std::bad_alloc.
 VAROROBOTMODEL_API Findings lint(Robot const& robot, LintOptions const& options = {});
 
 }  // namespace Varo::Model

@@ -8,7 +8,8 @@
 
 #include "varo/export.hpp"
 
-/// Where the files are that a description names: meshes, and textures too. docs/meshes.md states the rules.
+/// Where the files are that a description names: meshes, and textures too. docs/meshes.md states the rules. Only
+/// std::bad_alloc is thrown: what is in the way of a folder or a file counts as its absence.
 namespace Varo::Model {
 
 /// Where files are looked for. Folders that do not exist do no harm. A plain value.
