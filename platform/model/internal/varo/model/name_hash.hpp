@@ -79,10 +79,7 @@ inline std::uint64_t hashOf(std::string_view name, HashSecret const& secret)
 /// For tables of the standard library, whose own hash of texts is the same in every process. Not noexcept, for which
 /// libstdc++ would keep no hashes, but work them out again whenever it looks for a name.
 struct NameHash {
-    std::size_t operator()(std::string_view name) const
-    {
-        return static_cast<std::size_t>(hashOf(name, hashSecret));
-    }
+    std::size_t operator()(std::string_view name) const { return static_cast<std::size_t>(hashOf(name, hashSecret)); }
 };
 
 }  // namespace Varo::Model
