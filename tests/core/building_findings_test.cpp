@@ -124,7 +124,7 @@ TEST(ModelOfAReading, RefusesOneWithoutARobotByItsFirstError)
 {
     EXPECT_EQ(Tests::messageOf<Varo::Model::DescriptionError>([] { Sim::Model(read("<robot>\n<x></robot>")); }),
               "Could not load model. 2:4: This end tag does not match: \"x\", opened at 2:1, is to be closed first.");
-    EXPECT_EQ(Tests::messageOf<Varo::Model::DescriptionError>([] { Sim::Model(Varo::Model::ModelUtils::Reading()); }),
+    EXPECT_EQ(Tests::messageOf<Varo::Model::DescriptionError>([] { Sim::Model{Varo::Model::ModelUtils::Reading{}}; }),
               "Could not load model. The reading holds no robot.");
 }
 
