@@ -126,14 +126,14 @@ std::string didYouMean(std::string_view word)
     return word.empty() ? std::string() : "Did you mean " + quoted(word) + "?";
 }
 
-std::string_view LinkTree::closestLink(std::string_view name)
+std::string_view LinkTree::closestLink(ClosestWord const& name)
 {
     auto const nameOf = [](Link const& link) { return link.name; };
     Link const* const meant = suggestions.closest(links, nameOf, name);
     return meant == nullptr ? std::string_view() : meant->name;
 }
 
-std::string_view LinkTree::closestJoint(std::string_view name)
+std::string_view LinkTree::closestJoint(ClosestWord const& name)
 {
     auto const nameOf = [](Joint const& joint) { return std::string_view(joint.config.name); };
     Joint const* const meant = suggestions.closest(joints, nameOf, name);

@@ -79,8 +79,10 @@ struct LinkTree {
 
     /// The name that is closest to one that is not there; empty when none is close, or when none is looked for any
     /// more.
-    std::string_view closestLink(std::string_view name);
-    std::string_view closestJoint(std::string_view name);
+    std::string_view closestLink(ClosestWord const& name);
+    std::string_view closestJoint(ClosestWord const& name);
+    std::string_view closestLink(std::string_view name) { return closestLink(ClosestWord(name)); }
+    std::string_view closestJoint(std::string_view name) { return closestJoint(ClosestWord(name)); }
 
     /// The record that the link's body belongs to: that of the joint that moves it, or the root's.
     JointConfig& bodyOf(Link const& link)

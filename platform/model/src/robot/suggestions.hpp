@@ -17,7 +17,12 @@ public:
     template <class Items, class NameOf>
     auto closest(Items& items, NameOf const& nameOf, std::string_view written) -> decltype(&*items.begin())
     {
-        ClosestWord closest(written);
+        return closest(items, nameOf, ClosestWord(written));
+    }
+    /// The same, with what is close.
+    template <class Items, class NameOf>
+    auto closest(Items& items, NameOf const& nameOf, ClosestWord closest) -> decltype(&*items.begin())
+    {
         decltype(&*items.begin()) meant = nullptr;
         std::size_t const looks = items.size() * workOfLook;
         for (auto& item : items) {

@@ -95,7 +95,8 @@ void SensorReader::readExtension(XmlNode gazebo)
 void SensorReader::reportDangling(XmlNode gazebo, XmlAttribute reference)
 {
     std::string_view const name = reference.value();
-    for (std::string_view const close : {_tree.closestLink(name), _tree.closestJoint(name)}) {
+    ClosestWord const near(name, farthestNear);
+    for (std::string_view const close : {_tree.closestLink(near), _tree.closestJoint(near)}) {
         if (!close.empty() && isNear(name, close)) {
             _report.diagnostics.report(at(gazebo, reference), codes::unknownReference,
                                        "There is no link or joint " + quoted(name) + ".", didYouMean(close));

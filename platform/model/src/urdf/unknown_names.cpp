@@ -95,12 +95,11 @@ bool isDefined(std::string_view element)
 
 bool isNear(std::string_view written, std::string_view known)
 {
-    constexpr std::size_t farthest = 2;
-    if (written.size() > known.size() + farthest || known.size() > written.size() + farthest) {
+    if (written.size() > known.size() + farthestNear || known.size() > written.size() + farthestNear) {
         return false;  // without a look at the letters
     }
     std::size_t const distance = spellingDistance(written, known);
-    return distance <= 1 || (distance == farthest && known.size() >= 6);
+    return distance <= 1 || (distance == farthestNear && known.size() >= 6);
 }
 
 std::size_t UnknownNames::noteAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute)

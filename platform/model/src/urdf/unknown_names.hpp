@@ -15,6 +15,9 @@ namespace Varo::Model::Urdf {
 /// Elements of the robot that others than the tables read.
 inline constexpr std::string_view readElsewhere[] = {"gazebo", "ros2_control", "sensor"};
 
+/// The most letters that are wrong in a name that another was probably meant by.
+inline constexpr std::size_t farthestNear = 2;
+
 /// Whether one was probably meant by the other: one letter may be wrong, and two in a long name.
 bool isNear(std::string_view written, std::string_view known);
 

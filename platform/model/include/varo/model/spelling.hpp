@@ -18,7 +18,9 @@ VAROROBOTMODEL_API std::size_t spellingDistance(std::string_view a, std::string_
 class VAROROBOTMODEL_API ClosestWord {
 public:
     /// For what was `written`.
-    explicit ClosestWord(std::string_view written) : _written(written), _distance(written.size() / 3 + 2) {}
+    explicit ClosestWord(std::string_view written) : ClosestWord(written, written.size() / 3 + 1) {}
+    /// Words that are farther away than that are not meant.
+    ClosestWord(std::string_view written, std::size_t farthest) : _written(written), _distance(farthest + 1) {}
 
     /// True when `word` is closer than all before it.
     bool offer(std::string_view word);
