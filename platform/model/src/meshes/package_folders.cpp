@@ -43,12 +43,13 @@ std::string statedNameOf(fs::path const& folder)
     if (!fs::is_regular_file(file, error) || fs::file_size(file, error) > maximumPackageXml || error) {
         return {};
     }
-    TextFile const text = readTextFile(file.string());
-    SourceText const source(text.text);
+    SourceText const source(readTextFile(file.string()).text);
     Diagnostics unseen(nullptr, 0);
     XmlDocument document;
-    XmlNode const name = parseXml(source, document, unseen) ? document.root().child("name") : XmlNode();
-    return std::string(document.root().name() == "package" ? Schema::trimmed(name.text()) : std::string_view());
+    if (!parseXml(source, document, unseen) || document.root().name() != "package") {
+        return {};
+    }
+    return std::string(Schema::trimmed(document.root().child("name").text()));
 }
 
 /// What is walked through breadth first, each folder once however many links lead to it.

@@ -148,16 +148,20 @@ private:
     std::uint32_t _index = 0;
 };
 
+/// What algorithms ask of iterators.
+template <class Item>
+struct XmlIteration {
+    using iterator_category = std::input_iterator_tag;
+    using value_type = Item;
+    using difference_type = std::ptrdiff_t;
+    using pointer = Item const*;
+    using reference = Item;
+};
+
 class XmlAttributes {
 public:
-    class Iterator {
+    class Iterator : public XmlIteration<XmlAttribute> {
     public:
-        using iterator_category = std::input_iterator_tag;
-        using value_type = XmlAttribute;
-        using difference_type = std::ptrdiff_t;
-        using pointer = XmlAttribute const*;
-        using reference = XmlAttribute;
-
         explicit Iterator(XmlAttribute attribute) : _attribute(attribute) {}
         XmlAttribute operator*() const { return _attribute; }
         Iterator& operator++() { return ++_attribute._index, *this; }
@@ -183,14 +187,8 @@ private:
 
 class XmlNodes {
 public:
-    class Iterator {
+    class Iterator : public XmlIteration<XmlNode> {
     public:
-        using iterator_category = std::input_iterator_tag;
-        using value_type = XmlNode;
-        using difference_type = std::ptrdiff_t;
-        using pointer = XmlNode const*;
-        using reference = XmlNode;
-
         XmlNode operator*() const { return _node; }
         Iterator& operator++() { return _node._index = _isDeep ? _node._index + 1 : _node.behind(), findNamed(); }
         bool operator==(Iterator const& other) const { return _node._index == other._node._index; }

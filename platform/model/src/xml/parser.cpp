@@ -87,9 +87,11 @@ bool XmlParser::finish()
     } else if (_document._nodes.empty() && !_diagnostics.hasErrors()) {
         breakOff(last, "The text has no element.");
     }
-    bool const hasRoot = !_document._nodes.empty();
+    if (_isBroken || _document._nodes.empty()) {
+        return false;
+    }
     _document._nodes.push_back({{}, 0, static_cast<std::uint32_t>(_document._attributes.size()), 0, 0});
-    return !_isBroken && hasRoot;
+    return true;
 }
 
 void XmlParser::takeContent(std::size_t end)
