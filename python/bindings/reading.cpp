@@ -62,7 +62,7 @@ ModelPtr build(Source source, bool inferMirrors)
     {
         py::gil_scoped_release const release;
         try {
-            Sim::Model model(ModelUtils::read(std::move(source.text), {inferMirrors}));
+            Sim::Model model(ModelUtils::read(std::move(source.text), {inferMirrors, false}));
             return std::make_shared<LoadedModel>(
                 LoadedModel{std::move(model), std::move(source.file), source.isFromFile});
         } catch (Varo::Model::WithFindings const& error) {
@@ -160,7 +160,7 @@ py::str convertFile(Source source, std::string const& dialect, bool inferMirrors
     std::string converted;
     {
         py::gil_scoped_release const release;
-        ModelUtils::Reading reading = ModelUtils::read(std::move(source.text), {inferMirrors});
+        ModelUtils::Reading reading = ModelUtils::read(std::move(source.text), {inferMirrors, false});
         if (reading.robot == nullptr) {
             findings = std::move(reading.findings);
         } else {

@@ -17,12 +17,12 @@ Model::Model(Varo::Model::ModelUtils::Reading&& reading) : _impl(new ModelImpl(s
 
 Model Model::fromText(std::string xml)
 {
-    return Model(Varo::Model::ModelUtils::read(std::move(xml)));
+    return Model(Varo::Model::ModelUtils::read(std::move(xml), forModel));
 }
 
 Model Model::fromFile(std::string const& path)
 {
-    auto reading = Varo::Model::ModelUtils::readFile(path);
+    auto reading = Varo::Model::ModelUtils::readFile(path, forModel);
     if (reading.robot == nullptr) {
         std::string const what =
             "Could not load model. " + Varo::Model::quoted(path) + ": " + summaryOf(reading.findings);

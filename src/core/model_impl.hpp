@@ -33,6 +33,9 @@ namespace Sim {
 
 inline constexpr char modelErrorMsg[] = "Could not query Model as it seems not correctly constructed.";
 
+/// Models list findings when somebody asks for them.
+inline constexpr Varo::Model::ModelUtils::ReadOptions forModel{true, false};
+
 /// Builds the element graph of a robot, owns it, and finds elements in it.
 ///
 /// The members are defined with the subsystem that they belong to: loading, skeleton and look-ups in core, the rest in

@@ -62,7 +62,7 @@ void ModelImpl::loadModel(std::string const& pathOrXml)
     bool const isRead = isFile || (inTheWay && isMeantAsPath(pathOrXml));
     TextFile file = isRead ? readTextFile(pathOrXml) : TextFile{pathOrXml, {}, true};
     bool const isOpened = file.isOpened;
-    Reading reading = Varo::Model::ModelUtils::read(std::move(file));
+    Reading reading = Varo::Model::ModelUtils::read(std::move(file), forModel);
     if (reading.robot == nullptr) {
         throw DescriptionError(refusal(pathOrXml, isFile, isOpened), std::move(reading.findings));
     }

@@ -82,7 +82,11 @@ Reading read(std::string xml, ReadOptions const& options)
     Diagnostics diagnostics(source.get());
     Reading reading;
     reading.robot = readAnyDialect(source, diagnostics, options);
-    reading.findings = (reading.robot == nullptr ? diagnostics : *reading.robot->diagnostics()).findings();
+    if (reading.robot == nullptr) {
+        reading.findings = diagnostics.findings();
+    } else if (options.listFindings) {
+        reading.findings = reading.robot->diagnostics()->findings();
+    }
     reading.text = {source, &source->text()};
     return reading;
 }
@@ -158,7 +162,7 @@ bool checkXml(std::string const& xml)
 {
     auto const source = std::make_shared<SourceText const>(xml);
     Diagnostics diagnostics(source.get(), 0);  // nobody will see them
-    return readAnyDialect(source, diagnostics, {false}) != nullptr;
+    return readAnyDialect(source, diagnostics, {false, false}) != nullptr;
 }
 
 Findings diagnose(std::string const& xml)

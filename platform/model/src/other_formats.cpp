@@ -41,7 +41,13 @@ bool isSemantic(XmlNode root)
 
 bool hasExpression(std::string_view text)
 {
-    return text.find("${") != text.npos || text.find("$(") != text.npos;
+    for (std::size_t dollar = text.find('$'); dollar != text.npos; dollar = text.find('$', dollar + 1)) {
+        std::string_view const next = text.substr(dollar + 1, 1);
+        if (next == "{" || next == "(") {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// Where the node is for xacro, which alone has a use for such names and expressions; nowhere when it is not.

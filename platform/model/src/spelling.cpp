@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
+#include <cstdint>
 
 namespace Varo::Model {
 
@@ -24,6 +26,24 @@ Letters lettersOf(std::string_view word)
     return letters;
 }
 
+/// Which of 64 kinds of letters a word has, letter case left aside.
+std::uint64_t kindsOfLetters(std::string_view word)
+{
+    std::uint64_t kinds = 0;
+    for (char const c : word) {
+        kinds |= std::uint64_t{1} << (static_cast<unsigned char>(lowerCase(c)) % 64);
+    }
+    return kinds;
+}
+
+/// Whether so many kinds of letters are in one of them alone: each edit brings no more than one, and removes no more.
+bool differBy(std::size_t edits, std::string_view a, std::string_view b)
+{
+    std::uint64_t const ofA = kindsOfLetters(a);
+    std::uint64_t const ofB = kindsOfLetters(b);
+    return std::max(std::bitset<64>(ofA & ~ofB).count(), std::bitset<64>(ofB & ~ofA).count()) >= edits;
+}
+
 /// The distance, or `limit` when it is at least that: only what can lie below is worked out, which of words that have
 /// nothing in common is next to nothing.
 std::size_t distanceBelow(std::size_t limit, std::string_view a, std::string_view b)
@@ -31,7 +51,7 @@ std::size_t distanceBelow(std::size_t limit, std::string_view a, std::string_vie
     if (a.size() > longestWord || b.size() > longestWord) {
         return std::min(limit, std::max(a.size(), b.size()));
     }
-    if (std::max(a.size(), b.size()) - std::min(a.size(), b.size()) >= limit) {
+    if (std::max(a.size(), b.size()) - std::min(a.size(), b.size()) >= limit || differBy(limit, a, b)) {
         return limit;
     }
     Letters const first = lettersOf(a);

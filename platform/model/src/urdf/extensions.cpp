@@ -1,9 +1,9 @@
 #include "urdf/extensions.hpp"
 
 #include <algorithm>
+#include <map>
 #include <string_view>
 #include <tuple>
-#include <utility>
 
 #include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
@@ -39,11 +39,12 @@ bool isTopLevel(XmlNode element)
 }
 
 /// What stands in one place follows each other, wherever in the text such places are.
-auto keyOf(ExtensionConfig const& extension)
-{
-    return std::tuple(extension.owner, std::string_view(extension.ownerName), std::string_view(extension.within),
-                      extension.textOffset.value());
-}
+struct SiteOrder {
+    bool operator()(ExtensionConfig const& a, ExtensionConfig const& b) const
+    {
+        return std::tie(a.owner, a.ownerName, a.within) < std::tie(b.owner, b.ownerName, b.within);
+    }
+};
 
 }  // namespace
 
@@ -54,30 +55,47 @@ bool findBearer(std::string_view name, LinkTree& tree, ExtensionConfig& extensio
 
 void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& robot)
 {
+    dropNested();
+    std::map<ExtensionConfig, std::vector<Kept>, SiteOrder> sites;  // without texts
+    std::vector<Kept>* current = nullptr;
+    XmlNode last;  // what the last one stands in: the next one often does, too
     for (Kept const& kept : _kept) {
-        ExtensionConfig extension;
-        findPlace(kept, tree, extension);
-        extension.textOffset = at(kept.element, kept.attribute);
-        std::size_t const offset = extension.textOffset.value();
-        extension.text = kept.attribute ? attributeAt(source.text(), offset) : elementAt(source.text(), offset);
-        robot.extensions.push_back(std::move(extension));
+        XmlNode const around = kept.attribute ? kept.element : kept.element.parent();
+        if (!(around == last)) {
+            current = &sites[siteIn(around, tree)];
+            last = around;
+        }
+        current->push_back(kept);
     }
-    std::sort(robot.extensions.begin(), robot.extensions.end(),
-              [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); });
-    auto const isWithin = [](ExtensionConfig const& kept, ExtensionConfig const& next) {
-        return next.textOffset.value() - kept.textOffset.value() < kept.text.size();
+    robot.extensions.reserve(_kept.size());
+    for (auto const& [site, all] : sites) {
+        for (Kept const& kept : all) {
+            ExtensionConfig& extension = robot.extensions.emplace_back(site);
+            extension.textOffset = at(kept.element, kept.attribute);
+            extension.text =
+                kept.attribute ? attributeAt(source.text(), extension.textOffset.value()) : kept.element.source();
+        }
+    }
+}
+
+/// Puts what is kept in the order of the text, without what stands in something else that is kept.
+void Extensions::dropNested()
+{
+    auto const placeOf = [](Kept const& kept) { return at(kept.element, kept.attribute).value(); };
+    std::sort(_kept.begin(), _kept.end(), [&](Kept const& a, Kept const& b) { return placeOf(a) < placeOf(b); });
+    auto const isWithin = [&](Kept const& outer, Kept const& next) {
+        std::size_t const size = outer.attribute ? 1 : outer.element.source().size();
+        return placeOf(next) - placeOf(outer) < size;
     };
-    auto& all = robot.extensions;
-    all.erase(std::unique(all.begin(), all.end(), isWithin), all.end());
-    std::sort(all.begin(), all.end(), [](auto const& a, auto const& b) { return keyOf(a) < keyOf(b); });
+    _kept.erase(std::unique(_kept.begin(), _kept.end(), isWithin), _kept.end());
 }
 
 /// Whether the element is one that extensions may stand in.
-bool Extensions::findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& extension) const
+bool Extensions::findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& site) const
 {
     if (auto const sensor = _sensors.find(element.id()); sensor != _sensors.end()) {
-        extension.owner = ExtensionOwner::sensor;
-        extension.ownerName = sensor->second;
+        site.owner = ExtensionOwner::sensor;
+        site.ownerName = sensor->second;
         return true;
     }
     if (!isTopLevel(element)) {
@@ -85,35 +103,42 @@ bool Extensions::findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& ext
     }
     std::string_view const tag = element.name();
     std::string_view const name = element.attribute("name").value();
-    return (tag == "link" && setLink(name, tree, extension)) || (tag == "joint" && setJoint(name, tree, extension));
+    return (tag == "link" && setLink(name, tree, site)) || (tag == "joint" && setJoint(name, tree, site));
 }
 
-/// The way from what is kept outward to its owner.
-void Extensions::findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& extension)
+/// What stands in the element belongs there: the way from the element outward to its owner.
+ExtensionConfig Extensions::siteIn(XmlNode element, LinkTree& tree)
 {
-    XmlNode around = kept.attribute ? kept.element : kept.element.parent();
-    while (!findOwner(around, tree, extension)) {
+    ExtensionConfig site;
+    for (XmlNode around = element; !findOwner(around, tree, site); around = around.parent()) {
         bool const isGazebo = isTopLevel(around) && around.name() == "gazebo";
         std::string const step = isGazebo ? "gazebo" : stepTo(around);
-        extension.within = extension.within.empty() ? step : step + "/" + extension.within;
+        site.within = site.within.empty() ? step : step + "/" + site.within;
         if (isGazebo) {
-            findBearer(around.attribute("reference").value(), tree, extension);
-            return;
+            findBearer(around.attribute("reference").value(), tree, site);
+            break;
         }
-        around = around.parent();
     }
+    return site;
+}
+
+/// Which of its like-named siblings it is, from 1.
+std::size_t Extensions::rankOf(XmlNode element)
+{
+    if (element.id() >= _ranks.size() || _ranks[element.id()] == 0) {
+        std::unordered_map<std::string_view, std::size_t, NameHash> counts;
+        for (XmlNode const sibling : element.parent().children()) {
+            _ranks.resize(std::max(_ranks.size(), sibling.id() + 1));
+            _ranks[sibling.id()] = ++counts[sibling.name()];
+        }
+    }
+    return _ranks[element.id()];
 }
 
 /// The element's name and, unless it is the first of that name in its parent, which of them it is.
 std::string Extensions::stepTo(XmlNode element)
 {
-    if (_ranks.find(element.id()) == _ranks.end()) {
-        std::unordered_map<std::string_view, std::size_t, NameHash> counts;
-        for (XmlNode const sibling : element.parent().children()) {
-            _ranks.emplace(sibling.id(), ++counts[sibling.name()]);
-        }
-    }
-    std::size_t const rank = _ranks[element.id()];
+    std::size_t const rank = rankOf(element);
     return std::string(element.name()) + (rank > 1 ? "[" + std::to_string(rank) + "]" : std::string());
 }
 

@@ -34,14 +34,15 @@ private:
         XmlNode element;
         XmlAttribute attribute;  ///< null when the whole element is kept
     };
-
-    bool findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& extension) const;
-    void findPlace(Kept const& kept, LinkTree& tree, ExtensionConfig& extension);
+    void dropNested();
+    ExtensionConfig siteIn(XmlNode element, LinkTree& tree);
+    bool findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& site) const;
     std::string stepTo(XmlNode element);
+    std::size_t rankOf(XmlNode element);
 
     std::vector<Kept> _kept;
     std::unordered_map<std::size_t, std::string> _sensors;  ///< names of their records by their elements
-    std::unordered_map<std::size_t, std::size_t> _ranks;  ///< of elements among their like-named siblings, from 1
+    std::vector<std::size_t> _ranks;  ///< by elements: which of their like-named siblings they are, from 1; 0 if unknown
 };
 
 /// The link or joint of that name, the link where there are both, as what an extension stands in; false for neither.

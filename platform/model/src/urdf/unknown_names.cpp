@@ -34,12 +34,10 @@ template <class Info>
 std::size_t findMeant(Infos<Info> const& rows, std::string_view element, std::string_view written)
 {
     std::size_t meant = noRow;
+    ClosestWord closest(written, farthestNear);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         std::string_view const known = nameOf(rows[i]);
-        auto const isCloser = [&] {
-            return meant == noRow || spellingDistance(written, known) < spellingDistance(written, nameOf(rows[meant]));
-        };
-        meant = isNear(written, known) && isCloser() ? i : meant;
+        meant = isNear(written, known) && closest.offer(known) ? i : meant;
     }
     for (Confusion const& confusion : confusions) {
         for (std::size_t i = 0; meant == noRow && i < rows.size(); ++i) {
@@ -95,11 +93,7 @@ bool isDefined(std::string_view element)
 
 bool isNear(std::string_view written, std::string_view known)
 {
-    if (written.size() > known.size() + farthestNear || known.size() > written.size() + farthestNear) {
-        return false;  // without a look at the letters
-    }
-    std::size_t const distance = spellingDistance(written, known);
-    return distance <= 1 || (distance == farthestNear && known.size() >= 6);
+    return ClosestWord(written, known.size() >= 6 ? farthestNear : 1).offer(known);
 }
 
 std::size_t UnknownNames::noteAttribute(ElementInfo const& element, XmlNode node, XmlAttribute attribute)

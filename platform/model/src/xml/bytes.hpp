@@ -2,6 +2,7 @@
 #define VARO_MODEL_XML_BYTES_HPP
 
 #include <array>
+#include <initializer_list>
 
 /// What the bytes of a text may be part of. In tables, since this is asked of every byte.
 namespace Varo::Model {
@@ -13,6 +14,8 @@ enum ByteClass : unsigned char {
     ofName = 4,
     ofPlainName = 8,  ///< in ASCII
     ofPlainValue = 16,  ///< in ASCII, of an attribute, and standing for itself
+    ofPlainText = 32,  ///< in ASCII, between tags, and standing for itself
+    ofPlainComment = 64,  ///< in ASCII, and not the hyphen
 };
 
 constexpr std::array<unsigned char, 256> makeByteClasses()
@@ -33,10 +36,17 @@ constexpr std::array<unsigned char, 256> makeByteClasses()
         add(static_cast<unsigned char>(first), static_cast<unsigned char>(last), ofName | ofPlainName);
     }
     add(0x80, 0xFF, ofNameStart | ofName);
-    add(' ', '~', ofPlainValue);
-    for (char const c : {'<', '&', '"', '\''}) {
-        classes[static_cast<unsigned char>(c)] = 0;
-    }
+    auto const remove = [&classes](std::initializer_list<char> of, unsigned char from) {
+        for (char const c : of) {
+            classes[static_cast<unsigned char>(c)] &= static_cast<unsigned char>(~from);
+        }
+    };
+    add(' ', '~', ofPlainValue | ofPlainText | ofPlainComment);
+    add('\t', '\n', ofPlainText | ofPlainComment);
+    add('\r', '\r', ofPlainComment);
+    remove({'<', '&', '"', '\''}, ofPlainValue);
+    remove({'<', '&', ']'}, ofPlainText);
+    remove({'-'}, ofPlainComment);
     return classes;
 }
 inline constexpr std::array<unsigned char, 256> byteClasses = makeByteClasses();

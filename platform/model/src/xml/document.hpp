@@ -45,7 +45,7 @@ private:
     /// Nodes stand in the order of the text: the ones in an element follow it, and then what is behind the element.
     struct Node {
         Piece piece;  ///< the name of an element, or a text
-        std::uint32_t offset;  ///< in the text, of the `<` of an element, or where a text begins
+        std::uint32_t edge;  ///< in the text, where an element ends, or where a text begins
         std::uint32_t firstAttribute;  ///< those from there to the first one of the next node are this one's
         std::uint32_t end;  ///< the index of the node behind it; 0 for a text
         std::uint32_t parent;  ///< an index, the node's own for the root
@@ -108,7 +108,7 @@ public:
     bool isElement() const { return *this && node().end != 0; }
     bool isText() const { return *this && node().end == 0; }
     /// Whether it is the text of a CDATA section.
-    bool isCharacterData() const { return isText() && _document->_text[node().offset - 1] == '['; }
+    bool isCharacterData() const { return isText() && _document->_text[node().edge - 1] == '['; }
     bool isRoot() const { return *this && _index == 0; }
     /// Another number for each node of a document, and 0 for null.
     std::size_t id() const { return *this ? _index + std::size_t{1} : 0; }
@@ -119,6 +119,8 @@ public:
     std::string_view text() const;
     /// Where the `<` of the element stands, or where the text begins, white space included. Nowhere for null.
     TextOffset place() const;
+    /// The element as it stands in the text, from its `<` to the end of its end tag.
+    std::string_view source() const;
 
     XmlAttribute attribute(std::string_view name) const;
     XmlAttributes attributes() const;
@@ -236,7 +238,16 @@ private:
 
 inline TextOffset XmlNode::place() const
 {
-    return *this ? TextOffset(node().offset) : TextOffset();
+    return !*this ? TextOffset() : TextOffset(isElement() ? node().piece.begin - 1 : node().edge);
+}
+
+inline std::string_view XmlNode::source() const
+{
+    if (!isElement()) {
+        return {};
+    }
+    std::uint32_t const begin = node().piece.begin - 1;
+    return _document->_text.substr(begin, node().edge - begin);
 }
 
 inline XmlAttributes XmlNode::attributes() const

@@ -69,7 +69,7 @@ bool XmlParser::parse()
     _document._nodes.reserve(_text.size() / 40);
     _document._attributes.reserve(_text.size() / 32);
     while (_position < _text.size() && !_isBroken) {
-        takePlainTags();
+        takePlainTokens();
         takeContent(std::min(_less.from(_position), _text.size()));
         if (_position < _text.size()) {
             takeMarkup();
@@ -105,7 +105,7 @@ void XmlParser::takeContent(std::size_t end)
     }
     std::string_view const content = _text.substr(_position, end - _position);
     if (!std::all_of(content.begin(), content.end(), isXmlSpace)) {
-        addText(content, XmlContext::text);
+        addText(content, meaningOf(content, XmlContext::text));
     }
     if (std::size_t const brackets = _brackets.from(_position); brackets < end) {
         report(brackets, codes::malformedXml, "The three characters ]]> cannot stand in a text.",
@@ -152,7 +152,7 @@ void XmlParser::takeStartTag()
     }
     finishToken(tag.end());
     if (tag.isEmptyElement()) {
-        closeElement();
+        closeElement(tag.end());
     }
 }
 
@@ -192,7 +192,7 @@ void XmlParser::takeEndTag()
         return breakOff(less, messageOfUnclosed("</"));
     }
     finishToken(end);
-    closeElement();
+    closeElement(end);
 }
 
 void XmlParser::takeComment()
@@ -211,7 +211,8 @@ void XmlParser::takeCharacterData()
         report(_position, codes::contentOutsideRoot, "Text stands beside the root element.");
     } else if (end != _text.npos) {
         std::size_t const begin = _text.find('[', _position + 3) + 1;
-        addText(_text.substr(begin, end - 3 - begin), XmlContext::characterData);
+        std::string_view const content = _text.substr(begin, end - 3 - begin);
+        addText(content, meaningOf(content, XmlContext::characterData));
     }
     finishToken(end);
 }
@@ -235,12 +236,6 @@ void XmlParser::takeDocumentType()
     report(_position, codes::documentType, "The text has a document type declaration.",
            "Leave it out: descriptions need none, and entities of one's own are not read.");
     finishToken(endOfMarkup(_text, _position, Markup::documentType));
-}
-
-void XmlParser::addText(std::string_view raw, XmlContext context)
-{
-    auto const firstAttribute = static_cast<std::uint32_t>(_document._attributes.size());
-    _document._nodes.push_back({meaningOf(raw, context), pieceOf(raw).begin, firstAttribute, 0, _open});
 }
 
 /// What the characters of the text say.
@@ -301,7 +296,7 @@ void XmlParser::checkReferences(std::size_t begin, std::size_t end)
 /// The innermost open element, and where it was opened: `"link", opened at 3:5,`.
 std::string XmlParser::openElementShown() const
 {
-    Place const place = _source.place(TextOffset(_document._nodes[_open].offset));
+    Place const place = _source.place(TextOffset(_document._nodes[_open].piece.begin - 1));
     return quoted(openName()) + ", opened at " + std::to_string(place.line) + ":" + std::to_string(place.column) + ",";
 }
 

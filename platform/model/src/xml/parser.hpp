@@ -40,7 +40,8 @@ private:
 };
 
 /// Makes a document of a text and reports all that XML forbids, in one pass whose time is linear in the text. Plain
-/// tags, as nearly all are, it takes in one look at each byte; whatever else there is it takes apart.
+/// tags, texts and comments, as nearly all are, it takes in one look at each byte; whatever else there is it takes
+/// apart.
 ///
 /// It is our own because no parser that we found does all of this: those that check everything are several times
 /// slower or expand entities of the text's own, the fast ones take nearly any text.
@@ -56,10 +57,12 @@ public:
 private:
     static constexpr std::uint32_t noNode = static_cast<std::uint32_t>(-1);
 
-    void takePlainTags();
+    void takePlainTokens();
+    char const* takePlainMarkup(char const* less);
     char const* takePlainStartTag(char const* less);
     char const* takePlainAttributes(char const* at);
     char const* takePlainEndTag(char const* less);
+    char const* takePlainText(char const* begin);
 
     void takeContent(std::size_t end);
     void takeMarkup();
@@ -72,8 +75,8 @@ private:
     void takeDocumentType();
 
     void openElement(XmlDocument::Piece name, std::uint32_t firstAttribute);
-    void closeElement();
-    void addText(std::string_view raw, XmlContext context);
+    void closeElement(std::size_t end);
+    void addText(std::string_view raw, XmlDocument::Piece meaning);
     XmlDocument::Piece pieceOf(std::string_view raw) const
     {
         return {static_cast<std::uint32_t>(raw.data() - _text.data()), static_cast<std::uint32_t>(raw.size())};
@@ -112,15 +115,24 @@ private:
 inline void XmlParser::openElement(XmlDocument::Piece name, std::uint32_t firstAttribute)
 {
     auto const index = static_cast<std::uint32_t>(_document._nodes.size());
-    _document._nodes.push_back({name, name.begin - 1, firstAttribute, 0, isOutsideRoot() ? index : _open});
+    _document._nodes.push_back({name, 0, firstAttribute, 0, isOutsideRoot() ? index : _open});
     _open = index;
 }
 
-inline void XmlParser::closeElement()
+/// `end` is the offset behind it.
+inline void XmlParser::closeElement(std::size_t end)
 {
     XmlDocument::Node& node = _document._nodes[_open];
+    node.edge = static_cast<std::uint32_t>(end);
     node.end = static_cast<std::uint32_t>(_document._nodes.size());
     _open = node.parent == _open ? noNode : node.parent;
+}
+
+/// `raw` stands in the text.
+inline void XmlParser::addText(std::string_view raw, XmlDocument::Piece meaning)
+{
+    auto const firstAttribute = static_cast<std::uint32_t>(_document._attributes.size());
+    _document._nodes.push_back({meaning, pieceOf(raw).begin, firstAttribute, 0, _open});
 }
 
 }  // namespace Varo::Model

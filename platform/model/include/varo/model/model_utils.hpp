@@ -32,6 +32,9 @@ struct ReadOptions {
     /// Whether left and right are paired where the dialect has no mirrors, as URDF has none: joints that move, whose
     /// names say that they are counterparts and whose places and axes prove it. They become each other's mirrors.
     bool inferMirrors = true;
+    /// Whether the findings of a text that is accepted are listed in the reading, for which their places have to be
+    /// worked out. The robot has them all the same (`Robot::diagnostics`), and so has a model of it.
+    bool listFindings = true;
 };
 
 /// Reads the XML text of a description of either dialect. Never throws for what the text says.

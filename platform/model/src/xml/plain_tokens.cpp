@@ -3,8 +3,8 @@
 #include "xml/bytes.hpp"
 #include "xml/parser.hpp"
 
-/// Tags that need no closer look: all of ASCII, without control characters, without white space where mere style puts
-/// it, and surely right.
+/// Tags, texts and comments that need no closer look: all of ASCII, without control characters, without references,
+/// without white space where mere style puts it, and surely right.
 namespace Varo::Model {
 
 namespace {
@@ -16,17 +16,33 @@ std::uint64_t bitOf(char const* begin, char const* end)
     return std::uint64_t{1} << (mixed % 64);
 }
 
+/// Null for other markup than a comment, too.
+char const* endOfPlainComment(char const* less)
+{
+    if (less[2] != '-' || less[3] != '-') {
+        return nullptr;
+    }
+    for (char const* at = less + 4;; ++at) {
+        at = skip<ofPlainComment>(at);
+        if (at[0] != '-') {
+            return nullptr;
+        }
+        if (at[1] == '-') {
+            return at[2] == '>' ? at + 3 : nullptr;
+        }
+    }
+}
+
 }  // namespace
 
-/// Inside the root, nearly everything is a plain tag or white space, and there is nothing to say of it.
-void XmlParser::takePlainTags()
+/// Inside the root, nearly everything is plain, and there is nothing to say of it.
+void XmlParser::takePlainTokens()
 {
     char const* const text = _text.data();
     while (!isOutsideRoot()) {
-        char const* const less = skip<ofSpace>(text + _position);
-        char const* const end = *less != '<'     ? nullptr
-                                : less[1] == '/' ? takePlainEndTag(less)
-                                                 : takePlainStartTag(less);
+        char const* const begin = text + _position;
+        char const* const mark = skip<ofSpace>(begin);
+        char const* const end = *mark == '<' ? takePlainMarkup(mark) : takePlainText(begin);
         if (end == nullptr) {
             return;
         }
@@ -34,7 +50,30 @@ void XmlParser::takePlainTags()
     }
 }
 
-/// The end of the tag that closes the open element; null for any other.
+// Each of these answers with the end of what it takes; with null, and nothing done, where that takes a closer look.
+
+char const* XmlParser::takePlainMarkup(char const* less)
+{
+    switch (less[1]) {
+    case '/': return takePlainEndTag(less);
+    case '!': return endOfPlainComment(less);
+    default: return takePlainStartTag(less);
+    }
+}
+
+/// Up to the next markup.
+char const* XmlParser::takePlainText(char const* begin)
+{
+    char const* const end = skip<ofPlainText>(begin);
+    if (*end != '<') {
+        return nullptr;
+    }
+    std::string_view const raw(begin, static_cast<std::size_t>(end - begin));
+    addText(raw, pieceOf(raw));
+    return end;
+}
+
+/// The one that closes the open element.
 char const* XmlParser::takePlainEndTag(char const* less)
 {
     std::string_view const name = openName();
@@ -44,12 +83,12 @@ char const* XmlParser::takePlainEndTag(char const* less)
     if (!isIt) {
         return nullptr;
     }
-    closeElement();
-    return rest.data() + name.size() + 1;
+    char const* const end = rest.data() + name.size() + 1;
+    closeElement(static_cast<std::size_t>(end - _text.data()));
+    return end;
 }
 
-/// The end of the tag; null, with nothing done, for one that takes a closer look. Its attributes are apart from each
-/// other and of different names, and their values hold neither references nor `<`.
+/// One whose attributes are apart from each other and of different names.
 char const* XmlParser::takePlainStartTag(char const* less)
 {
     auto const firstAttribute = static_cast<std::uint32_t>(_document._attributes.size());
@@ -62,7 +101,7 @@ char const* XmlParser::takePlainStartTag(char const* less)
     openElement(pieceOf({less + 1, static_cast<std::size_t>(nameEnd - less - 1)}), firstAttribute);
     bool const isEmptyElement = end[-2] == '/';  // no value ends there
     if (isEmptyElement) {
-        closeElement();
+        closeElement(static_cast<std::size_t>(end - _text.data()));
     }
     return end;
 }
