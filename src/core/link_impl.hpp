@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <boost/container/small_vector.hpp>
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
@@ -50,7 +51,7 @@ private:
     SharedName _name;
     std::string const* _nameInText = nullptr;  // the record's
     boost::weak_ptr<Joint> _parentJoint;
-    std::vector<boost::weak_ptr<Joint>> _childrenJoints;
+    boost::container::small_vector<boost::weak_ptr<Joint>, 1> _childrenJoints;  // most links have one
     boost::shared_ptr<MassData const> _massData;
     SharedValue<std::string> _frictionMaterial;
     Link::LinkType _type;

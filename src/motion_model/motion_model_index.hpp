@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "motion_model/short_lists.hpp"
 #include "motion_model/start_angles.hpp"
 #include "sim/motion_model.hpp"
 #include "varo/model/name_index.hpp"
 #include "varo/model/records.hpp"
+#include "varo/model/short_lists.hpp"
 
 namespace Sim {
 
@@ -60,9 +60,9 @@ private:
         std::uint32_t firstChain = none;  ///< in the description's order, of those that list it
         std::uint32_t lastChain = none;  ///< in order of name, of those that list it
         std::uint32_t positionInLast = 0;
-        ShortLists<Branch>::List branches;
-        ShortLists<std::uint32_t>::List actuators;
-        ShortLists<GroupPlace>::List groupPlaces;
+        Varo::Model::ShortLists<Branch>::List branches;
+        Varo::Model::ShortLists<std::uint32_t>::List actuators;
+        Varo::Model::ShortLists<GroupPlace>::List groupPlaces;
         float startAngle = 0.0F;
         bool hasStartAngle = false;
         bool isRoot = false;
@@ -79,9 +79,9 @@ private:
     Varo::Model::Records const& _records;
     Varo::Model::NameIndex _names;
     std::vector<Facts> _facts;  ///< by number of the name
-    ShortLists<Branch> _branches;
-    ShortLists<std::uint32_t> _actuators;
-    ShortLists<GroupPlace> _groupPlaces;
+    Varo::Model::ShortLists<Branch> _branches;
+    Varo::Model::ShortLists<std::uint32_t> _actuators;
+    Varo::Model::ShortLists<GroupPlace> _groupPlaces;
 };
 
 /// What is known of one name. Everything pointed to belongs to the records.

@@ -51,8 +51,9 @@ void inferMirrors(Records& records)
     if (std::any_of(records.joints.begin(), records.joints.end(), isStated)) {
         return;
     }
+    NameIndex const joints = indexOf(records.joints);
     std::vector<JointConfig const*> mirrored;
-    for (SidePair const& pair : findSides(records, placeAtZero(records)).pairs) {
+    for (SidePair const& pair : findSides(records, joints, placeAtZero(records, joints)).pairs) {
         JointConfig& first = records.joints[pair.first];
         JointConfig& second = records.joints[pair.second];
         if (pair.isProved() && isMoving(first.jointType)) {

@@ -18,8 +18,8 @@ Vector axisOf(PlacedJoint const& joint)
 
 class SideFinder {
 public:
-    SideFinder(Records const& records, std::vector<PlacedJoint> const& places)
-        : _records(records), _places(places), _candidates(findSideCandidates(records))
+    SideFinder(Records const& records, NameIndex const& joints, std::vector<PlacedJoint> const& places)
+        : _records(records), _places(places), _candidates(findSideCandidates(records, joints))
     {}
 
     Sides find()
@@ -78,6 +78,7 @@ private:
     {
         std::vector<bool> isPaired(_places.size());
         std::vector<SidePair> pairs;
+        pairs.reserve(_candidates.all.size());
         for (SideCandidate const& candidate : _candidates.all) {
             pairs.push_back(judged(candidate));
             pairs.back().isSure = candidate.isStated || _candidates.isOnly(candidate);
@@ -126,9 +127,9 @@ private:
 
 }  // namespace
 
-Sides findSides(Records const& records, std::vector<PlacedJoint> const& places)
+Sides findSides(Records const& records, NameIndex const& joints, std::vector<PlacedJoint> const& places)
 {
-    return SideFinder(records, places).find();
+    return SideFinder(records, joints, places).find();
 }
 
 }  // namespace Varo::Model

@@ -6,7 +6,7 @@
 
 #include "robot/link_tree.hpp"
 #include "robot/side_names.hpp"
-#include "varo/model/name_index.hpp"
+#include "varo/model/short_lists.hpp"
 
 namespace Varo::Model {
 
@@ -14,18 +14,11 @@ namespace {
 
 class CandidateFinder {
 public:
-    explicit CandidateFinder(Records const& records) : _records(records)
+    CandidateFinder(Records const& records, NameIndex const& joints) : _records(records), _byName(joints)
     {
-        _found.ofJoint.resize(_records.joints.size());
+        _ofJoint.resize(_records.joints.size());
+        _found.counts.resize(_records.joints.size());
         _found.isMarked.resize(_records.joints.size());
-        _byName.reserve(_records.joints.size());
-        _byLink.reserve(_records.joints.size());
-        for (std::size_t i = 0; i < _records.joints.size(); ++i) {
-            _byName.add(joint(i).name, static_cast<std::uint32_t>(i));
-            if (!joint(i).linkName.empty()) {
-                _byLink.add(joint(i).linkName, static_cast<std::uint32_t>(i));
-            }
-        }
     }
 
     SideCandidates find()
@@ -34,7 +27,7 @@ public:
             addStated(i);
         }
         for (std::size_t i = 0; i < _records.joints.size(); ++i) {
-            auto const& known = _found.ofJoint[i];
+            auto const known = _candidates.of(_ofJoint[i]);
             if (known.empty() || !_found.all[known.front()].isStated) {
                 addNamed(i);
             }
@@ -60,16 +53,19 @@ private:
     /// By the joint's own name, else by that of its link.
     void addNamed(std::size_t index)
     {
-        bool const isFound = addNamed(index, joint(index).name, _byName);
-        bool const isFoundByLink = !isFound && addNamed(index, joint(index).linkName, _byLink);
-        if (!isFound && !isFoundByLink && _found.isMarked[index]) {
+        bool isFound = addNamed(index, otherSideOf(joint(index).name), _byName);
+        if (!isFound) {
+            SideNames const ofLink = otherSideOf(joint(index).linkName);
+            isFound = !ofLink.others.empty() && addNamed(index, ofLink, byLink());
+        }
+        if (!isFound && _found.isMarked[index]) {
             _found.alone.push_back(index);
         }
     }
 
-    bool addNamed(std::size_t index, std::string_view name, NameIndex const& joints)
+    /// Whether words of the name led to a counterpart.
+    bool addNamed(std::size_t index, SideNames const& names, NameIndex const& joints)
     {
-        SideNames const names = otherSideOf(name);
         _found.isMarked[index] = _found.isMarked[index] || names.areMarked;
         bool isFound = false;
         for (std::string const& other : names.others) {
@@ -83,29 +79,48 @@ private:
 
     void add(std::size_t one, std::size_t other, bool isStated, bool isMarked)
     {
-        auto const isKnown = [&](std::size_t candidate) {
-            return _found.all[candidate].first == other || _found.all[candidate].second == other;
+        auto const isKnown = [&] {
+            for (std::uint32_t const candidate : _candidates.of(_ofJoint[one])) {
+                if (_found.all[candidate].first == other || _found.all[candidate].second == other) {
+                    return true;
+                }
+            }
+            return false;
         };
-        auto const& known = _found.ofJoint[one];
-        if (one == other || std::any_of(known.begin(), known.end(), isKnown)) {
+        if (one == other || isKnown()) {
             return;
         }
-        _found.ofJoint[one].push_back(_found.all.size());
-        _found.ofJoint[other].push_back(_found.all.size());
+        for (std::size_t const joint : {one, other}) {
+            _candidates.append(_ofJoint[joint], static_cast<std::uint32_t>(_found.all.size()));
+            ++_found.counts[joint];
+        }
         _found.all.push_back({std::min(one, other), std::max(one, other), isStated, isMarked});
     }
 
+    /// Few robots have joints that only their links' names tell the sides of.
+    NameIndex const& byLink()
+    {
+        for (std::size_t i = 0; _byLink.size() == 0 && i < _records.joints.size(); ++i) {
+            if (!joint(i).linkName.empty()) {
+                _byLink.add(joint(i).linkName, static_cast<std::uint32_t>(i));
+            }
+        }
+        return _byLink;
+    }
+
     Records const& _records;
-    NameIndex _byName;
-    NameIndex _byLink;
+    NameIndex const& _byName;
+    NameIndex _byLink;  ///< made when it is first needed
     SideCandidates _found;
+    ShortLists<std::uint32_t> _candidates;
+    std::vector<ShortLists<std::uint32_t>::List> _ofJoint;  ///< by joint, the indices of its candidates
 };
 
 }  // namespace
 
-SideCandidates findSideCandidates(Records const& records)
+SideCandidates findSideCandidates(Records const& records, NameIndex const& joints)
 {
-    return CandidateFinder(records).find();
+    return CandidateFinder(records, joints).find();
 }
 
 }  // namespace Varo::Model

@@ -17,17 +17,6 @@ struct Attachment {
     Pose base;  ///< of the chain, for its first joint
 };
 
-/// By name: tables need not be sorted yet.
-NameIndex indexOf(Table<JointConfig> const& joints)
-{
-    NameIndex index;
-    index.reserve(joints.size());
-    for (std::size_t i = 0; i < joints.size(); ++i) {
-        index.add(joints.nameOf(i), static_cast<std::uint32_t>(i));
-    }
-    return index;
-}
-
 void attach(ChainConfig const& chain, std::string_view root, NameIndex const& index,
             std::vector<Attachment>& attachments)
 {
@@ -63,12 +52,21 @@ std::vector<std::size_t> outwardOrder(std::vector<Attachment> const& attachments
 
 }  // namespace
 
-std::vector<PlacedJoint> placeAtZero(Records const& records)
+NameIndex indexOf(Table<JointConfig> const& joints)
+{
+    NameIndex index;
+    index.reserve(joints.size());
+    for (std::size_t i = 0; i < joints.size(); ++i) {
+        index.add(joints.nameOf(i), static_cast<std::uint32_t>(i));
+    }
+    return index;
+}
+
+std::vector<PlacedJoint> placeAtZero(Records const& records, NameIndex const& joints)
 {
     std::vector<Attachment> attachments(records.joints.size());
-    NameIndex const index = indexOf(records.joints);
     for (ChainConfig const& chain : records.chains) {
-        attach(chain, records.root.name, index, attachments);
+        attach(chain, records.root.name, joints, attachments);
     }
     std::vector<PlacedJoint> placed(records.joints.size());
     for (std::size_t const joint : outwardOrder(attachments)) {

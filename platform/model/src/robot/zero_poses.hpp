@@ -6,6 +6,7 @@
 
 #include "robot/cycles.hpp"
 #include "robot/pose.hpp"
+#include "varo/model/name_index.hpp"
 #include "varo/model/records.hpp"
 
 namespace Varo::Model {
@@ -18,8 +19,11 @@ struct PlacedJoint {
     Pose link;  ///< of the link that it moves, likewise
 };
 
-/// Of all joints of the records, one for one, in time linear in their number.
-std::vector<PlacedJoint> placeAtZero(Records const& records);
+/// Where in their table joints stand, by name, whether or not it is sorted. The table must outlive it.
+NameIndex indexOf(Table<JointConfig> const& joints);
+
+/// Of all joints of the records, one for one, in time linear in their number. `joints` is the index of their table.
+std::vector<PlacedJoint> placeAtZero(Records const& records, NameIndex const& joints);
 
 }  // namespace Varo::Model
 

@@ -8,8 +8,9 @@ namespace Varo::Model::Rules {
 Facts::Facts(Robot const& robot, LintTolerances const& allowed)
     : records(recordsOf(robot)),
       tolerances(allowed),
-      places(placeAtZero(*records)),
-      sides(findSides(*records, places)),
+      joints(indexOf(records->joints)),
+      places(placeAtZero(*records, joints)),
+      sides(findSides(*records, joints, places)),
       actuatorPairs(mutualPairs(records->actuators))
 {
     for (SidePair const& side : sides.pairs) {

@@ -85,7 +85,7 @@ void translateShapes(Link const& link, Materials const& materials, JointConfig& 
     }
     translateMesh(body.shapes.visuals, body);
     if (isMeshAlone) {
-        body.shapes.visuals.clear();
+        body.shapes.visuals = {};
     }
     for (Collision const& stated : link.collisions) {
         if (isWhole(stated, diagnostics)) {

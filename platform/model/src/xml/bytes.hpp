@@ -4,6 +4,10 @@
 #include <array>
 #include <initializer_list>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 /// What the bytes of a text may be part of. In tables, since this is asked of every byte.
 namespace Varo::Model {
 
@@ -73,6 +77,28 @@ char const* skip(char const* at)
         at += 4;
     }
     return at;
+}
+
+/// As skip<ofPlainValue>, of a text that ends there: values are most of a description.
+inline char const* skipPlainValue(char const* at, [[maybe_unused]] char const* textEnd)
+{
+#ifdef __SSE2__
+    constexpr int step = sizeof(__m128i);
+    for (; textEnd - at >= step; at += step) {
+        __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(at));
+        auto const areAll = [](char c) { return _mm_set1_epi8(c); };
+        // Signed, bytes beyond ASCII are less than a space, too.
+        __m128i others = _mm_cmplt_epi8(bytes, areAll(' '));
+        for (char const c : {'<', '&', '"', '\'', '\x7F'}) {
+            others = _mm_or_si128(others, _mm_cmpeq_epi8(bytes, areAll(c)));
+        }
+        auto const found = static_cast<unsigned>(_mm_movemask_epi8(others));
+        if (found != 0) {
+            return at + __builtin_ctz(found);
+        }
+    }
+#endif
+    return skip<ofPlainValue>(at);
 }
 
 }  // namespace Varo::Model

@@ -109,6 +109,7 @@ char const* XmlParser::takePlainStartTag(char const* less)
 /// Of a start tag, from behind its name on.
 char const* XmlParser::takePlainAttributes(char const* at)
 {
+    char const* const textEnd = _text.data() + _text.size();
     std::uint64_t names = 0;
     while (true) {
         char const* const name = skip<ofSpace>(at);
@@ -124,7 +125,7 @@ char const* XmlParser::takePlainAttributes(char const* at)
         }
         std::uint64_t const bit = bitOf(name, nameEnd);
         char const* const value = nameEnd + 2;
-        at = skip<ofPlainValue>(value);
+        at = skipPlainValue(value, textEnd);
         if ((names & bit) != 0 || *at != nameEnd[1]) {
             return nullptr;
         }

@@ -1,11 +1,11 @@
-#ifndef SIM_SHORT_LISTS_HPP
-#define SIM_SHORT_LISTS_HPP
+#ifndef VARO_MODEL_SHORT_LISTS_HPP
+#define VARO_MODEL_SHORT_LISTS_HPP
 
 #include <cstdint>
 #include <limits>
 #include <vector>
 
-namespace Sim {
+namespace Varo::Model {
 
 /// Many lists in one vector: most are empty or hold one item, and a vector for each would be mostly overhead.
 template <typename Item>
@@ -66,6 +66,6 @@ private:
     std::vector<Node> _nodes;
 };
 
-}  // namespace Sim
+}  // namespace Varo::Model
 
 #endif
