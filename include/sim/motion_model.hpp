@@ -219,12 +219,14 @@ private:
 
     // Not part of the library's interface. Names are those of the records.
     using NameRefs = std::vector<std::string const*>;
+    [[gnu::visibility("hidden")]] NameRefs chainRefs() const;
     [[gnu::visibility("hidden")]] std::vector<std::string> const& jointsOf(std::string const& chain) const;
     [[gnu::visibility("hidden")]] void appendAngleActuators(std::string const& chain, NameRefs& actuators) const;
     [[gnu::visibility("hidden")]] void appendActuators(std::string const& chain, NameRefs& actuators) const;
     [[gnu::visibility("hidden")]] void appendCoupledActuators(std::string const& chain, NameRefs& actuators) const;
     [[gnu::visibility("hidden")]] void appendFollowingJoints(std::string const& joint, NameRefs& following) const;
     [[gnu::visibility("hidden")]] std::string const& frictionMaterialOf(std::string const& name) const;
+    [[gnu::visibility("hidden")]] static std::string const& frictionMaterialOf(Varo::Model::JointConfig const& body);
     [[gnu::visibility("hidden")]] bool readLimits(std::string const& name, float& lowest, float& highest,
                                                   float& fastest) const;
 

@@ -27,8 +27,8 @@ void ModelImpl::fetchAngleActuators()
     bool const withTorqueAndSpeed =
         name().find("SpecialSimulation") != std::string::npos || name().find("Helvo") != std::string::npos;
     std::vector<std::string const*> actuators;
-    for (std::string const& chain : _motionModel->chainNames()) {
-        _motionModel->appendAngleActuators(chain, actuators);
+    for (std::string const* chain : _motionModel->chainRefs()) {
+        _motionModel->appendAngleActuators(*chain, actuators);
     }
     for (std::string const* actuator : actuators) {
         fetchAngleActuator(*actuator, withTorqueAndSpeed);
@@ -37,11 +37,17 @@ void ModelImpl::fetchAngleActuators()
 
 void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSpeed)
 {
-    Transform end;
-    _motionModel->endTransformFromJointName(name, end);
-    auto const& link = _index->linkCalledAfter(name);
-    require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
     auto const& joint = _index->joints.find(name);
+    auto const* const record = joint == nullptr ? nullptr : joint->_impl->source().joint;
+    boost::shared_ptr<Link> link = record == nullptr ? nullptr : joint->_impl->childLink();
+    link = link == nullptr ? _index->linkCalledAfter(name) : link;
+    require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
+    Transform end;
+    if (record != nullptr) {
+        end = record->endTransform;
+    } else {
+        _motionModel->endTransformFromJointName(name, end);
+    }
     SharedName const sharedName = SharedName::of(name);
     FramePtr const frame = addFrame(sharedName, end.inverse(), link->_impl->frame());
 

@@ -10,8 +10,12 @@ using Varo::Math::Transform;
 
 void ModelImpl::fetchCoupledActuators()
 {
-    for (std::string const& name : _motionModel->coupledActuatorNames()) {
-        fetchCoupledActuator(name);
+    std::vector<std::string const*> actuators;
+    for (std::string const* chain : _motionModel->chainRefs()) {
+        _motionModel->appendCoupledActuators(*chain, actuators);
+    }
+    for (std::string const* actuator : actuators) {
+        fetchCoupledActuator(*actuator);
     }
 }
 

@@ -92,7 +92,9 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint,
     auto const mass = record == nullptr ? massOf(branch.jointName) : massOf(*record);
     auto const visual =
         record == nullptr ? visualOf(branch.jointName) : createVisual(SharedName::of(record->meshName), Transform());
-    branch.link = addLink(linkFrame, linkName, joint, mass, frictionMaterialOf(branch.jointName), visual);
+    auto const material = record == nullptr ? frictionMaterialOf(branch.jointName)
+                                            : SharedName::of(MotionModel::frictionMaterialOf(*record));
+    branch.link = addLink(linkFrame, linkName, joint, mass, material, visual);
     branch.link->_impl->setBody(record == nullptr ? _motionModel->records().subActuators.find(branch.jointName)
                                                   : BodyRecord(record));
     joint->_impl->setChildLink(branch.link);

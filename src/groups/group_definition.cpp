@@ -49,8 +49,8 @@ boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& 
 
 void ModelImpl::defineJointGroups()
 {
-    for (std::string const& chain : _motionModel->chainNames()) {
-        std::vector<std::string> const& jointNames = _motionModel->jointsOf(chain);
+    for (std::string const* chain : _motionModel->chainRefs()) {
+        std::vector<std::string> const& jointNames = _motionModel->jointsOf(*chain);
         for (std::string const& joint : jointNames) {
             std::string groupName;
             std::vector<std::string> memberNames;
@@ -58,7 +58,7 @@ void ModelImpl::defineJointGroups()
                 addJointGroup(groupName, named(memberNames, _index->joints));
             }
         }
-        addJointGroup(chain, named(jointNames, _index->joints));
+        addJointGroup(*chain, named(jointNames, _index->joints));
     }
 }
 
@@ -67,12 +67,12 @@ void ModelImpl::defineActuatorGroups()
     FirstByName<Actuator> const byName(_actuators);
     FirstByName<ActuatorGroup> groups(_actuatorGroups);  // made so far: a chain listed before its parent has none
     std::vector<std::string const*> members;
-    for (std::string const& chain : _motionModel->chainNames()) {
-        std::string const parentJoint = _motionModel->parentJointFromChain(chain);
+    for (std::string const* chain : _motionModel->chainRefs()) {
+        std::string const parentJoint = _motionModel->parentJointFromChain(*chain);
         std::string const parentChain = _motionModel->chainNameFromJoint(parentJoint);
         members.clear();
-        _motionModel->appendActuators(chain, members);
-        addActuatorGroup(chain, groups.find(parentChain), named(members, byName));
+        _motionModel->appendActuators(*chain, members);
+        addActuatorGroup(*chain, groups.find(parentChain), named(members, byName));
         groups.addLast();
     }
 }

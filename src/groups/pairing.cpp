@@ -13,6 +13,10 @@ void ModelImpl::pairJoints()
     Varo::Model::NameIndex paired;
     std::string mirror;
     for (auto const& joint : _joints) {
+        auto const* const record = joint->_impl->source().joint;
+        if (record != nullptr && record->mirrorKind == Varo::Model::noMirror) {
+            continue;  // without looking for it by its name
+        }
         bool reversed = false;
         if (!_motionModel->mirrorNameFromJointName(joint->name(), mirror, reversed) || paired.contains(joint->name())) {
             continue;

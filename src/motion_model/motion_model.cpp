@@ -52,6 +52,15 @@ std::list<std::string> MotionModel::chainNames() const
     return names;
 }
 
+MotionModel::NameRefs MotionModel::chainRefs() const
+{
+    NameRefs names;
+    for (std::uint32_t const chain : _records->chainOrder) {
+        names.push_back(&_records->chains.nameOf(chain));
+    }
+    return names;
+}
+
 std::list<std::string> MotionModel::wheelNames() const
 {
     return namesIn(_records->wheels);

@@ -188,6 +188,12 @@ std::string const& MotionModel::frictionMaterialOf(std::string const& name) cons
     return stated == nullptr ? defaultMaterial() : *stated;
 }
 
+std::string const& MotionModel::frictionMaterialOf(JointConfig const& body)
+{
+    std::string const* const stated = find(body.attributes, "material");
+    return stated == nullptr ? defaultMaterial() : *stated;
+}
+
 bool MotionModel::frictionMaterial(std::string const& name, std::string& material) const
 {
     std::string const& known = frictionMaterialOf(name);

@@ -249,6 +249,9 @@ bool MotionModel::jointsFromActuator(std::string const& actuator, std::list<std:
 bool MotionModel::coupledJointGroupFromParentJoint(std::string const& joint, std::string& actuator,
                                                    std::vector<std::string>& joints) const
 {
+    if (_records->actuators.empty()) {
+        return false;
+    }
     auto const attached = _index->of(joint).actuators();
     if (attached.empty()) {
         return false;

@@ -1,6 +1,7 @@
 #include "robot/side_candidates.hpp"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -97,20 +98,23 @@ private:
         _found.all.push_back({std::min(one, other), std::max(one, other), isStated, isMarked});
     }
 
-    /// Few robots have joints that only their links' names tell the sides of.
+    /// Made when it is first asked for: of most robots, the joints' own names tell all.
     NameIndex const& byLink()
     {
-        for (std::size_t i = 0; _byLink.size() == 0 && i < _records.joints.size(); ++i) {
-            if (!joint(i).linkName.empty()) {
-                _byLink.add(joint(i).linkName, static_cast<std::uint32_t>(i));
+        if (!_byLink) {
+            _byLink.emplace();
+            for (std::size_t i = 0; i < _records.joints.size(); ++i) {
+                if (!joint(i).linkName.empty()) {
+                    _byLink->add(joint(i).linkName, static_cast<std::uint32_t>(i));
+                }
             }
         }
-        return _byLink;
+        return *_byLink;
     }
 
     Records const& _records;
     NameIndex const& _byName;
-    NameIndex _byLink;  ///< made when it is first needed
+    std::optional<NameIndex> _byLink;
     SideCandidates _found;
     ShortLists<std::uint32_t> _candidates;
     std::vector<ShortLists<std::uint32_t>::List> _ofJoint;  ///< by joint, the indices of its candidates
