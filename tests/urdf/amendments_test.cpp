@@ -1,10 +1,7 @@
 #include <algorithm>
-#include <exception>
-#include <random>
 
 #include <gmock/gmock.h>
 
-#include "sim/model.hpp"
 #include "urdf_text.hpp"
 
 namespace {
@@ -150,37 +147,6 @@ TEST(UrdfAmendments, GoByTheNamespace)
     std::string const written = ModelUtils::toUrdf(*ModelUtils::robotFromXml(others));
     EXPECT_NE(written.find("<varo:" + content), std::string::npos) << "kept as text of others";
     EXPECT_EQ(maximum(written), 1.0F);
-}
-
-TEST(UrdfAmendments, SurviveRandomChanges)
-{
-    std::minstd_rand random(20'240'301);
-    std::vector<std::string> files = Tests::filesIn(VARO_SOURCE_DIR "/robots", ".xml");
-    files.push_back(dataFile("beyond_urdf.xml"));
-    for (std::string const& file : files) {
-        std::string const written = ModelUtils::toUrdf(*ModelUtils::robotFromXml(readFile(file)));
-        std::size_t const start = written.find("<varo:description");
-        ASSERT_NE(start, std::string::npos);
-        for (int round = 0; round < 50; ++round) {
-            std::string text = written;
-            for (unsigned change = 0; change <= random() % 4; ++change) {
-                static std::string const characters = "0123456789.-+e <>\"/=abjA";
-                text[start + random() % (text.size() - start)] = characters[random() % characters.size()];
-            }
-            ModelUtils::Reading const reading = ModelUtils::read(text);
-            ASSERT_EQ(reading.robot == nullptr,
-                      std::any_of(reading.findings.begin(), reading.findings.end(), [](Finding const& finding) {
-                          return finding.severity == Severity::error && finding.line > 0;
-                      }));
-            if (reading.robot != nullptr) {
-                ModelUtils::toUrdf(*reading.robot);
-                try {
-                    Sim::Model const model(text);
-                } catch (std::exception const&) {  // as of native texts, some of which no model can be built of
-                }
-            }
-        }
-    }
 }
 
 }  // namespace

@@ -20,16 +20,6 @@ inline std::string dataFile(std::string const& name)
     return VARO_SOURCE_DIR "/tests/urdf/data/" + name;
 }
 
-/// The example robots that are in URDF, and the files of these tests.
-inline std::vector<std::string> ownFiles()
-{
-    std::vector<std::string> files = Tests::filesIn(VARO_SOURCE_DIR "/robots", ".urdf");
-    for (std::string const& file : Tests::filesIn(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf")) {
-        files.push_back(file);
-    }
-    return files;
-}
-
 inline std::string robot(std::string const& content)
 {
     return "<robot name=\"r\">" + content + "</robot>";
