@@ -59,6 +59,18 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
         {{"mass", "--posture", "Sit", "good.xml"}, bad, "good.xml: error: There is no posture \"Sit\"."},
         {{"tree", "--relative-to", "Eyes", "good.xml"}, bad, "actuator \"Eyes\". Did you mean \"Eye\"?"},
         {{"check", "--silence", "no-such-code", "good.xml"}, wrongUsage, "no-such-code"},
+        {{"check", "--silence", "missing-element", "--silence", "missing-attribute", "bad.xml"}, bad, "1:1: error: "},
+        {{"check", "--rule", "unheard-of", "good.xml"}, wrongUsage, "unheard-of"},
+        {{"check", "--no-rule", "dangling-reference", "good.xml"}, wrongUsage, "dangling-reference"},
+        {{"check", "--tolerance-mass=-1", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--tolerance-mass=nan", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--tolerance-mass=1x", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--tolerance-mass=", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--package-path", "made", "good.xml"}, wrongUsage, ""},
+        {{"check", "--meshes", "--package", "arm_meshes", "good.xml"}, wrongUsage, "as NAME=FOLDER"},
+        {{"check", "--meshes", "--package", "=made", "good.xml"}, wrongUsage, "as NAME=FOLDER"},
+        {{"view", "none.xml"}, bad, "none.xml: error: "},
+        {{"view", "good.xml", "--mesh-limit", "-1"}, wrongUsage, "--mesh-limit"},
     };
     for (Case const& expected : cases) {
         SCOPED_TRACE(testing::PrintToString(expected.arguments));

@@ -91,11 +91,13 @@ TEST_F(View, CarriesMeshesOfTheFolderAndOfPackagesOnly)
     write("box/b.stl", triangle);
     std::filesystem::create_symlink(folder() / "out.stl", folder() / "robot/meshes/link.stl");
     std::string const out = (folder() / "out.stl").string();
-    EXPECT_TRUE(carries("meshes/in.stl"));
+    EXPECT_TRUE(carries("meshes/in.stl") && carries("meshes/../meshes/in.stl"));
     EXPECT_TRUE(carries("package://box/b.stl"));
     EXPECT_TRUE(carries("package://stated/a.stl", {"--package", "stated=arms"}));
-    for (std::string const& uri : {std::string("../out.stl"), out, "file://" + out, std::string("meshes/link.stl"),
-                                   std::string("package://arms/a.stl"), std::string("package://box/../out.stl")}) {
+    for (std::string const& uri :
+         {std::string("../out.stl"), out, "file://" + out, std::string("meshes/link.stl"),
+          std::string("package://arms/a.stl"), std::string("package://box/../out.stl"),
+          std::string("meshes/../../out.stl"), std::string("meshes"), std::string("/etc/passwd")}) {
         EXPECT_FALSE(carries(uri)) << uri;
     }
     EXPECT_TRUE(carries("../out.stl", {"--allow-outside"}));
@@ -138,10 +140,8 @@ TEST_F(View, CarriesNothingButMeshes)
 TEST_F(View, RefusesWhatItCannotDo)
 {
     EXPECT_NE(run({"view", "--help"}).out.find("Examples:"), std::string::npos);
-    EXPECT_EQ(run({"view", "none.xml"}).status, 1);
     EXPECT_EQ(run({"view", "any.xml", "--posture", "Nowhere"}).status, 1);
     EXPECT_EQ(run({"view", "any.xml", "-o", "none/page.html"}).status, 1);
-    EXPECT_EQ(run({"view", "any.xml", "--mesh-limit", "-1"}).status, 2);
 }
 
 TEST_F(View, OpensThePageInTheBrowserOfTheDesktop)
