@@ -23,20 +23,11 @@ std::string const zeros(400, '0');
 TEST(Values, NumbersAreFiniteDecimals)
 {
     using Number = std::pair<std::string, float>;
-    for (auto const& [text, expected] : std::vector<Number>{{"1", 1.0F},
-                                                            {"+1", 1.0F},
-                                                            {"-2e-3", -0.002F},
-                                                            {".5", 0.5F},
-                                                            {"5.", 5.0F},
-                                                            {" 7\n", 7.0F},
-                                                            {"1E+2", 100.0F},
-                                                            {"3.4028235e38", 3.4028235e38F},
-                                                            {"1e-60", 0.0F},
-                                                            {"-1e-400", 0.0F},
-                                                            {"1e-44", 1e-44F},
-                                                            {"0." + zeros + "1e2", 0.0F},
-                                                            {"1" + zeros + "e-99999999999999999999", 0.0F},
-                                                            {"2" + zeros + "e-400", 2.0F}}) {
+    for (auto const& [text, expected] :
+         {Number{"1", 1.0F}, Number{"+1", 1.0F}, Number{"-2e-3", -0.002F}, Number{".5", 0.5F}, Number{"5.", 5.0F},
+          Number{" 7\n", 7.0F}, Number{"1E+2", 100.0F}, Number{"3.4028235e38", 3.4028235e38F}, Number{"1e-60", 0.0F},
+          Number{"-1e-400", 0.0F}, Number{"1e-44", 1e-44F}, Number{"0." + zeros + "1e2", 0.0F},
+          Number{"1" + zeros + "e-99999999999999999999", 0.0F}, Number{"2" + zeros + "e-400", 2.0F}}) {
         float value = -1.0F;
         EXPECT_TRUE(parseNumber(text, value)) << text;
         EXPECT_EQ(value, expected) << text;
@@ -84,16 +75,10 @@ TEST(Values, ShortDecimalsReadAsAllOthersDo)
 TEST(Values, ShortDecimalsAreTakenWhereDivisionIsExact)
 {
     using Length = std::pair<char const*, int>;
-    for (auto const& [text, length] : std::vector<Length>{{"16777216", 8},
-                                                          {"16777217", 0},
-                                                          {"0.0000000001", 12},
-                                                          {"0.00000000001", 0},
-                                                          {"00000000000000000001", 19},
-                                                          {"-1.5 7", 4},
-                                                          {"1e3", 1},
-                                                          {"-", 0},
-                                                          {".", 0},
-                                                          {"", 0}}) {
+    for (auto const& [text, length] :
+         {Length{"16777216", 8}, Length{"16777217", 0}, Length{"0.0000000001", 12}, Length{"0.00000000001", 0},
+          Length{"00000000000000000001", 19}, Length{"-1.5 7", 4}, Length{"1e3", 1}, Length{"-", 0}, Length{".", 0},
+          Length{"", 0}}) {
         float value = 0.0F;
         EXPECT_EQ(parseShortDecimal(text, value), length) << text;
     }

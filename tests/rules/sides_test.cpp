@@ -64,18 +64,11 @@ Strings sidesOf(std::string const& text)
 
 TEST(SideNames, LeadToTheOtherSide)
 {
-    for (auto const& [name, other] : std::vector<std::pair<std::string, std::string>>{
-             {"left_hip", "right_hip"},
-             {"RightArm", "LeftArm"},
-             {"ARM_LEFT", "ARM_RIGHT"},
-             {"wheel_l", "wheel_r"},
-             {"LHipYaw", "RHipYaw"},
-             {"j_l_wheel_y", "j_r_wheel_y"},
-             {"LF_HAA", "RF_HAA"},
-             {"FL_hip", "FR_hip"},
-             {"RL_calf", "RR_calf"},
-             {"lh_kfe", "rh_kfe"},
-         }) {
+    using Pair = std::pair<char const*, char const*>;
+    for (auto const& [name, other] :
+         {Pair{"left_hip", "right_hip"}, Pair{"RightArm", "LeftArm"}, Pair{"ARM_LEFT", "ARM_RIGHT"},
+          Pair{"wheel_l", "wheel_r"}, Pair{"LHipYaw", "RHipYaw"}, Pair{"j_l_wheel_y", "j_r_wheel_y"},
+          Pair{"LF_HAA", "RF_HAA"}, Pair{"FL_hip", "FR_hip"}, Pair{"RL_calf", "RR_calf"}, Pair{"lh_kfe", "rh_kfe"}}) {
         SideNames const names = otherSideOf(name);
         EXPECT_TRUE(names.areMarked) << name;
         EXPECT_THAT(names.others, testing::Contains(other)) << name;
