@@ -11,6 +11,7 @@
 #include "sim/link.hpp"
 #include "sim/load_error.hpp"
 #include "sim/model.hpp"
+#include "texts.hpp"
 #include "throws.hpp"
 #include "varo/model/model_utils.hpp"
 
@@ -24,9 +25,7 @@ std::string const minimal = readFile(VARO_SOURCE_DIR "/robots/minimal.xml");
 
 std::string withFault(std::string const& from, std::string const& to)
 {
-    std::string text = minimal;
-    EXPECT_NE(text.find(from), std::string::npos) << from;
-    return text.replace(text.find(from), from.size(), to);
+    return Tests::replaced(minimal, from, to);
 }
 
 /// "LINE:COLUMN: message hint" of the errors.
@@ -145,9 +144,8 @@ TEST(ModelFindings, AreThoseOfTheTextAndOfTheBuildingInOrder)
         "<robotDescription name=\"A\">\n<sensor name=\"P\" parent=\"Q\" type=\"battery\"/>\n"
         "<sensor name=\"Z\" parent=\"B\" type=\"button\"/>\n<root name=\"B\"/>\n"
         "<sensor name=\"S\" parent=\"Q\" type=\"fsr\"/></robotDescription>";
-    std::vector<std::string> codes;
-    for (Finding const& finding : Sim::Model(text).findings()) {
-        codes.push_back(std::to_string(finding.line) + " " + finding.code);
-    }
+    auto const codes = Tests::textsOf(Sim::Model(text).findings(), [](Finding const& finding) {
+        return std::to_string(finding.line) + " " + finding.code;
+    });
     EXPECT_THAT(codes, testing::ElementsAre("2 sensor-without-class", "2 dangling-reference", "5 dangling-reference"));
 }

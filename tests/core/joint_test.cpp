@@ -64,9 +64,7 @@ TEST(Joint, HasTheTypeOfItsRecordWhateverMadeThat)
     }
     robot->joints["J0"].safety = std::make_shared<Varo::Model::SafetyConfig>();
     robot->joints["J1"].calibration = std::make_shared<Varo::Model::CalibrationConfig>();
-    Varo::Model::ModelUtils::Reading reading;
-    reading.robot = std::move(robot);
-    Sim::Model const model(std::move(reading));
+    Sim::Model const model({std::move(robot), {}, {}});
     std::vector<Joint::Type> types;
     std::vector<bool> moves;
     for (Joint const* each : model.joints()) {

@@ -9,6 +9,7 @@
 #include "fake_robot.hpp"
 #include "sim/kinematics.hpp"
 #include "sim/model.hpp"
+#include "texts.hpp"
 #include "throws.hpp"
 #include "varo/model/configs.hpp"
 
@@ -54,11 +55,10 @@ protected:
 
 TEST_F(Configurations, HaveAValueForWhatFollowsNothing)
 {
-    std::vector<std::string> lines;
-    for (Sim::JointVariable const& variable : kinematics.variables()) {
-        lines.push_back(variable.name + " " + testing::PrintToString(std::pair(variable.min, variable.max)) +
-                        (variable.slides ? " m" : " rad"));
-    }
+    auto const lines = Tests::textsOf(kinematics.variables(), [](Sim::JointVariable const& variable) {
+        return variable.name + " " + testing::PrintToString(std::pair(variable.min, variable.max)) +
+               (variable.slides ? " m" : " rad");
+    });
     EXPECT_THAT(lines,
                 ElementsAre("Turn (-1, 1.5) rad", "Slide (-1, 1.5) m", "Spin (-inf, inf) rad", "Odd (-inf, inf) rad",
                             "Lead (-1, 1.5) rad", "Hand (0, 1) rad", "Wheel (-inf, inf) rad"));
@@ -151,11 +151,8 @@ TEST(ConfigurationOfMimics, FollowsTheirLeadersUnlessAnActuatorMovesThem)
 {
     Sim::Model const model(mimics);
     Sim::Kinematics const kinematics(model);
-    std::vector<std::string> names;
-    for (Sim::JointVariable const& variable : kinematics.variables()) {
-        names.push_back(variable.name);
-    }
-    EXPECT_THAT(names, ElementsAre("Free", "Hand", "Alone"));
+    EXPECT_THAT(Tests::textsOf(kinematics.variables(), [](auto const& variable) { return variable.name; }),
+                ElementsAre("Free", "Hand", "Alone"));
     Sim::Configuration configuration(kinematics);
     configuration.set({{"Free", 0.25}, {"Hand", 0.5}});
     std::vector<double> values;
@@ -178,9 +175,7 @@ TEST(ConfigurationOfMimics, ExistsOnlyWithoutCycles)
     for (auto const& [follower, leader] : {std::pair("A", "B"), std::pair("B", "C"), std::pair("C", "B")}) {
         robot->joints[follower].mimic = std::make_shared<Varo::Model::MimicConfig>(Varo::Model::MimicConfig{leader});
     }
-    Varo::Model::ModelUtils::Reading reading;
-    reading.robot = std::move(robot);
-    Sim::Model const model(std::move(reading));
+    Sim::Model const model({std::move(robot), {}, {}});
     EXPECT_THROW(Sim::Kinematics kinematics(model), std::invalid_argument);
 }
 

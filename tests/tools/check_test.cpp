@@ -1,9 +1,11 @@
+#include <regex>
 #include <set>
 #include <sstream>
 
 #include <nlohmann/json.hpp>
 
 #include "run_tool.hpp"
+#include "texts.hpp"
 
 namespace ToolTest {
 
@@ -22,23 +24,6 @@ constexpr char doubtful[] = R"(<robotDescription name="A">
   <sensor name="S" parent="Nobody" type="bumper"/>
 </robotDescription>
 )";
-
-/// The codes of all rows "| `code` | severity | ...".
-void collectCodes(std::string const& page, std::set<std::string>& codes)
-{
-    std::istringstream lines(page);
-    std::string line;
-    while (std::getline(lines, line)) {
-        std::istringstream words(line);
-        std::string bar;
-        std::string code;
-        std::string severity;
-        words >> bar >> code >> bar >> severity;
-        if (severity == "error" || severity == "warning" || severity == "note") {
-            codes.insert(code.substr(1, code.size() - 2));
-        }
-    }
-}
 
 TEST_F(Check, ReportsFiveFaultsInOneRunEachInItsPlace)
 {
@@ -98,8 +83,8 @@ TEST_F(Check, BuildsTheModelTooAndTellsOfAFaultOnce)
               "[model-not-built]\n"
               "    Add <attribute name=\"resolutions\" value=\"640 480\"/> with its own width and height.\n" +
                   std::string(fixErrors));
-    std::string misspelt = readFile(VARO_SOURCE_DIR "/robots/minimal.xml");
-    misspelt.replace(misspelt.find("\"Turn\"/>"), 6, "\"TurN\"");
+    std::string const misspelt =
+        Tests::replaced(readFile(VARO_SOURCE_DIR "/robots/minimal.xml"), "\"Turn\"/>", "\"TurN\"/>");
     Outcome const outcome = run({"check", "-"}, misspelt);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err,
@@ -199,8 +184,12 @@ TEST_F(Check, KnowsTheCodesOfTheDocumentation)
         known.insert(line);
     }
     std::set<std::string> documented;
-    for (char const* const page : {"checking", "description-format", "urdf"}) {
-        collectCodes(readFile(std::string(VARO_SOURCE_DIR "/docs/") + page + ".md"), documented);
+    std::regex const row("\\| `([^`]*)` \\| (error|warning|note)");  // of a code in a table
+    for (char const* const name : {"checking", "description-format", "urdf"}) {
+        std::string const page = readFile(std::string(VARO_SOURCE_DIR "/docs/") + name + ".md");
+        for (std::sregex_iterator found(page.begin(), page.end(), row); found != std::sregex_iterator(); ++found) {
+            documented.insert((*found)[1]);
+        }
     }
     EXPECT_EQ(documented, known);
 }

@@ -81,16 +81,6 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
     }
 }
 
-std::size_t longestLineOf(std::string const& text)
-{
-    std::istringstream lines(text);
-    std::size_t longest = 0;
-    for (std::string line; std::getline(lines, line);) {
-        longest = std::max(longest, line.size());
-    }
-    return longest;
-}
-
 TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
 {
     std::vector<std::vector<std::string>> const commands = {{"check"},        {"info"},   {"tree"}, {"list", "joints"},
@@ -98,7 +88,7 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
                                                             {"dump"},         {"convert"}};
     std::string const overview = run({"--help"}).out;
     for (std::string const& help : {overview, run({"help", "diff"}).out, run({"help", "view"}).out}) {
-        EXPECT_LE(longestLineOf(help), 80U);
+        EXPECT_LE(widestLine(help), 80U);
     }
     for (std::vector<std::string> command : commands) {
         SCOPED_TRACE(command.front());
@@ -108,7 +98,7 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
         EXPECT_NE(help.find("Example"), std::string::npos);
         EXPECT_EQ(help.find("Example"), help.rfind("Example"));
         EXPECT_EQ(run({"help", command.front()}).out, help);
-        EXPECT_LE(longestLineOf(help), 80U);
+        EXPECT_LE(widestLine(help), 80U);
 
         command.emplace_back("-");
         Outcome const outcome = run(command, legs);

@@ -132,18 +132,6 @@ protected:
     }
 };
 
-std::size_t widestLine(std::string const& text)
-{
-    std::size_t widest = 0;
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);) {
-        auto const isContinued = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
-        auto const continued = std::count_if(line.begin(), line.end(), isContinued);
-        widest = std::max(widest, line.size() - static_cast<std::size_t>(continued));
-    }
-    return widest;
-}
-
 TEST_F(AtATerminal, IsFittedUnlessAllIsWanted)
 {
     write("legs.xml", legs);
