@@ -52,17 +52,15 @@ TEST(UrdfSensors, StandWhereTheTextSaysWithTheirSizes)
     EXPECT_EQ(eye.frame()->parentFrame(), model.link("neckLink")->frame());
     EXPECT_TRUE(eye.frame()->localPosition().isNear(
         Varo::Math::Transform::fromPosition(0.1F, 0.0F, 0.2F) * Varo::Math::Transform::fromRotY(0.5F), 1e-6F));
-    EXPECT_EQ(eye.width(), 640);
-    EXPECT_EQ(eye.height(), 480);
-    EXPECT_EQ(eye.settings(), model.robot().records()->sensors.find("eye")->settings.get());
-    EXPECT_EQ(eye.settings()->camera->width, 640);
-    EXPECT_EQ(model.tactileSensor("skin")->settings(), nullptr);
-    EXPECT_EQ(model.cameraDepthSensor("depth")->width(), 64);
-    EXPECT_EQ(model.cameraSensor("old")->height(), 200);
-    EXPECT_EQ(model.cameraSensor("own")->width(), 800);
     EXPECT_EQ(model.cameraSensor("own")->frame()->localPosition().position().z, 3.0F);
-    EXPECT_EQ(model.arrayDepthSensor("scan")->width(), 12);
-    EXPECT_EQ(model.arrayDepthSensor("scan")->height(), 2);
+    auto const sizeOf = [](auto const* camera) { return std::pair(camera->width(), camera->height()); };
+    EXPECT_EQ(sizeOf(&eye), std::pair(640, 480));
+    EXPECT_EQ(sizeOf(model.cameraDepthSensor("depth")), std::pair(64, 48));
+    EXPECT_EQ(sizeOf(model.cameraSensor("old")), std::pair(320, 200));
+    EXPECT_EQ(sizeOf(model.cameraSensor("own")), std::pair(800, 600));
+    EXPECT_EQ(sizeOf(model.arrayDepthSensor("scan")), std::pair(12, 2));
+    EXPECT_EQ(eye.settings(), model.robot().records()->sensors.find("eye")->settings.get());
+    EXPECT_EQ(model.tactileSensor("skin")->settings(), nullptr);
 }
 
 TEST(UrdfSensors, CountBadSettingsAsNotStatedAndKeepTheirText)
