@@ -75,8 +75,7 @@ TEST_F(PostureLibraryTest, ValuesComeThroughBitByBitWhereDecimalsHaveAComma)
 {
     std::string const before = std::setlocale(LC_ALL, nullptr);
     EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "CTest says where it is";
-    float const values[] = {0.1F, 1.0F / 3.0F, 1e-45F, -3.4028235e38F, 16777216.0F};
-    for (float const value : values) {
+    for (float const value : {0.1F, 1.0F / 3.0F, 1e-45F, -3.4028235e38F, 16777216.0F}) {
         robot.postureList = {{"Stand", {{"Neck", value}}}};
         load();
         EXPECT_EQ(valuesOf("Stand", true).front(), value);

@@ -5,7 +5,6 @@
 #include "example_robots.hpp"
 #include "sim/model.hpp"
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -44,19 +43,6 @@ TEST(ExampleRobots, ShowEveryKindOfDeviceThatLoadingMakes)
     EXPECT_EQ(sensors, (std::set<int>{Sensor::Angle, Sensor::Coupled, Sensor::Sonar, Sensor::Camera, Sensor::FSR,
                                       Sensor::Inertial, Sensor::Bumper, Sensor::Tactile, Sensor::ArrayDepth,
                                       Sensor::CameraDepth, Sensor::Microphone}));
-}
-
-TEST(MobileArm, MovesFingersAndTipsTogether)
-{
-    Sim::Model const model(Tests::examplePath("mobile_arm"));
-    auto const* const gripper = model.coupledActuator("left_finger_slideCoupling");
-    ASSERT_NE(gripper, nullptr);
-    std::vector<std::pair<std::string, float>> ratios;
-    for (auto const& [joint, ratio] : gripper->controlledJointAndRatios()) {
-        ratios.emplace_back(joint->name(), ratio);
-    }
-    EXPECT_THAT(ratios, ElementsAre(std::pair("left_finger_slide", 1.0F), std::pair("left_tip_turn", -8.0F),
-                                    std::pair("right_finger_slide", 1.0F), std::pair("right_tip_turn", 8.0F)));
 }
 
 }  // namespace

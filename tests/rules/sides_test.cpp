@@ -94,11 +94,8 @@ TEST(Sides, AreComparedInAllThatMirrors)
     std::string const whole = biped();
     for (Case const& given : std::vector<Case>{
              {replaced(whole, "mass value=\"1\"", "mass value=\"1.1\"", knee), {"18 mass-not-mirrored"}},
-             {replaced(whole, "0.01 0 -0.1", "0.01 0.01 -0.1", knee), {"18 com-not-mirrored"}},
-             {replaced(whole, "iyy=\"0.1\"", "iyy=\"0.11\"", knee), {"18 inertia-not-mirrored"}},
              {replaced(whole, "upper=\"2\"", "upper=\"2.1\"", kneeJoint), {"20 limits-not-mirrored"}},
              {replaced(whole, "effort=\"9\"", "effort=\"8\"", kneeJoint), {"20 effort-not-mirrored"}},
-             {replaced(whole, "velocity=\"4\"", "velocity=\"5\"", kneeJoint), {"20 velocity-not-mirrored"}},
              {replaced(whole, "/></joint>", "/><dynamics damping=\"1\"/></joint>", kneeJoint),
               {"20 damping-not-mirrored"}},
              {replaced(whole, "0 1 0", "0 0.6 0.8", kneeJoint), {"19 axis-not-mirrored"}},

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "run_tool.hpp"
 
 namespace ToolTest {
@@ -122,26 +120,15 @@ protected:
     void expectRefusal(std::string const& command, std::string const& message) const
     {
         SCOPED_TRACE(command);
-        std::vector<std::string> const before = names();
+        std::string const before = runCommand("ls -AR").out;
         Outcome const outcome = runCommand(command);
         EXPECT_EQ(outcome.status, 1);
         EXPECT_NE(outcome.err.find(message), std::string::npos) << outcome.err;
         EXPECT_EQ(readFile(folder() / "legs.xml"), legs);
-        EXPECT_EQ(names(), before);
+        EXPECT_EQ(runCommand("ls -AR").out, before);
     }
 
     std::string converted;
-
-private:
-    std::vector<std::string> names() const
-    {
-        std::vector<std::string> found;
-        for (auto const& entry : std::filesystem::recursive_directory_iterator(folder())) {
-            found.push_back(entry.path().string());
-        }
-        std::sort(found.begin(), found.end());
-        return found;
-    }
 };
 
 TEST_F(ConvertOutput, ReplacesAnotherFileOnlyWhenToldTo)
