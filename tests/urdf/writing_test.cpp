@@ -21,7 +21,7 @@ std::string urdfOf(std::string const& text)
 
 TEST(UrdfWriting, SaysOnlyWhatUrdfCannotInOurOwnWords)
 {
-    for (char const* plain : {"gripper", "names", "sensors", "sensor_settings"}) {
+    for (char const* plain : {"gripper", "names", "sensors", "sensor_settings", "statements"}) {
         EXPECT_EQ(urdfOf(readFile(dataFile(std::string(plain) + ".urdf"))).find("varo"), std::string::npos) << plain;
     }
     Findings findings;
