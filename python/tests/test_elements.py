@@ -24,6 +24,28 @@ def words(member: enum.Enum):
     return member.name.replace("_", "").lower()
 
 
+def camel(attribute):
+    """As the dump writes what Python calls so."""
+    first, *others = attribute.split("_")
+    return first + "".join(map(str.title, others))
+
+
+def plain(value):
+    if isinstance(value, enum.Enum):
+        return value.name.capitalize()
+    if isinstance(value, tuple):
+        return [plain(each) for each in value]
+    if isinstance(value, float):
+        return None if np.isinf(value) else np.float32(value)
+    return getattr(value, "name", value)
+
+
+def as_single(value):
+    if isinstance(value, list):
+        return [as_single(each) for each in value]
+    return np.float32(value) if isinstance(value, float) else value
+
+
 @pytest.fixture(params=ROBOT_FILES)
 def dumped(request, robots, tool):
     path = robots / request.param
@@ -67,17 +89,10 @@ def test_structure_is_what_is_dumped(dumped):
 def test_what_has_no_elements_is_what_is_dumped(dumped):
     model, dump = dumped
     lines = model.text.splitlines()
+    facts = "name type joint actuator reduction interfaces state_interfaces".split()
+    sources = {"TRANSMISSION": "transmission", "ROS2_CONTROL": "ros2Control"}
     assert [
-        {
-            "name": stated.name,
-            "type": stated.type,
-            "joint": stated.joint,
-            "actuator": stated.actuator,
-            "reduction": np.float32(stated.reduction),
-            "interfaces": list(stated.interfaces),
-            "stateInterfaces": list(stated.state_interfaces),
-            "source": {"TRANSMISSION": "transmission", "ROS2_CONTROL": "ros2Control"}[stated.source.name],
-        }
+        {**{camel(fact): plain(getattr(stated, fact)) for fact in facts}, "source": sources[stated.source.name]}
         for stated in model.transmissions
     ] == [{**each, "reduction": np.float32(each["reduction"])} for each in dump["transmissions"]]
     assert [
@@ -90,44 +105,10 @@ def test_what_has_no_elements_is_what_is_dumped(dumped):
         assert stated.name in model.transmissions and lines[stated.place.line - 1][stated.place.column - 1] == "<"
 
 
-# What the tool writes in another form than Python's attributes have, and the common part.
-ATTRIBUTES = {
-    "dcm_keys": "dcmKeys",
-    "dcm_state_keys": "dcmStateKeys",
-    "dcm_command_keys": "dcmCommandKeys",
-    "start_value": "startValue",
-    "min_value": "minValue",
-    "max_value": "maxValue",
-    "max_speed": "maxSpeed",
-    "max_torque": "maxTorque",
-    "max_velocity": "maxVelocity",
-    "controlled_joint": "controlledJoint",
-    "reflected_symmetric": "reflectedSymmetric",
-    "reflected_symmetric_reversed": "reflectedSymmetricReversed",
-    "reflection_forced": "reflectionForced",
-    "controlled_joint_and_ratios": "controlledJointAndRatios",
-    "shortname": "shortname",
-    "groups": "groups",
-    "color": "color",
-    "width": "width",
-    "height": "height",
-}
-
-
-def plain(value):
-    if isinstance(value, enum.Enum):
-        return value.name.capitalize()
-    if isinstance(value, tuple):
-        return [plain(each) for each in value]
-    if isinstance(value, float):
-        return None if np.isinf(value) else np.float32(value)
-    return getattr(value, "name", value)
-
-
-def as_single(value):
-    if isinstance(value, list):
-        return [as_single(each) for each in value]
-    return np.float32(value) if isinstance(value, float) else value
+# What not every device has.
+ATTRIBUTES = """dcm_keys dcm_state_keys dcm_command_keys start_value min_value max_value max_speed max_torque max_velocity
+    controlled_joint reflected_symmetric reflected_symmetric_reversed reflection_forced controlled_joint_and_ratios
+    shortname groups color width height""".split()
 
 
 @pytest.mark.parametrize("family", ["actuator", "sensor"])
@@ -136,14 +117,12 @@ def test_devices_are_what_is_dumped(dumped, family):
     devices = getattr(model, family + "s")
     assert len(devices) == len(dump[family + "s"])
     for device, expected in zip(devices, dump[family + "s"]):
-        assert (device.name, device.buffer_size, device.frame.name) == (
-            expected["name"],
-            expected["bufferSize"],
-            expected["frame"],
-        )
+        common = (device.name, device.buffer_size, device.frame.name)
+        assert common == (expected["name"], expected["bufferSize"], expected["frame"])
         assert type(device).__name__ == expected["type"] + family.capitalize()
         assert words(device.type) == expected["type"].lower()
-        for attribute, key in ATTRIBUTES.items():
+        for attribute in ATTRIBUTES:
+            key = camel(attribute)
             assert hasattr(device, attribute) == (key in expected), (device, attribute)
             if key in expected:
                 found, wanted = plain(getattr(device, attribute)), as_single(expected[key])

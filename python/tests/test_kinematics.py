@@ -87,22 +87,18 @@ def test_poses_and_frames_agree(kinematics, humanoid):
 
 
 def test_jacobians_are_what_differences_of_poses_say(kinematics, humanoid):
-    q = vr.Configuration(kinematics, "Crouch")
-    jacobian = kinematics.jacobian(q, "LWristTwistLink")
-    center = kinematics.center_of_mass_jacobian(q)
+    q, frame, step = vr.Configuration(kinematics, "Crouch"), "LWristTwistLink", 1e-6
+    jacobian, center = kinematics.jacobian(q, frame), kinematics.center_of_mass_jacobian(q)
     assert jacobian.shape == (6, len(q)) and center.shape == (3, len(q))
-    step = 1e-6
+    total = kinematics.mass_properties(q)
     for index in range(len(q)):
         moved = q.copy()
         moved[index] += step
-        velocity = (kinematics.pose(moved, "LWristTwistLink") - kinematics.pose(q, "LWristTwistLink"))[:3, 3] / step
-        assert np.allclose(jacobian[:3, index], velocity, atol=1e-5)
-        shift = kinematics.mass_properties(moved).center_of_mass - kinematics.mass_properties(q).center_of_mass
-        assert np.allclose(center[:, index], shift / step, atol=1e-5)
-    axes = kinematics.pose(q, "LWristTwistLink")[:3, :3]
-    turned = kinematics.jacobian(q, "LWristTwistLink", axes="LWristTwistLink")
-    assert np.allclose(axes @ turned[3:], jacobian[3:], atol=1e-6)
-    total = kinematics.mass_properties(q)
+        velocity = (kinematics.pose(moved, frame) - kinematics.pose(q, frame))[:3, 3] / step
+        shift = (kinematics.mass_properties(moved).center_of_mass - total.center_of_mass) / step
+        assert np.allclose(jacobian[:3, index], velocity, atol=1e-5) and np.allclose(center[:, index], shift, atol=1e-5)
+    turned = kinematics.jacobian(q, frame, axes=frame)
+    assert np.allclose(kinematics.pose(q, frame)[:3, :3] @ turned[3:], jacobian[3:], atol=1e-6)
     assert np.isclose(total.mass, sum(link.mass.mass for link in humanoid.links)) and total.inertia.shape == (3, 3)
     assert kinematics.mass_properties(q, humanoid.link("NeckTurnLink")).mass < total.mass
 

@@ -77,24 +77,6 @@ def test_what_missed_its_init_is_refused():
             use()
 
 
-def test_threads_load_at_once(robots):
-    text = (robots / "humanoid.xml").read_text()
-    count = len(vr.loads(text).links)
-    counts = []
-    together = threading.Barrier(2, timeout=60)
-
-    def load():
-        together.wait()
-        counts.append([len(vr.loads(text).links) for _ in range(50)])
-
-    threads = [threading.Thread(target=load) for _ in range(2)]
-    for thread in threads:
-        thread.start()
-    for thread in threads:
-        thread.join()
-    assert counts == [[count] * 50] * 2
-
-
 def test_python_goes_on_while_a_file_is_read(tmp_path):
     """A thread waits within load for what another thread writes, which it can only do when the first one lets it."""
     fifo = tmp_path / "fifo.xml"

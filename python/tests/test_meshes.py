@@ -1,29 +1,8 @@
 """The search for meshes."""
 
-import os
-
 import pytest
 
 import varorobotmodel as vr
-
-
-def test_finds_what_descriptions_name(robots):
-    folders = vr.MeshFolders(description=robots)
-    search = vr.MeshSearch(folders)
-    uris = {
-        visual.geometry.uri
-        for name in ("mobile_arm.urdf", "quadruped.urdf", "humanoid.xml")
-        for link in vr.load(robots / name).links
-        for visual in link.visuals
-        if isinstance(visual.geometry, vr.Mesh)
-    }
-    found = {uri: search.find(uri) for uri in uris}
-    assert {os.path.basename(file.path) for file in found.values() if file.path} >= {"ball.stl"}
-    for uri, file in found.items():
-        if file.path:
-            assert os.path.isfile(file.path) and file.path.endswith(uri.split("://")[-1]) and not file.reason
-        else:
-            assert file.reason and all(not os.path.exists(path) for path in file.looked_for)
 
 
 def test_looks_in_all_kinds_of_folders(tmp_path, monkeypatch):
@@ -42,7 +21,8 @@ def test_looks_in_all_kinds_of_folders(tmp_path, monkeypatch):
         (vr.MeshFolders(prefixes=environment.prefixes), "prefix/share/arm"),
     ]:
         assert vr.MeshSearch(folders).find(uri).path == str(tmp_path / where / "part.stl")
-    assert vr.MeshSearch(vr.MeshFolders(description=tmp_path / "description")).find(uri).path is None
+    missed = vr.MeshSearch(vr.MeshFolders(description=tmp_path / "description")).find(uri)
+    assert missed.path is None and "arm" in missed.reason and str(tmp_path / "description") in missed.looked_for[0]
 
 
 def test_what_is_no_search_is_refused():

@@ -1,5 +1,4 @@
 #include <iostream>
-#include <ostream>
 #include <sstream>
 
 #include <gmock/gmock.h>
@@ -11,6 +10,7 @@
 #include "sim/link.hpp"
 #include "sim/load_error.hpp"
 #include "sim/model.hpp"
+#include "texts.hpp"
 #include "throws.hpp"
 #include "varo/model/model_utils.hpp"
 
@@ -24,9 +24,7 @@ std::string const minimal = readFile(VARO_SOURCE_DIR "/robots/minimal.xml");
 
 std::string withFault(std::string const& from, std::string const& to)
 {
-    std::string text = minimal;
-    EXPECT_NE(text.find(from), std::string::npos) << from;
-    return text.replace(text.find(from), from.size(), to);
+    return Tests::replaced(minimal, from, to);
 }
 
 /// "LINE:COLUMN: message hint" of the errors.
@@ -42,23 +40,22 @@ std::vector<std::string> errorsOf(Varo::Model::Findings const& findings)
     return errors;
 }
 
+std::string const wheelOn(std::string const& parent, std::string const& inside)
+{
+    return withFault("  <chain", "  <wheel name=\"W\" parent=\"" + parent + "\" maxTorque=\"1\" maxVelocity=\"1\">" +
+                                     inside + "</wheel>\n  <chain");
+}
+
 struct Fault {
     char const* name;
     std::string text;
     std::string what;  ///< of the exception, whose type is in what the standard library throws
     std::string error;  ///< pattern of the one error
 };
-std::ostream& operator<<(std::ostream& out, Fault const& fault)
-{
-    return out << fault.name;
-}
 
-class FailingBuild : public testing::TestWithParam<Fault> {};
-
-TEST_P(FailingBuild, NamesTheCauseAtItsPlaceAndKeepsItsException)
+TEST(FailingBuild, NamesTheCauseAtItsPlaceAndKeepsItsException)
 {
-    Fault const& fault = GetParam();
-    auto const check = [&](auto const& build) {
+    auto const check = [&](Fault const& fault, auto const& build) {
         try {
             build();
             FAIL() << "nothing thrown";
@@ -69,36 +66,29 @@ TEST_P(FailingBuild, NamesTheCauseAtItsPlaceAndKeepsItsException)
             EXPECT_THAT(errorsOf(caused->findings()), testing::ElementsAre(testing::MatchesRegex(fault.error)));
         }
     };
-    check([&] { Sim::Model const model(fault.text); });
-    check([&] { Sim::Model const model(read(fault.text)); });
+    for (Fault const& fault :
+         {Fault{"JointOfNoDescription", withFault("jointRef name=\"Turn\"", "jointRef name=\"TurN\""),
+                "Could not get min value.", "39:15: There is no joint \"TurN\".* Did you mean \"Turn\"\\?"},
+          Fault{"ChainOnNothing", withFault("parent=\"Base\"", "parent=\"Bass\""),
+                "Could not find the link of joint Turn",
+                "38:22: There is no joint \"Bass\".* Did you mean \"Base\"\\?"},
+          Fault{"ChainOnItself", withFault("parent=\"Base\"", "parent=\"Nod\""),
+                "Could not find the link of joint Turn", "38:22: The parents of the chain \"Neck\" lead back to it.*"},
+          Fault{"MisspeltStartAngle", withFault("angle of=\"Nod\"", "angle of=\"Nood\""), "vector::_M_range_check",
+                "45:12: There is no joint or actuator \"Nood\".* Did you mean \"Nod\"\\?"},
+          Fault{"WheelOnTheRoot", wheelOn("Base", Tests::attribute("material", "rubber")),
+                "Model consistency error for wheel W", "38:19: .* attached to the root.* type fixed.*"},
+          Fault{"WheelOnNothing", wheelOn("Tur", Tests::attribute("material", "rubber")),
+                "Model consistency error for wheel W", "38:19: There is no joint \"Tur\".* Did you mean \"Turn\"\\?"},
+          Fault{"WheelWithoutMaterial", wheelOn("Turn", ""), "Could not fetch wheel friction material for wheel W",
+                "38:3: .*states no material.* Add .*"},
+          Fault{"CameraWithoutResolution", withFault("  <chain", Tests::sensor("Eye", "Nod", "camera") + "<chain"),
+                "Could not get Eye resolutions\n", "38:1: The sensor \"Eye\" states no resolution.*"}}) {
+        SCOPED_TRACE(fault.name);
+        check(fault, [&] { Sim::Model const model(fault.text); });
+        check(fault, [&] { Sim::Model const model(read(fault.text)); });
+    }
 }
-
-std::string const wheelOn(std::string const& parent, std::string const& inside)
-{
-    return withFault("  <chain", "  <wheel name=\"W\" parent=\"" + parent + "\" maxTorque=\"1\" maxVelocity=\"1\">" +
-                                     inside + "</wheel>\n  <chain");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Each, FailingBuild,
-    testing::Values(
-        Fault{"JointOfNoDescription", withFault("jointRef name=\"Turn\"", "jointRef name=\"TurN\""),
-              "Could not get min value.", "39:15: There is no joint \"TurN\".* Did you mean \"Turn\"\\?"},
-        Fault{"ChainOnNothing", withFault("parent=\"Base\"", "parent=\"Bass\""),
-              "Could not find the link of joint Turn", "38:22: There is no joint \"Bass\".* Did you mean \"Base\"\\?"},
-        Fault{"ChainOnItself", withFault("parent=\"Base\"", "parent=\"Nod\""), "Could not find the link of joint Turn",
-              "38:22: The parents of the chain \"Neck\" lead back to it.*"},
-        Fault{"MisspeltStartAngle", withFault("angle of=\"Nod\"", "angle of=\"Nood\""), "vector::_M_range_check",
-              "45:12: There is no joint or actuator \"Nood\".* Did you mean \"Nod\"\\?"},
-        Fault{"WheelOnTheRoot", wheelOn("Base", Tests::attribute("material", "rubber")),
-              "Model consistency error for wheel W", "38:19: .* attached to the root.* type fixed.*"},
-        Fault{"WheelOnNothing", wheelOn("Tur", Tests::attribute("material", "rubber")),
-              "Model consistency error for wheel W", "38:19: There is no joint \"Tur\".* Did you mean \"Turn\"\\?"},
-        Fault{"WheelWithoutMaterial", wheelOn("Turn", ""), "Could not fetch wheel friction material for wheel W",
-              "38:3: .*states no material.* Add .*"},
-        Fault{"CameraWithoutResolution", withFault("  <chain", Tests::sensor("Eye", "Nod", "camera") + "<chain"),
-              "Could not get Eye resolutions\n", "38:1: The sensor \"Eye\" states no resolution.*"}),
-    [](auto const& fault) { return std::string(fault.param.name); });
 
 }  // namespace
 
@@ -145,9 +135,8 @@ TEST(ModelFindings, AreThoseOfTheTextAndOfTheBuildingInOrder)
         "<robotDescription name=\"A\">\n<sensor name=\"P\" parent=\"Q\" type=\"battery\"/>\n"
         "<sensor name=\"Z\" parent=\"B\" type=\"button\"/>\n<root name=\"B\"/>\n"
         "<sensor name=\"S\" parent=\"Q\" type=\"fsr\"/></robotDescription>";
-    std::vector<std::string> codes;
-    for (Finding const& finding : Sim::Model(text).findings()) {
-        codes.push_back(std::to_string(finding.line) + " " + finding.code);
-    }
+    auto const codes = Tests::textsOf(Sim::Model(text).findings(), [](Finding const& finding) {
+        return std::to_string(finding.line) + " " + finding.code;
+    });
     EXPECT_THAT(codes, testing::ElementsAre("2 sensor-without-class", "2 dangling-reference", "5 dangling-reference"));
 }

@@ -35,9 +35,7 @@ TEST(Joint, SaysWhatTheDescriptionDoes)
     EXPECT_THAT(numbersOf(slide), ElementsAre(-1.0F, 1.5F, 5.0F, 4.0F, 0.5F, 0.25F));
     EXPECT_EQ(slide.type(), Joint::Type::prismatic);
     EXPECT_TRUE(slide.moves() && slide.hasMotor());
-    EXPECT_EQ(slide.mimic(), nullptr);
-    EXPECT_EQ(slide.safety(), nullptr);
-    EXPECT_EQ(slide.calibration(), nullptr);
+    EXPECT_TRUE(slide.mimic() == nullptr && slide.safety() == nullptr && slide.calibration() == nullptr);
     Joint const& plate = *model.joint("K");
     EXPECT_EQ(plate.type(), Joint::Type::fixed);
     EXPECT_FALSE(plate.moves() || plate.hasMotor());
@@ -64,19 +62,16 @@ TEST(Joint, HasTheTypeOfItsRecordWhateverMadeThat)
     }
     robot->joints["J0"].safety = std::make_shared<Varo::Model::SafetyConfig>();
     robot->joints["J1"].calibration = std::make_shared<Varo::Model::CalibrationConfig>();
-    Varo::Model::ModelUtils::Reading reading;
-    reading.robot = std::move(robot);
-    Sim::Model const model(std::move(reading));
-    std::vector<Joint::Type> types;
-    std::vector<bool> moves;
+    Sim::Model const model({std::move(robot), {}, {}});
+    std::vector<std::pair<Joint::Type, bool>> kinds;
     for (Joint const* each : model.joints()) {
-        types.push_back(each->type());
-        moves.push_back(each->moves());
+        kinds.emplace_back(each->type(), each->moves());
     }
     using Type = Joint::Type;
-    EXPECT_THAT(types, ElementsAre(Type::revolute, Type::prismatic, Type::fixed, Type::continuous, Type::planar,
-                                   Type::floating, Type::fixed));
-    EXPECT_THAT(moves, ElementsAre(true, true, false, true, false, false, false));
+    EXPECT_THAT(kinds, ElementsAre(std::pair(Type::revolute, true), std::pair(Type::prismatic, true),
+                                   std::pair(Type::fixed, false), std::pair(Type::continuous, true),
+                                   std::pair(Type::planar, false), std::pair(Type::floating, false),
+                                   std::pair(Type::fixed, false)));
     EXPECT_NE(model.joint("J0")->safety(), nullptr);
     EXPECT_NE(model.joint("J1")->calibration(), nullptr);
 }

@@ -74,8 +74,6 @@ TEST(Loading, RefusesWithItsFixedMessages)
               "'' is not a valid DCM XML.\n");
     TemporaryFile const file("<robotDescription");
     EXPECT_EQ(refusalOf(file.path), "Could not load model. '" + file.path + "' is not a valid DCM XML.\n");
-    std::string const directory = testing::TempDir();
-    EXPECT_EQ(refusalOf(directory), "Could not load model. '" + directory + "' is not a valid DCM XML.\n");
 }
 
 TEST(Loading, NeverTakesATextForTheFileThatItsFirstBytesName)
@@ -105,19 +103,16 @@ TEST(Loading, SaysInItsFindingsWhatIsInTheWayOfAFile)
 {
     std::string const path = ownPath();
     std::filesystem::create_directory(path);
-    std::filesystem::create_symlink("loop", path + "/loop");
     struct Case {
         std::string argument;
         std::string message;
         std::string reason;
     };
-    std::string const noFile = " does not exist.Trying to load the given string as XML.\n";
+    std::string const none = path + "/none.xml";
     std::vector<Case> const cases = {
         {path, "", "It cannot be read: Is a directory."},
-        {"/dev/zero", "", "It cannot be read: It is a device."},
-        {"/proc/self/mem", "", "It cannot be read: Input/output error."},
-        {path + "/loop", "'" + path + "/loop'" + noFile, "It cannot be read: Too many levels of symbolic links."},
-        {path + "/none.xml", "'" + path + "/none.xml'" + noFile, "There is no file of that name"},
+        {none, "'" + none + "' does not exist.Trying to load the given string as XML.\n",
+         "There is no file of that name"},
     };
     for (auto const& [argument, note, reason] : cases) {
         Varo::Model::Findings const findings = findingsOf([&a = argument] { Sim::Model const model(a); });
@@ -137,9 +132,7 @@ TEST(Loading, TakesATextForATextAndANameForAName)
     std::filesystem::path const folder = ownPath();
     std::filesystem::create_directories((folder / text).parent_path());
     std::filesystem::current_path(folder);
-    std::string other = robot("");
-    other.replace(other.find("Testbot"), 7, "Another");
-    std::ofstream(text) << other;
+    std::ofstream(text) << robot("", "Another");
     EXPECT_EQ(Sim::Model(text).name(), "Another");
     EXPECT_EQ(Sim::Model::fromText(text).name(), "Testbot");
     EXPECT_EQ(Sim::Model::fromFile(text).name(), "Another");
@@ -148,7 +141,9 @@ TEST(Loading, TakesATextForATextAndANameForAName)
 
     EXPECT_EQ(messageOf<Varo::Model::DescriptionError>([] { Sim::Model::fromFile("no such file"); }),
               "Could not load model. \"no such file\": It cannot be read: No such file or directory.");
-    EXPECT_EQ(findingsOf([] { Sim::Model::fromText("robot.xml"); }).at(0).code, "path-not-text");
+    Varo::Model::Finding const finding = findingsOf([] { Sim::Model::fromText("robot.xml"); }).at(0);
+    EXPECT_EQ(finding.code, "path-not-text");
+    EXPECT_EQ(std::pair(finding.line, finding.column), std::pair(1, 1));
 }
 
 TEST(Loading, AnErrorThatWasMovedFromHasNoFindings)
@@ -160,13 +155,6 @@ TEST(Loading, AnErrorThatWasMovedFromHasNoFindings)
     Sim::BuildError build("what", taken.findings());
     build = Sim::BuildError("other", {});
     EXPECT_TRUE(build.findings().empty());
-}
-
-TEST(Loading, RefusalsCarryTheFindings)
-{
-    EXPECT_THAT(findingsOf([] { Sim::Model("<robotDescription name='x'>\n  <nonsense/></robotDescription>"); }),
-                testing::Contains(testing::AllOf(testing::Field(&Varo::Model::Finding::line, 2),
-                                                 testing::Field(&Varo::Model::Finding::column, 3))));
 }
 
 TEST(Loading, AMovedFromModelSaysSo)

@@ -9,6 +9,7 @@
 #include "fake_robot.hpp"
 #include "sim/kinematics.hpp"
 #include "sim/model.hpp"
+#include "texts.hpp"
 #include "throws.hpp"
 #include "varo/model/configs.hpp"
 
@@ -54,11 +55,10 @@ protected:
 
 TEST_F(Configurations, HaveAValueForWhatFollowsNothing)
 {
-    std::vector<std::string> lines;
-    for (Sim::JointVariable const& variable : kinematics.variables()) {
-        lines.push_back(variable.name + " " + testing::PrintToString(std::pair(variable.min, variable.max)) +
-                        (variable.slides ? " m" : " rad"));
-    }
+    auto const lines = Tests::textsOf(kinematics.variables(), [](Sim::JointVariable const& variable) {
+        return variable.name + " " + testing::PrintToString(std::pair(variable.min, variable.max)) +
+               (variable.slides ? " m" : " rad");
+    });
     EXPECT_THAT(lines,
                 ElementsAre("Turn (-1, 1.5) rad", "Slide (-1, 1.5) m", "Spin (-inf, inf) rad", "Odd (-inf, inf) rad",
                             "Lead (-1, 1.5) rad", "Hand (0, 1) rad", "Wheel (-inf, inf) rad"));
@@ -151,11 +151,8 @@ TEST(ConfigurationOfMimics, FollowsTheirLeadersUnlessAnActuatorMovesThem)
 {
     Sim::Model const model(mimics);
     Sim::Kinematics const kinematics(model);
-    std::vector<std::string> names;
-    for (Sim::JointVariable const& variable : kinematics.variables()) {
-        names.push_back(variable.name);
-    }
-    EXPECT_THAT(names, ElementsAre("Free", "Hand", "Alone"));
+    EXPECT_THAT(Tests::textsOf(kinematics.variables(), [](auto const& variable) { return variable.name; }),
+                ElementsAre("Free", "Hand", "Alone"));
     Sim::Configuration configuration(kinematics);
     configuration.set({{"Free", 0.25}, {"Hand", 0.5}});
     std::vector<double> values;
@@ -165,6 +162,10 @@ TEST(ConfigurationOfMimics, FollowsTheirLeadersUnlessAnActuatorMovesThem)
     EXPECT_THAT(values, ElementsAre(-1.0, 1.5, 0.25, 0.25, 0.0));
     EXPECT_EQ(Tests::messageOf<std::invalid_argument>([&] { configuration.set("Third", 0.0); }),
               "\"Third\" follows \"Free\": give the value to \"Free\".");
+    EXPECT_NEAR(
+        kinematics.pose(configuration, *model.link("HeldLink")->frame(), *model.link("PlateLink")->frame())(1, 0),
+        std::sin(0.25), 1e-7)
+        << "which its leader, that stands still, gives it";
     // The pose of the second link: turned by Third at -1, then slid by Second at 1.5.
     Sim::Pose const pose = kinematics.pose(configuration, *model.link("SecondLink")->frame());
     EXPECT_NEAR(pose(1, 0), std::sin(-1.0), 1e-7);
@@ -178,23 +179,8 @@ TEST(ConfigurationOfMimics, ExistsOnlyWithoutCycles)
     for (auto const& [follower, leader] : {std::pair("A", "B"), std::pair("B", "C"), std::pair("C", "B")}) {
         robot->joints[follower].mimic = std::make_shared<Varo::Model::MimicConfig>(Varo::Model::MimicConfig{leader});
     }
-    Varo::Model::ModelUtils::Reading reading;
-    reading.robot = std::move(robot);
-    Sim::Model const model(std::move(reading));
+    Sim::Model const model({std::move(robot), {}, {}});
     EXPECT_THROW(Sim::Kinematics kinematics(model), std::invalid_argument);
-}
-
-TEST(ConfigurationOfUrdf, StandsStillBehindALeaderThatDoes)
-{
-    Sim::Model const model(R"(<robot name="r"><link name="a"/><link name="b"/><link name="c"/>
-<joint name="still" type="fixed"><parent link="a"/><child link="b"/></joint>
-<joint name="follows" type="revolute"><parent link="b"/><child link="c"/><axis xyz="0 0 1"/>
-<limit lower="-1" upper="1"/><mimic joint="still" offset="0.5"/></joint></robot>)");
-    Sim::Kinematics const kinematics(model);
-    Sim::Configuration const configuration(kinematics);
-    EXPECT_EQ(configuration.size(), 0U);
-    EXPECT_EQ(configuration.at("follows"), 0.5);
-    EXPECT_NEAR(kinematics.pose(configuration, kinematics.frame("c"))(1, 0), std::sin(0.5), 1e-7);
 }
 
 }  // namespace

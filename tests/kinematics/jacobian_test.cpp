@@ -14,21 +14,30 @@ constexpr double step = 1e-5;  // rad, or m
 
 using Matrix = Eigen::MatrixXd;
 
-/// How fast the frame's origin moves and the frame turns with each value, by central differences.
-Matrix differences(Sim::Kinematics const& kinematics, Sim::Configuration const& configuration, Sim::Frame const& frame)
+/// What a value of each joint does: the difference that it makes between two configurations, by central differences.
+template <class Difference>
+Matrix differences(Sim::Configuration const& configuration, Eigen::Index rows, Difference const& between)
 {
-    Matrix columns(6, static_cast<Eigen::Index>(configuration.size()));
+    Matrix columns(rows, static_cast<Eigen::Index>(configuration.size()));
     for (std::size_t i = 0; i < configuration.size(); ++i) {
         Sim::Configuration before = configuration;
         Sim::Configuration after = configuration;
         before.set(i, configuration[i] - step);
         after.set(i, configuration[i] + step);
+        columns.col(static_cast<Eigen::Index>(i)) = between(before, after);
+    }
+    return columns / (2 * step);
+}
+
+/// How fast the frame's origin moves and the frame turns.
+Matrix differences(Sim::Kinematics const& kinematics, Sim::Configuration const& configuration, Sim::Frame const& frame)
+{
+    return differences(configuration, 6, [&](auto const& before, auto const& after) {
         Eigen::Isometry3d const from = Sim::toEigen(kinematics.pose(before, frame));
         Eigen::Isometry3d const to = Sim::toEigen(kinematics.pose(after, frame));
         Eigen::AngleAxisd const turn(Eigen::Matrix3d(to.linear() * from.linear().transpose()));
-        columns.col(static_cast<Eigen::Index>(i)) << to.translation() - from.translation(), turn.angle() * turn.axis();
-    }
-    return columns / (2 * step);
+        return (Eigen::VectorXd(6) << to.translation() - from.translation(), turn.angle() * turn.axis()).finished();
+    });
 }
 
 void expectClose(Matrix const& actual, Matrix const& expected)
@@ -62,8 +71,14 @@ TEST(Jacobians, AreTheLimitsOfDifferences)
             expectClose(Sim::jacobian(kinematics, configuration, frame), expected);
             expectClose(Sim::jacobian(kinematics, configuration, frame, &axes), along(axesPose, expected));
         });
-        expectClose(Sim::centerOfMassJacobian(kinematics, configuration, &axes),
-                    along(axesPose, Sim::centerOfMassJacobian(kinematics, configuration)));
+        auto const centerOfMass = [&](auto const& at) {
+            return Sim::toEigen(kinematics.massProperties(at).centerOfMass);
+        };
+        Matrix const expected = differences(configuration, 3, [&](auto const& before, auto const& after) {
+            return Eigen::Vector3d(centerOfMass(after) - centerOfMass(before));
+        });
+        expectClose(Sim::centerOfMassJacobian(kinematics, configuration), expected);
+        expectClose(Sim::centerOfMassJacobian(kinematics, configuration, &axes), along(axesPose, expected));
     }
 }
 

@@ -45,6 +45,10 @@ TEST(Masses, AddUpToOneBody)
     EXPECT_EQ(arm.mass, 3.0);
     EXPECT_THAT(arm.centerOfMass, ElementsAre(DoubleNear(1, tolerance), DoubleNear(1, tolerance), 0.0));
     expectInertia(arm, {2, 0, 0, 0, 1, 0, 0, 0, 4});
+
+    // Three quarters of the mass go against x, in double precision.
+    EXPECT_THAT(kinematics.centerOfMassJacobian(configuration),
+                ElementsAre(DoubleNear(-0.75, 1e-12), DoubleNear(0, 1e-12), 0));
 }
 
 TEST(Masses, OfARobotWithoutMassAreZero)

@@ -1,5 +1,6 @@
 #include "varo/math/transform.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <random>
@@ -29,12 +30,10 @@ std::vector<Transform> randomPoses(int count)
     std::uniform_real_distribution<float> length(-3.0F, 3.0F);
     std::vector<Transform> poses;
     for (int i = 0; i < count; ++i) {
-        float const x = length(generator);
-        float const y = length(generator);
-        float const z = length(generator);
-        float const roll = angle(generator);
-        float const pitch = angle(generator);
-        float const yaw = angle(generator);
+        std::array<float, 6> values = {};
+        std::generate_n(values.begin(), 3, [&] { return length(generator); });
+        std::generate_n(values.begin() + 3, 3, [&] { return angle(generator); });
+        auto const [x, y, z, roll, pitch, yaw] = values;
         poses.push_back(Transform::fromPosition(x, y, z) * Transform::fromRpy(roll, pitch, yaw));
     }
     return poses;

@@ -139,6 +139,17 @@ TEST_P(LackOfMemory, IsNoFaultOfATextThatIsRefused)
     expectBadAllocs([&] { return everythingOf(broken.substr(0, broken.size() / 2)); });
 }
 
+/// What stayed behind of each would add up while they come and go.
+TEST(Models, LeaveNothingBehind)
+{
+    for (std::string const& file : Tests::exampleFiles()) {
+        Sim::Model(file).links();  // which also makes what is made but once
+        std::ptrdiff_t const before = Tests::liveAllocations();
+        EXPECT_FALSE(Sim::Model(file).links().empty());
+        EXPECT_EQ(Tests::liveAllocations(), before) << file;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Robots, LackOfMemory,
                          testing::Values("robots/minimal.xml", "robots/helvo_arm.xml", "tests/urdf/data/gripper.urdf",
                                          "tests/urdf/data/sensors.urdf"));

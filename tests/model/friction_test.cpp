@@ -11,12 +11,10 @@ using Varo::Model::getCoefFriction;
 
 TEST(Friction, DoesNotAskForAnOrder)
 {
-    for (auto const& [first, second, expected] : {std::tuple("steel", "steel", 0.74F),
-                                                  {"aluminium", "steel", 0.61F},
-                                                  {"steel", "teflon", 0.04F},
-                                                  {"rubber", "concrete", 1.0F},
-                                                  {"gum", "gum", 1.0F},
-                                                  {"glass", "glass", 0.94F}}) {
+    using Pair = std::tuple<char const*, char const*, float>;
+    for (auto const& [first, second, expected] :
+         {Pair{"steel", "steel", 0.74F}, Pair{"aluminium", "steel", 0.61F}, Pair{"steel", "teflon", 0.04F},
+          Pair{"rubber", "concrete", 1.0F}, Pair{"gum", "gum", 1.0F}, Pair{"glass", "glass", 0.94F}}) {
         float forth = -1.0F;
         float back = -1.0F;
         EXPECT_TRUE(getCoefFriction(first, second, forth) && getCoefFriction(second, first, back)) << first;

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "texts.hpp"
 #include "varo/model/model_utils.hpp"
 
 namespace Varo::Model {
@@ -19,12 +20,10 @@ std::string around(std::string const& elements)
 
 std::vector<std::string> placesOf(std::string const& xml)
 {
-    std::vector<std::string> places;
-    for (Finding const& finding : ModelUtils::diagnose(xml)) {
-        places.push_back(std::to_string(finding.column) + " " + finding.code +
-                         (finding.severity == Severity::error ? " refused" : ""));
-    }
-    return places;
+    return Tests::textsOf(ModelUtils::diagnose(xml), [](Finding const& finding) {
+        bool const isRefused = finding.severity == Severity::error;
+        return std::to_string(finding.column) + " " + finding.code + (isRefused ? " refused" : "");
+    });
 }
 
 TEST(References, OddNamesAndLimitsAreWarnedOfAndLoopingActuatorsRefused)
@@ -99,12 +98,10 @@ std::string mimicking(std::vector<std::string> const& leaders, std::string const
 TEST(References, OfMimicsAreCheckedThroughAllLeaders)
 {
     auto const found = [](std::string const& xml) {
-        std::vector<std::string> lines;
-        for (Finding const& finding : ModelUtils::diagnose(xml)) {
-            lines.push_back(std::to_string(finding.line) + " " + finding.path.substr(finding.path.rfind('/') + 1) +
-                            " " + finding.code);
-        }
-        return lines;
+        return Tests::textsOf(ModelUtils::diagnose(xml), [](Finding const& finding) {
+            std::string const element = finding.path.substr(finding.path.rfind('/') + 1);
+            return std::to_string(finding.line) + " " + element + " " + finding.code;
+        });
     };
     using Lines = std::vector<std::string>;
     EXPECT_EQ(found(mimicking({"J", "M0", "M1"})), Lines());

@@ -80,23 +80,12 @@ TEST_F(NativeShapes, ComeBackToTheLastBit)
     EXPECT_EQ(ModelUtils::toXml(*robot), shapely);
 }
 
-TEST_F(NativeShapes, AreReadAsStated)
+/// All that they state is in the dump of the tool, which is tested there.
+TEST_F(NativeShapes, HaveTheirPoseAndPlace)
 {
-    auto const& [visuals, collisions] = records.root.shapes;
-    ASSERT_EQ(visuals.size(), 2U);
-    EXPECT_EQ(visuals[0].name, "shell");
-    EXPECT_EQ(visuals[0].position, (Position3D{1, 2, 0}));
-    EXPECT_EQ(visuals[0].geometry.uri, " package://r/b.dae");
-    EXPECT_EQ(visuals[0].geometry.scale, (Position3D{1, -1, 0.001F}));
-    EXPECT_EQ(robot->place(visuals[0].textOffset).line, 4);
-    EXPECT_EQ(visuals[0].material->texture, "r.png");
-    EXPECT_THAT(visuals[0].material->rgba, ElementsAre(1, 0.5F, 0, 0.25F));
-    EXPECT_EQ(visuals[1].geometry.type, GeometryType::box);
-    EXPECT_EQ(visuals[1].geometry.size, (Position3D{0.3F, 0, 0.1F}));
-    ASSERT_EQ(collisions.size(), 1U);
-    EXPECT_EQ(collisions[0].geometry.type, GeometryType::capsule);
-    EXPECT_TRUE(poseOf(visuals[0]).isNear(Transform::fromPosition(1, 2, 0) * Transform::fromRpy(0.1F, 0.2F, 0)));
-
+    VisualConfig const& shell = records.root.shapes.visuals.at(0);
+    EXPECT_TRUE(poseOf(shell).isNear(Transform::fromPosition(1, 2, 0) * Transform::fromRpy(0.1F, 0.2F, 0)));
+    EXPECT_EQ(robot->place(shell.textOffset).line, 4);
     EXPECT_FALSE(records.joints.find("J")->shapes.visuals[0].material->hasColor);
 }
 

@@ -45,15 +45,11 @@ TEST(Body, IsThatOfTheFirstTableThatKnowsTheName)
         EXPECT_EQ(answerOf(model, &Motion::CoM, name), std::nullopt);
         EXPECT_EQ(answerOf(model, &Motion::inertiaMatrix, name), std::nullopt);
     }
-}
-
-TEST(Body, OfAJointHidesTheRootsOfTheSameName)
-{
-    auto const model = modelOf([](FakeRobot& robot) {
+    auto const hidden = modelOf([](FakeRobot& robot) {
         giveBody(robot.root, 2.0F);
-        giveBody(robot.addJoint("Torso"), 8.0F);
+        giveBody(robot.addJoint(robot.root.name), 8.0F);
     });
-    EXPECT_EQ(answerOf(model, &Motion::mass, "Torso"), 8.0F);
+    EXPECT_EQ(answerOf(hidden, &Motion::mass, "Torso"), 8.0F) << "the root's is hidden";
 }
 
 TEST(Mesh, HasNoPoseOfItsOwn)
@@ -107,20 +103,14 @@ TEST(Limits, OfAnActuatorReplaceThoseOfAJointOfTheSameName)
     }
 }
 
+/// What they are of those that have one is compared with the object model for all our robots.
 TEST(SingleFields, AreReadFromOneTableOnly)
 {
     auto const model = modelOf([](FakeRobot& robot) {
-        auto& wheel = robot.addWheel("Wheel", "Torso");
-        wheel.maxTorque = 1.0F;
-        wheel.maxVelocity = 2.0F;
+        robot.addWheel("Wheel", "Torso").maxTorque = 1.0F;
         robot.addActuator("Hand", "Wrist", {{"Phalanx"}});
-        robot.subActuators["Phalanx"].ratio = 0.5F;
     });
     EXPECT_EQ(answerOf(model, &Motion::maxTorqueFromWheel, "Wheel"), 1.0F);
-    EXPECT_EQ(answerOf(model, &Motion::maxVelocityFromWheel, "Wheel"), 2.0F);
-    EXPECT_EQ(answerOf(model, &Motion::ratioFromJoint, "Phalanx"), 0.5F);
-    EXPECT_EQ(answerOf(model, &Motion::parentJointFromWheel, "Wheel"), "Torso");
-    EXPECT_EQ(answerOf(model, &Motion::parentJointFromActuator, "Hand"), "Wrist");
     for (auto const query : {&Motion::maxTorqueFromWheel, &Motion::maxVelocityFromWheel, &Motion::ratioFromJoint}) {
         EXPECT_EQ(answerOf(model, query, "Hand"), std::nullopt);
     }

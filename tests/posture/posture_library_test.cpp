@@ -75,8 +75,7 @@ TEST_F(PostureLibraryTest, ValuesComeThroughBitByBitWhereDecimalsHaveAComma)
 {
     std::string const before = std::setlocale(LC_ALL, nullptr);
     EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "CTest says where it is";
-    float const values[] = {0.1F, 1.0F / 3.0F, 1e-45F, -3.4028235e38F, 16777216.0F};
-    for (float const value : values) {
+    for (float const value : {0.1F, 1.0F / 3.0F, 1e-45F, -3.4028235e38F, 16777216.0F}) {
         robot.postureList = {{"Stand", {{"Neck", value}}}};
         load();
         EXPECT_EQ(valuesOf("Stand", true).front(), value);
@@ -132,28 +131,30 @@ TEST_F(PostureLibraryTest, AnUnknownPostureLeavesEveryNameOut)
 TEST_F(PostureLibraryTest, RefusesNamesThatAreNotItsOwnAndIsEmptyThen)
 {
     std::string const prefix = "data:application/vnd.varo.postures,";
-    for (std::string const& name : {std::string("stand.postures"),
-                                    std::string("data:text/plain,1;A=1"),
-                                    prefix,
-                                    prefix + "1",
-                                    prefix + "x;A=1",
-                                    prefix + "-1;A=0:1",
-                                    prefix + "1;A=1:1",
-                                    prefix + "1;A=1",
-                                    prefix + "1;A=0:one",
-                                    prefix + "1;A=0:0x1",
-                                    prefix + "1;A=0:+1",
-                                    prefix + "1;A=0:1 ",
-                                    prefix + "1;A%4=0:1",
-                                    prefix + "1;A%zz=0:1",
-                                    prefix + "1,0;A=0:1",
-                                    prefix + "1,0=1;A=0:1",
-                                    prefix + "1,1=0;A=0:1",
-                                    prefix + "18446744073709551615;A=:1",
-                                    prefix + "100000000;A=0:1",
-                                    prefix + "18446744073709551615;",
-                                    prefix + "99999999999999999999;A=0:1",
-                                    prefix + "1;A=0:1;B=0:1e99"}) {
+    std::vector<std::string> names = {"stand.postures", "data:text/plain,1;A=1"};
+    for (char const* behind : {"",
+                               "1",
+                               "x;A=1",
+                               "-1;A=0:1",
+                               "1;A=1:1",
+                               "1;A=1",
+                               "1;A=0:one",
+                               "1;A=0:0x1",
+                               "1;A=0:+1",
+                               "1;A=0:1 ",
+                               "1;A%4=0:1",
+                               "1;A%zz=0:1",
+                               "1,0;A=0:1",
+                               "1,0=1;A=0:1",
+                               "1,1=0;A=0:1",
+                               "18446744073709551615;A=:1",
+                               "100000000;A=0:1",
+                               "18446744073709551615;",
+                               "99999999999999999999;A=0:1",
+                               "1;A=0:1;B=0:1e99"}) {
+        names.push_back(prefix + behind);
+    }
+    for (std::string const& name : names) {
         ASSERT_TRUE(library.loadLibraryFromName(prefix + "1;A=0:1"));
         EXPECT_FALSE(library.loadLibraryFromName(name)) << name;
         EXPECT_EQ(library.getIdFromName("A"), -1) << name;

@@ -136,11 +136,13 @@ protected:
     }
 
     template <class Device>
-    void expectSize(Device const* device) const
+    void expectSizes(std::vector<Device const*> const& devices) const
     {
-        std::vector<std::pair<int, int>> resolutions;
-        if (motion.resolutionsFromCamera(device->name(), resolutions)) {
-            EXPECT_EQ(std::pair(device->width(), device->height()), resolutions.front()) << device->name();
+        for (Device const* device : devices) {
+            std::vector<std::pair<int, int>> resolutions;
+            if (motion.resolutionsFromCamera(device->name(), resolutions)) {
+                EXPECT_EQ(std::pair(device->width(), device->height()), resolutions.front()) << device->name();
+            }
         }
     }
 };
@@ -185,7 +187,7 @@ TEST_P(Agreement, OnTheBodyOfEveryLink)
     }
 }
 
-TEST_P(Agreement, OnThePlaceOfEveryJoint)
+TEST_P(Agreement, OnThePlaceAndTheMirrorOfEveryJoint)
 {
     for (Sim::Joint const* joint : model.joints()) {
         SCOPED_TRACE(joint->name());
@@ -196,13 +198,7 @@ TEST_P(Agreement, OnThePlaceOfEveryJoint)
         EXPECT_EQ(joint->frame()->parentFrame(), joint->parentLink()->frame());
         EXPECT_EQ(joint->frame()->localPosition(), pose);
         EXPECT_EQ(joint->frame()->position(), pose);
-    }
-}
 
-TEST_P(Agreement, OnMirrorsOfJoints)
-{
-    for (Sim::Joint const* joint : model.joints()) {
-        SCOPED_TRACE(joint->name());
         std::string mirror;
         bool reflected = false;
         bool const isMirrored = motion.mirrorNameFromJointName(joint->name(), mirror, reflected);
@@ -319,14 +315,10 @@ TEST_P(Agreement, OnDevices)
     expectDevices(Varo::Model::sonar, model.sonarSensors());
     expectDevices(Varo::Model::fsr, model.fsrSensors());
     expectDevices(Varo::Model::inertial, model.inertialSensors(), "/Gyrometer");
-    for (Sim::CameraSensor const* camera : model.cameraSensors()) {
-        expectSize(camera);
-    }
-    for (Sim::CameraDepthSensor const* camera : model.cameraDepthSensors()) {
-        expectSize(camera);
-    }
+    expectSizes(model.cameraSensors());
+    expectSizes(model.cameraDepthSensors());
+    expectSizes(model.arrayDepthSensors());
     for (Sim::ArrayDepthSensor const* grid : model.arrayDepthSensors()) {
-        expectSize(grid);
         EXPECT_EQ(grid->dcmStateKeys(), asked<Names>(&Motion::dcmStateKeys, grid->name()));
         EXPECT_EQ(grid->dcmCommandKeys(), asked<Names>(&Motion::dcmCommandKeys, grid->name()));
     }

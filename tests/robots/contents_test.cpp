@@ -1,4 +1,3 @@
-#include <cmath>
 #include <set>
 
 #include <gmock/gmock.h>
@@ -6,7 +5,6 @@
 #include "example_robots.hpp"
 #include "sim/model.hpp"
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -45,36 +43,6 @@ TEST(ExampleRobots, ShowEveryKindOfDeviceThatLoadingMakes)
     EXPECT_EQ(sensors, (std::set<int>{Sensor::Angle, Sensor::Coupled, Sensor::Sonar, Sensor::Camera, Sensor::FSR,
                                       Sensor::Inertial, Sensor::Bumper, Sensor::Tactile, Sensor::ArrayDepth,
                                       Sensor::CameraDepth, Sensor::Microphone}));
-}
-
-TEST(Rover, StandsOnTheShapesOfItsWheels)
-{
-    Sim::Model const model(Tests::examplePath("rover"));
-    for (Sim::WheelVelocityActuator const* motor : model.wheelVelocityActuators()) {
-        Sim::Link const* const wheel = motor->controlledJoint()->childLink();
-        ASSERT_THAT(wheel->collisions(), SizeIs(1));
-        Sim::Collision const disc = wheel->collisions().front();
-        EXPECT_NEAR(std::abs(disc.pose(0, 2)), 1, 1e-6) << "its axis is that of the wheel";
-        float const height = (Sim::Frame::globalPosition(wheel->frame()) * disc.pose).position().z;
-        EXPECT_NEAR(height - disc.geometry.radius, -0.24, 1e-6);
-    }
-    std::vector<Sim::Visual> const chassis = model.rootLink()->visuals();
-    ASSERT_THAT(chassis, SizeIs(2));
-    EXPECT_EQ(chassis[0].geometry.uri, model.rootLink()->visual()->meshPath());
-    EXPECT_EQ(chassis[1].material->name, "black");
-}
-
-TEST(MobileArm, MovesFingersAndTipsTogether)
-{
-    Sim::Model const model(Tests::examplePath("mobile_arm"));
-    auto const* const gripper = model.coupledActuator("left_finger_slideCoupling");
-    ASSERT_NE(gripper, nullptr);
-    std::vector<std::pair<std::string, float>> ratios;
-    for (auto const& [joint, ratio] : gripper->controlledJointAndRatios()) {
-        ratios.emplace_back(joint->name(), ratio);
-    }
-    EXPECT_THAT(ratios, ElementsAre(std::pair("left_finger_slide", 1.0F), std::pair("left_tip_turn", -8.0F),
-                                    std::pair("right_finger_slide", 1.0F), std::pair("right_tip_turn", 8.0F)));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <set>
 
 #include <gmock/gmock.h>
 
@@ -63,21 +64,44 @@ float senseOf(Sim::Joint const* left, Sim::Joint const* right)
     return -a(0, 2) * b(0, 2) + a(1, 2) * b(1, 2) - a(2, 2) * b(2, 2);
 }
 
-TEST_F(StandingHumanoid, HasMirroredJointsOppositeEachOtherTurningAsTheyState)
+void expectReflected(Position3D const& left, Position3D const& right)
 {
-    int reversedOnes = 0;
+    EXPECT_NEAR(left.x, right.x, tolerance);
+    EXPECT_NEAR(left.y, -right.y, tolerance);
+    EXPECT_NEAR(left.z, right.z, tolerance);
+}
+
+/// The humanoid by what its text states; URDFs, which name their sides and state no mirrors, by what is inferred.
+class StandingPairs : public testing::TestWithParam<char const*> {};
+
+TEST_P(StandingPairs, ReflectEachOtherAndTurnAsTheyState)
+{
+    Sim::Model const model(Tests::examplePath(GetParam()));
+    std::set<bool> kinds;
     for (Sim::JointSymmetry const* symmetry : model.jointSymmetries()) {
         auto const [left, right] = symmetry->symmetricJoints();
         ASSERT_NE(right, nullptr) << left->name();
-        bool const reversed = symmetry->symmetryType() == Sim::JointSymmetry::ReflectedSymmetricReversed;
-        reversedOnes += reversed ? 1 : 0;
-        EXPECT_NEAR(senseOf(left, right), reversed ? -1 : 1, tolerance) << left->name();
-        Position3D const position = poseOf(left).position();
-        expectColumn(poseOf(right), 3, position.x, -position.y, position.z);
+        SCOPED_TRACE(left->name());
+        bool const isReversed = symmetry->symmetryType() == Sim::JointSymmetry::ReflectedSymmetricReversed;
+        kinds.insert(isReversed);
+        // What slides reflects with its axis, a vector; what turns, with the opposite of that.
+        bool const isAlike = (senseOf(left, right) > 0) != (left->type() == Sim::Joint::Type::prismatic);
+        EXPECT_NE(isReversed, isAlike);
+        expectReflected(poseOf(left).position(), poseOf(right).position());
+        Sim::MassData const* const a = left->childLink()->mass();
+        Sim::MassData const* const b = right->childLink()->mass();
+        expectReflected(poseOf(left->childLink()) * a->CoM(), poseOf(right->childLink()) * b->CoM());
+        EXPECT_EQ(a->mass(), b->mass());
+        if (left->hasMotor()) {
+            EXPECT_EQ(left->limits().lower, isAlike ? right->limits().lower : -right->limits().upper);
+            EXPECT_EQ(left->limits().upper, isAlike ? right->limits().upper : -right->limits().lower);
+        }
     }
-    EXPECT_EQ(model.jointSymmetries().size(), 11U);
-    EXPECT_EQ(reversedOnes, 6);
+    EXPECT_EQ(kinds.size(), 2U);
 }
+
+INSTANTIATE_TEST_SUITE_P(All, StandingPairs, testing::Values("humanoid", "quadruped", "mobile_arm"),
+                         [](auto const& robot) { return std::string(robot.param); });
 
 TEST_F(StandingHumanoid, ClosesItsFingersTowardsTheBody)
 {
@@ -94,21 +118,22 @@ TEST_F(StandingHumanoid, ClosesItsFingersTowardsTheBody)
 TEST(StandingRover, RollsForwardOnFourWheels)
 {
     Sim::Model const model(Tests::examplePath("rover"));
-    int wheels = 0;
-    for (Sim::Link const* link : model.links()) {
-        if (link->type() != Sim::Link::Wheel) {
-            continue;
-        }
-        ++wheels;
+    EXPECT_THAT(model.wheelVelocityActuators(), testing::SizeIs(4));
+    for (Sim::WheelVelocityActuator const* motor : model.wheelVelocityActuators()) {
+        SCOPED_TRACE(motor->name());
+        Sim::Link const* const wheel = motor->controlledJoint()->childLink();
+        ASSERT_THAT(wheel->collisions(), testing::SizeIs(1));
+        Sim::Collision const disc = wheel->collisions().front();
         // A solid disc turns about its axis with half its mass times the radius squared.
-        float const radius = std::sqrt(2 * link->mass()->inertiaMatrix().front() / link->mass()->mass());
-        Position3D const hub = poseOf(link).position();
-        EXPECT_NEAR(hub.z - radius, -0.24F, tolerance) << link->name();
-        expectColumn(poseOf(link->parentJoint()), 2, 0, 1, 0);
-        EXPECT_EQ(hub.x > 0, link->name().find("Front") == 0) << link->name();
-        EXPECT_EQ(hub.y > 0, link->name().find("Left") != std::string::npos) << link->name();
+        float const radius = std::sqrt(2 * wheel->mass()->inertiaMatrix().front() / wheel->mass()->mass());
+        EXPECT_NEAR(radius, disc.geometry.radius, tolerance);
+        EXPECT_NEAR(std::abs(disc.pose(0, 2)), 1, tolerance) << "its axis is that of the wheel";
+        Position3D const hub = (poseOf(wheel) * disc.pose).position();
+        EXPECT_NEAR(hub.z - radius, -0.24F, tolerance);
+        expectColumn(poseOf(wheel->parentJoint()), 2, 0, 1, 0);
+        EXPECT_EQ(hub.x > 0, wheel->name().find("Front") == 0);
+        EXPECT_EQ(hub.y > 0, wheel->name().find("Left") != std::string::npos);
     }
-    EXPECT_EQ(wheels, 4);
     EXPECT_GT(poseOf(model.cameraSensor("MastCamera")).position().z, 0.4F);
 }
 

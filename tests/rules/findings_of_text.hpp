@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "texts.hpp"
 #include "varo/model/lint.hpp"
 #include "varo/model/model_utils.hpp"
 
@@ -30,11 +31,8 @@ inline Findings findingsOf(std::string const& text, LintOptions const& options =
 /// "LINE CODE" of each.
 inline Strings linesAndCodes(std::string const& text, LintOptions const& options = {})
 {
-    Strings texts;
-    for (Finding const& finding : findingsOf(text, options)) {
-        texts.push_back(std::to_string(finding.line) + " " + finding.code);
-    }
-    return texts;
+    return Tests::textsOf(findingsOf(text, options),
+                          [](Finding const& finding) { return std::to_string(finding.line) + " " + finding.code; });
 }
 
 }  // namespace RulesTest

@@ -1,12 +1,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <regex>
 #include <sstream>
 
 #include <gmock/gmock.h>
 
 #include "files.hpp"
 #include "findings_of_text.hpp"
+#include "texts.hpp"
 
 /// What is found in whole robots: our own, and real ones where they stand beside the sources.
 namespace RulesTest {
@@ -54,62 +56,35 @@ std::string compact(Finding const& finding)
 TEST(KnownRobots, HaveTheFindingsThatWereJudged)
 {
     for (std::string const& file : robotFiles()) {
-        Strings found;
-        for (Finding const& finding : findingsOf(Tests::readFile(file))) {
-            found.push_back(compact(finding));
-        }
+        Strings const found = Tests::textsOf(findingsOf(Tests::readFile(file)), compact);
         std::string const judged = data + "/expected/" + nameOf(file) + ".txt";
         bool const isJudged = std::filesystem::exists(judged);
         EXPECT_EQ(found, isJudged ? linesOf(judged) : Strings{"judged in " + judged}) << file;
     }
 }
 
-/// A fault of the list, in the order of its parts there.
-struct Seed {
-    std::string start;
-    std::string from;
-    std::string to;
-    std::string code;
-};
-
-Seed seedOf(std::string const& line)
+/// Puts the fault of a line of the list into the text and returns "LINE CODE" of what is to be found.
+std::string sow(std::string const& line, std::string& text)
 {
-    constexpr char separator[] = " | ";
-    Strings parts;
-    for (std::size_t begin = 0; begin <= line.size();) {
-        std::size_t const end = std::min(line.find(separator, begin), line.size());
-        parts.push_back(line.substr(begin, end - begin));
-        begin = end + std::size(separator) - 1;
-    }
-    EXPECT_EQ(parts.size(), 4U) << line;
-    parts.resize(4);
-    return {parts[0], parts[1], parts[2], parts[3]};
-}
-
-/// Puts the fault into the text and returns "LINE CODE" of what is to be found.
-std::string sow(Seed const& seed, std::string& text)
-{
-    std::size_t const start = text.find(seed.start);
-    std::size_t const place = start == text.npos ? start : text.find(seed.from, start);
-    if (place == text.npos) {
-        ADD_FAILURE() << seed.start << " | " << seed.from;
-        return {};
-    }
-    text.replace(place, seed.from.size(), seed.to);
-    auto const end = text.begin() + static_cast<std::ptrdiff_t>(place);
-    return std::to_string(1 + std::count(text.begin(), end, '\n')) + " " + seed.code;
+    static std::regex const parts("(.*) [|] (.*) [|] (.*) [|] (.*)");
+    std::smatch seed;
+    EXPECT_TRUE(std::regex_match(line, seed, parts)) << line;
+    std::size_t const place = text.find(seed[2], text.find(seed[1]));
+    text = Tests::replaced(text, seed[2], seed[3], seed[1]);
+    auto const end = text.begin() + static_cast<std::ptrdiff_t>(std::min(place, text.size()));
+    return std::to_string(1 + std::count(text.begin(), end, '\n')) + " " + seed[4].str();
 }
 
 /// The seeds of each file.
-std::map<std::string, std::vector<Seed>> seeds()
+std::map<std::string, Strings> seeds()
 {
-    std::map<std::string, std::vector<Seed>> seeds;
+    std::map<std::string, Strings> seeds;
     std::string file;
     for (std::string const& line : linesOf(data + "/data/seeded_faults.txt")) {
         if (line.find("file ") == 0) {
             file = line.substr(5);
         } else {
-            seeds[file].push_back(seedOf(line));
+            seeds[file].push_back(line);
         }
     }
     return seeds;
@@ -127,7 +102,7 @@ TEST(KnownRobots, ShowTenSeededFaultsEachOnItsLine)
         }
         std::string text = Tests::readFile(file);
         Strings expected = linesAndCodes(text);
-        for (Seed const& seed : faults->second) {
+        for (std::string const& seed : faults->second) {
             expected.push_back(sow(seed, text));
         }
         EXPECT_EQ(faults->second.size(), 10U) << file;

@@ -5,6 +5,7 @@
 #include "files.hpp"
 #include "findings_of_text.hpp"
 #include "robot/side_names.hpp"
+#include "texts.hpp"
 
 namespace RulesTest {
 
@@ -34,21 +35,7 @@ std::string biped()
            leg("right", "0", "lower=\"-1\" upper=\"0.5\"") + "</robot>";
 }
 
-std::string replaced(std::string text, std::string const& from, std::string const& to)
-{
-    std::size_t const place = text.find(from);
-    EXPECT_NE(place, std::string::npos) << from;
-    return place == std::string::npos ? text : text.replace(place, from.size(), to);
-}
-
-/// The same in what follows `start`, which is how a test changes one side only.
-std::string replacedAfter(std::string const& text, std::string const& start, std::string const& from,
-                          std::string const& to)
-{
-    std::size_t const place = text.find(start);
-    EXPECT_NE(place, std::string::npos) << start;
-    return text.substr(0, place) + replaced(text.substr(place), from, to);
-}
+using Tests::replaced;
 
 /// "LINE CODE" of what the rules find about left and right.
 Strings sidesOf(std::string const& text)
@@ -64,18 +51,11 @@ Strings sidesOf(std::string const& text)
 
 TEST(SideNames, LeadToTheOtherSide)
 {
-    for (auto const& [name, other] : std::vector<std::pair<std::string, std::string>>{
-             {"left_hip", "right_hip"},
-             {"RightArm", "LeftArm"},
-             {"ARM_LEFT", "ARM_RIGHT"},
-             {"wheel_l", "wheel_r"},
-             {"LHipYaw", "RHipYaw"},
-             {"j_l_wheel_y", "j_r_wheel_y"},
-             {"LF_HAA", "RF_HAA"},
-             {"FL_hip", "FR_hip"},
-             {"RL_calf", "RR_calf"},
-             {"lh_kfe", "rh_kfe"},
-         }) {
+    using Pair = std::pair<char const*, char const*>;
+    for (auto const& [name, other] :
+         {Pair{"left_hip", "right_hip"}, Pair{"RightArm", "LeftArm"}, Pair{"ARM_LEFT", "ARM_RIGHT"},
+          Pair{"wheel_l", "wheel_r"}, Pair{"LHipYaw", "RHipYaw"}, Pair{"j_l_wheel_y", "j_r_wheel_y"},
+          Pair{"LF_HAA", "RF_HAA"}, Pair{"FL_hip", "FR_hip"}, Pair{"RL_calf", "RR_calf"}, Pair{"lh_kfe", "rh_kfe"}}) {
         SideNames const names = otherSideOf(name);
         EXPECT_TRUE(names.areMarked) << name;
         EXPECT_THAT(names.others, testing::Contains(other)) << name;
@@ -113,18 +93,15 @@ TEST(Sides, AreComparedInAllThatMirrors)
     };
     std::string const whole = biped();
     for (Case const& given : std::vector<Case>{
-             {replacedAfter(whole, knee, "mass value=\"1\"", "mass value=\"1.1\""), {"18 mass-not-mirrored"}},
-             {replacedAfter(whole, knee, "0.01 0 -0.1", "0.01 0.01 -0.1"), {"18 com-not-mirrored"}},
-             {replacedAfter(whole, knee, "iyy=\"0.1\"", "iyy=\"0.11\""), {"18 inertia-not-mirrored"}},
-             {replacedAfter(whole, kneeJoint, "upper=\"2\"", "upper=\"2.1\""), {"20 limits-not-mirrored"}},
-             {replacedAfter(whole, kneeJoint, "effort=\"9\"", "effort=\"8\""), {"20 effort-not-mirrored"}},
-             {replacedAfter(whole, kneeJoint, "velocity=\"4\"", "velocity=\"5\""), {"20 velocity-not-mirrored"}},
-             {replacedAfter(whole, kneeJoint, "/></joint>", "/><dynamics damping=\"1\"/></joint>"),
+             {replaced(whole, "mass value=\"1\"", "mass value=\"1.1\"", knee), {"18 mass-not-mirrored"}},
+             {replaced(whole, "upper=\"2\"", "upper=\"2.1\"", kneeJoint), {"20 limits-not-mirrored"}},
+             {replaced(whole, "effort=\"9\"", "effort=\"8\"", kneeJoint), {"20 effort-not-mirrored"}},
+             {replaced(whole, "/></joint>", "/><dynamics damping=\"1\"/></joint>", kneeJoint),
               {"20 damping-not-mirrored"}},
-             {replacedAfter(whole, kneeJoint, "0 1 0", "0 0.6 0.8"), {"19 axis-not-mirrored"}},
-             {replacedAfter(whole, kneeJoint, "revolute", "fixed"), {"19 type-not-mirrored"}},
+             {replaced(whole, "0 1 0", "0 0.6 0.8", kneeJoint), {"19 axis-not-mirrored"}},
+             {replaced(whole, "revolute", "fixed", kneeJoint), {"19 type-not-mirrored"}},
              // What the displaced joint carries is not told again.
-             {replacedAfter(whole, "<joint name=\"right_hip\"", "0 0 -0.1", "0 0 -0.15"), {"16 place-not-mirrored"}},
+             {replaced(whole, "0 0 -0.1", "0 0 -0.15", "<joint name=\"right_hip\""), {"16 place-not-mirrored"}},
              {replaced(whole, "</robot>", joint("left_toe", "left_knee_link", "0 0 0", "0 1 0", "") + "</robot>"),
               {"22 no-counterpart"}},
          }) {
@@ -163,7 +140,7 @@ TEST(Sides, CompareWhatIsAttachedToThem)
              {"RHand", "ratio=\"1\"", "ratio=\"2\"", "actuator-not-mirrored"},
              {"RHand", "0.1 -0.2", "0.1 -0.3", "actuator-not-mirrored"},
          }) {
-        EXPECT_THAT(sidesOf(replacedAfter(text, given.start, given.from, given.to)),
+        EXPECT_THAT(sidesOf(replaced(text, given.from, given.to, given.start)),
                     testing::ElementsAre(testing::EndsWith(" " + given.code)))
             << given.to;
     }
@@ -176,8 +153,8 @@ TEST(Sides, CompareWhatIsAttachedToThem)
 std::string bipedWith(std::string const& left, std::string const& right, std::string const& before = "</link>")
 {
     std::string const start = before == "</link>" ? "<link name=\"" : "<joint name=\"";
-    std::string const text = replacedAfter(biped(), start + "left_knee", before, left + before);
-    return replacedAfter(text, start + "right_knee", before, right + before);
+    std::string const text = replaced(biped(), before, left + before, start + "left_knee");
+    return replaced(text, before, right + before, start + "right_knee");
 }
 
 TEST(Sides, AreComparedInShapesAndMeshes)
@@ -235,7 +212,7 @@ TEST(Sides, HaveMimicsWithTheSignsOfTheirAxes)
 TEST(Sides, OfRobotsThatDoNotMirrorAreToldOnce)
 {
     std::string const turned =
-        replacedAfter(biped(), "<joint name=\"right_roll\"", "xyz=\"0 0 0\"", "xyz=\"0 0.1 0\" rpy=\"0 0.7 0.4\"");
+        replaced(biped(), "xyz=\"0 0 0\"", "xyz=\"0 0.1 0\" rpy=\"0 0.7 0.4\"", "<joint name=\"right_roll\"");
     EXPECT_EQ(sidesOf(turned), Strings{"2 sides-not-mirrored"});
     EXPECT_EQ(ModelUtils::read(turned).robot->records()->joints.find("left_roll")->mirrorKind, noMirror);
 }
@@ -251,7 +228,7 @@ TEST(Sides, OfANativeTextAreComparedAndNeverMade)
     ASSERT_NE(native.robot, nullptr);
     EXPECT_EQ(native.robot->records()->joints.find("left_roll")->mirrorKind, noMirror);
     EXPECT_THAT(sidesOf(text), testing::IsEmpty());
-    EXPECT_EQ(sidesOf(replacedAfter(text, "\"right_knee\"", "value=\"1\"", "value=\"1.1\"")).size(), 1U);
+    EXPECT_EQ(sidesOf(replaced(text, "value=\"1\"", "value=\"1.1\"", "\"right_knee\"")).size(), 1U);
 }
 
 }  // namespace

@@ -78,13 +78,8 @@ TEST(SensorLoading, GivesArrayDepthSensorsWithoutResolutionsOneRow)
 
 TEST(SensorLoading, RefusesCamerasWithoutResolutions)
 {
-    for (std::string const type : {"camera", "depthCamera"}) {
-        for (std::string const& inside : {std::string(), attribute("resolutions", "&#10;")}) {
-            EXPECT_EQ(messageOf<std::runtime_error>(
-                          [&] { Sim::Model const model(robot(sensor("Eye", "Base", type, inside))); }),
-                      "Could not get Eye resolutions\n");
-        }
-    }
+    std::string const blank = robot(sensor("Eye", "Base", "depthCamera", attribute("resolutions", "&#10;")));
+    EXPECT_EQ(messageOf<std::runtime_error>([&] { Sim::Model const model(blank); }), "Could not get Eye resolutions\n");
 }
 
 TEST(SensorLoading, DerivesSensorsFromActuatorsByTheModelsName)

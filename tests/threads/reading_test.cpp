@@ -67,12 +67,9 @@ std::string contentsOf(Sim::MotionModel const& model)
     for (std::string const& joint : model.jointNames()) {
         Varo::Math::Transform pose;
         std::string parent;
-        std::string mirror;
         float angle = 0.0F;
-        bool reflected = false;
         out << joint << model.transformFromJointName(joint, pose, parent) << parent << pose(0, 3)
-            << model.mirrorNameFromJointName(joint, mirror, reflected) << mirror << model.startAngle(joint, angle)
-            << angle << model.followingJoints(joint).size() << '\n';
+            << model.startAngle(joint, angle) << angle << model.followingJoints(joint).size() << '\n';
     }
     return out.str();
 }

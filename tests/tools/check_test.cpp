@@ -1,9 +1,11 @@
+#include <regex>
 #include <set>
 #include <sstream>
 
 #include <nlohmann/json.hpp>
 
 #include "run_tool.hpp"
+#include "texts.hpp"
 
 namespace ToolTest {
 
@@ -22,23 +24,6 @@ constexpr char doubtful[] = R"(<robotDescription name="A">
   <sensor name="S" parent="Nobody" type="bumper"/>
 </robotDescription>
 )";
-
-/// The codes of all rows "| `code` | severity | ...".
-void collectCodes(std::string const& page, std::set<std::string>& codes)
-{
-    std::istringstream lines(page);
-    std::string line;
-    while (std::getline(lines, line)) {
-        std::istringstream words(line);
-        std::string bar;
-        std::string code;
-        std::string severity;
-        words >> bar >> code >> bar >> severity;
-        if (severity == "error" || severity == "warning" || severity == "note") {
-            codes.insert(code.substr(1, code.size() - 2));
-        }
-    }
-}
 
 TEST_F(Check, ReportsFiveFaultsInOneRunEachInItsPlace)
 {
@@ -89,32 +74,20 @@ TEST_F(Check, StrictTakesWarningsForErrorsUnlessSilenced)
     }
 }
 
-TEST_F(Check, ErrorsCannotBeSilenced)
+TEST_F(Check, BuildsTheModelTooAndTellsOfAFaultOnce)
 {
-    EXPECT_EQ(
-        run({"check", "--silence", "missing-element", "--silence", "missing-attribute", "-"}, "<robotDescription/>")
-            .status,
-        1);
-}
-
-TEST_F(Check, BuildsTheModelToo)
-{
-    std::string text = legs;
-    text.erase(text.find("<attribute"), text.find("</sensor>") - text.find("<attribute"));
-    Outcome const outcome = run({"check", "-"}, text);
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err,
+    std::string sizeless = legs;
+    sizeless.erase(sizeless.find("<attribute"), sizeless.find("</sensor>") - sizeless.find("<attribute"));
+    EXPECT_EQ(run({"check", "-"}, sizeless).err,
               "<stdin>:12:3: error: The sensor \"Eye\" states no resolution, so no model can be built. "
               "[model-not-built]\n"
               "    Add <attribute name=\"resolutions\" value=\"640 480\"/> with its own width and height.\n" +
                   std::string(fixErrors));
-}
-
-TEST_F(Check, ReportsAMisspeltJointOnce)
-{
-    std::string text = readFile(VARO_SOURCE_DIR "/robots/minimal.xml");
-    text.replace(text.find("\"Turn\"/>"), 6, "\"TurN\"");
-    EXPECT_EQ(run({"check", "-"}, text).err,
+    std::string const misspelt =
+        Tests::replaced(readFile(VARO_SOURCE_DIR "/robots/minimal.xml"), "\"Turn\"/>", "\"TurN\"/>");
+    Outcome const outcome = run({"check", "-"}, misspelt);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err,
               "<stdin>:39:15: error: There is no joint \"TurN\", so no model can be built. [model-not-built]\n"
               "    Did you mean \"Turn\"?\n" +
                   std::string(fixErrors));
@@ -129,10 +102,6 @@ TEST_F(Check, PrintsFindingsAsData)
     Json const findings = Json::parse(outcome.out);
     ASSERT_EQ(findings.size(), 2U);
     EXPECT_EQ(findings[0]["file"], "doubtful.xml");
-    EXPECT_EQ(findings[0]["severity"], "warning");
-    EXPECT_EQ(findings[0]["code"], "dangling-reference");
-    EXPECT_EQ(findings[0]["line"], 4);
-    EXPECT_EQ(findings[0]["column"], 20);
     EXPECT_EQ(findings[0]["path"], "/robotDescription/sensor[@name=\"S\"]");
     EXPECT_EQ(findings[1]["code"], "unreadable-file");
     EXPECT_TRUE(findings[1]["line"].is_null());
@@ -197,15 +166,6 @@ TEST_F(Check, SwitchesRulesOff)
     EXPECT_EQ(run({"check", "--strict", "-"}, text).status, 1);
     EXPECT_EQ(run({"check", "--strict", "--no-rule", "negative-mass", "-"}, text).status, 0);
     EXPECT_EQ(run({"check", "--strict", "--rule", "idle-actuator", "-"}, text).status, 0);
-    EXPECT_EQ(run({"check", "--rule", "unheard-of", "-"}, legs).status, 2);
-    EXPECT_EQ(run({"check", "--no-rule", "dangling-reference", "-"}, legs).status, 2);
-}
-
-TEST_F(Check, TakesNoToleranceButAPlainNumber)
-{
-    for (char const* const wrong : {"-1", "1x", "nan", "inf", ""}) {
-        EXPECT_EQ(run({"check", std::string("--tolerance-mass=") + wrong, "-"}, legs).status, 2) << wrong;
-    }
 }
 
 TEST_F(Check, KnowsTheCodesOfTheDocumentation)
@@ -221,18 +181,14 @@ TEST_F(Check, KnowsTheCodesOfTheDocumentation)
         known.insert(line);
     }
     std::set<std::string> documented;
-    for (char const* const page : {"checking", "description-format", "urdf"}) {
-        collectCodes(readFile(std::string(VARO_SOURCE_DIR "/docs/") + page + ".md"), documented);
+    std::regex const row("\\| `([^`]*)` \\| (error|warning|note)");  // of a code in a table
+    for (char const* const name : {"checking", "description-format", "urdf"}) {
+        std::string const page = readFile(std::string(VARO_SOURCE_DIR "/docs/") + name + ".md");
+        for (std::sregex_iterator found(page.begin(), page.end(), row); found != std::sregex_iterator(); ++found) {
+            documented.insert((*found)[1]);
+        }
     }
     EXPECT_EQ(documented, known);
-}
-
-TEST_F(Check, ExampleRobotsAreClean)
-{
-    for (std::string const& file : Tests::exampleFiles()) {
-        Outcome const outcome = run({"check", "--strict", file});
-        EXPECT_EQ(outcome.status, 0) << outcome.err;
-    }
 }
 
 }  // namespace

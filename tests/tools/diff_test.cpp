@@ -1,24 +1,18 @@
 #include <nlohmann/json.hpp>
 
 #include "run_tool.hpp"
+#include "texts.hpp"
 
 namespace ToolTest {
 
 namespace {
 
 using Json = nlohmann::json;
+using Tests::replaced;
 
 std::string const robots = VARO_SOURCE_DIR "/robots/";
 
-class Diff : public ToolFixture {
-protected:
-    std::string replaced(std::string text, std::string const& what, std::string const& by) const
-    {
-        std::size_t const at = text.find(what);
-        EXPECT_NE(at, text.npos) << what;
-        return text.replace(at, what.size(), by);
-    }
-};
+class Diff : public ToolFixture {};
 
 TEST_F(Diff, ARobotIsTheSameInWhateverDialectAndWriting)
 {

@@ -48,28 +48,26 @@ TEST_F(HostileNames, GiveATerminalNothingThatItWouldObey)
     write(file, slyRobot());
     std::string name = replaced(sly, "&#10;", "\n");
     name = replaced(replaced(name, "&#13;", "\r"), "&#9;", "\t");
-    std::vector<std::vector<std::string>> const commands = {
-        {"check"},
-        {"check", "--all", "--format", "github"},
-        {"check", "--silence", name},
-        {"info"},
-        {"tree", "--mass", "--pose"},
-        {"list", "joints"},
-        {"list", "sensors"},
-        {"list", "chains"},
-        {"list", name},
-        {"show", "LHip" + name},
-        {"show", "Pelvis" + name + "Link"},
-        {"show", name},
-        {"pose"},
-        {"pose", "--posture", name},
-        {"mass"},
-        {"graph", "--sensors", "--actuators"},
-        {"convert"},
-        {"convert", "--to", "urdf"},
-        {"info", "--" + name},
-        {name},
-    };
+    std::vector<std::vector<std::string>> const commands = {{"check"},
+                                                            {"check", "--all", "--format", "github"},
+                                                            {"check", "--silence", name},
+                                                            {"info"},
+                                                            {"tree", "--mass", "--pose"},
+                                                            {"list", "joints"},
+                                                            {"list", "sensors"},
+                                                            {"list", "chains"},
+                                                            {"list", name},
+                                                            {"show", "LHip" + name},
+                                                            {"show", "Pelvis" + name + "Link"},
+                                                            {"show", name},
+                                                            {"pose"},
+                                                            {"pose", "--posture", name},
+                                                            {"mass"},
+                                                            {"graph", "--sensors", "--actuators"},
+                                                            {"convert"},
+                                                            {"convert", "--to", "urdf"},
+                                                            {"info", "--" + name},
+                                                            {name}};
     for (std::vector<std::string> command : commands) {
         command.push_back(file);
         expectHarmless(run(command), testing::PrintToString(command));
@@ -134,11 +132,9 @@ TEST_F(Obstacles, LackOfMemoryIsNone)
     write("good.xml", legs);
     int failures = 0;
     for (int number = 1; number < 4000; number += 37) {
-        Outcome const outcome = run({"dump", "good.xml"}, {},
-                                    "LD_PRELOAD=" FAIL_ALLOCATION
-                                    " ASAN_OPTIONS=verify_asan_link_order=0 "
-                                    "FAIL_ALLOCATION=" +
-                                        std::to_string(number));
+        std::string const environment =
+            "LD_PRELOAD=" FAIL_ALLOCATION " ASAN_OPTIONS=verify_asan_link_order=0 FAIL_ALLOCATION=";
+        Outcome const outcome = run({"dump", "good.xml"}, {}, environment + std::to_string(number));
         if (outcome.status != 0) {
             ++failures;
             EXPECT_EQ(outcome.status, 1) << number;

@@ -77,17 +77,6 @@ TEST_F(Meshes, OfTheExampleRobotsInUrdfAreThere)
     }
 }
 
-TEST_F(Meshes, OptionsThatMeanNothingAreRefused)
-{
-    for (std::vector<std::string> const& options : {std::vector<std::string>{"--meshes", "--package", "arm_meshes"},
-                                                    {"--meshes", "--package", "=made"},
-                                                    {"--package-path", "made"}}) {
-        std::vector<std::string> arguments = {"check", "urdf/arm.urdf"};
-        arguments.insert(arguments.end(), options.begin(), options.end());
-        EXPECT_EQ(run(arguments).status, 2) << testing::PrintToString(options);
-    }
-}
-
 }  // namespace
 
 }  // namespace ToolTest

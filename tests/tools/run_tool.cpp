@@ -1,5 +1,6 @@
 #include "run_tool.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -65,6 +66,18 @@ Outcome ToolFixture::runCommand(std::string const& command, std::string const& i
     std::string const line = "cd " + shellQuoted(_folder.string()) + " && { " + command + "; } <.in >.out 2>.err";
     int const status = std::system(line.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(_folder / ".out"), readFile(_folder / ".err")};
+}
+
+std::size_t widestLine(std::string const& text)
+{
+    std::size_t widest = 0;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        auto const isContinued = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
+        auto const continued = std::count_if(line.begin(), line.end(), isContinued);
+        widest = std::max(widest, line.size() - static_cast<std::size_t>(continued));
+    }
+    return widest;
 }
 
 std::string serialChain(int joints)

@@ -43,6 +43,9 @@ private:
     std::filesystem::path _folder;
 };
 
+/// In characters of UTF-8.
+std::size_t widestLine(std::string const& text);
+
 /// A pelvis with two mirrored legs of one joint, and a camera.
 extern char const legs[];
 

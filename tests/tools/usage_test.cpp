@@ -59,6 +59,18 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
         {{"mass", "--posture", "Sit", "good.xml"}, bad, "good.xml: error: There is no posture \"Sit\"."},
         {{"tree", "--relative-to", "Eyes", "good.xml"}, bad, "actuator \"Eyes\". Did you mean \"Eye\"?"},
         {{"check", "--silence", "no-such-code", "good.xml"}, wrongUsage, "no-such-code"},
+        {{"check", "--silence", "missing-element", "--silence", "missing-attribute", "bad.xml"}, bad, "1:1: error: "},
+        {{"check", "--rule", "unheard-of", "good.xml"}, wrongUsage, "unheard-of"},
+        {{"check", "--no-rule", "dangling-reference", "good.xml"}, wrongUsage, "dangling-reference"},
+        {{"check", "--tolerance-mass=-1", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--tolerance-mass=nan", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--tolerance-mass=1x", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--tolerance-mass=", "good.xml"}, wrongUsage, "A tolerance is a number"},
+        {{"check", "--package-path", "made", "good.xml"}, wrongUsage, ""},
+        {{"check", "--meshes", "--package", "arm_meshes", "good.xml"}, wrongUsage, "as NAME=FOLDER"},
+        {{"check", "--meshes", "--package", "=made", "good.xml"}, wrongUsage, "as NAME=FOLDER"},
+        {{"view", "none.xml"}, bad, "none.xml: error: "},
+        {{"view", "good.xml", "--mesh-limit", "-1"}, wrongUsage, "--mesh-limit"},
     };
     for (Case const& expected : cases) {
         SCOPED_TRACE(testing::PrintToString(expected.arguments));
@@ -69,16 +81,6 @@ TEST_F(Usage, ExitStatusTellsBadDescriptionsFromWrongUsage)
     }
 }
 
-std::size_t longestLineOf(std::string const& text)
-{
-    std::istringstream lines(text);
-    std::size_t longest = 0;
-    for (std::string line; std::getline(lines, line);) {
-        longest = std::max(longest, line.size());
-    }
-    return longest;
-}
-
 TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
 {
     std::vector<std::vector<std::string>> const commands = {{"check"},        {"info"},   {"tree"}, {"list", "joints"},
@@ -86,7 +88,7 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
                                                             {"dump"},         {"convert"}};
     std::string const overview = run({"--help"}).out;
     for (std::string const& help : {overview, run({"help", "diff"}).out, run({"help", "view"}).out}) {
-        EXPECT_LE(longestLineOf(help), 80U);
+        EXPECT_LE(widestLine(help), 80U);
     }
     for (std::vector<std::string> command : commands) {
         SCOPED_TRACE(command.front());
@@ -96,7 +98,7 @@ TEST_F(Usage, EveryCommandHasHelpAndReadsStandardInput)
         EXPECT_NE(help.find("Example"), std::string::npos);
         EXPECT_EQ(help.find("Example"), help.rfind("Example"));
         EXPECT_EQ(run({"help", command.front()}).out, help);
-        EXPECT_LE(longestLineOf(help), 80U);
+        EXPECT_LE(widestLine(help), 80U);
 
         command.emplace_back("-");
         Outcome const outcome = run(command, legs);

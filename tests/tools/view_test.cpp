@@ -1,8 +1,11 @@
+#include <algorithm>
 #include <filesystem>
 
+#include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
 #include "run_tool.hpp"
+#include "texts.hpp"
 
 namespace ToolTest {
 
@@ -49,20 +52,15 @@ TEST_F(View, GivesThePageWhatMovesTheRobot)
     nlohmann::json const data = dataOf(VARO_SOURCE_DIR "/robots/humanoid.xml", {"--posture", "Crouch", "--degrees"});
     EXPECT_EQ(data["drives"].size(), data["dump"]["joints"].size());
     EXPECT_EQ(data["degrees"], true);
-    std::size_t const hand = [&] {
-        std::size_t at = 0;
-        while (data["variables"][at]["name"] != "LHand") {
-            ++at;
-        }
-        return at;
-    }();
-    for (std::size_t joint = 0; joint < data["drives"].size(); ++joint) {
-        if (data["dump"]["joints"][joint]["name"] == "LThumb1") {
-            EXPECT_EQ(data["drives"][joint]["variable"], hand);
-            EXPECT_EQ(data["drives"][joint]["ratio"], 0.9);
-            EXPECT_EQ(data["drives"][joint]["offset"], 0.1);
-        }
-    }
+    auto const named = [](char const* name) {
+        return [name](nlohmann::json const& each) { return each["name"] == name; };
+    };
+    auto const& variables = data["variables"];
+    auto const& joints = data["dump"]["joints"];
+    auto const hand = std::find_if(variables.begin(), variables.end(), named("LHand")) - variables.begin();
+    auto const thumb = std::find_if(joints.begin(), joints.end(), named("LThumb1")) - joints.begin();
+    EXPECT_EQ(data["drives"][static_cast<std::size_t>(thumb)],
+              nlohmann::json({{"motion", "turns"}, {"variable", hand}, {"ratio", 0.9}, {"offset", 0.1}}));
     EXPECT_EQ(data["start"], data["postures"][1]["values"]);
 }
 
@@ -72,11 +70,8 @@ TEST_F(View, LeadsFromFindingsToLinks)
     text.insert(text.find("<chain"), "<joint name=\"Odd\" min=\"1\" max=\"0\"><placement xyz=\"0 0 1\"/></joint>");
     write("odd.xml", text);
     nlohmann::json const data = dataOf("odd.xml");
-    bool isFound = false;
-    for (nlohmann::json const& finding : data["findings"]) {
-        isFound = isFound || finding["code"] == "reversed-limits";
-    }
-    EXPECT_TRUE(isFound) << data["findings"].dump(1);
+    auto const codes = Tests::textsOf(data["findings"], [](auto const& finding) { return finding["code"]; });
+    EXPECT_THAT(codes, testing::Contains("reversed-limits"));
 }
 
 TEST_F(View, CarriesMeshesOfTheFolderAndOfPackagesOnly)
@@ -91,11 +86,13 @@ TEST_F(View, CarriesMeshesOfTheFolderAndOfPackagesOnly)
     write("box/b.stl", triangle);
     std::filesystem::create_symlink(folder() / "out.stl", folder() / "robot/meshes/link.stl");
     std::string const out = (folder() / "out.stl").string();
-    EXPECT_TRUE(carries("meshes/in.stl"));
+    EXPECT_TRUE(carries("meshes/in.stl") && carries("meshes/../meshes/in.stl"));
     EXPECT_TRUE(carries("package://box/b.stl"));
     EXPECT_TRUE(carries("package://stated/a.stl", {"--package", "stated=arms"}));
-    for (std::string const& uri : {std::string("../out.stl"), out, "file://" + out, std::string("meshes/link.stl"),
-                                   std::string("package://arms/a.stl"), std::string("package://box/../out.stl")}) {
+    for (std::string const& uri :
+         {std::string("../out.stl"), out, "file://" + out, std::string("meshes/link.stl"),
+          std::string("package://arms/a.stl"), std::string("package://box/../out.stl"),
+          std::string("meshes/../../out.stl"), std::string("meshes"), std::string("/etc/passwd")}) {
         EXPECT_FALSE(carries(uri)) << uri;
     }
     EXPECT_TRUE(carries("../out.stl", {"--allow-outside"}));
@@ -138,10 +135,8 @@ TEST_F(View, CarriesNothingButMeshes)
 TEST_F(View, RefusesWhatItCannotDo)
 {
     EXPECT_NE(run({"view", "--help"}).out.find("Examples:"), std::string::npos);
-    EXPECT_EQ(run({"view", "none.xml"}).status, 1);
     EXPECT_EQ(run({"view", "any.xml", "--posture", "Nowhere"}).status, 1);
     EXPECT_EQ(run({"view", "any.xml", "-o", "none/page.html"}).status, 1);
-    EXPECT_EQ(run({"view", "any.xml", "--mesh-limit", "-1"}).status, 2);
 }
 
 TEST_F(View, OpensThePageInTheBrowserOfTheDesktop)

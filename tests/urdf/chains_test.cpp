@@ -1,7 +1,6 @@
-#include <cmath>
-
 #include <gmock/gmock.h>
 
+#include "descriptions.hpp"
 #include "sim/actuator_group.hpp"
 #include "sim/joint.hpp"
 #include "sim/link.hpp"
@@ -46,11 +45,7 @@ TEST(UrdfChains, RunOnAlongTheChildWithMostJointsBelow)
 TEST(UrdfChains, KeepTheOrderOfSiblingsBehindTheContinuation)
 {
     Sim::Model const model(tree());
-    std::vector<std::string> children;
-    for (Sim::Joint const* child : model.link("ALink")->childrenJoints()) {
-        children.push_back(child->name());
-    }
-    EXPECT_THAT(children, ElementsAre("long", "short", "stub", "equal"));
+    EXPECT_THAT(Tests::namesOf(model.link("ALink")->childrenJoints()), ElementsAre("long", "short", "stub", "equal"));
     for (char const* chain : {"short", "equal", "tip2"}) {
         ASSERT_NE(model.actuatorGroup(chain)->parent(), nullptr) << chain;
         EXPECT_EQ(model.actuatorGroup(chain)->parent()->name(), "A");

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "texts.hpp"
 #include "urdf/schema.hpp"
 #include "urdf_text.hpp"
 
@@ -80,11 +81,8 @@ TEST(UrdfMisspellings, AreToldOfEveryNameThatUrdfHas)
 TEST(UrdfMisspellings, AreToldFromWhatIsMisplacedOrForOthers)
 {
     auto const codes = [](std::string const& content) {
-        std::vector<std::string> found;
-        for (Finding const& finding : ModelUtils::diagnose(robot(link("root") + content))) {
-            found.push_back(finding.code);
-        }
-        return found;
+        return Tests::textsOf(ModelUtils::diagnose(robot(link("root") + content)),
+                              [](Finding const& finding) { return finding.code; });
     };
     EXPECT_THAT(codes("<material name=\"m\" drake:tint=\"1\" xmlns:drake=\"d\"/><drake:link/>"), IsEmpty());
     EXPECT_THAT(codes("<material nmae=\"m\"/><material name=\"m\" shine=\"1\"/><material name=\"n\" shine=\"2\"/>"),

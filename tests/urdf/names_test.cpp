@@ -36,14 +36,6 @@ TEST(UrdfNames, MayBeSharedByLinksAndJoints)
     EXPECT_EQ(model.sensor("on_root")->frame()->parentFrame(), model.rootLink()->frame());
 }
 
-TEST(UrdfNames, OfLinksAreKeptAsAttributes)
-{
-    Tables const tables = tablesOf(readFile(dataFile("names.urdf")));
-    EXPECT_EQ(tables.root.linkName, "base");
-    EXPECT_EQ(tables.joints.at("a").linkName, "b");
-    EXPECT_EQ(tables.joints.at("aLink").linkName, "a");
-}
-
 /// Look-ups by name cannot tell such a joint from the link; whichever stands later in the text gets the warning.
 TEST(UrdfNames, WarnOfJointsNamedLikeTheLinkOfAnother)
 {

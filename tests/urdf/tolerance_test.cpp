@@ -16,12 +16,11 @@ TEST(UrdfTolerance, TakesOrNotesWhatRealFilesAreLooseAbout)
     Tables const tables = tablesOf(text);
     JointConfig const& early = tables.joints.at("early");
     EXPECT_TRUE(early.placement.isNear(Transform::fromPosition(0.15F, 0.25F, 0.0F), 1e-7F));
-    EXPECT_EQ(early.minAngle, -1.0F);
-    EXPECT_EQ(early.maxAngle, 5.0F);
-    EXPECT_EQ(early.maxTorque, 100.0F);
-    EXPECT_EQ(early.maxAngularSpeed, 0.5F);
-    EXPECT_EQ(early.mass, 2.0F);
+    EXPECT_THAT((std::vector{early.minAngle, early.maxAngle, early.maxTorque, early.maxAngularSpeed, early.mass}),
+                ElementsAre(-1.0F, 5.0F, 100.0F, 0.5F, 2.0F));
     EXPECT_EQ(early.meshName, "package://x/arm.dae");
+    EXPECT_EQ(early.shapes.visuals.at(0).geometry.scale, (Position3D{2, 2, 2})) << "one number for three";
+    EXPECT_EQ(early.shapes.collisions.at(0).geometry.type, GeometryType::capsule);
     EXPECT_EQ(ModelUtils::robotFromXml(text)->version(), "1.2");
 }
 
@@ -47,14 +46,10 @@ TEST(UrdfTolerance, SaysWhatItMakesOfValuesThatAreNotThere)
         "<link name=\"root\"><inertial><mass>1.5</mass><inertia ixx=\"1\" iyy=\"1\" izz=\"1\"/></inertial></link>"));
     ASSERT_EQ(mass.size(), 1U);
     EXPECT_EQ(mass[0].hint, "Write <mass value=\"1.5\"/>.");
-}
-
-TEST(UrdfTolerance, CountsWhatAnInertialDoesNotStateAsZero)
-{
-    Findings const findings = ModelUtils::diagnose(robot("<link name=\"root\"><inertial><mass/></inertial></link>"));
-    ASSERT_EQ(findings.size(), 1U);
-    EXPECT_EQ(findings[0].code, "incomplete-inertial");
-    EXPECT_THAT(findings[0].message, testing::HasSubstr("no mass and no inertia"));
+    Findings const inertial = ModelUtils::diagnose(robot("<link name=\"root\"><inertial><mass/></inertial></link>"));
+    ASSERT_EQ(inertial.size(), 1U);
+    EXPECT_EQ(inertial[0].code, "incomplete-inertial");
+    EXPECT_THAT(inertial[0].message, testing::HasSubstr("no mass and no inertia"));
 }
 
 TEST(UrdfTolerance, KeepsStrangeElementsWithoutAWord)
@@ -70,16 +65,11 @@ TEST(UrdfTolerance, KeepsStrangeElementsWithoutAWord)
 
 TEST(UrdfTolerance, ReadsNumbersOfEveryForm)
 {
-    for (auto const& [number, expected] : {std::pair<std::string, float>("1", 1.0F),
-                                           {"+1", 1.0F},
-                                           {"-.5", -0.5F},
-                                           {"5.", 5.0F},
-                                           {"\t2e-1\n", 0.2F},
-                                           {"1E+2", 100.0F},
-                                           {"1e-999", 0.0F},
-                                           {"0." + std::string(400, '0') + "1e2", 0.0F},
-                                           {"007", 7.0F},
-                                           {"0.0000000000000000000000000000001e1", 1e-30F}}) {
+    using Number = std::pair<std::string, float>;
+    for (auto const& [number, expected] :
+         {Number{"1", 1.0F}, Number{"+1", 1.0F}, Number{"-.5", -0.5F}, Number{"5.", 5.0F}, Number{"\t2e-1\n", 0.2F},
+          Number{"1E+2", 100.0F}, Number{"1e-999", 0.0F}, Number{"0." + std::string(400, '0') + "1e2", 0.0F},
+          Number{"007", 7.0F}, Number{"0.0000000000000000000000000000001e1", 1e-30F}}) {
         std::string const text = robot(arm("<dynamics damping=\"" + number + "\"/>"));
         EXPECT_EQ(tablesOf(text).joints.at("C").damping, expected) << number;
     }
@@ -87,21 +77,17 @@ TEST(UrdfTolerance, ReadsNumbersOfEveryForm)
 
 TEST(UrdfTolerance, TakesLimitsWithoutBoundsAsNone)
 {
-    std::string const text = robot(link("root") + link("a") +
-                                   joint("A", "root", "a", "<limit lower=\"-inf\" upper=\"1e308\" effort=\"inf\"/>"));
-    EXPECT_THAT(complaintsAbout(text), ElementsAre());
-    JointConfig const boundless = tablesOf(text).joints.at("A");
-    EXPECT_EQ(boundless.minAngle, -INFINITY);
-    EXPECT_EQ(boundless.maxAngle, INFINITY);
-    EXPECT_EQ(boundless.maxTorque, INFINITY);
-
     auto const limited = [](std::string const& limits) {
         return robot(link("root") + link("a") + joint("A", "root", "a", "<limit " + limits + "/>"));
     };
-    JointConfig const farthest = tablesOf(limited("lower=\"-1e30\" upper=\"1e30\"")).joints.at("A");
-    EXPECT_EQ(farthest.minAngle, -1e30F);
-    EXPECT_EQ(farthest.maxAngle, 1e30F);
-    for (char const* const limits : {"lower=\"1e31\"", "upper=\"-inf\"", "upper=\"1\" velocity=\"-1e31\""}) {
+    std::string const text = limited("lower='-inf' upper='1e308' effort='inf'");
+    EXPECT_THAT(complaintsAbout(text), ElementsAre());
+    JointConfig const boundless = tablesOf(text).joints.at("A");
+    EXPECT_THAT((std::vector{boundless.minAngle, boundless.maxAngle, boundless.maxTorque}),
+                ElementsAre(-INFINITY, INFINITY, INFINITY));
+    JointConfig const farthest = tablesOf(limited("lower='-1e30' upper='1e30'")).joints.at("A");
+    EXPECT_TRUE(farthest.minAngle == -1e30F && farthest.maxAngle == 1e30F);
+    for (char const* const limits : {"lower='1e31'", "upper='-inf'", "upper='1' velocity='-1e31'"}) {
         EXPECT_THAT(complaintsAbout(limited(limits)), ElementsAre("not-a-number")) << limits;
     }
 }

@@ -1,7 +1,9 @@
 #ifndef TESTS_URDF_URDF_TEXT_HPP
 #define TESTS_URDF_URDF_TEXT_HPP
 
+#include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "files.hpp"
@@ -18,16 +20,6 @@ using Tests::Tables;
 inline std::string dataFile(std::string const& name)
 {
     return VARO_SOURCE_DIR "/tests/urdf/data/" + name;
-}
-
-/// The example robots that are in URDF, and the files of these tests.
-inline std::vector<std::string> ownFiles()
-{
-    std::vector<std::string> files = Tests::filesIn(VARO_SOURCE_DIR "/robots", ".urdf");
-    for (std::string const& file : Tests::filesIn(VARO_SOURCE_DIR "/tests/urdf/data", ".urdf")) {
-        files.push_back(file);
-    }
-    return files;
 }
 
 inline std::string robot(std::string const& content)
@@ -58,6 +50,24 @@ inline std::string arm(std::string const& moreOfC = {})
 inline Tables tablesOf(std::string const& xml)
 {
     return Tables(*ModelUtils::robotFromXml(xml));
+}
+
+/// A text in which "@" stood where a finding has to point.
+struct Marked {
+    std::string text;
+    int line;
+    int column;
+};
+
+inline Marked withoutMark(std::string text)
+{
+    std::size_t const place = text.find('@');
+    EXPECT_NE(place, text.npos) << text;
+    text.erase(place, 1);
+    std::string const before = text.substr(0, place);
+    std::size_t const column = before.size() - (before.rfind('\n') + 1) + 1;
+    auto const lines = std::count(before.begin(), before.end(), '\n');
+    return {std::move(text), 1 + static_cast<int>(lines), static_cast<int>(column)};
 }
 
 /// The codes of the findings that are no notes.

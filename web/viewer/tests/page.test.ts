@@ -1,16 +1,11 @@
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
-import type { Browser, Page } from 'puppeteer-core';
+import { after, test } from 'node:test';
+import type { Page } from 'puppeteer-core';
 import { ask, openBrowser, openPage, picture } from './browser';
 import { otherRobots, ourRobot, ourRobots, pageOf, run, writeScratch } from './robots';
 
-let browser: Browser;
-before(async () => {
-  browser = await openBrowser();
-});
-after(async () => {
-  await browser.close();
-});
+const browser = await openBrowser();
+after(() => browser.close());
 
 interface Dump {
   links: { name: string }[];

@@ -1,18 +1,12 @@
 import assert from 'node:assert/strict';
-import { mkdirSync, symlinkSync } from 'node:fs';
-import { dirname, join } from 'node:path';
-import { after, before, test } from 'node:test';
-import type { Browser } from 'puppeteer-core';
+import { mkdirSync } from 'node:fs';
+import { join } from 'node:path';
+import { after, test } from 'node:test';
 import { openBrowser, openPage, readText } from './browser';
 import { pageOf, scratch, writeScratch } from './robots';
 
-let browser: Browser;
-before(async () => {
-  browser = await openBrowser();
-});
-after(async () => {
-  await browser.close();
-});
+const browser = await openBrowser();
+after(() => browser.close());
 
 const escaped = (text: string) =>
   text.replaceAll('&', '&amp;').replaceAll('<', '&lt;').replaceAll('"', '&quot;');
@@ -80,35 +74,6 @@ test('the policy of the page refuses what is not its own', async () => {
   assert.deepEqual(refused, ['connect-src', 'img-src', 'script-src-elem']);
   assert.equal(await page.evaluate(() => 'foreign' in window), false);
   await page.close();
-});
-
-test('the page carries meshes of the folder, and no other file', () => {
-  const folder = join(scratch, 'robot');
-  mkdirSync(join(folder, 'meshes'), { recursive: true });
-  const secret = 'the owner alone may read this';
-  const outside = writeScratch('outside.stl', triangle);
-  writeScratch('robot/meshes/inside.stl', triangle);
-  writeScratch('robot/meshes/text.stl', secret);
-  writeScratch('robot/meshes/almost.obj', `v 0 0 0\nf 1 1 1\n${secret}\n`);
-  writeScratch('robot/meshes/markup.dae', `<html><body>${secret}</body></html>`);
-  symlinkSync(outside, join(folder, 'meshes', 'link.stl'));
-  const carried = (uri: string, ...options: string[]) => {
-    const page = pageOf(writeScratch('robot/robot.urdf', urdf('r', meshBody(uri))), ...options);
-    const text = readText(page);
-    assert.ok(!text.includes(Buffer.from(secret).toString('base64').slice(0, 24)), uri);
-    return dataIn(page).meshes[uri].data !== undefined;
-  };
-  assert.ok(carried('meshes/inside.stl'));
-  assert.ok(carried('meshes/../meshes/inside.stl'));
-  for (const uri of ['../outside.stl', outside, `file://${outside}`, 'meshes/link.stl', 'meshes/../../outside.stl']) {
-    assert.ok(!carried(uri), uri);
-    assert.ok(carried(uri, '--allow-outside'), uri);
-  }
-  for (const uri of ['meshes/text.stl', 'meshes/almost.obj', 'meshes/markup.dae', '/etc/passwd', '/dev/zero', 'meshes', '']) {
-    if (uri !== '') assert.ok(!carried(uri, '--allow-outside'), uri);
-  }
-  assert.ok(!carried('meshes/inside.stl', '--mesh-limit', '0'));
-  assert.equal(dirname(outside), scratch);
 });
 
 test('images come with a mesh only as images of its folder', () => {
