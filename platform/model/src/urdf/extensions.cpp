@@ -54,6 +54,7 @@ bool findBearer(std::string_view name, LinkTree& tree, ExtensionConfig& extensio
 
 void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& robot)
 {
+    robot.extensions.reserve(_kept.size());
     for (Kept const& kept : _kept) {
         ExtensionConfig extension;
         findPlace(kept, tree, extension);

@@ -92,13 +92,12 @@ struct UrdfText {
 
 UrdfText write(Records const& records, ExtensionList const& extensions)
 {
-    constexpr std::string_view head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
     Urdf::ShortPoses poses;
     Urdf::StatementsOf const statements(records, poses);
     Urdf::ExtendingWriter writer(records, statements, extensions, poses);
+    writer.writeDeclaration();
     writer.writeRobot();
-    return {std::make_unique<SourceText>(std::string(head) + writer.text()), head.size() + writer.attributesEnd(),
-            head.size() + writer.linesEnd()};
+    return {std::make_unique<SourceText>(writer.takeText()), writer.attributesEnd(), writer.linesEnd()};
 }
 
 /// What a reader makes of the text; nothing for one that it refuses or takes for another robot's, of which `reason`
@@ -128,9 +127,9 @@ std::optional<Records> readBack(UrdfText const& written, Records const& wanted, 
 std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics)
 {
     std::shared_ptr<Records const> const records = statedRecordsOf(robot);
-    ExtensionList const none;
+    ExtensionList const noExtensions;
     std::string reason;
-    for (ExtensionList const* const extensions : {&records->extensions, &none}) {  // which may say anything
+    for (ExtensionList const* const extensions : {&records->extensions, &noExtensions}) {  // which may say anything
         UrdfText const written = write(*records, *extensions);
         std::optional<Records> given = readBack(written, *records, reason);
         if (!given) {
@@ -146,7 +145,7 @@ std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics)
         return written.with(declaration + std::string(Urdf::ownNamespace) + "\"", amendment.text);
     }
     diagnostics.report({}, Urdf::codes::notUrdf, "No URDF can be made of this robot: " + reason);
-    return write(*records, none).text();
+    return write(*records, noExtensions).text();
 }
 
 }  // namespace Varo::Model
