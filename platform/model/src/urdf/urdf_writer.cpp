@@ -100,18 +100,28 @@ UrdfText write(Records const& records, ExtensionList const& extensions)
     return {std::make_unique<SourceText>(writer.takeText()), writer.attributesEnd(), writer.linesEnd()};
 }
 
+Records readWritten(UrdfText const& written, Diagnostics& diagnostics)
+{
+    XmlDocument document;
+    return parseXml(*written.source, document, diagnostics) ? readUrdf(document.root(), diagnostics) : Records();
+}
+
+/// What a reader has against the text.
+std::string refusalOf(UrdfText const& written)
+{
+    Diagnostics diagnostics(written.source.get());
+    readWritten(written, diagnostics);
+    return summaryOf(diagnostics.findings());
+}
+
 /// What a reader makes of the text; nothing for one that it refuses or takes for another robot's, of which `reason`
 /// says why.
 std::optional<Records> readBack(UrdfText const& written, Records const& wanted, std::string& reason)
 {
-    Diagnostics diagnostics(written.source.get());
-    XmlDocument document;
-    Records records;
-    if (parseXml(*written.source, document, diagnostics)) {
-        records = readUrdf(document.root(), diagnostics);
-    }
+    Diagnostics diagnostics(written.source.get(), 0);  // nobody will see them but where there are errors
+    Records records = readWritten(written, diagnostics);
     if (diagnostics.hasErrors()) {
-        reason = summaryOf(diagnostics.findings());
+        reason = refusalOf(written);
         return std::nullopt;
     }
     if (records.joints.size() != wanted.joints.size() || records.sensors.size() != wanted.sensors.size()) {
