@@ -13,15 +13,13 @@ namespace Sim {
 FramePlaces::FramePlaces(Model const& model)
 {
     std::vector<Link const*> const links = model.links();
+    _known.reserve(2 * links.size());
     for (std::size_t link = 0; link < links.size(); ++link) {
-        _known.emplace(links[link]->frame(), Known{{link, Pose()}, {link, Pose()}});
+        _known.emplace(links[link]->frame(), Known{static_cast<std::uint32_t>(link), true, nullptr});
     }
     for (Joint const* const joint : model.joints()) {
-        auto const localPose = [](Frame const* frame) { return Pose::fromTransform(frame->localPosition()); };
-        Place const itself = {linkOf(*joint->parentLink()), localPose(joint->frame())};
-        Link const* const child = joint->childLink();
-        Place const posedIn = child == nullptr ? itself : Place{linkOf(*child), localPose(child->frame()).inverse()};
-        _known.emplace(joint->frame(), Known{itself, posedIn});
+        auto const link = static_cast<std::uint32_t>(linkOf(*joint->parentLink()));
+        _known.emplace(joint->frame(), Known{link, false, joint->childLink()});
     }
     addNames(model);
 }
@@ -42,15 +40,29 @@ void FramePlaces::addNames(Model const& model)
     addAll(model.actuators());
 }
 
+FramePlaces::Place FramePlaces::placeOf(Frame const& frame, Known const& known)
+{
+    return {known.link, known.isLinks ? Pose() : Pose::fromTransform(frame.localPosition())};
+}
+
+/// What is posed in a joint's frame moves with the link behind the joint.
+FramePlaces::Place FramePlaces::placeInside(Frame const& frame, Known const& known) const
+{
+    return known.behind == nullptr
+               ? placeOf(frame, known)
+               : Place{linkOf(*known.behind), Pose::fromTransform(known.behind->frame()->localPosition()).inverse()};
+}
+
 FramePlaces::Place FramePlaces::of(Frame const& frame) const
 {
     if (auto const known = _known.find(&frame); known != _known.end()) {
-        return known->second.itself;
+        return placeOf(frame, known->second);
     }
     Pose pose = Pose::fromTransform(frame.localPosition());
     for (Frame const* at = frame.parentFrame(); at != nullptr; at = at->parentFrame()) {
         if (auto const known = _known.find(at); known != _known.end()) {
-            return {known->second.posedIn.link, known->second.posedIn.inLink * pose};
+            Place const around = placeInside(*at, known->second);
+            return {around.link, around.inLink * pose};
         }
         pose = Pose::fromTransform(at->localPosition()) * pose;
     }
@@ -63,7 +75,7 @@ std::size_t FramePlaces::linkOf(Link const& link) const
     if (found == _known.end()) {
         throw std::invalid_argument("The link " + quoted(link.name()) + " belongs to another model.");
     }
-    return found->second.itself.link;
+    return found->second.link;
 }
 
 Frame const& FramePlaces::named(std::string const& name) const

@@ -2,6 +2,7 @@
 #define VARO_KINEMATICS_FRAME_PLACES_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -35,10 +36,13 @@ public:
 private:
     /// A frame that is a link's or a joint's.
     struct Known {
-        Place itself;
-        Place posedIn;  ///< what is posed in a joint's frame moves with the link behind the joint
+        std::uint32_t link;  ///< its place in Model::links()
+        bool isLinks;  ///< whether it is the frame of that link
+        Link const* behind;  ///< behind a joint; null for none
     };
 
+    static Place placeOf(Frame const& frame, Known const& known);
+    Place placeInside(Frame const& frame, Known const& known) const;
     void addNames(Model const& model);
 
     std::unordered_map<Frame const*, Known> _known;

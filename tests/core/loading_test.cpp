@@ -13,6 +13,7 @@
 #include "sim/model.hpp"
 #include "throws.hpp"
 #include "varo/model/finding.hpp"
+#include "varo/model/text_file.hpp"
 
 namespace {
 
@@ -122,6 +123,15 @@ TEST(Loading, SaysInItsFindingsWhatIsInTheWayOfAFile)
                   "Could not load model. " + note + "'" + argument + "' is not a valid DCM XML.\n");
     }
     std::filesystem::remove_all(path);
+}
+
+TEST(Loading, ReadsAFileIntoRoomForIt)
+{
+    std::string const text(200'000, 'x');
+    TemporaryFile const file(text);
+    std::string const read = Varo::Model::readTextFile(file.path).text;
+    EXPECT_EQ(read, text);
+    EXPECT_LT(read.capacity(), text.size() + 1000);
 }
 
 TEST(Loading, TakesATextForATextAndANameForAName)

@@ -8,6 +8,10 @@
 #include <sstream>
 #include <string_view>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
@@ -112,6 +116,16 @@ int run(int argumentCount, char** arguments)
     return runChosen(chosen);
 }
 
+/// Lets what one step of a command needed be there for the next, however large it was. Otherwise the largest block that
+/// was freed so far decides which ones the system gets back.
+void giveMemoryBack()
+{
+#ifdef __GLIBC__
+    constexpr int leastBytes = 1024 * 1024;
+    mallopt(M_MMAP_THRESHOLD, leastBytes);
+#endif
+}
+
 /// The status with which the tool ends for this.
 int sayLackOfMemory()
 {
@@ -142,6 +156,7 @@ int main(int argumentCount, char** arguments)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
     std::set_terminate(Tool::endInTheMiddle);
+    Tool::giveMemoryBack();
     try {
         return Tool::run(argumentCount, arguments);
     } catch (std::bad_alloc const&) {

@@ -77,7 +77,8 @@ int readToEnd(int descriptor, std::string& text)
 {
     while (text.size() < mostBytes) {
         std::size_t const size = text.size();
-        text.resize(std::min(std::max(text.capacity(), size + blockSize), mostBytes));
+        std::size_t const room = text.capacity() - size;
+        text.resize(std::min(size + (room > 0 ? std::min(room, blockSize) : blockSize), mostBytes));
         ssize_t const count = ::read(descriptor, &text[size], text.size() - size);
         int const error = count < 0 ? errno : 0;
         text.resize(size + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));

@@ -39,6 +39,7 @@ std::vector<NamedPose> posesOf(Options const& options, Sim::Model const& model, 
     }
     if (names.empty()) {
         std::vector<Varo::Math::Transform> const linkPoses = moved.linkPoses();
+        poses.reserve(linkPoses.size());
         for (Sim::Link const* const link : model.links()) {
             poses.push_back({options.json ? link->name() : link->descriptionName(), linkPoses[poses.size()]});
         }

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <ostream>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -52,7 +52,7 @@ public:
 
 private:
     Json::object_t _members;
-    std::unordered_map<std::string, std::size_t> _places;
+    std::map<std::string, std::size_t> _places;  ///< sorted, because names that share a hash could be chosen
 };
 
 /// Writes the value over several lines, except for arrays of plain values, each of which stands on one. Numbers are

@@ -98,6 +98,7 @@ Varo::Math::Transform MovedRobot::poseOf(std::string const& name) const
 std::vector<Varo::Math::Transform> MovedRobot::linkPoses() const
 {
     std::vector<Varo::Math::Transform> poses;
+    poses.reserve(_kinematics.linkCount());
     for (Sim::Pose const& inRoot : _kinematics.linkPoses(_configuration)) {
         poses.push_back((_rootInReference * inRoot).toTransform());
     }

@@ -38,7 +38,7 @@ std::string textOf(Child<Record> const& row, Record const& record, Records const
 {
     ElementWriter writer(robot, {}, atDepth);
     row.write(writer, record);
-    return writer.text();
+    return writer.takeText();
 }
 
 class AmendmentWriter final : public ElementWriter {
@@ -152,7 +152,7 @@ Amendment AmendmentWriter::run()
     amendSensors();
     closeTag(amendmentElement.name);
     if (!whole.names.empty() || !_amendment.parts.empty()) {
-        _amendment.text = text();
+        _amendment.text = takeText();
     }
     return std::move(_amendment);
 }

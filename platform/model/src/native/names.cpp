@@ -1,9 +1,11 @@
 #include "native/names.hpp"
 
 #include <cstdint>
+#include <unordered_map>
 
 #include "robot/cycles.hpp"
 #include "schema/values.hpp"
+#include "varo/model/name_index.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Native {
@@ -18,13 +20,19 @@ std::string filledIn(std::string_view message, std::string_view name)
 
 }  // namespace
 
-Names::Entry& Names::entryOf(std::string_view name, std::size_t scope)
+Names::EntryIndex Names::indexOf(std::string_view name, std::size_t scope)
 {
-    auto const [found, isNew] = _kinds.try_emplace(Key(name, scope));
-    if (isNew) {
-        _inTextOrder.push_back(&*found);
+    constexpr std::uint32_t far =
+        0x9E3779B1U;  // 2^32 by the golden ratio: one name has a slot of its own in each scope
+    auto const number = static_cast<std::uint32_t>(scope);
+    std::uint32_t const hash = NameIndex::hashOf(name) ^ (number * far);
+    EntryIndex& index =
+        _slots.slotFor(hash, _entries, [=](Entry const& entry) { return entry.scope == number && entry.name == name; });
+    if (index == HashSlots::none) {
+        index = static_cast<EntryIndex>(_entries.size());
+        _entries.push_back({name, number, hash, 0});
     }
-    return *found;
+    return index;
 }
 
 void Names::use(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute)
@@ -33,14 +41,15 @@ void Names::use(NameRule const& rule, std::string_view name, XmlNode node, XmlAt
     if (rule.gives.isNumber && parseInteger(name, number)) {
         name = keep(std::to_string(number));
     }
-    Entry& entry = entryOf(name, rule.gives.isLocal ? node.parent().id() : wholeText);
-    if ((entry.second & rule.gives.kinds) != 0) {
+    EntryIndex const index = indexOf(name, rule.gives.isLocal ? node.parent().id() : wholeText);
+    unsigned& kinds = _entries[index].kinds;
+    if ((kinds & rule.gives.kinds) != 0) {
         _diagnostics.report(at(node, attribute), *rule.gives.twice.code, filledIn(rule.gives.twice.message, name),
                             std::string(rule.gives.twice.hint));
     }
-    entry.second |= rule.gives.kinds;
+    kinds |= rule.gives.kinds;
     if (!rule.gives.isLocal || rule.wants.kinds != 0) {
-        _uses.push_back({&rule, rule.gives.isLocal ? &entryOf(name) : &entry, node, attribute});
+        _uses.push_back({&rule, rule.gives.isLocal ? indexOf(name) : index, node, attribute});
     }
 }
 
@@ -48,10 +57,10 @@ void Names::addAll(Records const& robot)
 {
     auto const add = [this](auto const& table, unsigned kind) {
         for (auto const& config : table) {
-            entryOf(config.name).second |= kind;
+            kindsOf(config.name) |= kind;
         }
     };
-    entryOf(robot.root.name).second |= names::root;
+    kindsOf(robot.root.name) |= names::root;
     add(robot.joints, names::joint);
     add(robot.chains, names::chain);
     add(robot.actuators, names::actuator);
@@ -60,7 +69,7 @@ void Names::addAll(Records const& robot)
     add(robot.sensors, names::sensor);
     for (ChainConfig const& chain : robot.chains) {
         for (std::string const& joint : chain.jointNames) {
-            entryOf(joint).second |= names::inChain | names::hasAngle;
+            kindsOf(joint) |= names::inChain | names::hasAngle;
         }
     }
 }
@@ -75,15 +84,16 @@ void Names::checkReferences(Records const& robot)
     if (_isAnyLost) {
         return;
     }
-    entryOf(keep(robot.root.name + "Link")).second |= names::rootLink;
+    kindsOf(keep(robot.root.name + "Link")) |= names::rootLink;
     checkUses(false);
     for (JointConfig const& config : robot.joints) {
         if (!config.hasMotor) {
-            entryOf(config.name).second &= ~static_cast<unsigned>(names::hasAngle);
+            kindsOf(config.name) &= ~static_cast<unsigned>(names::hasAngle);
         }
     }
     for (ActuatorConfig const& config : robot.actuators) {
-        entryOf(config.name).second |= entryOf(config.parentJoint).second & names::inChain ? names::hasAngle : 0U;
+        bool const isInChain = (kindsOf(config.parentJoint) & names::inChain) != 0;
+        kindsOf(config.name) |= isInChain ? names::hasAngle : 0U;
     }
     checkUses(true);
 }
@@ -94,7 +104,7 @@ void Names::checkUses(bool afterChains)
     for (Use const& use : _uses) {
         unsigned const wanted = use.rule->wants.kinds;
         bool const isOfChains = (wanted & (names::inChain | names::hasAngle)) != 0;
-        if (wanted != 0 && isOfChains == afterChains && (use.entry->second & wanted) == 0) {
+        if (wanted != 0 && isOfChains == afterChains && (_entries[use.entry].kinds & wanted) == 0) {
             reportUnknown(use);
         }
     }
@@ -102,30 +112,31 @@ void Names::checkUses(bool afterChains)
 
 void Names::reportUnknown(Use const& use)
 {
-    auto const& [rule, entry, node, attribute] = use;
+    auto const& [rule, index, node, attribute] = use;
+    Entry const& entry = _entries[index];
     if (_diagnostics.countIfFull(*rule->wants.unknown.code)) {
         return;
     }
     std::string hint(rule->wants.unknown.hint);
-    bool const isSomethingElse = rule->wants.kinds == names::hasAngle && entry->second != 0;
+    bool const isSomethingElse = rule->wants.kinds == names::hasAngle && entry.kinds != 0;
     if (hint.empty() && !isSomethingElse) {
-        auto const nameOfKind = [wanted = rule->wants.kinds](Entry const* known) {
-            return (known->second & wanted) != 0 ? known->first.first : std::string_view();
+        auto const nameOfKind = [wanted = rule->wants.kinds](Entry const& known) {
+            return (known.kinds & wanted) != 0 ? known.name : std::string_view();
         };
-        if (Entry* const* const meant = _suggestions.closest(_inTextOrder, nameOfKind, entry->first.first)) {
-            (*meant)->second |= rule->gives.kinds;  // so that what is misspelt here is not missed elsewhere
-            hint = "Did you mean " + quoted((*meant)->first.first) + "?";
+        if (Entry* const meant = _suggestions.closest(_entries, nameOfKind, entry.name)) {
+            meant->kinds |= rule->gives.kinds;  // so that what is misspelt here is not missed elsewhere
+            hint = "Did you mean " + quoted(meant->name) + "?";
         }
     }
     _diagnostics.report(rule->wants.blamesElement ? at(node) : at(node, attribute), *rule->wants.unknown.code,
-                        filledIn(rule->wants.unknown.message, entry->first.first), std::move(hint));
+                        filledIn(rule->wants.unknown.message, entry.name), std::move(hint));
 }
 
 void Names::checkCycle(names::Cycle const& cycle)
 {
     std::vector<Use const*> attached;
     std::unordered_map<std::size_t, std::size_t> indexOfNode;
-    std::unordered_map<Entry const*, std::size_t> owners;  // of the names that something is attached to
+    std::unordered_map<EntryIndex, std::size_t> owners;  // of the names that something is attached to
     for (Use const& use : _uses) {
         if (use.rule == cycle.parent) {
             indexOfNode.emplace(use.node.id(), attached.size());

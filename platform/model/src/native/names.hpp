@@ -2,19 +2,17 @@
 #define VARO_MODEL_NATIVE_NAMES_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
-#include <functional>
-#include <memory_resource>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "native/name_rules.hpp"
 #include "robot/suggestions.hpp"
 #include "varo/model/diagnostics.hpp"
-#include "varo/model/name_hash.hpp"
+#include "varo/model/hash_slots.hpp"
 #include "varo/model/records.hpp"
 #include "xml/document.hpp"
 
@@ -45,33 +43,31 @@ public:
 
 private:
     static constexpr std::size_t wholeText = 0;
-    /// The name and the number of the element within which it differs from others.
-    using Key = std::pair<std::string_view, std::size_t>;
-    struct Hash {
-        std::size_t operator()(Key const& key) const
-        {
-            return NameHash()(key.first) ^ std::hash<std::size_t>()(key.second);
-        }
+    struct Entry {
+        std::string_view name;
+        std::uint32_t scope;  ///< the number of the element within which the name differs from others
+        std::uint32_t hash;  ///< of both
+        unsigned kinds;
     };
-    using Kinds = std::pmr::unordered_map<Key, unsigned, Hash>;
-    using Entry = Kinds::value_type;
+    using EntryIndex = std::uint32_t;
     struct Use {
         NameRule const* rule;
-        Entry* entry;
+        EntryIndex entry;
         XmlNode node;
         XmlAttribute attribute;
     };
 
-    Entry& entryOf(std::string_view name, std::size_t scope = wholeText);
+    EntryIndex indexOf(std::string_view name, std::size_t scope = wholeText);
+    /// To be forgotten before another one is asked for.
+    unsigned& kindsOf(std::string_view name) { return _entries[indexOf(name)].kinds; }
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
     void checkCycle(names::Cycle const& cycle);
 
     Diagnostics& _diagnostics;
     std::deque<std::string> _kept;
-    std::pmr::monotonic_buffer_resource _memory;
-    Kinds _kinds{&_memory};
-    std::vector<Entry*> _inTextOrder;  ///< each of those, by its first mention
+    std::vector<Entry> _entries;  ///< by their first mention
+    HashSlots _slots;
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
     Suggestions _suggestions;
     bool _isAnyLost = false;

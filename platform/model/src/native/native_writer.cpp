@@ -9,8 +9,9 @@ std::string writeNative(Robot const& robot)
 {
     auto const records = recordsOf(robot);
     Schema::ElementWriter writer(*records);
+    writer.writeDeclaration();
     writer.write(Native::robotDescriptionElement, *records);
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + writer.text();
+    return writer.takeText();
 }
 
 }  // namespace Varo::Model

@@ -43,6 +43,11 @@ void appendEscaped(std::string& result, std::string_view text)
 
 }  // namespace
 
+void ElementWriter::writeDeclaration()
+{
+    _text += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+}
+
 void ElementWriter::openTag(std::string_view name)
 {
     endTag();

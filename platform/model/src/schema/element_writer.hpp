@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "schema/schema.hpp"
 #include "varo/model/records.hpp"
@@ -25,6 +26,8 @@ public:
     ElementWriter& operator=(ElementWriter const&) = delete;
     virtual ~ElementWriter() = default;
 
+    /// What a text begins with, before its root element.
+    void writeDeclaration();
     template <class Record>
     void write(Element<Record> const& element, Record const& record);
     /// The same, unless the attributes say no more than those of a new record.
@@ -35,6 +38,8 @@ public:
 
     /// All that was written.
     std::string const& text() const { return _text; }
+    /// The same, without a copy: the writer is of no use afterwards.
+    std::string takeText() { return std::move(_text); }
 
 protected:
     /// What a dialect writes beside its tables may be added between these steps.

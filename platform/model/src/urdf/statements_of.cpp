@@ -4,7 +4,6 @@
 #include <unordered_set>
 #include <utility>
 
-#include "robot/cycles.hpp"
 #include "urdf/values.hpp"
 #include "varo/model/name_hash.hpp"
 
@@ -182,46 +181,60 @@ void addDriven(TransmissionConfig const& config, Transmission& stated)
 
 StatementsOf::StatementsOf(Records const& records, ShortPoses& poses) : _records(records), _poses(poses)
 {
+    std::size_t const size = records.joints.size();
     _robot.name = records.name;
     _robot.version = records.version == onlyVersion ? onlyVersion : std::string_view();
     nameLinks();
     attachJoints();
-    _robot.links.push_back(toLink(records.root, {}));
-    for (JointConfig const& joint : records.joints) {
-        addJoint(joint);
+    _ends.resize(size);
+    _robot.joints.reserve(size);
+    _robot.links.reserve(size + 1);
+    _robot.links.push_back(toLink(records.root, linkOf(none), {}));
+    for (std::size_t i = 0; i < size; ++i) {
+        addJoint(i);
     }
     addTransmissions();
+    _attachments = {};  // to make room for the text
+    _ends = {};
+}
+
+std::size_t StatementsOf::indexOf(std::string_view joint) const
+{
+    JointConfig const* const found = _records.joints.find(joint);
+    return found == nullptr ? none : static_cast<std::size_t>(found - &_records.joints[0]);
 }
 
 std::string_view StatementsOf::linkOf(std::string_view bearer) const
 {
-    auto const found = _links.find(bearer);
-    return found == _links.end() ? _links.at(_records.root.name) : found->second;
+    return linkOf(indexOf(bearer));
 }
 
-/// Their own names, where the records have them; no name twice.
+/// Their own names, where the records have them; no name twice. The root's comes first, so that it stays as it is.
 void StatementsOf::nameLinks()
 {
-    std::unordered_set<std::string, NameHash> taken;
-    auto const add = [&](JointConfig const& body, std::string name) {
+    JointConfig const& root = _records.root;
+    std::string const rootLink = root.linkName.empty() ? root.name : root.linkName;
+    std::unordered_set<std::string_view, NameHash> taken = {rootLink};
+    _linkNames.reserve(_records.joints.size() + 1);  // so that the views last
+    for (JointConfig const& joint : _records.joints) {
+        std::string& name = _linkNames.emplace_back(joint.linkName.empty() ? joint.name + "Link" : joint.linkName);
         while (!taken.insert(name).second) {
             name += "_";
         }
-        _links.emplace(body.name, keep(std::move(name)));
-    };
-    JointConfig const& root = _records.root;
-    add(root, root.linkName.empty() ? root.name : root.linkName);
-    for (JointConfig const& joint : _records.joints) {
-        add(joint, joint.linkName.empty() ? joint.name + "Link" : joint.linkName);
     }
+    _linkNames.push_back(rootLink);
 }
 
 void StatementsOf::attachJoints()
 {
+    _attachments.resize(_records.joints.size());
     for (ChainConfig const& chain : _records.chains) {
-        Attachment next = {chain.parentJoint, chain.placement};
-        for (std::string const& joint : chain.jointNames) {
-            _attachments.emplace(joint, next);
+        Attachment next = {indexOf(chain.parentJoint), chain.placement};
+        for (std::string const& name : chain.jointNames) {
+            std::size_t const joint = indexOf(name);
+            if (joint != none && !_attachments[joint]) {
+                _attachments[joint] = next;
+            }
             next = {joint, {}};
         }
     }
@@ -231,16 +244,13 @@ void StatementsOf::attachJoints()
 /// Joints that chains attach to each other are attached to the root instead.
 void StatementsOf::cutCycles()
 {
-    auto const& joints = _records.joints;
     std::vector<std::size_t> parents;
-    for (JointConfig const& joint : joints) {
-        auto const attachment = _attachments.find(joint.name);
-        JointConfig const* const parent =
-            attachment == _attachments.end() ? nullptr : joints.find(attachment->second.parent);
-        parents.push_back(parent == nullptr ? none : static_cast<std::size_t>(parent - &joints[0]));
+    parents.reserve(_attachments.size());
+    for (auto const& attachment : _attachments) {
+        parents.push_back(attachment ? attachment->parent : none);
     }
     for (Cycle const& cycle : findCycles(parents)) {
-        _attachments.erase(joints[cycle.front()].name);
+        _attachments[cycle.front()].reset();
     }
 }
 
@@ -250,56 +260,57 @@ Vector StatementsOf::shiftOfLink(std::string_view bearer) const
     return joint == nullptr ? Vector() : shiftOf(*joint);
 }
 
-void StatementsOf::addJoint(JointConfig const& joint)
+void StatementsOf::addJoint(std::size_t index)
 {
+    JointConfig const& joint = _records.joints[index];
     Joint stated;
     stated.name = joint.name;
     stated.type = joint.jointType;
-    stated.child.emplace().link = linkOf(joint.name);
+    stated.child.emplace().link = linkOf(index);
     stated.limit = toLimit(joint);
     fillExtras(joint, stated);
-    placeJoint(joint, stated);
+    placeJoint(index, stated);
     _robot.joints.push_back(std::move(stated));
-    _robot.links.push_back(toLink(joint, shiftOf(joint)));
+    _robot.links.push_back(toLink(joint, linkOf(index), shiftOf(joint)));
 }
 
 /// The link's frame of one joint's end is what the next joint's placement begins with: both as the reader computes
 /// them, where that gives what the record has.
-void StatementsOf::placeJoint(JointConfig const& joint, Joint& stated)
+void StatementsOf::placeJoint(std::size_t index, Joint& stated)
 {
-    End const& end = endOf(joint);
+    JointConfig const& joint = _records.joints[index];
+    End const& end = endOf(index);
     if (isMoving(joint.jointType)) {
         stated.axis.emplace().xyz = end.axis;
     }
-    auto const found = _attachments.find(joint.name);
-    Attachment const attachment = found == _attachments.end() ? Attachment{_records.root.name, {}} : found->second;
-    JointConfig const* const before = _records.joints.find(attachment.parent);
+    Attachment const attachment = _attachments[index].value_or(Attachment());
     stated.parent.emplace().link = linkOf(attachment.parent);
-    Pose const start = before == nullptr ? Pose() : endOf(*before).pose;
+    Pose const start = attachment.parent == none ? Pose() : endOf(attachment.parent).pose;
     Math::Transform const placement =
         attachment.base == Math::Transform() ? joint.placement : attachment.base * joint.placement;
     StatedPose const pose = _poses.poseBetween(start, placement, inverse(end.pose));
     stated.origin = toOrigin(pose.xyz, pose.rpy);
 }
 
-StatementsOf::End const& StatementsOf::endOf(JointConfig const& joint)
+StatementsOf::End const& StatementsOf::endOf(std::size_t joint)
 {
-    auto const [entry, isNew] = _ends.try_emplace(joint.name);
-    End& end = entry->second;
-    if (isNew) {
-        end.axis = isMoving(joint.jointType) ? _poses.axisOf(joint.endTransform) : Vector{0.0, 0.0, 1.0};
-        end.pose = inverse({rotationFromZ(end.axis), {}});
-        if (toTransform(end.pose) != joint.endTransform) {
-            end.pose = {toPose(joint.endTransform).rotation, {}};
+    std::optional<End>& end = _ends[joint];
+    if (!end) {
+        JointConfig const& record = _records.joints[joint];
+        end.emplace();
+        end->axis = isMoving(record.jointType) ? _poses.axisOf(record.endTransform) : Vector{0.0, 0.0, 1.0};
+        end->pose = inverse({rotationFromZ(end->axis), {}});
+        if (toTransform(end->pose) != record.endTransform) {
+            end->pose = {toPose(record.endTransform).rotation, {}};
         }
     }
-    return end;
+    return *end;
 }
 
-Link StatementsOf::toLink(JointConfig const& body, Vector const& shift)
+Link StatementsOf::toLink(JointConfig const& body, std::string_view name, Vector const& shift)
 {
     Link link;
-    link.name = linkOf(body.name);
+    link.name = name;
     link.inertial = toInertial(body, shift);
     bool const isMeshAlone = body.shapes.visuals.empty() && !body.meshName.empty();
     std::vector<VisualConfig> const& visuals =

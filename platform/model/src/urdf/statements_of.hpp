@@ -1,16 +1,16 @@
 #ifndef VARO_MODEL_URDF_STATEMENTS_OF_HPP
 #define VARO_MODEL_URDF_STATEMENTS_OF_HPP
 
+#include <cstddef>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 #include <vector>
 
+#include "robot/cycles.hpp"
 #include "urdf/short_poses.hpp"
 #include "urdf/statements.hpp"
-#include "varo/model/name_hash.hpp"
 #include "varo/model/records.hpp"
 
 namespace Varo::Model::Urdf {
@@ -33,7 +33,7 @@ public:
 private:
     /// Where the record has a joint.
     struct Attachment {
-        std::string parent;  ///< the joint, or the root, before it
+        std::size_t parent = none;  ///< the joint before it; none for the root
         Math::Transform base;  ///< of its chain, in the frame of that one
     };
 
@@ -43,23 +43,25 @@ private:
         Pose pose;  ///< as the reader computes it, where the axis says it
     };
 
+    /// Of the joint of that name; none for the root and for an unknown name.
+    std::size_t indexOf(std::string_view joint) const;
+    /// Of the joint, or of the root.
+    std::string_view linkOf(std::size_t joint) const { return joint == none ? _linkNames.back() : _linkNames[joint]; }
     void nameLinks();
     void attachJoints();
     void cutCycles();
-    void addJoint(JointConfig const& joint);
-    void placeJoint(JointConfig const& joint, Joint& stated);
-    End const& endOf(JointConfig const& joint);
-    Link toLink(JointConfig const& body, Vector const& shift);
+    void addJoint(std::size_t index);
+    void placeJoint(std::size_t index, Joint& stated);
+    End const& endOf(std::size_t joint);
+    Link toLink(JointConfig const& body, std::string_view name, Vector const& shift);
     void addTransmissions();
-    std::string_view keep(std::string text) { return _texts.emplace_back(std::move(text)); }
 
     Records const& _records;
     ShortPoses& _poses;
     Robot _robot;
-    std::deque<std::string> _texts;
-    std::unordered_map<std::string_view, std::string_view, NameHash> _links;  ///< by joint or root
-    std::unordered_map<std::string_view, Attachment, NameHash> _attachments;  ///< by joint
-    std::unordered_map<std::string_view, End, NameHash> _ends;  ///< by joint
+    std::vector<std::string> _linkNames;  ///< of the joints, and behind them that of the root
+    std::vector<std::optional<Attachment>> _attachments;  ///< of the joints; of none that no chain has
+    std::vector<std::optional<End>> _ends;  ///< of the joints, as far as they were asked for
     std::deque<std::vector<VisualConfig>> _meshVisuals;  ///< those that records say in short
 };
 

@@ -92,27 +92,36 @@ struct UrdfText {
 
 UrdfText write(Records const& records, ExtensionList const& extensions)
 {
-    constexpr std::string_view head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
     Urdf::ShortPoses poses;
     Urdf::StatementsOf const statements(records, poses);
     Urdf::ExtendingWriter writer(records, statements, extensions, poses);
+    writer.writeDeclaration();
     writer.writeRobot();
-    return {std::make_unique<SourceText>(std::string(head) + writer.text()), head.size() + writer.attributesEnd(),
-            head.size() + writer.linesEnd()};
+    return {std::make_unique<SourceText>(writer.takeText()), writer.attributesEnd(), writer.linesEnd()};
+}
+
+Records readWritten(UrdfText const& written, Diagnostics& diagnostics)
+{
+    XmlDocument document;
+    return parseXml(*written.source, document, diagnostics) ? readUrdf(document.root(), diagnostics) : Records();
+}
+
+/// What a reader has against the text.
+std::string refusalOf(UrdfText const& written)
+{
+    Diagnostics diagnostics(written.source.get());
+    readWritten(written, diagnostics);
+    return summaryOf(diagnostics.findings());
 }
 
 /// What a reader makes of the text; nothing for one that it refuses or takes for another robot's, of which `reason`
 /// says why.
 std::optional<Records> readBack(UrdfText const& written, Records const& wanted, std::string& reason)
 {
-    Diagnostics diagnostics(written.source.get());
-    XmlDocument document;
-    Records records;
-    if (parseXml(*written.source, document, diagnostics)) {
-        records = readUrdf(document.root(), diagnostics);
-    }
+    Diagnostics diagnostics(written.source.get(), 0);  // nobody will see them but where there are errors
+    Records records = readWritten(written, diagnostics);
     if (diagnostics.hasErrors()) {
-        reason = summaryOf(diagnostics.findings());
+        reason = refusalOf(written);
         return std::nullopt;
     }
     if (records.joints.size() != wanted.joints.size() || records.sensors.size() != wanted.sensors.size()) {
@@ -128,9 +137,9 @@ std::optional<Records> readBack(UrdfText const& written, Records const& wanted, 
 std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics)
 {
     std::shared_ptr<Records const> const records = statedRecordsOf(robot);
-    ExtensionList const none;
+    ExtensionList const noExtensions;
     std::string reason;
-    for (ExtensionList const* const extensions : {&records->extensions, &none}) {  // which may say anything
+    for (ExtensionList const* const extensions : {&records->extensions, &noExtensions}) {  // which may say anything
         UrdfText const written = write(*records, *extensions);
         std::optional<Records> given = readBack(written, *records, reason);
         if (!given) {
@@ -146,7 +155,7 @@ std::string writeUrdf(Robot const& robot, Diagnostics& diagnostics)
         return written.with(declaration + std::string(Urdf::ownNamespace) + "\"", amendment.text);
     }
     diagnostics.report({}, Urdf::codes::notUrdf, "No URDF can be made of this robot: " + reason);
-    return write(*records, none).text();
+    return write(*records, noExtensions).text();
 }
 
 }  // namespace Varo::Model

@@ -3,10 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <string_view>
 #include <vector>
 
+#include "varo/model/hash_slots.hpp"
 #include "varo/model/name_hash.hpp"
 
 namespace Varo::Model {
@@ -16,29 +16,20 @@ namespace Varo::Model {
 class NameIndex {
 public:
     /// The number of a name that has none.
-    static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+    static constexpr std::uint32_t none = HashSlots::none;
 
     /// Makes room for so many names.
     void reserve(std::size_t names)
     {
         _entries.reserve(names);
-        std::size_t slots = 16;
-        while (slots < 2 * names) {
-            slots *= 2;
-        }
-        if (slots > _slots.size()) {
-            rehash(slots);
-        }
+        _slots.reserve(names, _entries);
     }
 
     /// Gives the name the number, unless it has one. Answers the number that it has now.
     std::uint32_t add(std::string_view name, std::uint32_t number)
     {
-        if (2 * (_entries.size() + 1) > _slots.size()) {
-            reserve(_entries.size() + _entries.size() / 2 + 8);
-        }
         std::uint32_t const hash = hashOf(name);
-        std::uint32_t& slot = _slots[slotOf(name, hash)];
+        std::uint32_t& slot = _slots.slotFor(hash, _entries, [name](Entry const& entry) { return entry.name == name; });
         if (slot == none) {
             slot = static_cast<std::uint32_t>(_entries.size());
             _entries.push_back({name, hash, number});
@@ -49,8 +40,9 @@ public:
     /// The number of the name, or none.
     std::uint32_t find(std::string_view name) const
     {
-        std::uint32_t const slot = _slots.empty() ? none : _slots[slotOf(name, hashOf(name))];
-        return slot == none ? none : _entries[slot].number;
+        std::uint32_t const found =
+            _slots.find(hashOf(name), _entries, [name](Entry const& entry) { return entry.name == name; });
+        return found == none ? none : _entries[found].number;
     }
 
     /// Whether the name has a number.
@@ -71,31 +63,8 @@ private:
         std::uint32_t number;
     };
 
-    /// Where the name stands, or would.
-    std::size_t slotOf(std::string_view name, std::uint32_t hash) const
-    {
-        std::size_t const mask = _slots.size() - 1;
-        std::size_t slot = hash & mask;
-        while (_slots[slot] != none && !isAt(_slots[slot], name, hash)) {
-            slot = (slot + 1) & mask;
-        }
-        return slot;
-    }
-    bool isAt(std::uint32_t entry, std::string_view name, std::uint32_t hash) const
-    {
-        return _entries[entry].hash == hash && _entries[entry].name == name;
-    }
-
-    void rehash(std::size_t slots)
-    {
-        _slots.assign(slots, none);
-        for (std::size_t entry = 0; entry < _entries.size(); ++entry) {
-            _slots[slotOf(_entries[entry].name, _entries[entry].hash)] = static_cast<std::uint32_t>(entry);
-        }
-    }
-
     std::vector<Entry> _entries;
-    std::vector<std::uint32_t> _slots;  ///< indices of entries by hash: a power of two, at most half of them in use
+    HashSlots _slots;
 };
 
 }  // namespace Varo::Model
