@@ -84,6 +84,9 @@ TEST(FindingPlaces, CountCharactersWithoutTheByteOrderMarkAndLinesOfAnyKind)
     ASSERT_EQ(findings.size(), 2U);
     EXPECT_EQ(std::pair(findings[0].line, findings[0].column), std::pair(1, 29));
     EXPECT_EQ(std::pair(findings[1].line, findings[1].column), std::pair(4, 2));
+    auto const robot =
+        ModelUtils::robotFromXml("\xEF\xBB\xBF<robotDescription name='R'><root name='B'/></robotDescription>");
+    EXPECT_EQ(robot->place(robot->records()->root).column, 28) << "as of what is noticed later";
 }
 
 TEST(FindingPlaces, PathsHoldNamesThatEndInAReferenceThatDoesNot)
