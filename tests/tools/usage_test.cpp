@@ -132,7 +132,10 @@ TEST_F(Usage, PagesForManSayWhatHelpSays)
     ASSERT_EQ(run({"help", "--man-pages", "."}).status, fine);
     for (std::string const command : {"", "list", "check", "convert", "help"}) {
         SCOPED_TRACE(command);
-        std::string const page = "./varo-robot" + (command.empty() ? "" : "-" + command) + ".1";
+        std::string const name = "varo-robot" + (command.empty() ? "" : "-" + command);
+        std::string const page = "./" + name + ".1";
+        std::string const forWhatis = runCommand("lexgrog " + page).out;
+        EXPECT_EQ(forWhatis.rfind(page + ": \"" + name + " - ", 0), 0U) << forWhatis;
         Outcome const shown = runCommand("MANWIDTH=1000 LC_ALL=C man --warnings --nh --nj -l " + page);
         EXPECT_EQ(shown.err, "");
         std::set<std::string> const onPage = wordsOf(shown.out);
