@@ -38,6 +38,7 @@ void ModelImpl::fetchAngleActuators()
 void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSpeed)
 {
     auto const& joint = _index->joints.find(name);
+    // What the joint at hand knows need not be looked for by its name.
     auto const* const record = joint == nullptr ? nullptr : joint->_impl->source().joint;
     boost::shared_ptr<Link> link = record == nullptr ? nullptr : joint->_impl->childLink();
     link = link == nullptr ? _index->linkCalledAfter(name) : link;
