@@ -1,9 +1,10 @@
 // One process for each measurement of bench/run_growth, so that peak memory is that of one text:
-//   growth shapes            the names of all shapes, how many parts of a model an element is, whether they are
-//   accepted growth write SHAPE N     a text of that shape with N elements growth parse FILE        the bare parse
-//   growth read FILE         the records and findings
-//   growth load FILE         Sim::Model of the text
-//   growth measure COMMAND   seconds of processor time, peak KiB and exit status of a command, whose output is dropped
+// - growth shapes: the names of all shapes, how many parts of a model an element is, whether they are accepted
+// - growth write SHAPE N: a text of that shape with N elements
+// - growth parse FILE: the bare parse
+// - growth read FILE: the records and findings
+// - growth load FILE: Sim::Model of the text
+// - growth measure COMMAND: seconds of processor time, peak KiB and exit status of a command, whose output is dropped
 #include <cstdio>
 #include <cstdlib>
 #include <string>
