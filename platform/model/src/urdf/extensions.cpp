@@ -1,7 +1,6 @@
 #include "urdf/extensions.hpp"
 
 #include <algorithm>
-#include <map>
 #include <string_view>
 #include <tuple>
 
@@ -39,12 +38,11 @@ bool isTopLevel(XmlNode element)
 }
 
 /// What stands in one place follows each other, wherever in the text such places are.
-struct SiteOrder {
-    bool operator()(ExtensionConfig const& a, ExtensionConfig const& b) const
-    {
-        return std::tie(a.owner, a.ownerName, a.within) < std::tie(b.owner, b.ownerName, b.within);
-    }
-};
+auto keyOf(ExtensionConfig const& extension)
+{
+    return std::tuple(extension.owner, std::string_view(extension.ownerName), std::string_view(extension.within),
+                      extension.textOffset.value());
+}
 
 }  // namespace
 
@@ -56,26 +54,22 @@ bool findBearer(std::string_view name, LinkTree& tree, ExtensionConfig& extensio
 void Extensions::addRecords(LinkTree& tree, SourceText const& source, Records& robot)
 {
     dropNested();
-    std::map<ExtensionConfig, std::vector<Kept>, SiteOrder> sites;  // without texts
-    std::vector<Kept>* current = nullptr;
+    auto& all = robot.extensions;
+    all.reserve(_kept.size());
+    ExtensionConfig site;
     XmlNode last;  // what the last one stands in: the next one often does, too
     for (Kept const& kept : _kept) {
         XmlNode const around = kept.attribute ? kept.element : kept.element.parent();
         if (!(around == last)) {
-            current = &sites[siteIn(around, tree)];
+            site = siteIn(around, tree);
             last = around;
         }
-        current->push_back(kept);
+        ExtensionConfig& extension = all.emplace_back(site);
+        extension.textOffset = at(kept.element, kept.attribute);
+        std::size_t const offset = extension.textOffset.value();
+        extension.text = kept.attribute ? attributeAt(source.text(), offset) : kept.element.source();
     }
-    robot.extensions.reserve(_kept.size());
-    for (auto const& [site, all] : sites) {
-        for (Kept const& kept : all) {
-            ExtensionConfig& extension = robot.extensions.emplace_back(site);
-            extension.textOffset = at(kept.element, kept.attribute);
-            extension.text =
-                kept.attribute ? attributeAt(source.text(), extension.textOffset.value()) : kept.element.source();
-        }
-    }
+    std::sort(all.begin(), all.end(), [](auto const& a, auto const& b) { return keyOf(a) < keyOf(b); });
 }
 
 /// Puts what is kept in the order of the text, without what stands in something else that is kept.
@@ -126,9 +120,13 @@ ExtensionConfig Extensions::siteIn(XmlNode element, LinkTree& tree)
 std::size_t Extensions::rankOf(XmlNode element)
 {
     if (element.id() >= _ranks.size() || _ranks[element.id()] == 0) {
-        std::unordered_map<std::string_view, std::size_t, NameHash> counts;
+        std::unordered_map<std::string_view, std::uint32_t, NameHash> counts;
+        std::size_t last = 0;
         for (XmlNode const sibling : element.parent().children()) {
-            _ranks.resize(std::max(_ranks.size(), sibling.id() + 1));
+            last = sibling.id();
+        }
+        _ranks.resize(std::max(_ranks.size(), last + 1));
+        for (XmlNode const sibling : element.parent().children()) {
             _ranks[sibling.id()] = ++counts[sibling.name()];
         }
     }

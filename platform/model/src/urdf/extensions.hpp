@@ -2,6 +2,7 @@
 #define VARO_MODEL_URDF_EXTENSIONS_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -42,7 +43,7 @@ private:
 
     std::vector<Kept> _kept;
     std::unordered_map<std::size_t, std::string> _sensors;  ///< names of their records by their elements
-    std::vector<std::size_t> _ranks;  ///< by node: which of its like-named siblings it is, from 1; 0: unknown
+    std::vector<std::uint32_t> _ranks;  ///< by node: which of its like-named siblings it is, from 1; 0: unknown
 };
 
 /// The link or joint of that name, the link where there are both, as what an extension stands in; false for neither.
