@@ -38,17 +38,17 @@ void ModelImpl::fetchAngleActuators()
 void ModelImpl::fetchAngleActuator(std::string const& name, bool withTorqueAndSpeed)
 {
     auto const& joint = _index->joints.find(name);
-    // What the joint at hand knows need not be looked for by its name.
-    auto const* const record = joint == nullptr ? nullptr : joint->_impl->source().joint;
-    boost::shared_ptr<Link> link = record == nullptr ? nullptr : joint->_impl->childLink();
-    link = link == nullptr ? _index->linkCalledAfter(name) : link;
-    require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
+    boost::shared_ptr<Link> link;
     Transform end;
-    if (record != nullptr) {
+    // What the joint at hand knows need not be looked for by its name.
+    if (auto const* const record = joint == nullptr ? nullptr : joint->_impl->source().joint) {
+        link = joint->_impl->childLink();
         end = record->endTransform;
     } else {
         _motionModel->endTransformFromJointName(name, end);
     }
+    link = link == nullptr ? _index->linkCalledAfter(name) : link;
+    require(link != nullptr, Subject::joint, name, "Could not find the link of joint ", name);
     SharedName const sharedName = SharedName::of(name);
     FramePtr const frame = addFrame(sharedName, end.inverse(), link->_impl->frame());
 

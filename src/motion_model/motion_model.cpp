@@ -43,24 +43,6 @@ std::string MotionModel::version() const
     return _robot->version();
 }
 
-std::list<std::string> MotionModel::chainNames() const
-{
-    std::list<std::string> names;
-    for (std::uint32_t const chain : _records->chainOrder) {
-        names.push_back(_records->chains.nameOf(chain));
-    }
-    return names;
-}
-
-MotionModel::NameRefs MotionModel::chainRefs() const
-{
-    NameRefs names;
-    for (std::uint32_t const chain : _records->chainOrder) {
-        names.push_back(&_records->chains.nameOf(chain));
-    }
-    return names;
-}
-
 std::list<std::string> MotionModel::wheelNames() const
 {
     return namesIn(_records->wheels);

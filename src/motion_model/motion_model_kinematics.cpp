@@ -52,6 +52,12 @@ std::string const& defaultMaterial()
     return gum;
 }
 
+std::string const& materialAmong(Varo::Model::Attributes const& attributes)
+{
+    std::string const* const stated = find(attributes, "material");
+    return stated == nullptr ? defaultMaterial() : *stated;
+}
+
 /// The actuator's limit replaces that of a joint of the same name.
 template <typename Entry>
 bool readLimit(Entry const& named, float JointConfig::*ofJoint, float ActuatorConfig::*ofActuator, float& limit)
@@ -183,15 +189,14 @@ bool MotionModel::inertiaMatrix(std::string const& name, std::vector<float>& ine
 
 std::string const& MotionModel::frictionMaterialOf(std::string const& name) const
 {
-    std::string const* stated = nullptr;
-    readBody(_index->of(name), [&](auto const& body) { stated = find(body.attributes, "material"); });
-    return stated == nullptr ? defaultMaterial() : *stated;
+    std::string const* material = &defaultMaterial();
+    readBody(_index->of(name), [&](auto const& body) { material = &materialAmong(body.attributes); });
+    return *material;
 }
 
 std::string const& MotionModel::frictionMaterialOf(JointConfig const& body)
 {
-    std::string const* const stated = find(body.attributes, "material");
-    return stated == nullptr ? defaultMaterial() : *stated;
+    return materialAmong(body.attributes);
 }
 
 bool MotionModel::frictionMaterial(std::string const& name, std::string& material) const

@@ -103,6 +103,20 @@ bool readMirror(Record const& record, std::string& mirror, bool& reflected)
 
 }  // namespace
 
+MotionModel::NameRefs MotionModel::chainRefs() const
+{
+    NameRefs names;
+    for (std::uint32_t const chain : _records->chainOrder) {
+        names.push_back(&_records->chains.nameOf(chain));
+    }
+    return names;
+}
+
+std::list<std::string> MotionModel::chainNames() const
+{
+    return copiesOf<std::list<std::string>>(chainRefs());
+}
+
 std::vector<std::string> const& MotionModel::jointsOf(std::string const& chain) const
 {
     static std::vector<std::string> const none;

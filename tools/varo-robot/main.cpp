@@ -116,9 +116,9 @@ int run(int argumentCount, char** arguments)
     return runChosen(chosen);
 }
 
-/// Lets what one step of a command needed be there for the next, however large it was. Otherwise the largest block that
-/// was freed so far decides which ones the system gets back.
-void giveMemoryBack()
+/// Has large blocks go back to the system as soon as they are freed, so that the next step of a command can have that
+/// memory. By default, glibc keeps blocks up to the size of the largest one that was freed so far.
+void returnLargeBlocksAtOnce()
 {
 #ifdef __GLIBC__
     constexpr int leastBytes = 1024 * 1024;
@@ -156,7 +156,7 @@ int main(int argumentCount, char** arguments)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
     std::set_terminate(Tool::endInTheMiddle);
-    Tool::giveMemoryBack();
+    Tool::returnLargeBlocksAtOnce();
     try {
         return Tool::run(argumentCount, arguments);
     } catch (std::bad_alloc const&) {

@@ -58,7 +58,7 @@ private:
     };
 
     EntryIndex indexOf(std::string_view name, std::size_t scope = wholeText);
-    /// To be forgotten before another one is asked for.
+    /// Valid until another name is asked for.
     unsigned& kindsOf(std::string_view name) { return _entries[indexOf(name)].kinds; }
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);

@@ -19,7 +19,7 @@ public:
     {
         return closest(items, nameOf, ClosestWord(written));
     }
-    /// The same, with what is close.
+    /// The same for a word that comes with its own greatest distance.
     template <class Items, class NameOf>
     auto closest(Items& items, NameOf const& nameOf, ClosestWord closest) -> decltype(&*items.begin())
     {

@@ -6,13 +6,11 @@
 namespace Varo::Model::Rules {
 
 Facts::Facts(Robot const& robot, LintTolerances const& allowed)
-    : records(recordsOf(robot)),
-      tolerances(allowed),
-      joints(indexOf(records->joints)),
-      places(placeAtZero(*records, joints)),
-      sides(findSides(*records, joints, places)),
-      actuatorPairs(mutualPairs(records->actuators))
+    : records(recordsOf(robot)), tolerances(allowed), actuatorPairs(mutualPairs(records->actuators))
 {
+    NameIndex const joints = indexOf(records->joints);
+    places = placeAtZero(*records, joints);
+    sides = findSides(*records, joints, places);
     for (SidePair const& side : sides.pairs) {
         JointConfig const& first = records->joints[side.first];
         pairsOfKind[withoutSides(first.name)].push_back(jointPairs.size());

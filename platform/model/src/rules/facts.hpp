@@ -50,7 +50,6 @@ struct Facts {
 
     std::shared_ptr<Records const> records;
     LintTolerances tolerances;
-    NameIndex joints;  ///< of their table
     std::vector<PlacedJoint> places;  ///< of the joints, one for one
     Sides sides;
     std::vector<JointPair> jointPairs;  ///< one for one with those of the sides

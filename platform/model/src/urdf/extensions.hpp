@@ -35,6 +35,7 @@ private:
         XmlNode element;
         XmlAttribute attribute;  ///< null when the whole element is kept
     };
+
     void dropNested();
     ExtensionConfig siteIn(XmlNode element, LinkTree& tree);
     bool findOwner(XmlNode element, LinkTree& tree, ExtensionConfig& site) const;
