@@ -54,25 +54,26 @@ private:
     /// By the joint's own name, else by that of its link.
     void addNamed(std::size_t index)
     {
-        bool isFound = addNamed(index, otherSideOf(joint(index).name), _byName);
+        _names.read(joint(index).name);
+        bool isFound = addOthers(index, _byName);
         if (!isFound) {
-            SideNames const ofLink = otherSideOf(joint(index).linkName);
-            isFound = !ofLink.others.empty() && addNamed(index, ofLink, byLink());
+            _names.read(joint(index).linkName);
+            isFound = _names.size() > 0 && addOthers(index, byLink());
         }
         if (!isFound && _found.isMarked[index]) {
             _found.alone.push_back(index);
         }
     }
 
-    /// Whether words of the name led to a counterpart.
-    bool addNamed(std::size_t index, SideNames const& names, NameIndex const& joints)
+    /// Whether words of the name that was read led to a counterpart.
+    bool addOthers(std::size_t index, NameIndex const& joints)
     {
-        _found.isMarked[index] = _found.isMarked[index] || names.areMarked;
+        _found.isMarked[index] = _found.isMarked[index] || _names.areMarked();
         bool isFound = false;
-        for (std::string const& other : names.others) {
-            if (std::size_t const found = Model::find(joints, other); found != none) {
-                add(index, found, false, names.areMarked);
-                isFound = isFound || names.areMarked;
+        for (std::size_t i = 0; i < _names.size(); ++i) {
+            if (std::size_t const found = Model::find(joints, _names.other(i)); found != none) {
+                add(index, found, false, _names.areMarked());
+                isFound = isFound || _names.areMarked();
             }
         }
         return isFound;
@@ -115,6 +116,7 @@ private:
     Records const& _records;
     NameIndex const& _byName;
     std::optional<NameIndex> _byLink;
+    SideNames _names;
     SideCandidates _found;
     ShortLists<std::uint32_t> _candidates;
     std::vector<ShortLists<std::uint32_t>::List> _ofJoint;  ///< by joint, the indices of its candidates

@@ -3,18 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <initializer_list>
+#include <utility>
 
 namespace Varo::Model {
 
 namespace {
-
-/// A part of a name that says a side, and what the other side has there.
-struct Mark {
-    std::size_t begin = 0;
-    std::size_t length = 0;
-    std::string other = {};
-    std::string alternative = {};  ///< what it may have instead; empty for nothing
-};
 
 bool isUpper(char c)
 {
@@ -46,15 +39,22 @@ char raised(char c)
     return isLower(c) ? static_cast<char>(c - ('a' - 'A')) : c;
 }
 
-/// `word`, given in lower case, in the letter case of `model`.
-std::string inCaseOf(std::string_view model, std::string_view word)
+/// Whether words that say a side begin with that letter.
+bool isOfSide(char c)
 {
-    std::string result(word);
+    return c == 'l' || c == 'r';
+}
+
+/// `word`, given in lower case, in the letter case of `model`.
+ShortWord inCaseOf(std::string_view model, std::string_view word)
+{
+    ShortWord result;
+    result.size = word.size();
     bool const isAllUpper = std::all_of(model.begin(), model.end(), isUpper);
-    for (std::size_t i = 0; i < result.size(); ++i) {
+    for (std::size_t i = 0; i < word.size(); ++i) {
         bool const isRaised = isAllUpper || (i < model.size() && i == 0 && isUpper(model[0])) ||
-                              (model.size() == result.size() && isUpper(model[i]));
-        result[i] = isRaised ? raised(result[i]) : result[i];
+                              (model.size() == word.size() && isUpper(model[i]));
+        result.letters[i] = isRaised ? raised(word[i]) : word[i];
     }
     return result;
 }
@@ -66,45 +66,42 @@ bool isAt(std::string_view name, std::size_t at, std::string_view word)
            std::equal(word.begin(), word.end(), name.data() + at, [](char a, char b) { return a == lowered(b); });
 }
 
-/// Of the words left and right, anywhere in the name.
-void findSpelled(std::string_view name, std::vector<Mark>& marks)
+/// Of the words left and right. What it is called on the other side stays empty where neither stands.
+SideMark spelledMark(std::string_view name, std::size_t at)
 {
     static constexpr std::string_view left = "left";
     static constexpr std::string_view right = "right";
-    for (std::size_t at = 0; at < name.size(); ++at) {
-        char const first = lowered(name[at]);
-        if (first != left[0] && first != right[0]) {
-            continue;
-        }
-        std::string_view const word = first == left[0] ? left : right;
+    SideMark mark;
+    for (auto const& [word, other] : {std::pair(left, right), std::pair(right, left)}) {
         if (isAt(name, at, word)) {
-            marks.push_back({at, word.size(), inCaseOf(name.substr(at, word.size()), first == left[0] ? right : left)});
+            mark.begin = at;
+            mark.length = word.size();
+            mark.other = inCaseOf(name.substr(at, word.size()), other);
         }
     }
+    return mark;
 }
 
-/// Of "l", "r" and of two letters that say front or rear, too. What it is called on the other side stays empty for a
-/// word that says none.
-Mark markOfWord(std::string_view word)
+/// Of "l", "r" and of two letters that say front or rear, too; as above for other words.
+SideMark markOfWord(std::string_view word)
 {
     static constexpr std::string_view ends = "fhbmr";  // front, hind, back, middle, rear
-    auto const isSide = [](char c) { return c == 'l' || c == 'r'; };
     auto const isEnd = [](char c) { return ends.find(c) != std::string_view::npos; };
     auto const flipped = [](char c) { return c == 'l' ? 'r' : 'l'; };
-    Mark mark;
+    SideMark mark;
     mark.length = word.size();
     auto const add = [&](std::initializer_list<char> other) {
-        (mark.other.empty() ? mark.other : mark.alternative) = inCaseOf(word, {other.begin(), other.size()});
+        (mark.other.size == 0 ? mark.other : mark.alternative) = inCaseOf(word, {other.begin(), other.size()});
     };
     char const first = word.empty() ? '\0' : lowered(word[0]);
     char const second = word.size() < 2 ? '\0' : lowered(word[1]);
-    if (word.size() == 1 && isSide(first)) {
+    if (word.size() == 1 && isOfSide(first)) {
         add({flipped(first)});
     }
-    if (word.size() == 2 && isEnd(first) && isSide(second)) {
+    if (word.size() == 2 && isEnd(first) && isOfSide(second)) {
         add({first, flipped(second)});
     }
-    if (word.size() == 2 && isSide(first) && isEnd(second)) {
+    if (word.size() == 2 && isOfSide(first) && isEnd(second)) {
         add({flipped(first), second});
     }
     return mark;
@@ -133,105 +130,115 @@ void forEachWord(std::string_view name, Visit const& visit)
     }
 }
 
-std::vector<Mark> marksOf(std::string_view name)
+/// Calls `visit` with each mark, in the order in which they stand in the name.
+template <class Visit>
+void forEachMark(std::string_view name, Visit const& visit)
 {
-    std::vector<Mark> marks;
-    findSpelled(name, marks);
-    forEachWord(name, [&](std::size_t begin, std::size_t length) {
-        if (length > 2) {
-            return;
+    auto const take = [&](SideMark const& mark) {
+        if (mark.other.size > 0) {
+            visit(mark);
         }
+    };
+    auto const takeSpelled = [&](std::size_t at) {
+        if (isOfSide(lowered(name[at]))) {
+            take(spelledMark(name, at));
+        }
+    };
+    forEachWord(name, [&](std::size_t begin, std::size_t length) {
+        takeSpelled(begin);
         std::size_t const end = begin + length;
         bool const isNumbered = (begin > 0 && isDigit(name[begin - 1])) || (end < name.size() && isDigit(name[end]));
-        Mark mark = markOfWord(name.substr(begin, length));
-        if (!mark.other.empty() && !isNumbered) {  // "r1" may be anything
+        if (length <= 2 && !isNumbered) {  // "r1" may be anything
+            SideMark mark = markOfWord(name.substr(begin, length));
             mark.begin = begin;
-            marks.push_back(std::move(mark));
+            take(mark);
+        }
+        for (std::size_t at = begin + 1; at < end; ++at) {
+            takeSpelled(at);
         }
     });
-    std::sort(marks.begin(), marks.end(), [](Mark const& a, Mark const& b) { return a.begin < b.begin; });
-    return marks;
-}
-
-/// The name with the marks from `first` up to `last` changed, each to its alternative, where it has one, if so wanted.
-std::string changed(std::string_view name, std::vector<Mark> const& marks, std::size_t first, std::size_t last,
-                    bool toAlternative)
-{
-    std::string result;
-    result.reserve(name.size() + last - first);  // "left" becomes one letter longer
-    std::size_t done = 0;
-    for (std::size_t i = first; i < last; ++i) {
-        Mark const& mark = marks[i];
-        result += name.substr(done, mark.begin - done);
-        result += toAlternative && !mark.alternative.empty() ? mark.alternative : mark.other;
-        done = mark.begin + mark.length;
-    }
-    result += name.substr(done);
-    return result;
-}
-
-void addLetterOf(std::string_view name, std::size_t at, std::vector<std::string>& others)
-{
-    std::string const letter = markOfWord(name.substr(at, 1)).other;
-    if (!letter.empty()) {
-        others.push_back(std::string(name.substr(0, at)) + letter + std::string(name.substr(at + 1)));
-    }
 }
 
 }  // namespace
 
-SideNames otherSideOf(std::string_view name)
+void SideNames::read(std::string_view name)
 {
-    constexpr std::size_t mostMarks = 4;  // more say nothing
-    std::vector<Mark> const marks = marksOf(name);
-    SideNames names;
-    names.areMarked = !marks.empty() && marks.size() <= mostMarks;
-    if (marks.empty() && name.size() > 1) {
-        addLetterOf(name, 0, names.others);
-        addLetterOf(name, name.size() - 1, names.others);
+    _name = name;
+    _count = 0;
+    _haveAlternatives = false;
+    readMarks();
+    _areMarked = _count > 0;
+    if (_count > mostMarks) {
+        _count = 0;
+        _areMarked = _haveAlternatives = false;
+    } else if (!_areMarked && name.size() > 1) {
+        readLetter(0);
+        readLetter(name.size() - 1);
     }
-    if (!names.areMarked) {
-        return names;
-    }
-    bool const haveAlternatives =
-        std::any_of(marks.begin(), marks.end(), [](Mark const& mark) { return !mark.alternative.empty(); });
-    for (bool const toAlternative : {false, true}) {
-        if (toAlternative && !haveAlternatives) {
-            break;
+}
+
+void SideNames::readMarks()
+{
+    forEachMark(_name, [this](SideMark const& mark) {
+        if (_count < mostMarks) {
+            _marks[_count] = mark;
+            _haveAlternatives = _haveAlternatives || mark.alternative.size > 0;
         }
-        names.others.push_back(changed(name, marks, 0, marks.size(), toAlternative));
-        for (std::size_t i = 0; marks.size() > 1 && i < marks.size(); ++i) {
-            names.others.push_back(changed(name, marks, i, i + 1, toAlternative));
-        }
+        ++_count;
+    });
+}
+
+void SideNames::readLetter(std::size_t at)
+{
+    SideMark mark = markOfWord(_name.substr(at, 1));
+    if (mark.other.size > 0) {
+        mark.begin = at;
+        _marks[_count++] = mark;
     }
-    return names;
+}
+
+/// With all marks changed, then with each alone; then the same with each changed to its alternative, where it has one.
+std::string const& SideNames::other(std::size_t index)
+{
+    bool const toAlternative = index >= changes();
+    std::size_t const change = index % changes();
+    bool const areAllChanged = changes() > _count && change == 0;
+    std::size_t const first = areAllChanged ? 0 : change - (changes() - _count);
+    std::size_t const last = areAllChanged ? _count : first + 1;
+    _other.clear();
+    std::size_t done = 0;
+    for (std::size_t i = first; i < last; ++i) {
+        SideMark const& mark = _marks[i];
+        _other += _name.substr(done, mark.begin - done);
+        _other += toAlternative && mark.alternative.size > 0 ? mark.alternative : mark.other;
+        done = mark.begin + mark.length;
+    }
+    return _other += _name.substr(done);
 }
 
 Side sideOf(std::string_view name)
 {
-    Side side = Side::unknown;
-    for (Mark const& mark : marksOf(name)) {
+    bool isLeft = false;
+    bool isRight = false;
+    forEachMark(name, [&](SideMark const& mark) {
         std::string_view const word = name.substr(mark.begin, mark.length);
-        auto const letter = std::mismatch(word.begin(), word.end(), mark.other.begin(), mark.other.end()).first;
-        Side const said = letter != word.end() && lowered(*letter) == 'l' ? Side::left : Side::right;
-        if (side != Side::unknown && said != side) {
-            return Side::unknown;
-        }
-        side = said;
-    }
-    return side;
+        std::string_view const other = mark.other;
+        auto const letter = std::mismatch(word.begin(), word.end(), other.begin(), other.end()).first;
+        (letter != word.end() && lowered(*letter) == 'l' ? isLeft : isRight) = true;
+    });
+    return isLeft == isRight ? Side::unknown : isLeft ? Side::left : Side::right;
 }
 
 std::string withoutSides(std::string_view name)
 {
     std::string result;
     std::size_t done = 0;
-    for (Mark const& mark : marksOf(name)) {
+    forEachMark(name, [&](SideMark const& mark) {
         if (mark.begin >= done) {
             result += name.substr(done, mark.begin - done);
             done = mark.begin + mark.length;
         }
-    }
+    });
     result += name.substr(done);
     std::transform(result.begin(), result.end(), result.begin(), [](char c) { return lowered(c); });
     for (std::string_view const end : {"front", "rear", "hind", "back", "middle", "fore"}) {

@@ -2,6 +2,7 @@
 #define VARO_MODEL_RULES_NAMED_PAIRS_HPP
 
 #include <cmath>
+#include <cstddef>
 #include <string>
 
 #include "robot/side_names.hpp"
@@ -16,10 +17,11 @@ namespace Varo::Model::Rules {
 template <class Config, class Visit>
 void forEachNamedPair(Table<Config> const& table, Visit const& visit)
 {
+    SideNames names;
     for (Config const& second : table) {
-        SideNames const names = otherSideOf(second.name);
-        for (std::string const& other : names.others) {
-            Config const* const first = names.areMarked ? table.find(other) : nullptr;
+        names.read(second.name);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            Config const* const first = names.areMarked() ? table.find(names.other(i)) : nullptr;
             if (first != nullptr && first < &second) {
                 visit(*first, second);
                 break;
