@@ -27,6 +27,7 @@ void ModelImpl::fetchAngleActuators()
     bool const withTorqueAndSpeed =
         name().find("SpecialSimulation") != std::string::npos || name().find("Helvo") != std::string::npos;
     std::vector<std::string const*> actuators;
+    actuators.reserve(_joints.size());
     for (std::string const* chain : _motionModel->chainRefs()) {
         _motionModel->appendAngleActuators(*chain, actuators);
     }

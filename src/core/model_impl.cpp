@@ -58,6 +58,8 @@ void ModelImpl::reserveRegistries()
     _frames.reserve(3 * joints + devices + 1);
     _actuators.reserve(joints);
     _sensors.reserve(devices);
+    _jointGroups.reserve(records.chainOrder.size());
+    _actuatorGroups.reserve(records.chainOrder.size());
 }
 
 void ModelImpl::trimRegistries()

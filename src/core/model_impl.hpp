@@ -190,6 +190,8 @@ private:
                                           boost::shared_ptr<MassData const> const& mass,
                                           SharedValue<std::string> const& frictionMaterial,
                                           boost::shared_ptr<VisualData const> const& visual);
+    boost::shared_ptr<Joint> attachJointCalled(std::string const& name, Varo::Math::Transform inParentLink,
+                                               std::string& parent, boost::shared_ptr<Link> const& parentLink);
     boost::shared_ptr<Joint> attachJoint(SharedName const& name, Varo::Math::Transform const& inParentLink,
                                          boost::shared_ptr<Link> const& parentLink, JointSource const& source);
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
@@ -310,10 +312,6 @@ private:
     ElementArena _arena;
     std::unique_ptr<BuildReport> _report;
     bool _saysAloud;  ///< whether the building also prints and logs what it notices
-    // The handles of these kinds leave their data to the model, which frees it after them.
-    std::vector<std::unique_ptr<JointSymmetryImpl>> _jointSymmetryImpls;
-    std::vector<std::unique_ptr<JointGroupImpl>> _jointGroupImpls;
-    std::vector<std::unique_ptr<ActuatorGroupImpl>> _actuatorGroupImpls;
     // The only owners of the elements, which refer to each other weakly.
     std::vector<boost::shared_ptr<Joint>> _joints;
     std::vector<boost::shared_ptr<Link>> _links;

@@ -35,10 +35,8 @@ void ModelImpl::fetchSkeleton()
     std::vector<std::string const*> joints;
     _motionModel->appendFollowingJoints(root, joints);
     for (std::string const* name : joints) {
-        Transform inRoot;
         std::string parent;
-        _motionModel->transformFromJointName(*name, inRoot, parent);
-        fillInBranch(attachJoint(SharedName::of(*name), inRoot, rootLink, {_motionModel->findJoint(*name)}));
+        fillInBranch(attachJointCalled(*name, Transform(), parent, rootLink));
     }
 }
 
@@ -47,6 +45,9 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
 {
     std::vector<Branch> open;
     std::vector<std::string const*> children;
+    constexpr std::size_t usualDepth = 16;
+    open.reserve(usualDepth);
+    children.reserve(usualDepth);
     std::string parent;
     open.push_back(openBranch(joint, children));
     while (!open.empty()) {
@@ -60,10 +61,8 @@ void ModelImpl::fillInBranch(boost::shared_ptr<Joint> const& joint)
         if (_index->joints.contains(name)) {
             continue;
         }
-        Transform inLink = branch.end;
         parent = branch.jointName;  // sub-joints are placed relative to what they are attached to
-        _motionModel->transformFromJointName(name, inLink, parent);
-        auto const child = attachJoint(SharedName::of(name), inLink, branch.link, {_motionModel->findJoint(name)});
+        auto const child = attachJointCalled(name, branch.end, parent, branch.link);
         open.push_back(openBranch(child, children));
     }
 }
@@ -112,6 +111,16 @@ SharedName ModelImpl::linkNameOf(std::string const& jointName) const
 SharedName ModelImpl::frictionMaterialOf(std::string const& name) const
 {
     return SharedName::of(_motionModel->frictionMaterialOf(name));
+}
+
+/// `inParentLink` counts where the motion model knows no other place; `parent` is what that reads and writes.
+boost::shared_ptr<Joint> ModelImpl::attachJointCalled(std::string const& name, Transform inParentLink,
+                                                      std::string& parent, boost::shared_ptr<Link> const& parentLink)
+{
+    JointConfig const* const record = _motionModel->findJoint(name);
+    std::string const& ownName = record == nullptr ? name : record->name;
+    _motionModel->transformFromJointName(ownName, inParentLink, parent);
+    return attachJoint(SharedName::of(ownName), inParentLink, parentLink, {record});
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,

@@ -32,18 +32,14 @@ std::vector<boost::shared_ptr<T>> named(Names const& names, FirstByName<T> const
 
 void ModelImpl::addJointGroup(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints)
 {
-    _jointGroupImpls.push_back(std::make_unique<JointGroupImpl>(name, joints));
-    _jointGroups.push_back(boost::make_shared<JointGroup>());
-    _jointGroups.back()->_impl = _jointGroupImpls.back().get();
+    _jointGroups.push_back(makeElement<JointGroup, JointGroupImpl>(name, joints));
 }
 
 boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& name,
                                                              boost::shared_ptr<ActuatorGroup> const& parent,
                                                              std::vector<boost::shared_ptr<Actuator>> const& actuators)
 {
-    _actuatorGroupImpls.push_back(std::make_unique<ActuatorGroupImpl>(name, parent, actuators));
-    _actuatorGroups.push_back(boost::make_shared<ActuatorGroup>());
-    _actuatorGroups.back()->_impl = _actuatorGroupImpls.back().get();
+    _actuatorGroups.push_back(makeElement<ActuatorGroup, ActuatorGroupImpl>(name, parent, actuators));
     return _actuatorGroups.back();
 }
 

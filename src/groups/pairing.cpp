@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 
 #include "actuators/angle_actuator_impl.hpp"
@@ -23,10 +24,8 @@ void ModelImpl::pairJoints()
         }
         auto const& partner = _index->joints.find(mirror);
         auto const type = reversed ? JointSymmetry::ReflectedSymmetricReversed : JointSymmetry::ReflectedSymmetric;
-        _jointSymmetryImpls.push_back(
-            std::make_unique<JointSymmetryImpl>(JointSymmetryImpl::JointPair(joint, partner), type));
-        _jointSymmetries.push_back(boost::make_shared<JointSymmetry>());
-        _jointSymmetries.back()->_impl = _jointSymmetryImpls.back().get();
+        _jointSymmetries.push_back(
+            makeElement<JointSymmetry, JointSymmetryImpl>(JointSymmetryImpl::JointPair(joint, partner), type));
         paired.add(joint->name(), 0);
         if (partner != nullptr) {
             paired.add(partner->name(), 0);
@@ -46,13 +45,16 @@ template <class Impl>
 void ModelImpl::pairActuatorsOfKind()
 {
     auto const ofKind = actuators<typename Impl::Handle>();
-    FirstByName<typename Impl::Handle> const byName(ofKind);
+    std::optional<FirstByName<typename Impl::Handle>> byName;  // few robots have mirrors of every kind, or any
     std::string mirror;
     for (auto const& actuator : ofKind) {
         bool reversed = false;
         if (_motionModel->mirrorNameFromJointName(actuator->name(), mirror, reversed)) {
+            if (!byName) {
+                byName.emplace(ofKind);
+            }
             Impl& impl = static_cast<Impl&>(*actuator->_impl);
-            impl.setReflectedSymmetric(byName.find(mirror));
+            impl.setReflectedSymmetric(byName->find(mirror));
             impl.setReflectedSymmetricReversed(reversed);
         }
     }

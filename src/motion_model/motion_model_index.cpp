@@ -40,8 +40,22 @@ MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const
 MotionModel::Index::Entry MotionModel::Index::of(std::string const& name) const
 {
     static Facts const nothing;
-    std::uint32_t const number = _names.find(name);
+    std::uint32_t const number = numberOf(name);
     return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
+}
+
+/// A joint's own name, by which building a model mostly asks, is where it is: it need not be looked for.
+std::uint32_t MotionModel::Index::numberOf(std::string const& name) const
+{
+    auto const addressOf = [](std::string const& text) { return reinterpret_cast<std::uintptr_t>(&text); };
+    auto const& joints = _records.joints;
+    if (!joints.empty() && addressOf(name) >= addressOf(joints[0].name)) {
+        std::size_t const joint = (addressOf(name) - addressOf(joints[0].name)) / sizeof(Varo::Model::JointConfig);
+        if (joint < joints.size() && &joints[joint].name == &name) {
+            return static_cast<std::uint32_t>(joint);  // they were numbered first
+        }
+    }
+    return _names.find(name);
 }
 
 MotionModel::Index::Facts& MotionModel::Index::factsOf(std::string const& name)

@@ -69,6 +69,7 @@ private:
         bool reflectionForced = false;
     };
 
+    std::uint32_t numberOf(std::string const& name) const;
     Facts& factsOf(std::string const& name);
     template <typename Record>
     void addRecords(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record);

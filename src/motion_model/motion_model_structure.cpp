@@ -106,6 +106,7 @@ bool readMirror(Record const& record, std::string& mirror, bool& reflected)
 MotionModel::NameRefs MotionModel::chainRefs() const
 {
     NameRefs names;
+    names.reserve(_records->chainOrder.size());
     for (std::uint32_t const chain : _records->chainOrder) {
         names.push_back(&_records->chains.nameOf(chain));
     }
@@ -140,7 +141,7 @@ void MotionModel::appendAngleActuators(std::string const& chain, NameRefs& actua
     for (std::string const& name : jointsOf(chain)) {
         auto const* const joint = findJoint(name);
         if (joint == nullptr || joint->hasMotor) {
-            actuators.push_back(&name);
+            actuators.push_back(joint == nullptr ? &name : &joint->name);
         }
     }
 }

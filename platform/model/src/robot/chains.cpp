@@ -40,6 +40,20 @@ void pushReversed(Indices& stack, Iterator begin, Iterator end)
     stack.insert(stack.end(), std::make_reverse_iterator(end), std::make_reverse_iterator(begin));
 }
 
+/// Adds the joints of the chain that begins with that one, and those that begin chains of their own beside it.
+void followChain(LinkTree const& tree, ChildJoints const& children, std::size_t joint, Indices& members,
+                 Indices& branches)
+{
+    while (joint != none) {
+        members.push_back(joint);
+        auto const next = children[tree.joints[joint].childLink];
+        joint = next.empty() ? none : next.front();
+        if (next.size() > 1) {
+            branches.insert(branches.end(), next.begin() + 1, next.end());
+        }
+    }
+}
+
 }  // namespace
 
 ChildJoints childJointsOf(LinkTree const& tree)
@@ -61,10 +75,12 @@ ChildJoints childJointsOf(LinkTree const& tree)
 Table<ChainConfig> makeChains(LinkTree const& tree, ChildJoints const& children)
 {
     Table<ChainConfig> chains;
+    Indices members;
+    Indices branches;
     Indices starts;
     pushReversed(starts, children[tree.rootLink].begin(), children[tree.rootLink].end());
     while (!starts.empty()) {
-        std::size_t joint = starts.back();
+        std::size_t const joint = starts.back();
         starts.pop_back();
         Joint const& first = tree.joints[joint];
         std::size_t const before = tree.jointBefore(first);
@@ -72,15 +88,14 @@ Table<ChainConfig> makeChains(LinkTree const& tree, ChildJoints const& children)
         chain.name = first.config.name;
         chain.textOffset = first.config.textOffset;
         chain.parentJoint = before == none ? tree.rootBody.name : tree.joints[before].config.name;
-        Indices branches;
-        while (joint != none) {
-            chain.jointNames.push_back(tree.joints[joint].config.name);
-            chain.jointOffsets.push_back(tree.joints[joint].config.textOffset);
-            auto const next = children[tree.joints[joint].childLink];
-            joint = next.empty() ? none : next.front();
-            if (next.size() > 1) {
-                branches.insert(branches.end(), next.begin() + 1, next.end());
-            }
+        members.clear();
+        branches.clear();
+        followChain(tree, children, joint, members, branches);
+        chain.jointNames.reserve(members.size());
+        chain.jointOffsets.reserve(members.size());
+        for (std::size_t const member : members) {
+            chain.jointNames.push_back(tree.joints[member].config.name);
+            chain.jointOffsets.push_back(tree.joints[member].config.textOffset);
         }
         pushReversed(starts, branches.begin(), branches.end());
         chains.add(std::move(chain));

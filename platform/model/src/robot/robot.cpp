@@ -1,10 +1,10 @@
 #include "varo/model/robot.hpp"
 
 #include <unordered_map>
-#include <unordered_set>
 
 #include "robot/cycles.hpp"
 #include "varo/model/name_hash.hpp"
+#include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
 
@@ -56,12 +56,12 @@ Records copyOfListings(Robot const& robot)
     return records;
 }
 
-std::unordered_set<std::string_view, NameHash> jointsWithoutMotor(Records const& records)
+NameIndex jointsWithoutMotor(Records const& records)
 {
-    std::unordered_set<std::string_view, NameHash> names;
-    for (std::size_t joint = 0; joint < records.joints.size(); ++joint) {
+    NameIndex names;
+    for (std::uint32_t joint = 0; joint < records.joints.size(); ++joint) {
         if (!records.joints[joint].hasMotor) {
-            names.insert(records.joints.nameOf(joint));
+            names.add(records.joints.nameOf(joint), joint);
         }
     }
     return names;
@@ -102,16 +102,17 @@ ActuatorConfig const* findActuatorCycle(Records const& records)
 
 std::vector<std::string const*> angleNames(Records const& records)
 {
-    std::unordered_set<std::string_view, NameHash> const passive = jointsWithoutMotor(records);
+    NameIndex const passive = jointsWithoutMotor(records);
     std::unordered_map<std::string_view, std::vector<std::string const*>, NameHash> actuatorsOfJoint;
     for (std::uint32_t const index : records.actuators.nameOrder()) {
         ActuatorConfig const& actuator = records.actuators[index];
         actuatorsOfJoint[actuator.parentJoint].push_back(&actuator.name);
     }
     std::vector<std::string const*> names;
+    names.reserve(records.joints.size());
     for (std::uint32_t const chain : records.chainOrder) {
         for (std::string const& joint : records.chains[chain].jointNames) {
-            if (passive.count(joint) == 0) {
+            if (!passive.contains(joint)) {
                 names.push_back(&joint);
             }
             if (auto const found = actuatorsOfJoint.find(joint); found != actuatorsOfJoint.end()) {

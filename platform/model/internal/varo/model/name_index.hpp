@@ -40,6 +40,9 @@ public:
     /// The number of the name, or none.
     std::uint32_t find(std::string_view name) const
     {
+        if (_entries.empty()) {
+            return none;
+        }
         std::uint32_t const found =
             _slots.find(hashOf(name), _entries, [name](Entry const& entry) { return entry.name == name; });
         return found == none ? none : _entries[found].number;
