@@ -32,7 +32,10 @@ public:
         std::uint32_t& slot = _slots.slotFor(hash, _entries, [name](Entry const& entry) { return entry.name == name; });
         if (slot == none) {
             slot = static_cast<std::uint32_t>(_entries.size());
-            _entries.push_back({name, hash, number});
+            Entry& entry = _entries.emplace_back();  // filled in place: put together first, it is slower
+            entry.name = name;
+            entry.hash = hash;
+            entry.number = number;
         }
         return _entries[slot].number;
     }
