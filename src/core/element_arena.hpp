@@ -2,15 +2,15 @@
 #define VARO_CORE_ELEMENT_ARENA_HPP
 
 #include <algorithm>
+#include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <new>
 #include <utility>
 #include <vector>
 
-#include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
-#include <boost/smart_ptr/intrusive_ptr.hpp>
-#include <boost/smart_ptr/intrusive_ref_counter.hpp>
 
 namespace Sim {
 
@@ -20,17 +20,24 @@ namespace Sim {
 class ElementArena {
 public:
     ElementArena() : _memory(new Memory) {}
+    ElementArena(ElementArena const&) = delete;
+    ElementArena& operator=(ElementArena const&) = delete;
+    ~ElementArena() { _memory->endBuilding(); }
 
     template <class T, class... Arguments>
     boost::shared_ptr<T> make(Arguments&&... arguments) const
     {
-        return boost::allocate_shared<T>(Allocator<T>(*_memory), std::forward<Arguments>(arguments)...);
+        void* const place = _memory->allocate(sizeof(T), alignof(T));
+        T* const made = ::new (place) T(std::forward<Arguments>(arguments)...);
+        // Not boost::allocate_shared, which counts up and down as it passes the pointer on.
+        return boost::shared_ptr<T>(
+            made, [](T* element) { element->~T(); }, Allocator<T>(*_memory));
     }
 
 private:
     /// Cuts pieces off chunks of one size: chunks that grow, as those of the standard library do, would leave a good
-    /// part of the last one unused.
-    class Memory : public boost::intrusive_ref_counter<Memory> {
+    /// part of the last one unused. Ends with the last user.
+    class Memory {
     public:
         void* allocate(std::size_t size, std::size_t alignment)
         {
@@ -46,15 +53,30 @@ private:
             return piece;
         }
 
+        // While a model is built, users are only numbered: the builder stands for more than there will ever be.
+        void addUser() { ++_added; }
+        void removeUser() { remove(1); }
+        void endBuilding() { remove(builder - _added); }
+
     private:
+        void remove(std::uint64_t users)
+        {
+            if (_users.fetch_sub(users, std::memory_order_acq_rel) == users) {
+                delete this;
+            }
+        }
+
         static constexpr std::size_t chunkSize = 8192;
+        static constexpr std::uint64_t builder = std::uint64_t{1} << 63U;
 
         std::vector<std::unique_ptr<std::byte[]>> _chunks;
         void* _free = nullptr;
         std::size_t _left = 0;  ///< bytes from there to the end of the chunk
+        std::uint64_t _added = 0;
+        std::atomic<std::uint64_t> _users = builder;
     };
 
-    /// Every piece counts as one that refers to the memory, whoever holds a copy of its allocator.
+    /// Of what counts the references to an element. As long as there are any, the element's memory is in use.
     template <class T>
     class Allocator {
     public:
@@ -69,10 +91,10 @@ private:
         T* allocate(std::size_t count)
         {
             void* const piece = _memory->allocate(count * sizeof(T), alignof(T));
-            intrusive_ptr_add_ref(_memory);
+            _memory->addUser();
             return static_cast<T*>(piece);
         }
-        void deallocate(T* /*piece*/, std::size_t /*count*/) { intrusive_ptr_release(_memory); }  // the last frees all
+        void deallocate(T* /*piece*/, std::size_t /*count*/) { _memory->removeUser(); }  // the last frees all
 
         Memory& memory() const { return *_memory; }
         bool operator==(Allocator const& other) const { return _memory == other._memory; }
@@ -82,7 +104,7 @@ private:
         Memory* _memory;
     };
 
-    boost::intrusive_ptr<Memory> _memory;
+    Memory* _memory;  ///< which frees itself
 };
 
 }  // namespace Sim

@@ -253,8 +253,9 @@ private:
     template <class Handle, class Impl, class... Arguments>
     boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)
     {
-        auto const element = _arena.make<Element<Handle, Impl>>(std::forward<Arguments>(arguments)...);
-        return boost::shared_ptr<Handle>(element, &element->handle);
+        auto element = _arena.make<Element<Handle, Impl>>(std::forward<Arguments>(arguments)...);
+        Handle* const handle = &element->handle;
+        return boost::shared_ptr<Handle>(std::move(element), handle);
     }
 
     template <class Impl, class... Arguments>
