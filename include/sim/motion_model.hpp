@@ -220,6 +220,8 @@ private:
     // Not part of the library's interface. Names are those of the records.
     using NameRefs = std::vector<std::string const*>;
     [[gnu::visibility("hidden")]] NameRefs chainRefs() const;
+    [[gnu::visibility("hidden")]] Varo::Model::JointConfig const* findJoint(std::string const& name,
+                                                                            std::uint32_t& next) const;
     [[gnu::visibility("hidden")]] std::vector<std::string> const& jointsOf(std::string const& chain) const;
     [[gnu::visibility("hidden")]] void appendAngleActuators(std::string const& chain, NameRefs& actuators) const;
     [[gnu::visibility("hidden")]] void appendActuators(std::string const& chain, NameRefs& actuators) const;

@@ -34,10 +34,10 @@ public:
 
     bool contains(std::string_view name) const { return _numbers.contains(name); }
 
-    boost::shared_ptr<T> const& find(std::string_view name) const
+    boost::shared_ptr<T> const& find(std::string_view name)
     {
         static boost::shared_ptr<T> const nothing;
-        std::uint32_t const number = _numbers.find(name);
+        std::uint32_t const number = _numbers.find(name, _next);
         return number == Varo::Model::NameIndex::none ? nothing : (*_registry)[number];
     }
 
@@ -46,6 +46,7 @@ private:
 
     std::vector<boost::shared_ptr<T>> const* _registry;
     Varo::Model::NameIndex _numbers;  // the elements keep the names alive
+    std::uint32_t _next = 0;  // elements are mostly looked for in their order
 };
 
 class BuildIndex {
@@ -64,6 +65,7 @@ public:
 
     FirstByName<Joint> joints;
     FirstByName<Link> links;
+    std::uint32_t nextJoint = 0;  ///< in the motion model: joints are mostly attached in their order
 
 private:
     std::string _linkName;  ///< so that looking for one takes no memory

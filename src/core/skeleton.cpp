@@ -117,7 +117,7 @@ SharedName ModelImpl::frictionMaterialOf(std::string const& name) const
 boost::shared_ptr<Joint> ModelImpl::attachJointCalled(std::string const& name, Transform inParentLink,
                                                       std::string& parent, boost::shared_ptr<Link> const& parentLink)
 {
-    JointConfig const* const record = _motionModel->findJoint(name);
+    JointConfig const* const record = _motionModel->findJoint(name, _index->nextJoint);
     std::string const& ownName = record == nullptr ? name : record->name;
     _motionModel->transformFromJointName(ownName, inParentLink, parent);
     return attachJoint(SharedName::of(ownName), inParentLink, parentLink, {record});

@@ -18,7 +18,7 @@ std::string const& textOf(std::string const* name)
 }
 
 template <class T, class Names>
-std::vector<boost::shared_ptr<T>> named(Names const& names, FirstByName<T> const& elements)
+std::vector<boost::shared_ptr<T>> named(Names const& names, FirstByName<T>& elements)
 {
     std::vector<boost::shared_ptr<T>> result;
     result.reserve(names.size());
@@ -60,7 +60,7 @@ void ModelImpl::defineJointGroups()
 
 void ModelImpl::defineActuatorGroups()
 {
-    FirstByName<Actuator> const byName(_actuators);
+    FirstByName<Actuator> byName(_actuators);
     FirstByName<ActuatorGroup> groups(_actuatorGroups);  // made so far: a chain listed before its parent has none
     std::vector<std::string const*> members;
     for (std::string const* chain : _motionModel->chainRefs()) {

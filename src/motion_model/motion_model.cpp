@@ -60,6 +60,11 @@ Varo::Model::JointConfig const* MotionModel::findJoint(std::string const& name) 
     return _index->of(name).joint();
 }
 
+Varo::Model::JointConfig const* MotionModel::findJoint(std::string const& name, std::uint32_t& next) const
+{
+    return _index->of(name, next).joint();
+}
+
 bool MotionModel::startAngle(std::string const& name, float& angle) const
 {
     auto const known = _index->of(name).startAngle();

@@ -44,6 +44,13 @@ MotionModel::Index::Entry MotionModel::Index::of(std::string const& name) const
     return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
 }
 
+MotionModel::Index::Entry MotionModel::Index::of(std::string const& name, std::uint32_t& next) const
+{
+    static Facts const nothing;
+    std::uint32_t const number = _names.find(name, next);
+    return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
+}
+
 /// A joint's own name, by which building a model mostly asks, is where it is: it need not be looked for.
 std::uint32_t MotionModel::Index::numberOf(std::string const& name) const
 {

@@ -45,6 +45,8 @@ struct __attribute__((visibility("hidden"))) MotionModel::Index {
 
     /// An empty entry for a name that nothing is known of.
     Entry of(std::string const& name) const;
+    /// The same, for one joint of a chain after the other: `next`, at first 0, is kept by the caller.
+    Entry of(std::string const& name, std::uint32_t& next) const;
 
 private:
     static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();

@@ -111,7 +111,10 @@ bool MotionModel::transformFromJointName(std::string const& name, Transform& tra
         transform = endOf(*this, chain->parentJoint).inverse() * chain->placement * named.joint()->placement;
     } else {
         parent = chain->jointNames[position - 1];
-        transform = endOf(*this, parent).inverse() * named.joint()->placement;
+        auto next = static_cast<std::uint32_t>(named.joint() - &_records->joints[0]) - 1;  // mostly the one before it
+        auto const* const before = _index->of(parent, next).joint();
+        transform =
+            (before == nullptr ? endOf(*this, parent) : before->endTransform).inverse() * named.joint()->placement;
     }
     return true;
 }

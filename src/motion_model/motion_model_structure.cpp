@@ -138,8 +138,9 @@ std::list<std::string> MotionModel::jointNames() const
 
 void MotionModel::appendAngleActuators(std::string const& chain, NameRefs& actuators) const
 {
+    std::uint32_t next = 0;
     for (std::string const& name : jointsOf(chain)) {
-        auto const* const joint = findJoint(name);
+        auto const* const joint = _index->of(name, next).joint();
         if (joint == nullptr || joint->hasMotor) {
             actuators.push_back(joint == nullptr ? &name : &joint->name);
         }
@@ -187,8 +188,9 @@ void MotionModel::appendCoupledActuators(std::string const& chain, NameRefs& act
     if (_records->actuators.empty()) {
         return;
     }
+    std::uint32_t next = 0;
     for (std::string const& joint : jointsOf(chain)) {
-        for (auto const actuator : _index->of(joint).actuators()) {
+        for (auto const actuator : _index->of(joint, next).actuators()) {
             actuators.push_back(&_records->actuators.nameOf(actuator));
         }
     }

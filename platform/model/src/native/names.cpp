@@ -25,6 +25,10 @@ Names::EntryIndex Names::indexOf(std::string_view name, std::size_t scope)
     constexpr std::uint32_t far =
         0x9E3779B1U;  // 2^32 by the golden ratio: one name has a slot of its own in each scope
     auto const number = static_cast<std::uint32_t>(scope);
+    if (scope == wholeText && _next < _entries.size() && _entries[_next].scope == number &&
+        _entries[_next].name == name) {
+        return _next++;
+    }
     std::uint32_t const hash = NameIndex::hashOf(name) ^ (number * far);
     EntryIndex& index =
         _slots.slotFor(hash, _entries, [=](Entry const& entry) { return entry.scope == number && entry.name == name; });
@@ -32,6 +36,7 @@ Names::EntryIndex Names::indexOf(std::string_view name, std::size_t scope)
         index = static_cast<EntryIndex>(_entries.size());
         _entries.push_back({name, number, hash, 0});
     }
+    _next = scope == wholeText ? index + 1 : _next;
     return index;
 }
 

@@ -68,6 +68,7 @@ private:
     std::deque<std::string> _kept;
     std::vector<Entry> _entries;  ///< by their first mention
     HashSlots _slots;
+    EntryIndex _next = 0;  ///< behind the last one asked for, of the whole text: most are mentioned in one order
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
     Suggestions _suggestions;
     bool _isAnyLost = false;

@@ -28,6 +28,9 @@ public:
     /// Gives the name the number, unless it has one. Answers the number that it has now.
     std::uint32_t add(std::string_view name, std::uint32_t number)
     {
+        if (isNext(name, _next)) {
+            return _entries[_next++].number;
+        }
         std::uint32_t const hash = hashOf(name);
         std::uint32_t& slot = _slots.slotFor(hash, _entries, [name](Entry const& entry) { return entry.name == name; });
         if (slot == none) {
@@ -37,18 +40,27 @@ public:
             entry.hash = hash;
             entry.number = number;
         }
+        _next = slot + 1;
         return _entries[slot].number;
     }
 
     /// The number of the name, or none.
     std::uint32_t find(std::string_view name) const
     {
-        if (_entries.empty()) {
+        std::uint32_t const entry = entryOf(name);
+        return entry == none ? none : _entries[entry].number;
+    }
+
+    /// The same, for those who look for one name after the other in the order in which they were added, or nearly so:
+    /// `next`, at first 0, says which one is looked at first, and is kept by the caller.
+    std::uint32_t find(std::string_view name, std::uint32_t& next) const
+    {
+        std::uint32_t const entry = isNext(name, next) ? next : entryOf(name);
+        if (entry == none) {
             return none;
         }
-        std::uint32_t const found =
-            _slots.find(hashOf(name), _entries, [name](Entry const& entry) { return entry.name == name; });
-        return found == none ? none : _entries[found].number;
+        next = entry + 1;
+        return _entries[entry].number;
     }
 
     /// Whether the name has a number.
@@ -69,8 +81,21 @@ private:
         std::uint32_t number;
     };
 
+    bool isNext(std::string_view name, std::uint32_t next) const
+    {
+        return next < _entries.size() && _entries[next].name == name;
+    }
+
+    std::uint32_t entryOf(std::string_view name) const
+    {
+        return _entries.empty()
+                   ? none
+                   : _slots.find(hashOf(name), _entries, [name](Entry const& entry) { return entry.name == name; });
+    }
+
     std::vector<Entry> _entries;
     HashSlots _slots;
+    std::uint32_t _next = 0;  ///< behind the one that was added last
 };
 
 }  // namespace Varo::Model
