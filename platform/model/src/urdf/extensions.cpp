@@ -19,8 +19,7 @@ std::optional<Bearer> findLink(std::string_view name, LinkTree& tree)
 std::optional<Bearer> findJoint(std::string_view name, LinkTree const& tree)
 {
     std::size_t const joint = find(tree.jointByName, name);
-    return joint == none ? std::nullopt
-                         : std::optional(Bearer{ExtensionOwner::joint, tree.joints[joint].config.name});
+    return joint == none ? std::nullopt : std::optional(Bearer{ExtensionOwner::joint, tree.joints[joint].config.name});
 }
 
 bool isTopLevel(XmlNode element)
