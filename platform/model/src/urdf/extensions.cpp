@@ -91,7 +91,7 @@ void Extensions::dropNested()
 std::vector<Extensions::Site> Extensions::findSites(LinkTree& tree)
 {
     std::vector<Site> sites;
-    _ranks.resize(_kept.empty() ? 0 : _kept.back().element.id() + 1);
+    sites.reserve(_kept.size());
     XmlNode last;  // what the last one stands in: the next one often does, too
     for (std::size_t i = 0; i < _kept.size(); ++i) {
         XmlNode const around = _kept[i].attribute ? _kept[i].element : _kept[i].element.parent();
@@ -144,9 +144,27 @@ void Extensions::appendStep(XmlNode element, std::string& path)
     }
 }
 
-/// Which of its like-named siblings it is, from 1.
+/// Which of its like-named siblings it is, from 1. Most elements have few before them, which are soon compared.
 std::size_t Extensions::rankOf(XmlNode element)
 {
+    constexpr std::size_t few = 8;
+    std::size_t rank = 1;
+    std::size_t compared = 0;
+    for (XmlNode const sibling : element.parent().children()) {
+        if (sibling == element) {
+            return rank;
+        }
+        if (++compared > few) {
+            break;
+        }
+        rank += sibling.name() == element.name() ? 1 : 0;
+    }
+    return rankAmongMany(element);
+}
+
+std::size_t Extensions::rankAmongMany(XmlNode element)
+{
+    _ranks.resize(std::max(_ranks.size(), _kept.back().element.id() + 1));
     if (_ranks[element.id()] == 0) {
         rankChildren(element.parent());
     }

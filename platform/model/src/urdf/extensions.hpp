@@ -74,6 +74,7 @@ private:
     std::optional<Bearer> findOwner(XmlNode element, LinkTree& tree) const;
     void appendStep(XmlNode element, std::string& path);
     std::size_t rankOf(XmlNode element);
+    std::size_t rankAmongMany(XmlNode element);
     void rankChildren(XmlNode parent);
 
     std::vector<Kept> _kept;
