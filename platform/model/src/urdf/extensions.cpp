@@ -114,10 +114,11 @@ std::optional<Bearer> Extensions::findOwner(XmlNode element, LinkTree& tree) con
     if (element.isRoot()) {
         return Bearer();
     }
-    bool const isLink = isTopLevel(element) && element.name() == "link";
-    bool const isJoint = isTopLevel(element) && element.name() == "joint";
-    std::string_view const name = element.attribute("name").value();
-    return isLink ? findLink(name, tree) : isJoint ? findJoint(name, tree) : std::nullopt;
+    std::string_view const tag = isTopLevel(element) ? element.name() : std::string_view();
+    if (tag == "link") {
+        return findLink(element.attribute("name").value(), tree);
+    }
+    return tag == "joint" ? findJoint(element.attribute("name").value(), tree) : std::nullopt;
 }
 
 /// What stands in the element belongs there: the way to it from its owner's element inward.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <set>
 #include <string>
 #include <utility>
@@ -31,7 +32,8 @@ constexpr std::string_view placeElements[] = {"parent", "pose", "origin"};
 bool saysWhere(XmlNode element)
 {
     std::string_view const name = element.name();
-    return name == "parent" || name == "pose" || (name == "origin" && element.text().empty());
+    bool const isPlace = std::find(std::begin(placeElements), std::end(placeElements), name) != std::end(placeElements);
+    return isPlace && (name != "origin" || element.text().empty());
 }
 
 /// What stands for no step.
@@ -122,7 +124,7 @@ bool holdsNoise(XmlNode element, std::size_t depth)
 }
 
 /// An element of a sensor, or the sensor's own, while it is read.
-struct Place {
+struct Level {
     std::size_t step = Steps::sensor;
     std::size_t depth = 0;  ///< of elements around it within the sensor's
     bool isNoisy = false;  ///< whether a noise may stand in it
@@ -146,10 +148,10 @@ public:
     std::shared_ptr<SensorSettings const> read(XmlNode sensor);
 
 private:
-    void readPart(XmlNode element, Place const& place);
-    void readAttributes(XmlNode element, Place const& place);
-    void readChild(XmlNode child, Place const& around);
-    void readElement(XmlNode element, Place const& place);
+    void readPart(XmlNode element, Level const& level);
+    void readAttributes(XmlNode element, Level const& level);
+    void readChild(XmlNode child, Level const& around);
+    void readElement(XmlNode element, Level const& level);
     bool isFirst(XmlNode element, std::size_t step);
     void readNoise(XmlNode noise, std::string const& quantity, std::string const& type);
     void readRangeCount();
@@ -177,23 +179,23 @@ std::shared_ptr<SensorSettings const> SettingsReader::read(XmlNode sensor)
 }
 
 /// An element that holds settings.
-void SettingsReader::readPart(XmlNode element, Place const& place)
+void SettingsReader::readPart(XmlNode element, Level const& level)
 {
-    readAttributes(element, place);
+    readAttributes(element, level);
     for (XmlNode const child : element.children()) {
         if (child.isElement()) {
-            readChild(child, place);
+            readChild(child, level);
         }
     }
 }
 
-void SettingsReader::readAttributes(XmlNode element, Place const& place)
+void SettingsReader::readAttributes(XmlNode element, Level const& level)
 {
     for (XmlAttribute const attribute : element.attributes()) {
-        if (place.depth == 0 && saysWhich(attribute.name())) {
+        if (level.depth == 0 && saysWhich(attribute.name())) {
             continue;
         }
-        std::size_t const step = steps().find(place.step, attribute.name());
+        std::size_t const step = steps().find(level.step, attribute.name());
         auto const* const setting = steps().setting(step);
         if (setting != nullptr && store(*setting, attribute.value(), at(element, attribute), _settings)) {
             _seen[step] = true;
@@ -203,7 +205,7 @@ void SettingsReader::readAttributes(XmlNode element, Place const& place)
     }
 }
 
-void SettingsReader::readChild(XmlNode child, Place const& around)
+void SettingsReader::readChild(XmlNode child, Level const& around)
 {
     std::string_view const stated = child.name();
     if (around.depth > 0) {
@@ -226,18 +228,18 @@ void SettingsReader::readChild(XmlNode child, Place const& around)
     }
 }
 
-void SettingsReader::readElement(XmlNode element, Place const& place)
+void SettingsReader::readElement(XmlNode element, Level const& level)
 {
-    if (place.isNoisy && place.depth > 1 && element.name() == "noise") {
-        readNoise(element, quantityOf(element, place.depth), "");
+    if (level.isNoisy && level.depth > 1 && element.name() == "noise") {
+        readNoise(element, quantityOf(element, level.depth), "");
         return;
     }
-    auto const* const setting = steps().setting(place.step);
-    bool const isPart = steps().holdsSteps(place.step) || (place.isNoisy && place.depth <= deepestNoise &&
-                                                           holdsNoise(element, deepestNoise + 1 - place.depth));
-    bool const isRead = (setting != nullptr || isPart) && isFirst(element, place.step);
+    auto const* const setting = steps().setting(level.step);
+    bool const isPart = steps().holdsSteps(level.step) || (level.isNoisy && level.depth <= deepestNoise &&
+                                                           holdsNoise(element, deepestNoise + 1 - level.depth));
+    bool const isRead = (setting != nullptr || isPart) && isFirst(element, level.step);
     if (isRead && isPart) {
-        readPart(element, place);
+        readPart(element, level);
     } else if (!isRead || !store(*setting, element.text(), at(element), _settings)) {
         _report.passOver(element);
     }
