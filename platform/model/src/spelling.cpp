@@ -28,12 +28,12 @@ std::array<Places, 256> placesOfLetters(std::string_view word)
     return places;
 }
 
-/// Which of 64 kinds of letters a word has, letter case left aside.
-std::uint64_t kindsOfLetters(std::string_view word)
+/// Which of 32 kinds of letters a word has, of which a letter in either case is one.
+std::uint32_t kindsOfLetters(std::string_view word)
 {
-    std::uint64_t kinds = 0;
+    std::uint32_t kinds = 0;
     for (char const c : word) {
-        kinds |= std::uint64_t{1} << (static_cast<unsigned char>(lowerCase(c)) % 64);
+        kinds |= std::uint32_t{1} << (static_cast<unsigned char>(c) % 32);
     }
     return kinds;
 }
@@ -41,9 +41,9 @@ std::uint64_t kindsOfLetters(std::string_view word)
 /// Whether so many kinds of letters are in one of them alone: each edit brings no more than one, and removes no more.
 bool differBy(std::size_t edits, std::string_view a, std::string_view b)
 {
-    std::uint64_t const ofA = kindsOfLetters(a);
-    std::uint64_t const ofB = kindsOfLetters(b);
-    return std::max(std::bitset<64>(ofA & ~ofB).count(), std::bitset<64>(ofB & ~ofA).count()) >= edits;
+    std::uint32_t const ofA = kindsOfLetters(a);
+    std::uint32_t const ofB = kindsOfLetters(b);
+    return std::max(std::bitset<32>(ofA & ~ofB).count(), std::bitset<32>(ofB & ~ofA).count()) >= edits;
 }
 
 /// The distance of words that are neither empty nor too long.
