@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <set>
 #include <string>
 #include <utility>
@@ -25,16 +24,8 @@ bool saysWhich(std::string_view attribute)
     return attribute == "name" || attribute == "type";
 }
 
-/// So are those elements...
+/// So are those elements, but for the origin of the old form, a text.
 constexpr std::string_view placeElements[] = {"parent", "pose", "origin"};
-
-/// ... but for the origin of the old form, a text.
-bool saysWhere(XmlNode element)
-{
-    std::string_view const name = element.name();
-    bool const isPlace = std::find(std::begin(placeElements), std::end(placeElements), name) != std::end(placeElements);
-    return isPlace && (name != "origin" || element.text().empty());
-}
 
 /// What stands for no step.
 constexpr std::size_t noStep = static_cast<std::size_t>(-1);
@@ -68,6 +59,8 @@ public:
         return step == noStep ? nullptr : _steps[step].setting;
     }
     bool holdsSteps(std::size_t step) const { return step != noStep && _steps[step].firstInside != noStep; }
+    /// Whether it says where the sensor is.
+    bool isPlace(std::size_t step) const { return step != noStep && setting(step) == nullptr && !holdsSteps(step); }
 
     /// The step of that name in an element; of an element that is none there is none either.
     std::size_t find(std::size_t around, std::string_view name) const
@@ -216,7 +209,7 @@ void SettingsReader::readChild(XmlNode child, Level const& around)
                                            [stated](SensorAlias const& known) { return known.name == stated; });
     std::string_view const name = alias == sensorAliases.end() ? stated : alias->meant;
     std::size_t const step = steps().find(around.step, name);
-    if (saysWhere(child)) {
+    if (steps().isPlace(step) && (name != "origin" || child.text().empty())) {
         if (!isFirst(child, step)) {
             _report.passOver(child);
         }
