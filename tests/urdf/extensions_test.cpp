@@ -58,6 +58,15 @@ TEST(UrdfExtensions, SayInWhichOfLikeNamedElementsTheyStand)
     auto const read = ModelUtils::robotFromXml(robot("<link name='l'>" + visual + visual + "</link>"));
     EXPECT_THAT(extensionsOf(*read),
                 ElementsAre("link l visual/geometry <warp/>", "link l visual[2]/geometry <warp/>"));
+    std::string const collision = "<collision><geometry><sphere radius='1'/></geometry></collision>";
+    std::string many;
+    for (int i = 0; i < 3; ++i) {
+        many += collision + collision + collision + collision + visual;
+    }
+    auto const wide = ModelUtils::robotFromXml(robot("<link name='l'>" + many + visual + "</link>"));
+    EXPECT_THAT(extensionsOf(*wide),
+                ElementsAre("link l visual/geometry <warp/>", "link l visual[2]/geometry <warp/>",
+                            "link l visual[3]/geometry <warp/>", "link l visual[4]/geometry <warp/>"));
 }
 
 TEST(UrdfExtensions, KeepWhatTheRecordsOfTransmissionsDoNotSay)
@@ -75,6 +84,9 @@ TEST(UrdfExtensions, KeepWhatTheRecordsOfTransmissionsDoNotSay)
                     "robot  transmission <mechanicalReduction>3</mechanicalReduction>",
                     "robot  transmission <type>z</type>", "robot  transmission/joint <role>r</role>",
                     "robot  transmission/joint <mechanicalReduction>2</mechanicalReduction>"));
+    std::string const pieces = "<transmission name='T'><type>\n x<!-- -->y<![CDATA[z]]> </type><joint name='A'/>";
+    auto const read = ModelUtils::robotFromXml(robot(arm() + pieces + "</transmission>"));
+    EXPECT_EQ(read->records()->transmissions.at(0).type, "xyz");
     // Without a joint there is no record at all.
     EXPECT_THAT(
         kept("<gap_joint name='A'/>" + actuator),

@@ -88,6 +88,8 @@ std::vector<Refusal> const refusals = {
     {"xacro expression beside other faults",
      robot("<joint/>\n<link name='a'/><link @name='${p}a'><inertial><mass value='${m}'/></inertial></link>"),
      "xacro-file"},
+    {"xacro expression written with a reference, beside one in a comment",
+     robot("<gazebo><!-- ${a} --></gazebo><gazebo><plugin @b='&#36;{c}'/></gazebo>"), "xacro-file"},
     {"xacro substitution in a text", robot("<gazebo><plugin>@<path>$(find r)/x</path></plugin></gazebo>"),
      "xacro-file"},
     {"mimic of itself", jointWith("@<mimic joint='A'/>"), "mimic-cycle"},

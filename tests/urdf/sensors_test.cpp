@@ -83,6 +83,14 @@ TEST(UrdfSensors, CountBadSettingsAsNotStatedAndKeepTheirText)
                                                   "<sonar><min>3</min><max>2</max></sonar>"
                                                   "<update_rate>3</update_rate></sensor>")),
                 ElementsAre("bad-setting", "surplus-element"));
+    for (char const* twice :
+         {"<imu><q><noise/></q><r><noise/></r><q><noise/></q></imu>", "<camera><image/></camera><depth_camera/>",
+          "<parent link='l'/>", "<camera><image width='1'/><image><width>2</width></image></camera>"}) {
+        EXPECT_THAT(
+            complaintsAbout(robot(link("l") + "<sensor name='s' type='imu'><parent link='l'/>" + twice + "</sensor>")),
+            ElementsAre("surplus-element"))
+            << twice;
+    }
 }
 
 TEST(UrdfSensors, SitOnWhatTheJointMovesThatTheyAreAttachedTo)

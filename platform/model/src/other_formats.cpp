@@ -67,16 +67,6 @@ TextOffset placeForXacro(XmlNode node)
     return {};
 }
 
-/// The first place that is for xacro; nowhere when there is none.
-TextOffset findXacro(XmlNode root)
-{
-    TextOffset found;
-    for (XmlNode const node : root.subtree()) {
-        found = found.isKnown() ? found : placeForXacro(node);
-    }
-    return found;
-}
-
 /// Colons are rarer than tags, and so are searched for.
 bool hasXacroElement(std::string_view text)
 {
@@ -93,6 +83,29 @@ bool hasXacroElement(std::string_view text)
 bool mayBeXacro(std::string_view text)
 {
     return hasExpression(text) || hasXacroElement(text);
+}
+
+/// The first place in the element or text that is for xacro; nowhere when there is none.
+TextOffset findXacroWithin(XmlNode part)
+{
+    TextOffset found;
+    for (XmlNode const node : part.subtree()) {
+        found = found.isKnown() ? found : placeForXacro(node);
+    }
+    return found;
+}
+
+/// The same for all of the text. What it goes by often stands in a comment alone: only those parts of the robot are
+/// walked through that have some, be it written as references.
+TextOffset findXacro(XmlNode root)
+{
+    TextOffset found = placeForXacro(root);
+    for (XmlNode const part : root.children()) {
+        std::string_view const source = part.source();
+        bool const mayHold = part.isText() || mayBeXacro(source) || source.find('&') != source.npos;
+        found = !found.isKnown() && mayHold ? findXacroWithin(part) : found;
+    }
+    return found;
 }
 
 }  // namespace

@@ -16,22 +16,24 @@ char lowerCase(char c)
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// A word of at most `longestWord` letters, all of them in lower case.
-using Letters = std::array<char, longestWord>;
+using Places = std::uint64_t;
 
-Letters lettersOf(std::string_view word)
+/// Where each letter stands in a word of at most `longestWord` letters, letter case left aside: bit i is for letter i.
+std::array<Places, 256> placesOfLetters(std::string_view word)
 {
-    Letters letters{};
-    std::transform(word.begin(), word.end(), letters.begin(), lowerCase);
-    return letters;
+    std::array<Places, 256> places{};
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        places[static_cast<unsigned char>(lowerCase(word[i]))] |= Places{1} << i;
+    }
+    return places;
 }
 
-/// Which of 64 kinds of letters a word has, letter case left aside.
-std::uint64_t kindsOfLetters(std::string_view word)
+/// Which of 32 kinds of letters a word has, of which a letter in either case is one.
+std::uint32_t kindsOfLetters(std::string_view word)
 {
-    std::uint64_t kinds = 0;
+    std::uint32_t kinds = 0;
     for (char const c : word) {
-        kinds |= std::uint64_t{1} << (static_cast<unsigned char>(lowerCase(c)) % 64);
+        kinds |= std::uint32_t{1} << (static_cast<unsigned char>(c) % 32);
     }
     return kinds;
 }
@@ -39,53 +41,52 @@ std::uint64_t kindsOfLetters(std::string_view word)
 /// Whether so many kinds of letters are in one of them alone: each edit brings no more than one, and removes no more.
 bool differBy(std::size_t edits, std::string_view a, std::string_view b)
 {
-    std::uint64_t const ofA = kindsOfLetters(a);
-    std::uint64_t const ofB = kindsOfLetters(b);
-    return std::max(std::bitset<64>(ofA & ~ofB).count(), std::bitset<64>(ofB & ~ofA).count()) >= edits;
+    std::uint32_t const ofA = kindsOfLetters(a);
+    std::uint32_t const ofB = kindsOfLetters(b);
+    return std::max(std::bitset<32>(ofA & ~ofB).count(), std::bitset<32>(ofB & ~ofA).count()) >= edits;
+}
+
+/// The distance of words that are neither empty nor too long.
+///
+/// In the table of the distances between the beginnings of `a` and those of `b`, neighbours differ by at most one. What
+/// is worked out for one beginning of `b` after the other is thus a column of differences, one bit for each letter of
+/// `a` in each of these sets: what is one above, or one below, its neighbour in the column or in the column before.
+std::size_t distanceOf(std::string_view a, std::string_view b)
+{
+    std::array<Places, 256> const places = placesOfLetters(a);
+    Places const last = Places{1} << (a.size() - 1);
+    Places above = ~Places{0};  // by one, than what is before it in the column
+    Places below = 0;
+    Places free = 0;  // what costs no more than what is before it in both
+    Places equalBefore = 0;
+    std::size_t distance = a.size();
+    for (char const c : b) {
+        Places const equal = places[static_cast<unsigned char>(lowerCase(c))];
+        Places const swapped = ((~free & equal) << 1U) & equalBefore;
+        free = (((equal & above) + above) ^ above) | equal | below | swapped;
+        Places const risen = below | ~(free | above);  // by one, than in the column before
+        Places const fallen = free & above;
+        distance += (risen & last) != 0 ? 1 : 0;
+        distance -= (fallen & last) != 0 ? 1 : 0;
+        Places const risenBefore = risen << 1U | 1U;
+        above = fallen << 1U | ~(free | risenBefore);
+        below = risenBefore & free;
+        equalBefore = equal;
+    }
+    return distance;
 }
 
 /// The distance, or `limit` when it is at least that: only what can lie below is worked out, which of words that have
 /// nothing in common is next to nothing.
 std::size_t distanceBelow(std::size_t limit, std::string_view a, std::string_view b)
 {
-    if (a.size() > longestWord || b.size() > longestWord) {
-        return std::min(limit, std::max(a.size(), b.size()));
+    std::size_t const longer = std::max(a.size(), b.size());
+    std::size_t const shorter = std::min(a.size(), b.size());
+    if (longer > longestWord || shorter == 0) {
+        return std::min(limit, longer);
     }
-    if (std::max(a.size(), b.size()) - std::min(a.size(), b.size()) >= limit || differBy(limit, a, b)) {
-        return limit;
-    }
-    Letters const first = lettersOf(a);
-    Letters const second = lettersOf(b);
-    using Row = std::array<std::size_t, longestWord + 2>;
-    std::array<Row, 3> rows{};
-    for (std::size_t j = 0; j <= b.size() + 1; ++j) {
-        rows[0][j] = j;
-    }
-    std::size_t leastBefore = 0;
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        Row const& beforeLast = rows[(i + 1) % 3];
-        Row const& last = rows[(i + 2) % 3];
-        Row& row = rows[i % 3];
-        // Beyond that many letters to either side, as many have to be inserted or dropped.
-        std::size_t const begin = i > limit ? i - limit : 1;
-        std::size_t const end = std::min(b.size(), i + limit);
-        row[begin - 1] = begin == 1 ? i : limit;
-        std::size_t least = row[begin - 1];
-        for (std::size_t j = begin; j <= end; ++j) {
-            std::size_t const exchanged = last[j - 1] + (first[i - 1] == second[j - 1] ? 0 : 1);
-            row[j] = std::min({last[j] + 1, row[j - 1] + 1, exchanged});
-            if (i > 1 && j > 1 && first[i - 1] == second[j - 2] && first[i - 2] == second[j - 1]) {
-                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
-            }
-            least = std::min(least, row[j]);
-        }
-        row[end + 1] = limit;
-        if (least >= limit && leastBefore >= limit) {
-            return limit;
-        }
-        leastBefore = least;
-    }
-    return std::min(limit, rows[a.size() % 3][b.size()]);
+    bool const isFar = longer - shorter >= limit || differBy(limit, a, b);
+    return isFar ? limit : std::min(limit, distanceOf(a, b));
 }
 
 }  // namespace

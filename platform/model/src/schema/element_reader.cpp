@@ -4,13 +4,18 @@
 
 namespace Varo::Model::Schema {
 
-std::string textOf(XmlNode node)
+std::string_view textOf(XmlNode node, std::string& joined)
 {
-    std::string text;
+    std::string_view whole;
     for (XmlNode const child : node.children()) {
-        text += child.isText() ? child.text() : "";
+        if (child.isText() && whole.empty()) {
+            whole = child.text();
+        } else if (child.isText()) {
+            joined.append(joined.empty() ? whole : std::string_view()).append(child.text());
+            whole = joined;
+        }
     }
-    return text;
+    return whole;
 }
 
 void ElementReader::noteText(ElementInfo const& element, XmlNode text)

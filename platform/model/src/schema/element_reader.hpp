@@ -90,8 +90,8 @@ private:
     Records& _robot;
 };
 
-/// All text of an element, without that of its children.
-std::string textOf(XmlNode node);
+/// All text of an element, without that of its children: a view of `joined` where it stands in several pieces.
+std::string_view textOf(XmlNode node, std::string& joined);
 
 template <class Record>
 void ElementReader::readAttributes(Element<Record> const& element, XmlNode node, Record& record)
@@ -152,9 +152,12 @@ template <class Record>
 void ElementReader::read(Element<Record> const& element, XmlNode node, Record& record)
 {
     readAttributes(element, node, record);
-    readChildren(element, node, record);
+    if (element.requiredChildren != 0 || !node.children().empty()) {
+        readChildren(element, node, record);
+    }
     if (element.textRow != nullptr) {
-        std::string const text = textOf(node);
+        std::string joined;
+        std::string_view const text = textOf(node, joined);
         if (!element.textRow->store(text, record)) {
             onWrongValue(*element.textRow, node, {}, text);
         }

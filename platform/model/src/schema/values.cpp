@@ -185,7 +185,7 @@ bool Text::parse(std::string_view text, std::string& value)
 
 bool Line::parse(std::string_view text, std::string& value)
 {
-    value = trimmed(text);
+    value = std::string(trimmed(text));
     return !value.empty();
 }
 

@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "schema/values.hpp"
 #include "urdf/numbers.hpp"
@@ -120,14 +121,23 @@ constexpr auto own(std::string_view path, std::string_view place, std::string_vi
                            }};
 }
 
+/// A part of the sensor's settings, which is added where there is none.
+template <auto part>
+auto& partOf(SensorSettings& settings)
+{
+    return settings.*part ? *(settings.*part) : (settings.*part).emplace();
+}
+
 /// A setting in a part of the sensor's, which is there as soon as one setting of it is stated.
 template <auto part, auto member, class Type>
 constexpr Setting<SensorSettings> of(std::string_view path, std::string_view place, std::string_view unit = {})
 {
     return {path, place, unit, Type::meaning, [](std::string_view text, SensorSettings& settings) {
-                auto changed = (settings.*part).value_or(typename MemberOf<member>::Record());
-                bool const isRight = Type::parse(text, changed.*member);
-                settings.*part = isRight ? changed : settings.*part;
+                typename MemberOf<member>::Value value = {};
+                bool const isRight = Type::parse(text, value);
+                if (isRight) {
+                    partOf<part>(settings).*member = std::move(value);
+                }
                 return isRight;
             }};
 }
@@ -175,10 +185,14 @@ constexpr Setting<SensorSettings> onlyRead(Setting<SensorSettings> setting)
 bool storeImageSize(std::string_view text, SensorSettings& settings)
 {
     std::size_t const gap = endOf(text, endOf(text, 0, isXmlSpace), isOfWord);
-    CameraSettings changed = settings.camera.value_or(CameraSettings());
-    bool const isRight =
-        Count::parse(text.substr(0, gap), changed.width) && Count::parse(text.substr(gap), changed.height);
-    settings.camera = isRight ? changed : settings.camera;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    bool const isRight = Count::parse(text.substr(0, gap), width) && Count::parse(text.substr(gap), height);
+    if (isRight) {
+        auto& camera = partOf<&SensorSettings::camera>(settings);
+        camera.width = width;
+        camera.height = height;
+    }
     return isRight;
 }
 

@@ -1,12 +1,14 @@
 #include "urdf/sensor_settings.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <set>
 #include <string>
-#include <unordered_set>
 #include <utility>
+#include <vector>
 
+#include "schema/element_reader.hpp"
 #include "urdf/numbers.hpp"
-#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
@@ -22,28 +24,88 @@ bool saysWhich(std::string_view attribute)
     return attribute == "name" || attribute == "type";
 }
 
-/// So are those elements; the origin of the old form, a text, is not.
-bool saysWhere(XmlNode element)
-{
-    std::string_view const name = element.name();
-    return name == "parent" || name == "pose" || (name == "origin" && element.text().empty());
-}
+/// So are those elements, but for the origin of the old form, a text.
+constexpr std::string_view placeElements[] = {"parent", "pose", "origin"};
 
-template <class Record>
-Setting<Record> const* findSetting(Range<Setting<Record>> settings, std::string_view path)
-{
-    auto const* const found =
-        std::find_if(settings.begin(), settings.end(), [&](auto const& setting) { return setting.path == path; });
-    return found == settings.end() ? nullptr : found;
-}
+/// What stands for no step.
+constexpr std::size_t noStep = static_cast<std::size_t>(-1);
 
-/// Whether settings stand in elements of that path.
-bool holdsSettings(std::string_view path)
+/// A step of the paths in the table of settings: an element, or an attribute.
+struct Step {
+    std::string_view name;
+    Setting<SensorSettings> const* setting = nullptr;  ///< null where the paths go on
+    std::size_t firstInside = noStep;
+    std::size_t next = noStep;  ///< in the same element
+};
+
+/// The table as a tree of elements, so that what stands in one is looked for among few.
+class Steps {
+public:
+    static constexpr std::size_t sensor = 0;  ///< the sensor's own element
+
+    Steps()
+    {
+        for (Setting<SensorSettings> const& setting : sensorSettings) {
+            _steps[add(setting.path)].setting = &setting;
+        }
+        for (std::string_view const place : placeElements) {
+            add(place);
+        }
+    }
+
+    std::size_t size() const { return _steps.size(); }
+    Setting<SensorSettings> const* setting(std::size_t step) const
+    {
+        return step == noStep ? nullptr : _steps[step].setting;
+    }
+    bool holdsSteps(std::size_t step) const { return step != noStep && _steps[step].firstInside != noStep; }
+    /// Whether it says where the sensor is.
+    bool isPlace(std::size_t step) const { return step != noStep && setting(step) == nullptr && !holdsSteps(step); }
+
+    /// The step of that name in an element; of an element that is none there is none either.
+    std::size_t find(std::size_t around, std::string_view name) const
+    {
+        std::size_t step = around == noStep ? noStep : _steps[around].firstInside;
+        while (step != noStep && !Schema::isSame(_steps[step].name, name)) {
+            step = _steps[step].next;
+        }
+        return step;
+    }
+
+private:
+    /// The step at the path; steps that are missing are added.
+    std::size_t add(std::string_view path)
+    {
+        std::size_t step = sensor;
+        while (!path.empty()) {
+            std::string_view const name = path.substr(0, path.find('/'));
+            path.remove_prefix(std::min(name.size() + 1, path.size()));
+            step = addInside(step, name);
+        }
+        return step;
+    }
+
+    std::size_t addInside(std::size_t around, std::string_view name)
+    {
+        std::size_t* link = &_steps[around].firstInside;
+        while (*link != noStep && _steps[*link].name != name) {
+            link = &_steps[*link].next;
+        }
+        std::size_t const step = std::min(*link, _steps.size());
+        if (*link == noStep) {
+            *link = step;
+            _steps.push_back({name});
+        }
+        return step;
+    }
+
+    std::vector<Step> _steps = std::vector<Step>(1);
+};
+
+Steps const& steps()
 {
-    return std::any_of(sensorSettings.begin(), sensorSettings.end(), [&](auto const& setting) {
-        return setting.path.size() > path.size() && setting.path.substr(0, path.size()) == path &&
-               setting.path[path.size()] == '/';
-    });
+    static Steps const ofTable;
+    return ofTable;
 }
 
 bool holdsNoise(XmlNode element, std::size_t depth)
@@ -54,6 +116,24 @@ bool holdsNoise(XmlNode element, std::size_t depth)
     });
 }
 
+/// An element of a sensor, or the sensor's own, while it is read.
+struct Level {
+    std::size_t step = Steps::sensor;
+    std::size_t depth = 0;  ///< of elements around it within the sensor's
+    bool isNoisy = false;  ///< whether a noise may stand in it
+};
+
+/// What has the error that a `noise` states: the elements around it, without the outermost.
+std::string quantityOf(XmlNode noise, std::size_t depth)
+{
+    std::string quantity;
+    XmlNode around = noise.parent();
+    for (; depth > 2; --depth, around = around.parent()) {
+        quantity = std::string(around.name()) + (quantity.empty() ? "" : "/") + quantity;
+    }
+    return quantity;
+}
+
 class SettingsReader {
 public:
     explicit SettingsReader(Report const& report) : _report(report) {}
@@ -61,11 +141,11 @@ public:
     std::shared_ptr<SensorSettings const> read(XmlNode sensor);
 
 private:
-    void readPart(XmlNode element, std::string const& path);
-    void readAttributes(XmlNode element, std::string const& path);
-    void readChild(XmlNode child, std::string const& path);
-    void readElement(XmlNode element, std::string const& path);
-    bool isFirst(XmlNode element, std::string const& path);
+    void readPart(XmlNode element, Level const& level);
+    void readAttributes(XmlNode element, Level const& level);
+    void readChild(XmlNode child, Level const& around);
+    void readElement(XmlNode element, Level const& level);
+    bool isFirst(XmlNode element, std::size_t step);
     void readNoise(XmlNode noise, std::string const& quantity, std::string const& type);
     void readRangeCount();
     void checkOrder(XmlNode sensor);
@@ -75,7 +155,9 @@ private:
     Report const& _report;
     SensorSettings _settings;
     bool _isAnyStated = false;
-    std::unordered_set<std::string, NameHash> _seen;  ///< paths that may be stated once
+    // What may be stated once, and is.
+    std::vector<bool> _seen = std::vector<bool>(steps().size());
+    std::set<std::pair<std::size_t, std::string_view>> _seenParts;  ///< by parent and name: what is no step
     XmlNode _rangeCount;
     bool _hasManyCameras = false;
 };
@@ -83,86 +165,87 @@ private:
 std::shared_ptr<SensorSettings const> SettingsReader::read(XmlNode sensor)
 {
     _hasManyCameras = sensor.attribute("type").value() == "multicamera";
-    readPart(sensor, "");
+    readPart(sensor, {});
     readRangeCount();
     checkOrder(sensor);
     return _isAnyStated ? std::make_shared<SensorSettings const>(std::move(_settings)) : nullptr;
 }
 
-/// An element that holds settings; `path` is empty for the sensor's own, and ends with a slash for others.
-void SettingsReader::readPart(XmlNode element, std::string const& path)
+/// An element that holds settings.
+void SettingsReader::readPart(XmlNode element, Level const& level)
 {
-    readAttributes(element, path);
+    readAttributes(element, level);
     for (XmlNode const child : element.children()) {
         if (child.isElement()) {
-            readChild(child, path);
+            readChild(child, level);
         }
     }
 }
 
-void SettingsReader::readAttributes(XmlNode element, std::string const& path)
+void SettingsReader::readAttributes(XmlNode element, Level const& level)
 {
     for (XmlAttribute const attribute : element.attributes()) {
-        if (path.empty() && saysWhich(attribute.name())) {
+        if (level.depth == 0 && saysWhich(attribute.name())) {
             continue;
         }
-        std::string const name = path + std::string(attribute.name());
-        auto const* const setting = findSetting(sensorSettings, name);
-        bool const isStored =
-            setting != nullptr && store(*setting, attribute.value(), at(element, attribute), _settings);
-        if (isStored) {
-            _seen.insert(name);
+        std::size_t const step = steps().find(level.step, attribute.name());
+        auto const* const setting = steps().setting(step);
+        if (setting != nullptr && store(*setting, attribute.value(), at(element, attribute), _settings)) {
+            _seen[step] = true;
         } else {
             _report.passOver(element, attribute);
         }
     }
 }
 
-void SettingsReader::readChild(XmlNode child, std::string const& path)
+void SettingsReader::readChild(XmlNode child, Level const& around)
 {
-    std::string_view name = child.name();
-    if (path.empty() && saysWhere(child)) {
-        if (!isFirst(child, std::string(name))) {
+    std::string_view const stated = child.name();
+    if (around.depth > 0) {
+        readElement(child, {steps().find(around.step, stated), around.depth + 1, around.isNoisy});
+        return;
+    }
+    auto const* const alias = std::find_if(sensorAliases.begin(), sensorAliases.end(),
+                                           [stated](SensorAlias const& known) { return known.name == stated; });
+    std::string_view const name = alias == sensorAliases.end() ? stated : alias->meant;
+    std::size_t const step = steps().find(around.step, name);
+    if (steps().isPlace(step) && (name != "origin" || child.text().empty())) {
+        if (!isFirst(child, step)) {
             _report.passOver(child);
         }
-        return;
-    }
-    if (path.empty() && name == "rangeCount" && !_rangeCount) {
+    } else if (name == "rangeCount" && !_rangeCount) {
         _rangeCount = child;
-        return;
+    } else {
+        bool const isNoisy = std::find(noisyElements.begin(), noisyElements.end(), name) != noisyElements.end();
+        readElement(child, {step, 1, isNoisy});
     }
-    auto const* const alias = std::find_if(sensorAliases.begin(), sensorAliases.end(), [&](SensorAlias const& known) {
-        return path.empty() && known.name == name;
-    });
-    readElement(child, path + std::string(alias == sensorAliases.end() ? name : alias->meant));
 }
 
-void SettingsReader::readElement(XmlNode element, std::string const& path)
+void SettingsReader::readElement(XmlNode element, Level const& level)
 {
-    std::size_t const depth = static_cast<std::size_t>(std::count(path.begin(), path.end(), '/')) + 1;
-    std::string const around = path.substr(0, path.find('/'));
-    bool const isNoisy = std::find(noisyElements.begin(), noisyElements.end(), around) != noisyElements.end();
-    if (isNoisy && depth > 1 && path.substr(path.rfind('/')) == "/noise") {
-        std::size_t const begin = around.size() + 1;
-        std::size_t const end = path.rfind('/');
-        readNoise(element, end > begin ? path.substr(begin, end - begin) : "", "");
+    if (level.isNoisy && level.depth > 1 && element.name() == "noise") {
+        readNoise(element, quantityOf(element, level.depth), "");
         return;
     }
-    auto const* const setting = findSetting(sensorSettings, path);
-    bool const isPart =
-        holdsSettings(path) || (isNoisy && depth <= deepestNoise && holdsNoise(element, deepestNoise + 1 - depth));
-    bool const isRead = (setting != nullptr || isPart) && isFirst(element, path);
+    auto const* const setting = steps().setting(level.step);
+    bool const isPart = steps().holdsSteps(level.step) || (level.isNoisy && level.depth <= deepestNoise &&
+                                                           holdsNoise(element, deepestNoise + 1 - level.depth));
+    bool const isRead = (setting != nullptr || isPart) && isFirst(element, level.step);
     if (isRead && isPart) {
-        readPart(element, path + "/");
+        readPart(element, level);
     } else if (!isRead || !store(*setting, element.text(), at(element), _settings)) {
         _report.passOver(element);
     }
 }
 
 /// Reports an element that may stand once and stands again.
-bool SettingsReader::isFirst(XmlNode element, std::string const& path)
+bool SettingsReader::isFirst(XmlNode element, std::size_t step)
 {
-    bool const isNew = _seen.insert(path).second;
+    bool const isNew =
+        step == noStep ? _seenParts.insert({element.parent().id(), element.name()}).second : !_seen[step];
+    if (step != noStep) {
+        _seen[step] = true;
+    }
     if (!isNew && !_hasManyCameras) {
         _report.diagnostics.report(at(element), codes::surplusElement,
                                    "This is a further " + quoted(element.name()) + "; the first one counts.");
@@ -178,8 +261,9 @@ void SettingsReader::readNoise(XmlNode noise, std::string const& quantity, std::
     stated.type = type;
     bool saysMore = false;
     auto const take = [&](std::string_view name, std::string_view text, TextOffset place) {
-        auto const* const setting = findSetting(noiseSettings, name);
-        bool const isStored = setting != nullptr && store(*setting, text, place, stated);
+        auto const* const setting = std::find_if(noiseSettings.begin(), noiseSettings.end(),
+                                                 [name](auto const& known) { return known.path == name; });
+        bool const isStored = setting != noiseSettings.end() && store(*setting, text, place, stated);
         saysMore = saysMore || (isStored && name != "type");
         return isStored;
     };
@@ -220,7 +304,7 @@ void SettingsReader::readRangeCount()
         return;
     }
     ScanSettings scan = _settings.horizontalScan.value_or(ScanSettings());
-    if (_seen.count("rayCount") == 0) {
+    if (!_seen[steps().find(Steps::sensor, "rayCount")]) {
         scan.samples = static_cast<std::int32_t>(count);
     }
     scan.resolution = static_cast<float>(count / scan.samples);

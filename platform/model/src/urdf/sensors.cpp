@@ -70,8 +70,7 @@ void SensorReader::readSensor(XmlNode node)
 void SensorReader::readExtension(XmlNode gazebo)
 {
     XmlAttribute const reference = gazebo.attribute("reference");
-    ExtensionConfig bearer;
-    bool const isDangling = reference && !findBearer(reference.value(), _tree, bearer);
+    bool const isDangling = reference && !findBearer(reference.value(), _tree);
     if (isDangling && !gazebo.child("sensor")) {
         reportDangling(gazebo, reference);
     }

@@ -31,7 +31,7 @@ Geometry toGeometry(Solid const& solid)
 {
     Geometry geometry;
     geometry.type = *solid.type;
-    geometry.uri = solid.filename;
+    geometry.uri = std::string(solid.filename);
     geometry.scale = toPosition(solid.scale);
     geometry.size = toPosition(solid.size);
     geometry.radius = static_cast<float>(solid.radius);
@@ -41,7 +41,7 @@ Geometry toGeometry(Solid const& solid)
 
 void translateShape(Shape const& stated, ShapeConfig& shape)
 {
-    shape.name = stated.name;
+    shape.name = std::string(stated.name);
     if (stated.origin) {
         shape.position = toPosition(stated.origin->xyz);
         shape.orientation = toPosition(stated.origin->rpy);
@@ -60,14 +60,12 @@ bool isMereMesh(Visual const& visual)
 }
 
 /// The mesh of a record is the first one of its visuals.
-void translateMesh(std::vector<VisualConfig> const& visuals, JointConfig& body)
+void translateMesh(VisualConfig const& visual, JointConfig& body)
 {
-    auto const isMesh = [](VisualConfig const& visual) { return visual.geometry.type == GeometryType::mesh; };
-    auto const mesh = std::find_if(visuals.begin(), visuals.end(), isMesh);
-    if (mesh != visuals.end()) {
-        body.meshName = mesh->geometry.uri;
-        body.meshPosition = mesh->position;
-        body.meshOrientation = mesh->orientation;
+    if (body.meshName.empty() && visual.geometry.type == GeometryType::mesh) {
+        body.meshName = visual.geometry.uri;
+        body.meshPosition = visual.position;
+        body.meshOrientation = visual.orientation;
     }
 }
 
@@ -76,17 +74,19 @@ void translateMesh(std::vector<VisualConfig> const& visuals, JointConfig& body)
 void translateShapes(Link const& link, Materials const& materials, JointConfig& body, Diagnostics& diagnostics)
 {
     bool const isMeshAlone = link.visuals.size() == 1 && isMereMesh(link.visuals.front());
+    body.shapes.visuals.reserve(isMeshAlone ? 0 : link.visuals.size());
     for (Visual const& stated : link.visuals) {
         if (isWhole(stated, diagnostics)) {
-            VisualConfig& visual = body.shapes.visuals.emplace_back();
+            VisualConfig visual;
             translateShape(stated, visual);
             visual.material = stated.material ? materials.find(*stated.material, diagnostics) : nullptr;
+            translateMesh(visual, body);
+            if (!isMeshAlone) {
+                body.shapes.visuals.push_back(std::move(visual));
+            }
         }
     }
-    translateMesh(body.shapes.visuals, body);
-    if (isMeshAlone) {
-        body.shapes.visuals = {};
-    }
+    body.shapes.collisions.reserve(link.collisions.size());
     for (Collision const& stated : link.collisions) {
         if (isWhole(stated, diagnostics)) {
             translateShape(stated, body.shapes.collisions.emplace_back());

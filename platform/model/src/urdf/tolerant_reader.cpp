@@ -135,7 +135,8 @@ void TolerantReader::onUnexpectedText(ElementInfo const& element, XmlNode text)
 void TolerantReader::onMissingAttribute(ElementInfo const& element, AttributeInfo const& attribute, XmlNode node)
 {
     bool const isError = attribute.missing.code != nullptr && attribute.missing.code->severity == Severity::error;
-    if (!isError && !trimmed(textOf(node)).empty()) {
+    std::string joined;
+    if (!isError && !trimmed(textOf(node, joined)).empty()) {
         return;  // which is told, and is probably meant for the attribute
     }
     if (attribute.missing.code != nullptr) {

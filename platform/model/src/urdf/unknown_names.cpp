@@ -40,9 +40,9 @@ std::size_t findMeant(Infos<Info> const& rows, std::string_view element, std::st
         meant = isNear(written, known) && closest.offer(known) ? i : meant;
     }
     for (Confusion const& confusion : confusions) {
-        for (std::size_t i = 0; meant == noRow && i < rows.size(); ++i) {
-            bool const isIt = confusion.element == element && confusion.written == written;
-            meant = isIt && nameOf(rows[i]) == confusion.meant ? i : noRow;
+        bool const isIt = meant == noRow && confusion.element == element && confusion.written == written;
+        for (std::size_t i = 0; isIt && i < rows.size(); ++i) {
+            meant = nameOf(rows[i]) == confusion.meant ? i : meant;
         }
     }
     return meant;
@@ -102,18 +102,25 @@ std::size_t UnknownNames::noteAttribute(ElementInfo const& element, XmlNode node
     if (isPrefixed(name)) {
         return noRow;
     }
-    std::size_t const meant = findMeant(element.attributes, element.name, name);
-    if (meant == noRow) {
-        ++_foreign.try_emplace({element.name, name}, Kind{at(node, attribute)}).first->second.count;
+    auto const [entry, isNew] = _attributes.try_emplace({&element, name});
+    UnknownAttribute& unknown = entry->second;
+    if (isNew) {
+        unknown.meant = findMeant(element.attributes, element.name, name);
+    }
+    if (unknown.meant == noRow) {
+        if (isNew) {
+            unknown.foreign = &_foreign.try_emplace({element.name, name}, Kind{at(node, attribute)}).first->second;
+        }
+        ++unknown.foreign->count;
         return noRow;
     }
-    AttributeInfo const& row = element.attributes[meant];
+    AttributeInfo const& row = element.attributes[unknown.meant];
     _diagnostics.report(at(node, attribute), codes::unknownAttribute,
                         std::string(element.name) + " has no attribute " + quoted(name) +
                             ": it is kept as text, and counts for nothing.",
                         didYouMean(row.name));
     bool const isRefused = row.missing.code != nullptr && row.missing.code->severity == Severity::error;
-    return isRefused || node.attribute(row.name) ? noRow : meant;
+    return isRefused || node.attribute(row.name) ? noRow : unknown.meant;
 }
 
 void UnknownNames::noteChild(ElementInfo const& element, XmlNode child)
@@ -122,13 +129,18 @@ void UnknownNames::noteChild(ElementInfo const& element, XmlNode child)
     if (isPrefixed(name)) {
         return;
     }
-    std::string_view const meant = findMeantChild(element, name);
-    if (!meant.empty()) {
+    auto const [entry, isNew] = _children.try_emplace({&element, name});
+    UnknownChild& unknown = entry->second;
+    if (isNew) {
+        unknown.meant = findMeantChild(element, name);
+        unknown.isDefined = isDefined(name);
+    }
+    if (!unknown.meant.empty()) {
         _diagnostics.report(at(child), codes::unknownElement,
                             std::string(element.name) + " holds no element " + quoted(name) +
                                 ": it is kept as text, and counts for nothing.",
-                            didYouMean(meant));
-    } else if (isDefined(name)) {
+                            didYouMean(unknown.meant));
+    } else if (unknown.isDefined) {
         _diagnostics.report(at(child), codes::misplacedElement,
                             "URDF has no " + quoted(name) + " in " + std::string(element.name) +
                                 ": it is kept as text, and counts for nothing.",

@@ -2,12 +2,15 @@
 #define VARO_MODEL_URDF_UNKNOWN_NAMES_HPP
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "urdf/schema.hpp"
 #include "varo/model/diagnostics.hpp"
+#include "varo/model/name_hash.hpp"
 #include "xml/document.hpp"
 
 namespace Varo::Model::Urdf {
@@ -42,8 +45,28 @@ private:
         TextOffset first;
         std::size_t count = 0;
     };
+    struct UnknownAttribute {
+        std::size_t meant;  ///< the row, or noRow
+        Kind* foreign = nullptr;  ///< null where a row was meant
+    };
+    struct UnknownChild {
+        std::string_view meant;  ///< empty for none
+        bool isDefined = false;  ///< whether URDF has it elsewhere
+    };
+
+    /// A name in the elements of a table.
+    using Name = std::pair<ElementInfo const*, std::string_view>;
+    struct HashOfName {
+        std::size_t operator()(Name const& name) const
+        {
+            return NameHash()(name.second) ^ std::hash<ElementInfo const*>()(name.first);
+        }
+    };
 
     Diagnostics& _diagnostics;
+    // Comparing words takes time, and texts write the same ones over and over.
+    std::unordered_map<Name, UnknownAttribute, HashOfName> _attributes;
+    std::unordered_map<Name, UnknownChild, HashOfName> _children;
     std::map<std::pair<std::string_view, std::string_view>, Kind> _foreign;  // by names of element and attribute
 };
 
