@@ -46,7 +46,7 @@ bool differBy(std::size_t edits, std::string_view a, std::string_view b)
     return std::max(std::bitset<32>(ofA & ~ofB).count(), std::bitset<32>(ofB & ~ofA).count()) >= edits;
 }
 
-/// The distance of words that are neither empty nor too long.
+/// The distance of words that are neither empty nor too long, as by Hyyrö (2003).
 ///
 /// In the table of the distances between the beginnings of `a` and those of `b`, neighbours differ by at most one. What
 /// is worked out for one beginning of `b` after the other is thus a column of differences, one bit for each letter of

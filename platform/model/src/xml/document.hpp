@@ -53,7 +53,7 @@ private:
 
     std::string_view textOf(Piece piece) const
     {
-        return piece.begin < _text.size() ? _text.substr(piece.begin, piece.size)
+        return piece.begin < _text.size() ? std::string_view(_text.data() + piece.begin, piece.size)
                                           : std::string_view(_decoded).substr(piece.begin - _text.size(), piece.size);
     }
 
