@@ -53,7 +53,8 @@ private:
             return piece;
         }
 
-        // While a model is built, users are only numbered: the builder stands for more than there will ever be.
+        // While a model is built, users are counted without atomics: the builder stands for more than there will ever
+        // be.
         void addUser() { ++_added; }
         void removeUser() { remove(1); }
         void endBuilding() { remove(builder - _added); }

@@ -118,7 +118,9 @@ boost::shared_ptr<Joint> ModelImpl::attachJointCalled(std::string const& name, T
                                                       std::string& parent, boost::shared_ptr<Link> const& parentLink)
 {
     JointConfig const* const record = _motionModel->findJoint(name, _index->nextJoint);
-    std::string const& ownName = record == nullptr ? name : record->name;
+    auto const& joints = _motionModel->records().joints;
+    std::string const& ownName =
+        record == nullptr ? name : joints.nameOf(static_cast<std::size_t>(record - &joints[0]));
     _motionModel->transformFromJointName(ownName, inParentLink, parent);
     return attachJoint(SharedName::of(ownName), inParentLink, parentLink, {record});
 }

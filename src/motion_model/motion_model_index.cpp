@@ -39,26 +39,28 @@ MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const
 
 MotionModel::Index::Entry MotionModel::Index::of(std::string const& name) const
 {
-    static Facts const nothing;
-    std::uint32_t const number = numberOf(name);
-    return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
+    return entryOf(numberOf(name));
 }
 
 MotionModel::Index::Entry MotionModel::Index::of(std::string const& name, std::uint32_t& next) const
 {
+    return entryOf(_names.find(name, next));
+}
+
+MotionModel::Index::Entry MotionModel::Index::entryOf(std::uint32_t number) const
+{
     static Facts const nothing;
-    std::uint32_t const number = _names.find(name, next);
     return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
 }
 
-/// A joint's own name, by which building a model mostly asks, is where it is: it need not be looked for.
+/// A joint's own name, by which building a model mostly asks, tells its number by where it stands.
 std::uint32_t MotionModel::Index::numberOf(std::string const& name) const
 {
     auto const addressOf = [](std::string const& text) { return reinterpret_cast<std::uintptr_t>(&text); };
     auto const& joints = _records.joints;
     if (!joints.empty() && addressOf(name) >= addressOf(joints[0].name)) {
         std::size_t const joint = (addressOf(name) - addressOf(joints[0].name)) / sizeof(Varo::Model::JointConfig);
-        if (joint < joints.size() && &joints[joint].name == &name) {
+        if (joint < joints.size() && &joints.nameOf(joint) == &name) {
             return static_cast<std::uint32_t>(joint);  // they were numbered first
         }
     }

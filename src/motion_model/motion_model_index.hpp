@@ -72,6 +72,7 @@ private:
     };
 
     std::uint32_t numberOf(std::string const& name) const;
+    Entry entryOf(std::uint32_t number) const;
     Facts& factsOf(std::string const& name);
     template <typename Record>
     void addRecords(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record);
@@ -94,6 +95,11 @@ public:
 
     // The records of that name, null where there is none.
     Varo::Model::JointConfig const* joint() const { return in(_index._records.joints, _facts.joint); }
+    /// The name under which that joint is listed, which its record may state otherwise; null for no joint.
+    std::string const* jointName() const
+    {
+        return _facts.joint == none ? nullptr : &_index._records.joints.nameOf(_facts.joint);
+    }
     Varo::Model::JointConfig const* root() const { return _facts.isRoot ? &_index._records.root : nullptr; }
     Varo::Model::SubActuatorConfig const* subActuator() const
     {

@@ -140,9 +140,9 @@ void MotionModel::appendAngleActuators(std::string const& chain, NameRefs& actua
 {
     std::uint32_t next = 0;
     for (std::string const& name : jointsOf(chain)) {
-        auto const* const joint = _index->of(name, next).joint();
-        if (joint == nullptr || joint->hasMotor) {
-            actuators.push_back(joint == nullptr ? &name : &joint->name);
+        auto const named = _index->of(name, next);
+        if (named.joint() == nullptr || named.joint()->hasMotor) {
+            actuators.push_back(named.joint() == nullptr ? &name : named.jointName());
         }
     }
 }

@@ -41,6 +41,16 @@ TEST(Structure, OfAllChainsIsMergedOrConcatenated)
     EXPECT_THAT(model.coupledActuatorNames(), ElementsAre("HandA", "HandB"));
 }
 
+TEST(Structure, GoesByTheNamesThatRecordsAreListedUnder)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        fill(robot);
+        robot.joints["Elbow"].name = "Wrist";  // as its record states it
+    });
+    EXPECT_THAT(model.angleActuatorNames("Arm"), ElementsAre("Elbow", "Wrist"));
+    EXPECT_THAT(model.followingJoints(model.findJoint("Elbow")->name), ElementsAre("A1", "A3", "B1", "Blade"));
+}
+
 TEST(Structure, LeavesJointsWithoutMotorOutAndKeepsWhatIsAttachedToThem)
 {
     auto const model = modelOf([](FakeRobot& robot) {

@@ -95,8 +95,8 @@ TextOffset findXacroWithin(XmlNode part)
     return found;
 }
 
-/// The same for all of the text. What it goes by often stands in a comment alone: only those parts of the robot are
-/// walked through that have some, be it written as references.
+/// The same for the whole text. What xacro goes by often stands only in a comment; therefore only those parts of the
+/// robot are searched that may hold some of it, also where it is written with character references.
 TextOffset findXacro(XmlNode root)
 {
     TextOffset found = placeForXacro(root);

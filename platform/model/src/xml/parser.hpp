@@ -115,7 +115,7 @@ private:
 inline void XmlParser::openElement(XmlDocument::Piece name, std::uint32_t firstAttribute)
 {
     auto const index = static_cast<std::uint32_t>(_document._nodes.size());
-    XmlDocument::Node& node = _document._nodes.emplace_back();  // filled in place: put together first, it is slower
+    XmlDocument::Node& node = _document._nodes.emplace_back();  // filled in place, which is faster than a copy
     node.piece = name;
     node.firstAttribute = firstAttribute;
     node.parent = isOutsideRoot() ? index : _open;

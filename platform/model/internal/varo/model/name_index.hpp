@@ -35,7 +35,7 @@ public:
         std::uint32_t& slot = _slots.slotFor(hash, _entries, [name](Entry const& entry) { return entry.name == name; });
         if (slot == none) {
             slot = static_cast<std::uint32_t>(_entries.size());
-            Entry& entry = _entries.emplace_back();  // filled in place: put together first, it is slower
+            Entry& entry = _entries.emplace_back();  // filled in place, which is faster than a copy
             entry.name = name;
             entry.hash = hash;
             entry.number = number;
