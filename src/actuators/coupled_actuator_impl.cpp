@@ -7,7 +7,7 @@ CoupledActuatorImpl::JointsAndRatios CoupledActuatorImpl::controlledJointAndRati
     JointsAndRatios result;
     result.reserve(_controlledJointAndRatios.size());
     for (auto const& [reference, ratio] : _controlledJointAndRatios) {
-        if (boost::shared_ptr<Joint const> joint = reference.lock()) {
+        if (boost::shared_ptr<Joint const> joint = locked(reference)) {
             result.emplace_back(joint, ratio);
         }
     }

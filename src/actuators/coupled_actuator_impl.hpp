@@ -34,7 +34,7 @@ public:
 
 private:
     float _maxSpeed;
-    std::vector<std::pair<boost::weak_ptr<Joint const>, float>> _controlledJointAndRatios;
+    std::vector<std::pair<ElementRef<Joint const>, float>> _controlledJointAndRatios;
     bool _reflectionForced;
 };
 

@@ -20,10 +20,10 @@ public:
           _controlledJoint(joint)
     {}
 
-    boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }
+    boost::shared_ptr<Joint const> controlledJoint() const { return this->locked(_controlledJoint); }
 
 private:
-    boost::weak_ptr<Joint const> _controlledJoint;
+    ElementRef<Joint const> _controlledJoint;
 };
 
 // The kinds that are just that.

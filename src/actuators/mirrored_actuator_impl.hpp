@@ -5,7 +5,6 @@
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
 #include "actuators/dcm_actuator_impl.hpp"
 #include "core/kind_of.hpp"
@@ -30,7 +29,7 @@ public:
     float minValue() const { return _minValue; }
     float maxValue() const { return _maxValue; }
 
-    boost::shared_ptr<Device const> reflectedSymmetric() const { return _reflectedSymmetric.lock(); }
+    boost::shared_ptr<Device const> reflectedSymmetric() const { return locked(_reflectedSymmetric); }
     void setReflectedSymmetric(boost::shared_ptr<Device const> const& partner) { _reflectedSymmetric = partner; }
     bool reflectedSymmetricReversed() const { return _reflectedSymmetricReversed; }
     void setReflectedSymmetricReversed(bool reversed) { _reflectedSymmetricReversed = reversed; }
@@ -39,7 +38,7 @@ private:
     float _startValue;
     float _minValue;
     float _maxValue;
-    boost::weak_ptr<Device const> _reflectedSymmetric;
+    ElementRef<Device const> _reflectedSymmetric;
     bool _reflectedSymmetricReversed = false;
 };
 

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
 #include "actuators/dcm_actuator_impl.hpp"
 #include "core/kind_of.hpp"
@@ -26,13 +25,13 @@ public:
           _controlledJoint(joint)
     {}
 
-    boost::shared_ptr<Joint const> controlledJoint() const { return _controlledJoint.lock(); }
+    boost::shared_ptr<Joint const> controlledJoint() const { return locked(_controlledJoint); }
 
 protected:
     float _limit;
 
 private:
-    boost::weak_ptr<Joint const> _controlledJoint;
+    ElementRef<Joint const> _controlledJoint;
 };
 
 }  // namespace Sim

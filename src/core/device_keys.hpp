@@ -29,8 +29,10 @@ public:
         }
     }
     DeviceKeys(DeviceKeys&& other) noexcept
-        : _keys(other._keys.exchange(nullptr)), _make(other._make), _kinds(other._kinds)
-    {}
+        : _keys(other._keys.load(std::memory_order_relaxed)), _make(other._make), _kinds(other._kinds)
+    {
+        other._keys.store(nullptr, std::memory_order_relaxed);  // an exchange would cost more: nobody else asks yet
+    }
     DeviceKeys& operator=(DeviceKeys const&) = delete;
     ~DeviceKeys() { delete _keys.load(); }
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
+#include "core/element_ref.hpp"
 #include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 
@@ -28,7 +28,7 @@ public:
 
 private:
     SharedName _name;
-    boost::weak_ptr<Frame const> _parentFrame;
+    ElementRef<Frame const> _parentFrame;
     Varo::Math::Transform _position;
 };
 

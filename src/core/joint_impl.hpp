@@ -4,8 +4,8 @@
 #include <string>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
+#include "core/element_ref.hpp"
 #include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
@@ -45,10 +45,10 @@ public:
 private:
     bool isWheel() const { return _source.wheel != nullptr; }
 
-    boost::weak_ptr<Frame const> _frame;
+    ElementRef<Frame const> _frame;
     SharedName _name;
-    boost::weak_ptr<Link> _parentLink;
-    boost::weak_ptr<Link> _childLink;
+    ElementRef<Link> _parentLink;
+    ElementRef<Link> _childLink;
     JointSource _source;
 };
 

@@ -6,9 +6,9 @@
 
 #include <boost/container/small_vector.hpp>
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
 #include "core/body_record.hpp"
+#include "core/element_ref.hpp"
 #include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 #include "sim/joint.hpp"
@@ -47,11 +47,11 @@ public:
     std::vector<boost::shared_ptr<Joint>> childrenJoints() const;
 
 private:
-    boost::weak_ptr<Frame const> _frame;
+    ElementRef<Frame const> _frame;
     SharedName _name;
     std::string const* _nameInText = nullptr;  // the record's
-    boost::weak_ptr<Joint> _parentJoint;
-    boost::container::small_vector<boost::weak_ptr<Joint>, 1> _childrenJoints;  // most links have one
+    ElementRef<Joint> _parentJoint;
+    boost::container::small_vector<ElementRef<Joint>, 1> _childrenJoints;  // most links have one
     boost::shared_ptr<MassData const> _massData;
     SharedValue<std::string> _frictionMaterial;
     Link::LinkType _type;

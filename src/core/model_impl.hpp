@@ -195,7 +195,7 @@ private:
     boost::shared_ptr<Joint> attachJoint(SharedName const& name, Varo::Math::Transform const& inParentLink,
                                          boost::shared_ptr<Link> const& parentLink, JointSource const& source);
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
-    SharedName linkNameOf(std::string const& jointName) const;
+    SharedName linkNameOf(std::string const& jointName);
     SharedName frictionMaterialOf(std::string const& name) const;
     void reserveRegistries();
     void trimRegistries();
@@ -253,9 +253,7 @@ private:
     template <class Handle, class Impl, class... Arguments>
     boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)
     {
-        auto element = _arena.make<Element<Handle, Impl>>(std::forward<Arguments>(arguments)...);
-        Handle* const handle = &element->handle;
-        return boost::shared_ptr<Handle>(std::move(element), handle);
+        return uncounted(&_arena.make<Element<Handle, Impl>>(std::forward<Arguments>(arguments)...)->handle);
     }
 
     template <class Impl, class... Arguments>
@@ -270,6 +268,7 @@ private:
     boost::shared_ptr<typename Impl::Handle> addActuator(Arguments&&... arguments)
     {
         auto const actuator = makeElement<typename Impl::Handle, Impl>(std::forward<Arguments>(arguments)...);
+        actuator->_impl->setModelLife(ModelLife(_motionModel));
         _actuators.push_back(actuator);
         return actuator;
     }
@@ -313,7 +312,7 @@ private:
     ElementArena _arena;
     std::unique_ptr<BuildReport> _report;
     bool _saysAloud;  ///< whether the building also prints and logs what it notices
-    // The only owners of the elements, which refer to each other weakly.
+    // Of the elements, which the arena owns.
     std::vector<boost::shared_ptr<Joint>> _joints;
     std::vector<boost::shared_ptr<Link>> _links;
     std::vector<boost::shared_ptr<Frame>> _frames;

@@ -8,6 +8,8 @@
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
 
+#include "core/element_ref.hpp"
+
 namespace Sim {
 
 /// A value that is held once for all the elements that have it: a joint's frames, its motor and its sensors have one
@@ -30,10 +32,7 @@ public:
     ~SharedValue() = default;
 
     /// One that outlives all that have it.
-    static SharedValue of(T const& record)
-    {
-        return {boost::shared_ptr<T const>(boost::shared_ptr<T const>(), &record)};
-    }
+    static SharedValue of(T const& record) { return {uncounted(&record)}; }
 
     /// The same for what outlives the records.
     SharedValue kept() const { return _value.use_count() > 0 ? *this : SharedValue(T(*_value)); }

@@ -100,7 +100,7 @@ ModelImpl::Branch ModelImpl::openBranch(boost::shared_ptr<Joint> const& joint,
     return branch;
 }
 
-SharedName ModelImpl::linkNameOf(std::string const& jointName) const
+SharedName ModelImpl::linkNameOf(std::string const& jointName)
 {
     std::string name;
     name.reserve(jointName.size() + 4);

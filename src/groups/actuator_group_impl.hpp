@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/element_ref.hpp"
 #include "groups/weak_members.hpp"
 #include "sim/actuator.hpp"
 #include "sim/actuator_group.hpp"
@@ -25,7 +26,7 @@ public:
 
 private:
     std::string _name;
-    boost::weak_ptr<ActuatorGroup> _parent;
+    ElementRef<ActuatorGroup> _parent;
     WeakMembers<Actuator> _actuators;
 };
 

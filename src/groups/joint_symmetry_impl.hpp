@@ -4,8 +4,8 @@
 #include <utility>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
+#include "core/element_ref.hpp"
 #include "sim/joint.hpp"
 #include "sim/joint_symmetry.hpp"
 
@@ -26,8 +26,8 @@ public:
     JointSymmetry::SymmetryType symmetryType() const { return _symmetryType; }
 
 private:
-    boost::weak_ptr<Joint const> _first;
-    boost::weak_ptr<Joint const> _second;
+    ElementRef<Joint const> _first;
+    ElementRef<Joint const> _second;
     JointSymmetry::SymmetryType _symmetryType;
 };
 

@@ -4,7 +4,8 @@
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
+
+#include "core/element_ref.hpp"
 
 namespace Sim {
 
@@ -19,14 +20,14 @@ public:
     {
         std::vector<boost::shared_ptr<T>> result;
         result.reserve(_members.size());
-        for (boost::weak_ptr<T> const& member : _members) {
+        for (ElementRef<T> const& member : _members) {
             result.push_back(member.lock());
         }
         return result;
     }
 
 private:
-    std::vector<boost::weak_ptr<T>> _members;
+    std::vector<ElementRef<T>> _members;
 };
 
 }  // namespace Sim

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
+#include "core/element_ref.hpp"
 #include "core/shared_value.hpp"
 #include "sim/frame.hpp"
 #include "sim/sensor.hpp"
@@ -33,7 +33,7 @@ public:
     void shareSettings(std::shared_ptr<Varo::Model::SensorSettings const> settings) { _settings = std::move(settings); }
 
 private:
-    boost::weak_ptr<Frame const> _frame;
+    ElementRef<Frame const> _frame;
     SharedName _name;
     Sensor::Type _type;
     std::shared_ptr<Varo::Model::SensorSettings const> _settings;  ///< null when the description states none
