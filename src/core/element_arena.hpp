@@ -63,7 +63,7 @@ private:
     {
         if (std::align(alignment, size, _free, _left) == nullptr) {
             _left = std::max(chunkSize, size + alignment);
-            _chunks.push_back(std::make_unique<std::byte[]>(_left));
+            _chunks.emplace_back(new std::byte[_left]);  // not filled with zeros, as make_unique would
             _free = _chunks.back().get();
             std::align(alignment, size, _free, _left);
         }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <new>
 
 #include <boost/filesystem/operations.hpp>
@@ -16,13 +17,30 @@ using Varo::Model::readTextFile;
 using Varo::Model::TextFile;
 using Varo::Model::ModelUtils::Reading;
 
+/// Texts are too long for names, too, but hold tags.
+bool isMeantAsPath(std::string const& text)
+{
+    return text.find('<') == std::string::npos;
+}
+
+/// What no file can be called, by the limits of the system, which would look for it all the same.
+bool isNoPath(std::string const& text)
+{
+    constexpr std::size_t longestPath = 4096;  // bytes
+    constexpr std::size_t longestName = 255;
+    if (text.size() >= longestPath || text.find('\0') != std::string::npos) {
+        return true;  // of one with a zero, the system would look at the part before it only
+    }
+    // Of what is meant as a path, the system is to say what is wrong with it.
+    return !isMeantAsPath(text) && std::min(text.find('/'), text.size()) > longestName;
+}
+
 /// Whether there is a file of that name. The reason why that cannot be told goes into `error`; it is left alone when
 /// there is none for certain.
 bool isExistingPath(std::string const& text, boost::system::error_code& error)
 {
-    constexpr std::size_t longestPath = 4096;  // bytes; the system knows no longer ones
-    if (text.size() >= longestPath || text.find('\0') != std::string::npos) {
-        return false;  // of one with a zero, the system would look at the part before it only
+    if (isNoPath(text)) {
+        return false;
     }
     boost::system::error_code reason;
     boost::filesystem::file_type const type = boost::filesystem::status(text, reason).type();
@@ -45,12 +63,6 @@ std::string refusal(std::string const& pathOrXml, bool isFile, bool isOpened)
     }
     std::string const note = quoted + " does not exist.Trying to load the given string as XML.\n";
     return failure + (isFile ? std::string() : note) + quoted + " is not a valid DCM XML.\n";
-}
-
-/// Texts are too long for names, too, but hold tags.
-bool isMeantAsPath(std::string const& text)
-{
-    return text.find('<') == std::string::npos;
 }
 
 }  // namespace

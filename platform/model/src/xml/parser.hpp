@@ -58,6 +58,8 @@ private:
     static constexpr std::uint32_t noNode = static_cast<std::uint32_t>(-1);
 
     void takePlainTokens();
+    char const* takePlainToken(char const* begin);
+    char const* takePlainMarkupOutsideRoot(char const* less);
     char const* takePlainMarkup(char const* less);
     char const* takePlainStartTag(char const* less);
     char const* takePlainAttributes(char const* at);

@@ -35,22 +35,31 @@ char const* endOfPlainComment(char const* less)
 
 }  // namespace
 
-/// Inside the root, nearly everything is plain, and there is nothing to say of it.
+/// Nearly everything is plain, and there is nothing to say of it.
 void XmlParser::takePlainTokens()
 {
     char const* const text = _text.data();
-    while (!isOutsideRoot()) {
-        char const* const begin = text + _position;
-        char const* const mark = skip<ofSpace>(begin);
-        char const* const end = *mark == '<' ? takePlainMarkup(mark) : takePlainText(begin);
-        if (end == nullptr) {
-            return;
-        }
+    while (char const* const end = takePlainToken(text + _position)) {
         _position = static_cast<std::size_t>(end - text);
     }
 }
 
 // Each of these answers with the end of what it takes; with null, and nothing done, where that takes a closer look.
+
+char const* XmlParser::takePlainToken(char const* begin)
+{
+    char const* const mark = skip<ofSpace>(begin);
+    if (*mark == '<') {
+        return isOutsideRoot() ? takePlainMarkupOutsideRoot(mark) : takePlainMarkup(mark);
+    }
+    return isOutsideRoot() ? nullptr : takePlainText(begin);
+}
+
+char const* XmlParser::takePlainMarkupOutsideRoot(char const* less)
+{
+    bool const beforeRoot = _document._nodes.empty();
+    return less[1] == '!' ? endOfPlainComment(less) : beforeRoot ? takePlainStartTag(less) : nullptr;
+}
 
 char const* XmlParser::takePlainMarkup(char const* less)
 {
