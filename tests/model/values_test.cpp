@@ -67,6 +67,9 @@ TEST(Values, ShortDecimalsReadAsAllOthersDo)
         text.insert(0, random() % 6, '0');
         text.insert(random() % (text.size() + 1), ".");
         text.insert(0, random() % 2, '-');
+        if (random() % 2 == 0) {
+            text += (random() % 2 == 0 ? "e-" : "E") + std::to_string(random() % 40);
+        }
         ASSERT_TRUE(readsAsFromCharsDoes<float>(text)) << text;
         ASSERT_TRUE(readsAsFromCharsDoes<double>(text)) << text;
     }
@@ -77,8 +80,9 @@ TEST(Values, ShortDecimalsAreTakenWhereDivisionIsExact)
     using Length = std::pair<char const*, int>;
     for (auto const& [text, length] :
          {Length{"16777216", 8}, Length{"16777217", 0}, Length{"0.0000000001", 12}, Length{"0.00000000001", 0},
-          Length{"00000000000000000001", 19}, Length{"-1.5 7", 4}, Length{"1e3", 1}, Length{"-", 0}, Length{".", 0},
-          Length{"", 0}}) {
+          Length{"00000000000000000001", 19}, Length{"-1.5 7", 4}, Length{"1e3", 3}, Length{"1E+10", 5},
+          Length{"1e11", 0}, Length{"1e-99999999999", 0}, Length{"1.25e", 4}, Length{"1e-x", 1}, Length{"-", 0},
+          Length{".", 0}, Length{"", 0}}) {
         float value = 0.0F;
         EXPECT_EQ(parseShortDecimal(text, value), length) << text;
     }
