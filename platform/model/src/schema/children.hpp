@@ -90,8 +90,9 @@ void addRecord(ElementReader& reader, XmlNode node, Table<Item>& items)
     readItem<RecordOfElement<element>>(reader, element, node, items.add());
 }
 
-template <auto const& element, class Item>
-void addRecord(ElementReader& reader, XmlNode node, std::vector<Item>& items)
+/// `items` are a vector of one kind or another.
+template <auto const& element, class Items>
+void addRecord(ElementReader& reader, XmlNode node, Items& items)
 {
     readItem<RecordOfElement<element>>(reader, element, node, items.emplace_back());
 }

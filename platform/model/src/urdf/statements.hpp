@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include <boost/container/small_vector.hpp>
+
 #include "robot/pose.hpp"
 #include "varo/model/configs.hpp"
 #include "xml/document.hpp"
@@ -90,8 +92,8 @@ struct Collision : Shape {};
 struct Link : Stated {
     std::string_view name;
     std::optional<Inertial> inertial;
-    std::vector<Visual> visuals;
-    std::vector<Collision> collisions;
+    boost::container::small_vector<Visual, 1> visuals;  // most links have one
+    boost::container::small_vector<Collision, 1> collisions;
 };
 
 /// The parent or the child of a joint.
@@ -157,15 +159,15 @@ struct Reduction : Stated {
 /// A joint or an actuator of a transmission.
 struct TransmissionEnd : Stated {
     std::string_view name;
-    std::vector<std::string> interfaces;
+    boost::container::small_vector<std::string, 1> interfaces;
     std::optional<Reduction> reduction;
 };
 
 struct Transmission : Stated {
     std::string_view name;
     std::string type;
-    std::vector<TransmissionEnd> joints;
-    std::vector<TransmissionEnd> actuators;
+    boost::container::small_vector<TransmissionEnd, 1> joints;
+    boost::container::small_vector<TransmissionEnd, 1> actuators;
     std::optional<Reduction> reduction;  ///< where no actuator states its own
 };
 

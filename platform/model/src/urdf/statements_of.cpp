@@ -168,7 +168,8 @@ bool areOne(TransmissionConfig const& one, TransmissionConfig const& next)
 
 void addDriven(TransmissionConfig const& config, Transmission& stated)
 {
-    stated.joints.emplace_back(toEnd(config.joint)).interfaces = config.interfaces;
+    stated.joints.emplace_back(toEnd(config.joint))
+        .interfaces.assign(config.interfaces.begin(), config.interfaces.end());
     if (hasActuator(config)) {
         TransmissionEnd& actuator = stated.actuators.emplace_back(toEnd(config.actuator));
         if (config.reduction != 1.0F) {

@@ -96,6 +96,7 @@ void keepRest(Transmission const& transmission, Report const& report)
 
 void translateTransmissions(Robot const& stated, LinkTree& tree, Records& robot, Report const& report)
 {
+    robot.transmissions.reserve(stated.transmissions.size());
     for (Transmission const& transmission : stated.transmissions) {
         for (std::size_t i = 0; i < transmission.joints.size(); ++i) {
             TransmissionEnd const& joint = transmission.joints[i];

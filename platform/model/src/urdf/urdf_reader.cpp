@@ -167,8 +167,11 @@ void Reader::readControls()
     for (XmlNode const system : _root.children("ros2_control")) {
         readRos2Control(system, _tree, _robot, _report);
     }
-    std::stable_sort(_robot.transmissions.begin(), _robot.transmissions.end(),
-                     [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); });
+    auto& all = _robot.transmissions;
+    auto const precedes = [](auto const& a, auto const& b) { return a.textOffset.value() < b.textOffset.value(); };
+    if (!std::is_sorted(all.begin(), all.end(), precedes)) {
+        std::stable_sort(all.begin(), all.end(), precedes);
+    }
 }
 
 }  // namespace

@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <vector>
+
+#include <boost/container/small_vector.hpp>
 
 namespace Varo::Model {
 
@@ -70,7 +71,7 @@ private:
         return _slots[indexFor(hash, isEntry)];
     }
 
-    std::vector<std::uint32_t> _slots;  ///< a power of two, at most half of them in use
+    boost::container::small_vector<std::uint32_t, 32> _slots;  ///< a power of two, at most half of them in use
 };
 
 }  // namespace Varo::Model
