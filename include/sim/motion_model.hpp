@@ -219,13 +219,15 @@ private:
 
     // Not part of the library's interface. Names are those of the records.
     using NameRefs = std::vector<std::string const*>;
+    using JointNames = std::vector<std::string>;
     [[gnu::visibility("hidden")]] NameRefs chainRefs() const;
     [[gnu::visibility("hidden")]] Varo::Model::JointConfig const* findJoint(std::string const& name,
                                                                             std::uint32_t& next) const;
-    [[gnu::visibility("hidden")]] std::vector<std::string> const& jointsOf(std::string const& chain) const;
-    [[gnu::visibility("hidden")]] void appendAngleActuators(std::string const& chain, NameRefs& actuators) const;
-    [[gnu::visibility("hidden")]] void appendActuators(std::string const& chain, NameRefs& actuators) const;
-    [[gnu::visibility("hidden")]] void appendCoupledActuators(std::string const& chain, NameRefs& actuators) const;
+    [[gnu::visibility("hidden")]] JointNames const& jointsOf(std::string const& chain) const;
+    [[gnu::visibility("hidden")]] std::string const& firstChainOf(std::string const& joint) const;
+    [[gnu::visibility("hidden")]] void appendAngleActuators(JointNames const& chain, NameRefs& actuators) const;
+    [[gnu::visibility("hidden")]] void appendActuators(JointNames const& chain, NameRefs& actuators) const;
+    [[gnu::visibility("hidden")]] void appendCoupledActuators(JointNames const& chain, NameRefs& actuators) const;
     [[gnu::visibility("hidden")]] void appendFollowingJoints(std::string const& joint, NameRefs& following) const;
     [[gnu::visibility("hidden")]] std::string const& frictionMaterialOf(std::string const& name) const;
     [[gnu::visibility("hidden")]] static std::string const& frictionMaterialOf(Varo::Model::JointConfig const& body);

@@ -28,8 +28,8 @@ void ModelImpl::fetchAngleActuators()
         name().find("SpecialSimulation") != std::string::npos || name().find("Helvo") != std::string::npos;
     std::vector<std::string const*> actuators;
     actuators.reserve(_joints.size());
-    for (std::string const* chain : _motionModel->chainRefs()) {
-        _motionModel->appendAngleActuators(*chain, actuators);
+    for (std::uint32_t const chain : _motionModel->records().chainOrder) {
+        _motionModel->appendAngleActuators(_motionModel->records().chains[chain].jointNames, actuators);
     }
     for (std::string const* actuator : actuators) {
         fetchAngleActuator(*actuator, withTorqueAndSpeed);

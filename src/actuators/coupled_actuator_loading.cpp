@@ -11,8 +11,8 @@ using Varo::Math::Transform;
 void ModelImpl::fetchCoupledActuators()
 {
     std::vector<std::string const*> actuators;
-    for (std::string const* chain : _motionModel->chainRefs()) {
-        _motionModel->appendCoupledActuators(*chain, actuators);
+    for (std::uint32_t const chain : _motionModel->records().chainOrder) {
+        _motionModel->appendCoupledActuators(_motionModel->records().chains[chain].jointNames, actuators);
     }
     for (std::string const* actuator : actuators) {
         fetchCoupledActuator(*actuator);

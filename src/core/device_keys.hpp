@@ -22,6 +22,15 @@ public:
     {}
     DeviceKeys(std::initializer_list<std::string> keys) : DeviceKeys(Keys(keys)) {}
     DeviceKeys(Make make, int kinds) : _make(make), _kinds(kinds) {}
+    /// Those of a record, which outlives this.
+    static DeviceKeys of(Keys const& record)
+    {
+        DeviceKeys keys(nullptr, 0);
+        keys._keys.store(&record, std::memory_order_relaxed);
+        keys._areRecords = true;
+        return keys;
+    }
+    /// A copy outlives the record.
     DeviceKeys(DeviceKeys const& other) : _make(other._make), _kinds(other._kinds)
     {
         if (_make == nullptr) {
@@ -29,12 +38,20 @@ public:
         }
     }
     DeviceKeys(DeviceKeys&& other) noexcept
-        : _keys(other._keys.load(std::memory_order_relaxed)), _make(other._make), _kinds(other._kinds)
+        : _keys(other._keys.load(std::memory_order_relaxed)),
+          _make(other._make),
+          _kinds(other._kinds),
+          _areRecords(other._areRecords)
     {
         other._keys.store(nullptr, std::memory_order_relaxed);  // an exchange would cost more: nobody else asks yet
     }
     DeviceKeys& operator=(DeviceKeys const&) = delete;
-    ~DeviceKeys() { delete _keys.load(); }
+    ~DeviceKeys()
+    {
+        if (!_areRecords) {
+            delete _keys.load();
+        }
+    }
 
     /// Of the device of that name, always the same. Valid as long as this.
     Keys const& of(std::string const& name) const
@@ -53,6 +70,7 @@ private:
     mutable std::atomic<Keys const*> _keys = nullptr;
     Make _make = nullptr;  ///< null where the keys were stated
     int _kinds = 0;
+    bool _areRecords = false;
 };
 
 }  // namespace Sim

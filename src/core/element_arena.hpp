@@ -28,6 +28,21 @@ public:
         }
     }
 
+    /// What an element takes.
+    template <class T>
+    static constexpr std::size_t sizeOf()
+    {
+        return sizeof(Piece<T>);
+    }
+
+    /// Makes room for so many bytes.
+    void reserve(std::size_t size)
+    {
+        if (_left < size) {
+            addChunk(size);
+        }
+    }
+
     template <class T, class... Arguments>
     boost::shared_ptr<T> make(Arguments&&... arguments)
     {
@@ -57,14 +72,13 @@ private:
         T value;
     };
 
-    /// Cuts pieces off chunks of one size: chunks that grow, as those of the standard library do, would leave a good
-    /// part of the last one unused.
+    /// Cuts pieces off chunks. Those that are not reserved are of one size: chunks that grow, as those of the standard
+    /// library do, would leave a good part of the last one unused.
     void* allocate(std::size_t size, std::size_t alignment)
     {
         if (std::align(alignment, size, _free, _left) == nullptr) {
-            _left = std::max(chunkSize, size + alignment);
-            _chunks.emplace_back(new std::byte[_left]);  // not filled with zeros, as make_unique would
-            _free = _chunks.back().get();
+            constexpr std::size_t chunkSize = 8192;
+            addChunk(std::max(chunkSize, size + alignment));
             std::align(alignment, size, _free, _left);
         }
         void* const piece = _free;
@@ -73,7 +87,13 @@ private:
         return piece;
     }
 
-    static constexpr std::size_t chunkSize = 8192;
+    void addChunk(std::size_t size)
+    {
+        std::unique_ptr<std::byte[]> chunk(new std::byte[size]);  // not filled with zeros, as by make_unique
+        _chunks.push_back(std::move(chunk));
+        _free = _chunks.back().get();
+        _left = size;
+    }
 
     std::vector<std::unique_ptr<std::byte[]>> _chunks;
     void* _free = nullptr;

@@ -1,8 +1,13 @@
 #include "core/model_impl.hpp"
 
+#include <algorithm>
+
+#include "actuators/angle_actuator_impl.hpp"
 #include "core/frame_impl.hpp"
+#include "core/link_impl.hpp"
 #include "core/mass_data_impl.hpp"
 #include "core/visual_data_impl.hpp"
+#include "sensors/keyed_sensor_impl.hpp"
 
 namespace Sim {
 
@@ -29,7 +34,7 @@ ModelImpl::ModelImpl(Varo::Model::ModelUtils::Reading&& reading) : _saysAloud(fa
 
 void ModelImpl::makeElements()
 {
-    reserveRegistries();
+    reserve();
     _index = std::make_unique<BuildIndex>(_joints, _links);
     fetchSkeleton();
     pairJoints();
@@ -47,19 +52,29 @@ void ModelImpl::makeElements()
     trimRegistries();
 }
 
-/// For what most robots have: of each joint an actuator, a sensor and four frames.
-void ModelImpl::reserveRegistries()
+/// Makes room for what most robots have: of each joint three frames, of each motor another one, an actuator and a
+/// sensor.
+void ModelImpl::reserve()
 {
     Varo::Model::Records const& records = _motionModel->records();
     std::size_t const joints = records.joints.size() + records.wheels.size();
-    std::size_t const devices = joints + records.actuators.size() + records.sensors.size();
+    auto const hasMotor = [](Varo::Model::JointConfig const& joint) { return joint.hasMotor; };
+    std::size_t const motors =
+        static_cast<std::size_t>(std::count_if(records.joints.begin(), records.joints.end(), hasMotor)) +
+        records.wheels.size() + records.actuators.size();
     _joints.reserve(joints);
     _links.reserve(joints + 1);
-    _frames.reserve(3 * joints + devices + 1);
-    _actuators.reserve(joints);
-    _sensors.reserve(devices);
+    _frames.reserve(3 * joints + motors + records.sensors.size() + 1);
+    _actuators.reserve(motors);
+    _sensors.reserve(motors + records.sensors.size());
     _jointGroups.reserve(records.chainOrder.size());
     _actuatorGroups.reserve(records.chainOrder.size());
+
+    std::size_t const ofLink = sizeOf<Link, LinkImpl>() + sizeOf<MassData, MassDataImpl>() +
+                               sizeOf<VisualData, VisualDataImpl>() + ElementArena::sizeOf<std::string const>();
+    std::size_t const ofMotor = sizeOf<AngleActuator, AngleActuatorImpl>() + sizeOf<AngleSensor, AngleSensorImpl>();
+    _arena.reserve(_frames.capacity() * sizeOf<Frame, FrameImpl>() + (joints + 1) * ofLink +
+                   joints * sizeOf<Joint, JointImpl>() + motors * ofMotor);
 }
 
 void ModelImpl::trimRegistries()

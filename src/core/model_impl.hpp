@@ -197,7 +197,7 @@ private:
     void fillInBranch(boost::shared_ptr<Joint> const& joint);
     SharedName linkNameOf(std::string const& jointName);
     SharedName frictionMaterialOf(std::string const& name) const;
-    void reserveRegistries();
+    void reserve();
     void trimRegistries();
     Branch openBranch(boost::shared_ptr<Joint> const& joint, std::vector<std::string const*>& children);
     void fetchWheel(std::string const& name);
@@ -219,20 +219,20 @@ private:
     void pairActuatorsOfKind();
 
     // Groups
-    void addJointGroup(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints);
-    boost::shared_ptr<ActuatorGroup> addActuatorGroup(std::string const& name,
+    void addJointGroup(SharedName const& name, std::vector<boost::shared_ptr<Joint>> const& joints);
+    boost::shared_ptr<ActuatorGroup> addActuatorGroup(SharedName const& name,
                                                       boost::shared_ptr<ActuatorGroup> const& parent,
                                                       std::vector<boost::shared_ptr<Actuator>> const& actuators);
 
     // Sensors
-    bool fetchSensor(std::string const& name);
+    bool fetchSensor(std::string const& name, Varo::Model::SensorConfig const& record);
     void logFromFetchSensors(int level, std::string const& message) const;
     void reportSensorsWithoutClass();
-    void addDevice(SharedName const& sharedName, FramePtr const& frame, Keys const& keys);
-    void fetchLED(std::string const& name, FramePtr const& frame, Keys const& keys);
+    void addDevice(SharedName const& sharedName, FramePtr const& frame, Varo::Model::SensorConfig const& record);
+    void fetchLED(SharedName const& name, FramePtr const& frame, Keys const& keys);
     std::pair<int, int> requiredResolutionOf(std::string const& camera) const;
-    void fetchArrayDepthSensor(std::string const& name, FramePtr const& frame, Keys const& keys);
-    void fetchSonarSensor(std::string const& name, FramePtr const& frame, Keys const& keys);
+    void fetchArrayDepthSensor(SharedName const& name, FramePtr const& frame, Keys const& keys);
+    void fetchSonarSensor(SharedName const& name, FramePtr const& frame, Keys const& keys);
 
     /// A handle beside its data. Handles free their data, but not what belongs to such a block.
     template <class Handle, class Impl>
@@ -249,6 +249,13 @@ private:
         Impl data;
         Handle handle;
     };
+
+    /// What an element takes in the arena.
+    template <class Handle, class Impl>
+    static constexpr std::size_t sizeOf()
+    {
+        return ElementArena::sizeOf<Element<Handle, Impl>>();
+    }
 
     template <class Handle, class Impl, class... Arguments>
     boost::shared_ptr<Handle> makeElement(Arguments&&... arguments)

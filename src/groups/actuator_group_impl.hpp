@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/element_ref.hpp"
+#include "core/shared_value.hpp"
 #include "groups/weak_members.hpp"
 #include "sim/actuator.hpp"
 #include "sim/actuator_group.hpp"
@@ -15,7 +16,7 @@ inline constexpr char actuatorGroupErrorMsg[] = "Could not query ActuatorGroup a
 
 class ActuatorGroupImpl {
 public:
-    ActuatorGroupImpl(std::string const& name, boost::shared_ptr<ActuatorGroup> const& parent,
+    ActuatorGroupImpl(SharedName const& name, boost::shared_ptr<ActuatorGroup> const& parent,
                       std::vector<boost::shared_ptr<Actuator>> const& actuators)
         : _name(name), _parent(parent), _actuators(actuators)
     {}
@@ -25,7 +26,7 @@ public:
     std::vector<boost::shared_ptr<Actuator>> actuators() const { return _actuators.locked(); }
 
 private:
-    std::string _name;
+    SharedName _name;
     ElementRef<ActuatorGroup> _parent;
     WeakMembers<Actuator> _actuators;
 };

@@ -17,25 +17,35 @@ std::string const& textOf(std::string const* name)
     return *name;
 }
 
-template <class T, class Names>
-std::vector<boost::shared_ptr<T>> named(Names const& names, FirstByName<T>& elements)
-{
-    std::vector<boost::shared_ptr<T>> result;
-    result.reserve(names.size());
-    for (auto const& name : names) {
-        result.push_back(elements.find(textOf(name)));
+/// Elements by names; what one group was made of makes room for the next.
+template <class T>
+class Members {
+public:
+    explicit Members(FirstByName<T>& elements) : _elements(elements) {}
+
+    template <class Names>
+    std::vector<boost::shared_ptr<T>> const& named(Names const& names)
+    {
+        _members.clear();
+        for (auto const& name : names) {
+            _members.push_back(_elements.find(textOf(name)));
+        }
+        return _members;
     }
-    return result;
-}
+
+private:
+    FirstByName<T>& _elements;
+    std::vector<boost::shared_ptr<T>> _members;
+};
 
 }  // namespace
 
-void ModelImpl::addJointGroup(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints)
+void ModelImpl::addJointGroup(SharedName const& name, std::vector<boost::shared_ptr<Joint>> const& joints)
 {
     _jointGroups.push_back(makeElement<JointGroup, JointGroupImpl>(name, joints));
 }
 
-boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& name,
+boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(SharedName const& name,
                                                              boost::shared_ptr<ActuatorGroup> const& parent,
                                                              std::vector<boost::shared_ptr<Actuator>> const& actuators)
 {
@@ -45,16 +55,18 @@ boost::shared_ptr<ActuatorGroup> ModelImpl::addActuatorGroup(std::string const& 
 
 void ModelImpl::defineJointGroups()
 {
-    for (std::string const* chain : _motionModel->chainRefs()) {
-        std::vector<std::string> const& jointNames = _motionModel->jointsOf(*chain);
+    Members<Joint> members(_index->joints);
+    Varo::Model::Records const& records = _motionModel->records();
+    for (std::uint32_t const chain : records.chainOrder) {
+        std::vector<std::string> const& jointNames = records.chains[chain].jointNames;
         for (std::string const& joint : jointNames) {
             std::string groupName;
             std::vector<std::string> memberNames;
             if (_motionModel->coupledJointGroupFromParentJoint(joint, groupName, memberNames)) {
-                addJointGroup(groupName, named(memberNames, _index->joints));
+                addJointGroup(groupName, members.named(memberNames));
             }
         }
-        addJointGroup(*chain, named(jointNames, _index->joints));
+        addJointGroup(SharedName::of(records.chains.nameOf(chain)), members.named(jointNames));
     }
 }
 
@@ -62,13 +74,15 @@ void ModelImpl::defineActuatorGroups()
 {
     FirstByName<Actuator> byName(_actuators);
     FirstByName<ActuatorGroup> groups(_actuatorGroups);  // made so far: a chain listed before its parent has none
-    std::vector<std::string const*> members;
-    for (std::string const* chain : _motionModel->chainRefs()) {
-        std::string const parentJoint = _motionModel->parentJointFromChain(*chain);
-        std::string const parentChain = _motionModel->chainNameFromJoint(parentJoint);
-        members.clear();
-        _motionModel->appendActuators(*chain, members);
-        addActuatorGroup(*chain, groups.find(parentChain), named(members, byName));
+    Members<Actuator> members(byName);
+    std::vector<std::string const*> names;
+    Varo::Model::Records const& records = _motionModel->records();
+    for (std::uint32_t const number : records.chainOrder) {
+        Varo::Model::ChainConfig const& chain = records.chains[number];
+        std::string const& parentChain = _motionModel->firstChainOf(chain.parentJoint);
+        names.clear();
+        _motionModel->appendActuators(chain.jointNames, names);
+        addActuatorGroup(SharedName::of(records.chains.nameOf(number)), groups.find(parentChain), members.named(names));
         groups.addLast();
     }
 }

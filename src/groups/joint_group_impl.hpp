@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/shared_value.hpp"
 #include "groups/weak_members.hpp"
 #include "sim/joint.hpp"
 #include "sim/joint_group.hpp"
@@ -14,7 +15,7 @@ inline constexpr char jointGroupErrorMsg[] = "Could not query JointGroup as it s
 
 class JointGroupImpl {
 public:
-    JointGroupImpl(std::string const& name, std::vector<boost::shared_ptr<Joint>> const& joints)
+    JointGroupImpl(SharedName const& name, std::vector<boost::shared_ptr<Joint>> const& joints)
         : _name(name), _joints(joints)
     {}
 
@@ -22,7 +23,7 @@ public:
     std::vector<boost::shared_ptr<Joint>> joints() const { return _joints.locked(); }
 
 private:
-    std::string _name;
+    SharedName _name;
     WeakMembers<Joint> _joints;
 };
 

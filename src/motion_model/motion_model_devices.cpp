@@ -2,8 +2,6 @@
 #include <limits>
 #include <locale>
 
-#include <boost/algorithm/string/classification.hpp>
-#include <boost/algorithm/string/split.hpp>
 #include <boost/algorithm/string/trim.hpp>
 
 #include "motion_model/motion_model_index.hpp"
@@ -34,18 +32,23 @@ bool appendAttributes(SensorConfig const* device, std::vector<std::string> const
     return values.size() != before;
 }
 
-std::vector<std::string> piecesOf(std::string const& text, char const* separators)
+/// What stands between the separators, and before and behind them, be it nothing.
+std::vector<std::string_view> piecesOf(std::string_view text, char const* separators)
 {
-    std::vector<std::string> pieces;
-    boost::algorithm::split(pieces, text, boost::algorithm::is_any_of(separators));
+    std::vector<std::string_view> pieces;
+    for (std::size_t end = text.find_first_of(separators); end != text.npos; end = text.find_first_of(separators)) {
+        pieces.push_back(text.substr(0, end));
+        text.remove_prefix(end + 1);
+    }
+    pieces.push_back(text);
     return pieces;
 }
 
 /// The integer that an input stream in the "C" locale would extract: what follows its digits does not count, a piece
 /// without digits is 0, and one out of range the nearest integer.
-int extractedInteger(std::string const& piece)
+int extractedInteger(std::string_view piece)
 {
-    auto const text = boost::algorithm::trim_left_copy(piece, std::locale::classic());
+    auto const text = boost::algorithm::trim_left_copy(std::string(piece), std::locale::classic());
     char const* const end = text.data() + text.size();
     bool const plus = text.size() > 1 && text[0] == '+' && text[1] != '-';
     int value = 0;
@@ -126,7 +129,8 @@ bool MotionModel::groupsFromLED(std::string const& led, std::vector<std::string>
     if (value == nullptr) {
         return false;
     }
-    groups = piecesOf(*value, "\t ");
+    auto const pieces = piecesOf(*value, "\t ");
+    groups.assign(pieces.begin(), pieces.end());
     return true;
 }
 
@@ -153,7 +157,8 @@ bool MotionModel::resolutionsFromCamera(std::string const& camera, std::vector<s
         return false;
     }
     for (auto const& line : piecesOf(*value, "\n")) {
-        auto const pieces = piecesOf(boost::algorithm::trim_copy(line, std::locale::classic()), " ");
+        std::string const resolution = boost::algorithm::trim_copy(std::string(line), std::locale::classic());
+        auto const pieces = piecesOf(resolution, " ");
         if (pieces.size() >= 2) {
             resolutions.emplace_back(extractedInteger(pieces[0]), extractedInteger(pieces[1]));
         }

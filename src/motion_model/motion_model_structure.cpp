@@ -118,9 +118,9 @@ std::list<std::string> MotionModel::chainNames() const
     return copiesOf<std::list<std::string>>(chainRefs());
 }
 
-std::vector<std::string> const& MotionModel::jointsOf(std::string const& chain) const
+MotionModel::JointNames const& MotionModel::jointsOf(std::string const& chain) const
 {
-    static std::vector<std::string> const none;
+    static JointNames const none;
     auto const* record = _records->chains.find(chain);
     return record == nullptr ? none : record->jointNames;
 }
@@ -136,10 +136,10 @@ std::list<std::string> MotionModel::jointNames() const
     return merged(chainNames(), [this](std::string const& chain) { return jointNames(chain); });
 }
 
-void MotionModel::appendAngleActuators(std::string const& chain, NameRefs& actuators) const
+void MotionModel::appendAngleActuators(JointNames const& chain, NameRefs& actuators) const
 {
     std::uint32_t next = 0;
-    for (std::string const& name : jointsOf(chain)) {
+    for (std::string const& name : chain) {
         auto const named = _index->of(name, next);
         if (named.joint() == nullptr || named.joint()->hasMotor) {
             actuators.push_back(named.joint() == nullptr ? &name : named.jointName());
@@ -150,7 +150,7 @@ void MotionModel::appendAngleActuators(std::string const& chain, NameRefs& actua
 std::list<std::string> MotionModel::angleActuatorNames(std::string const& chain) const
 {
     NameRefs names;
-    appendAngleActuators(chain, names);
+    appendAngleActuators(jointsOf(chain), names);
     return copiesOf<std::list<std::string>>(names);
 }
 
@@ -159,7 +159,7 @@ std::list<std::string> MotionModel::angleActuatorNames() const
     return concatenated(chainNames(), [this](std::string const& chain) { return angleActuatorNames(chain); });
 }
 
-void MotionModel::appendActuators(std::string const& chain, NameRefs& actuators) const
+void MotionModel::appendActuators(JointNames const& chain, NameRefs& actuators) const
 {
     appendAngleActuators(chain, actuators);
     std::size_t const attached = actuators.size();
@@ -174,7 +174,7 @@ void MotionModel::appendActuators(std::string const& chain, NameRefs& actuators)
 std::list<std::string> MotionModel::actuatorNames(std::string const& chain) const
 {
     NameRefs names;
-    appendActuators(chain, names);
+    appendActuators(jointsOf(chain), names);
     return copiesOf<std::list<std::string>>(names);
 }
 
@@ -183,13 +183,13 @@ std::list<std::string> MotionModel::actuatorNames() const
     return merged(chainNames(), [this](std::string const& chain) { return actuatorNames(chain); });
 }
 
-void MotionModel::appendCoupledActuators(std::string const& chain, NameRefs& actuators) const
+void MotionModel::appendCoupledActuators(JointNames const& chain, NameRefs& actuators) const
 {
     if (_records->actuators.empty()) {
         return;
     }
     std::uint32_t next = 0;
-    for (std::string const& joint : jointsOf(chain)) {
+    for (std::string const& joint : chain) {
         for (auto const actuator : _index->of(joint, next).actuators()) {
             actuators.push_back(&_records->actuators.nameOf(actuator));
         }
@@ -199,7 +199,7 @@ void MotionModel::appendCoupledActuators(std::string const& chain, NameRefs& act
 std::list<std::string> MotionModel::coupledActuatorNames(std::string const& chain) const
 {
     NameRefs names;
-    appendCoupledActuators(chain, names);
+    appendCoupledActuators(jointsOf(chain), names);
     return copiesOf<std::list<std::string>>(names);
 }
 
@@ -212,8 +212,14 @@ std::list<std::string> MotionModel::coupledActuatorNames() const
 // constructor gives each of those an empty record, there is never anything left to insert.
 std::string MotionModel::chainNameFromJoint(std::string const& joint)
 {
-    auto const* chain = _index->of(joint).firstChain();
-    return chain == nullptr ? std::string() : *chain;
+    return firstChainOf(joint);
+}
+
+std::string const& MotionModel::firstChainOf(std::string const& joint) const
+{
+    static std::string const none;
+    auto const* const chain = _index->of(joint).firstChain();
+    return chain == nullptr ? none : *chain;
 }
 
 void MotionModel::appendFollowingJoints(std::string const& joint, NameRefs& following) const

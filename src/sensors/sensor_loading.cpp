@@ -26,8 +26,9 @@ bool isWithoutClass(Varo::Model::SensorConfig const& sensor)
 void ModelImpl::fetchSensors()
 {
     zu::log::addCategory(logCategory);
-    for (std::string const& name : _motionModel->sensorNames()) {
-        if (!fetchSensor(name)) {
+    auto const& sensors = _motionModel->records().sensors;
+    for (std::uint32_t const sensor : sensors.nameOrder()) {
+        if (!fetchSensor(sensors.nameOf(sensor), sensors[sensor])) {
             return;  // the sensors behind one without its parent link are left out too
         }
     }
@@ -55,23 +56,17 @@ void ModelImpl::reportSensorsWithoutClass()
     }
 }
 
-bool ModelImpl::fetchSensor(std::string const& name)
+/// `name` is the one that the record is listed under.
+bool ModelImpl::fetchSensor(std::string const& name, Varo::Model::SensorConfig const& record)
 {
-    Varo::Math::Transform inParent;
-    std::string parent;
-    require(_motionModel->transformFromSensorName(name, inParent, parent), Subject::sensor, name, "Could not get ",
-            name, " position\n");
-    Keys keys;
-    require(_motionModel->dcmKeysFromSensorName(name, keys), Subject::sensor, name, "Could not get ", name,
-            " DCM keys\n");
-
+    std::string const& parent = record.parent;
     boost::shared_ptr<Link> parentLink;
     if (_index->joints.contains(parent)) {
         parentLink = _index->linkCalledAfter(parent);
         if (parentLink == nullptr) {
             logFromFetchSensors(zu::log::error,
                                 "Could not add sensor " + name + ". Parent link " + parent + "Link" + "not found.");
-            _report->leaveOut(_motionModel->records().sensors.find(name)->textOffset, codes::modelIncomplete,
+            _report->leaveOut(record.textOffset, codes::modelIncomplete,
                               "The sensor " + Varo::Model::quoted(name) + " and those after it, in order of names, " +
                                   "are left out: the joint that it is attached to moves no link.");
             return false;
@@ -79,21 +74,22 @@ bool ModelImpl::fetchSensor(std::string const& name)
     } else {
         parentLink = _index->linkCalledAfter(_motionModel->rootName());
     }
-    SharedName const sharedName(name);
+    SharedName const sharedName = SharedName::of(name);
     std::size_t const before = _sensors.size();
-    addDevice(sharedName, addFrame(sharedName, inParent, parentLink->_impl->frame()), keys);
+    addDevice(sharedName, addFrame(sharedName, record.placement, parentLink->_impl->frame()), record);
     if (_sensors.size() > before) {  // lights and kinds without a class are no sensors
-        _sensors.back()->_impl->shareSettings(_motionModel->records().sensors.find(name)->settings);
+        _sensors.back()->_impl->shareSettings(record.settings);
     }
     return true;
 }
 
-void ModelImpl::addDevice(SharedName const& sharedName, FramePtr const& frame, Keys const& keys)
+void ModelImpl::addDevice(SharedName const& sharedName, FramePtr const& frame, Varo::Model::SensorConfig const& record)
 {
     std::string const& name = sharedName;
-    switch (_motionModel->sensorType(name)) {
-    case Varo::Model::led: fetchLED(name, frame, keys); break;
-    case Varo::Model::tactile: addSensor<TactileSensorImpl>(frame, sharedName, keys); break;
+    Keys const& keys = record.keys;
+    switch (record.type) {
+    case Varo::Model::led: fetchLED(sharedName, frame, keys); break;
+    case Varo::Model::tactile: addSensor<TactileSensorImpl>(frame, sharedName, DeviceKeys::of(keys)); break;
     case Varo::Model::camera: {
         auto const [width, height] = requiredResolutionOf(name);
         addCameraSensor(frame, sharedName, width, height);
@@ -104,12 +100,14 @@ void ModelImpl::addDevice(SharedName const& sharedName, FramePtr const& frame, K
         addCameraDepthSensor(frame, sharedName, width, height);
         break;
     }
-    case Varo::Model::bumper: addSensor<BumperSensorImpl>(frame, sharedName, keys); break;
+    case Varo::Model::bumper: addSensor<BumperSensorImpl>(frame, sharedName, DeviceKeys::of(keys)); break;
     case Varo::Model::microphone: addMicrophoneSensor(frame, sharedName); break;
-    case Varo::Model::arrayDepth: fetchArrayDepthSensor(name, frame, keys); break;
-    case Varo::Model::sonar: fetchSonarSensor(name, frame, keys); break;
-    case Varo::Model::fsr: addSensor<FSRSensorImpl>(frame, sharedName, keys); break;
-    case Varo::Model::inertial: addSensor<InertialSensorImpl>(frame, SharedName(name + "/Gyrometer"), keys); break;
+    case Varo::Model::arrayDepth: fetchArrayDepthSensor(sharedName, frame, keys); break;
+    case Varo::Model::sonar: fetchSonarSensor(sharedName, frame, keys); break;
+    case Varo::Model::fsr: addSensor<FSRSensorImpl>(frame, sharedName, DeviceKeys::of(keys)); break;
+    case Varo::Model::inertial:
+        addSensor<InertialSensorImpl>(frame, SharedName(name + "/Gyrometer"), DeviceKeys::of(keys));
+        break;
     case Varo::Model::unknownSensor:
     case Varo::Model::battery:
     case Varo::Model::temperature:
@@ -120,7 +118,7 @@ void ModelImpl::addDevice(SharedName const& sharedName, FramePtr const& frame, K
     }
 }
 
-void ModelImpl::fetchLED(std::string const& name, FramePtr const& frame, Keys const& keys)
+void ModelImpl::fetchLED(SharedName const& name, FramePtr const& frame, Keys const& keys)
 {
     std::string shortname;
     std::vector<std::string> groups;
@@ -129,7 +127,7 @@ void ModelImpl::fetchLED(std::string const& name, FramePtr const& frame, Keys co
     _motionModel->groupsFromLED(name, groups);
     _motionModel->colorFromLED(name, &color);
     bool const known = color == LEDActuator::Red || color == LEDActuator::Green;
-    addLEDActuator(frame, name, keys, shortname, groups,
+    addLEDActuator(frame, name, DeviceKeys::of(keys), shortname, groups,
                    known ? static_cast<LEDActuator::Color>(color) : LEDActuator::Blue);
 }
 
@@ -141,7 +139,7 @@ std::pair<int, int> ModelImpl::requiredResolutionOf(std::string const& camera) c
     return resolutions.front();
 }
 
-void ModelImpl::fetchArrayDepthSensor(std::string const& name, FramePtr const& frame, Keys const& keys)
+void ModelImpl::fetchArrayDepthSensor(SharedName const& name, FramePtr const& frame, Keys const& keys)
 {
     std::vector<std::pair<int, int>> resolutions;
     bool const known = _motionModel->resolutionsFromCamera(name, resolutions) && !resolutions.empty();
@@ -150,15 +148,15 @@ void ModelImpl::fetchArrayDepthSensor(std::string const& name, FramePtr const& f
     Keys commandKeys;
     _motionModel->dcmStateKeys(name, stateKeys);
     _motionModel->dcmCommandKeys(name, commandKeys);
-    addArrayDepthSensor(frame, name, keys, width, height, stateKeys, commandKeys);
+    addArrayDepthSensor(frame, name, DeviceKeys::of(keys), width, height, stateKeys, commandKeys);
 }
 
-void ModelImpl::fetchSonarSensor(std::string const& name, FramePtr const& frame, Keys const& keys)
+void ModelImpl::fetchSonarSensor(SharedName const& name, FramePtr const& frame, Keys const& keys)
 {
     if (keys.size() == 1) {
-        addSonarSensor(frame, name, keys, SonarSensorImpl::SingleValue);
+        addSonarSensor(frame, name, DeviceKeys::of(keys), SonarSensorImpl::SingleValue);
     } else if (keys.size() == 10) {
-        addSonarSensor(frame, name, keys, SonarSensorImpl::TenValues);
+        addSonarSensor(frame, name, DeviceKeys::of(keys), SonarSensorImpl::TenValues);
     }
 }
 
