@@ -35,13 +35,8 @@ public:
         return sizeof(Piece<T>);
     }
 
-    /// Makes room for so many bytes.
-    void reserve(std::size_t size)
-    {
-        if (_left < size) {
-            addChunk(size);
-        }
-    }
+    /// Says how many bytes there will be, more or less.
+    void expect(std::size_t size) { _expected = size; }
 
     template <class T, class... Arguments>
     boost::shared_ptr<T> make(Arguments&&... arguments)
@@ -72,13 +67,16 @@ private:
         T value;
     };
 
-    /// Cuts pieces off chunks. Those that are not reserved are of one size: chunks that grow, as those of the standard
-    /// library do, would leave a good part of the last one unused.
+    /// Cuts pieces off chunks that are as large as what is still expected, within bounds: ones that grow, as those of
+    /// the standard library do, would leave a good part of the last one unused.
     void* allocate(std::size_t size, std::size_t alignment)
     {
         if (std::align(alignment, size, _free, _left) == nullptr) {
-            constexpr std::size_t chunkSize = 8192;
-            addChunk(std::max(chunkSize, size + alignment));
+            constexpr std::size_t smallest = 8192;
+            constexpr std::size_t largest = 65536;  // larger ones, the system hands out and takes back one by one
+            std::size_t const chunk = std::clamp(_expected, smallest, largest);
+            _expected -= std::min(_expected, chunk);
+            addChunk(std::max(chunk, size + alignment));
             std::align(alignment, size, _free, _left);
         }
         void* const piece = _free;
@@ -98,6 +96,7 @@ private:
     std::vector<std::unique_ptr<std::byte[]>> _chunks;
     void* _free = nullptr;
     std::size_t _left = 0;  ///< bytes from there to the end of the chunk
+    std::size_t _expected = 0;  ///< bytes beyond the chunks that there are
     AnyPiece* _last = nullptr;
 };
 

@@ -73,8 +73,8 @@ void ModelImpl::reserve()
     std::size_t const ofLink = sizeOf<Link, LinkImpl>() + sizeOf<MassData, MassDataImpl>() +
                                sizeOf<VisualData, VisualDataImpl>() + ElementArena::sizeOf<std::string const>();
     std::size_t const ofMotor = sizeOf<AngleActuator, AngleActuatorImpl>() + sizeOf<AngleSensor, AngleSensorImpl>();
-    _arena.reserve(_frames.capacity() * sizeOf<Frame, FrameImpl>() + (joints + 1) * ofLink +
-                   joints * sizeOf<Joint, JointImpl>() + motors * ofMotor);
+    _arena.expect(_frames.capacity() * sizeOf<Frame, FrameImpl>() + (joints + 1) * ofLink +
+                  joints * sizeOf<Joint, JointImpl>() + motors * ofMotor);
 }
 
 void ModelImpl::trimRegistries()

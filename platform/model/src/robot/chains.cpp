@@ -54,6 +54,16 @@ void followChain(LinkTree const& tree, ChildJoints const& children, std::size_t 
     }
 }
 
+/// Every joint begins a chain but the first one of each link that a joint moves.
+std::size_t countChains(LinkTree const& tree, ChildJoints const& children)
+{
+    std::size_t continued = 0;
+    for (std::size_t link = 0; link < tree.links.size(); ++link) {
+        continued += link != tree.rootLink && !children[link].empty() ? 1 : 0;
+    }
+    return tree.joints.size() - continued;
+}
+
 }  // namespace
 
 ChildJoints childJointsOf(LinkTree const& tree)
@@ -75,6 +85,7 @@ ChildJoints childJointsOf(LinkTree const& tree)
 Table<ChainConfig> makeChains(LinkTree const& tree, ChildJoints const& children)
 {
     Table<ChainConfig> chains;
+    chains.reserve(countChains(tree, children));
     Indices members;
     Indices branches;
     Indices starts;
