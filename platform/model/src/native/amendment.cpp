@@ -76,8 +76,11 @@ Difference AmendmentWriter::compare(Element<Record> const& element, Record const
         }
     }
     for (Child<Record> const& row : element.childRows) {
-        std::string const lines = row.clear == nullptr ? std::string() : textOf(row, wanted, robot(), atDepth);
-        if (row.clear != nullptr && lines != textOf(row, given, _given, atDepth)) {
+        if (row.clear == nullptr || (row.areSame != nullptr && row.areSame(wanted, given))) {
+            continue;
+        }
+        std::string const lines = textOf(row, wanted, robot(), atDepth);
+        if (lines != textOf(row, given, _given, atDepth)) {
             difference.names.push_back(row.element->name);
             difference.children += lines;
             difference.without += lines.empty() ? " " + std::string(row.element->name) : "";

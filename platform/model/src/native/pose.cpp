@@ -40,6 +40,12 @@ constexpr Element<Pose> poseElement(std::string_view name, std::string_view mean
 
 }  // namespace
 
+bool sameBits(Transform const& a, Transform const& b)
+{
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): 0 and -0 are to differ
+    return std::memcmp(a.rows().data(), b.rows().data(), sizeof a.rows()) == 0;
+}
+
 constexpr Element<Pose> jointPlacementElement =
     poseElement("placement", "the joint's frame at zero position, in the frame of the joint (or root) before it");
 constexpr Element<Pose> jointEndElement =
@@ -66,12 +72,6 @@ Transform compose(Position3D const& xyz, Position3D const& rpy)
     rows[7] = xyz.y + 0.0F;
     rows[11] = xyz.z + 0.0F;
     return Transform::fromRows(rows);
-}
-
-bool sameBits(Transform const& a, Transform const& b)
-{
-    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): 0 and -0 are to differ
-    return std::memcmp(a.rows().data(), b.rows().data(), sizeof a.rows()) == 0;
 }
 
 /// Roll, pitch and yaw of a rotation in the ways that people state them: the pitch within a quarter turn, beyond it,

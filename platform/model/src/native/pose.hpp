@@ -16,6 +16,9 @@ struct Pose {
     std::array<float, 12> matrix = Transform().rows();
 };
 
+/// Whether they are equal to the sign of their zeros, so that texts tell no difference.
+bool sameBits(Transform const& a, Transform const& b);
+
 /// The pose that an element of the pose family says; the identity when it says nothing or something wrong.
 Transform readPose(ElementReader& reader, Element<Pose> const& element, XmlNode node);
 
@@ -40,7 +43,8 @@ constexpr Child<Parent> poseChild()
         {&element, Occurrence::optional},
         [](ElementReader& reader, XmlNode node, Parent& parent) { parent.*member = readPose(reader, element, node); },
         [](ElementWriter& writer, Parent const& parent) { writePose(writer, element, parent.*member); },
-        [](Parent& parent) { parent.*member = Transform(); }};
+        [](Parent& parent) { parent.*member = Transform(); },
+        [](Parent const& a, Parent const& b) { return sameBits(a.*member, b.*member); }};
 }
 
 }  // namespace Varo::Model::Native

@@ -104,10 +104,12 @@ struct Child : ChildInfo {
     using Read = void (*)(ElementReader& reader, XmlNode node, Parent& parent);
     using Write = void (*)(ElementWriter& writer, Parent const& parent);
     using Clear = void (*)(Parent& parent);
+    using AreSame = bool (*)(Parent const& a, Parent const& b);
 
     Read read;  ///< into the record of the parent
     Write write;  ///< what the record of the parent has to say in such children; null for those of another row
     Clear clear = nullptr;  ///< makes the record of the parent one without such children; null where nobody asks
+    AreSame areSame = nullptr;  ///< whether both surely have the same to say there; null where writing has to tell
 };
 
 /// Something that attributes or children together may be wrong in.

@@ -92,8 +92,8 @@ struct Collision : Shape {};
 struct Link : Stated {
     std::string_view name;
     std::optional<Inertial> inertial;
-    boost::container::small_vector<Visual, 1> visuals;  // most links have one
-    boost::container::small_vector<Collision, 1> collisions;
+    std::vector<Visual> visuals;
+    std::vector<Collision> collisions;
 };
 
 /// The parent or the child of a joint.
