@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "robot/link_tree.hpp"
@@ -52,8 +53,12 @@ void inferMirrors(Records& records)
         return;
     }
     NameIndex const joints = indexOf(records.joints);
+    SideCandidates candidates = findSideCandidates(records, joints);
+    if (candidates.all.empty()) {
+        return;  // without looking where the joints are
+    }
     std::vector<JointConfig const*> mirrored;
-    for (SidePair const& pair : findSides(records, joints, placeAtZero(records, joints)).pairs) {
+    for (SidePair const& pair : findSides(records, std::move(candidates), placeAtZero(records, joints)).pairs) {
         JointConfig& first = records.joints[pair.first];
         JointConfig& second = records.joints[pair.second];
         if (pair.isProved() && isMoving(first.jointType)) {

@@ -1,9 +1,9 @@
 #include "robot/mirror_pairs.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "robot/limbs.hpp"
-#include "robot/side_candidates.hpp"
 
 namespace Varo::Model {
 
@@ -18,8 +18,8 @@ Vector axisOf(PlacedJoint const& joint)
 
 class SideFinder {
 public:
-    SideFinder(Records const& records, NameIndex const& joints, std::vector<PlacedJoint> const& places)
-        : _records(records), _places(places), _candidates(findSideCandidates(records, joints))
+    SideFinder(Records const& records, SideCandidates candidates, std::vector<PlacedJoint> const& places)
+        : _records(records), _places(places), _candidates(std::move(candidates))
     {}
 
     Sides find()
@@ -127,9 +127,9 @@ private:
 
 }  // namespace
 
-Sides findSides(Records const& records, NameIndex const& joints, std::vector<PlacedJoint> const& places)
+Sides findSides(Records const& records, SideCandidates candidates, std::vector<PlacedJoint> const& places)
 {
-    return SideFinder(records, joints, places).find();
+    return SideFinder(records, std::move(candidates), places).find();
 }
 
 }  // namespace Varo::Model

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "robot/mirror_plane.hpp"
+#include "robot/side_candidates.hpp"
 #include "robot/zero_poses.hpp"
 #include "varo/model/records.hpp"
 
@@ -46,8 +47,8 @@ struct Sides {
     std::vector<std::size_t> alone;  ///< joints whose name says a side, and whose counterpart the text lacks
 };
 
-/// In time that grows linearly with the number of joints, but for sorting. `joints` is the index of their table.
-Sides findSides(Records const& records, NameIndex const& joints, std::vector<PlacedJoint> const& places);
+/// In time that grows linearly with the number of joints, but for sorting. Without candidates there are no pairs.
+Sides findSides(Records const& records, SideCandidates candidates, std::vector<PlacedJoint> const& places);
 
 /// Makes proved pairs of joints that move, and of the actuators that drive such joints, mirrors in the records; nothing
 /// where the text states mirrors itself.

@@ -10,7 +10,7 @@ Facts::Facts(Robot const& robot, LintTolerances const& allowed)
 {
     NameIndex const joints = indexOf(records->joints);
     places = placeAtZero(*records, joints);
-    sides = findSides(*records, joints, places);
+    sides = findSides(*records, findSideCandidates(*records, joints), places);
     for (SidePair const& side : sides.pairs) {
         JointConfig const& first = records->joints[side.first];
         pairsOfKind[withoutSides(first.name)].push_back(jointPairs.size());
