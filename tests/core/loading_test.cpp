@@ -63,6 +63,11 @@ TEST(Loading, TakesATextOrTheFileOfAPathAndKeepsTheText)
     EXPECT_EQ(model.configFile(), text);
     EXPECT_EQ(model.name(), "Testbot");
     EXPECT_EQ(model.rootLink()->name(), "BaseLink");
+
+    std::string const nameLikeAText = "<robotDescription name='Other'>";
+    std::ofstream(nameLikeAText) << text;
+    EXPECT_EQ(Sim::Model(nameLikeAText).configFile(), text);
+    std::remove(nameLikeAText.c_str());
 }
 
 TEST(Loading, RefusesWithItsFixedMessages)
@@ -110,10 +115,13 @@ TEST(Loading, SaysInItsFindingsWhatIsInTheWayOfAFile)
         std::string reason;
     };
     std::string const none = path + "/none.xml";
+    std::string const tooLong(256, 'n');
     std::vector<Case> const cases = {
         {path, "", "It cannot be read: Is a directory."},
         {none, "'" + none + "' does not exist.Trying to load the given string as XML.\n",
          "There is no file of that name"},
+        {tooLong, "'" + tooLong + "' does not exist.Trying to load the given string as XML.\n",
+         "It cannot be read: File name too long."},
     };
     for (auto const& [argument, note, reason] : cases) {
         Varo::Model::Findings const findings = findingsOf([&a = argument] { Sim::Model const model(a); });
