@@ -221,8 +221,12 @@ private:
     using NameRefs = std::vector<std::string const*>;
     using JointNames = std::vector<std::string>;
     [[gnu::visibility("hidden")]] NameRefs chainRefs() const;
-    [[gnu::visibility("hidden")]] Varo::Model::JointConfig const* findJoint(std::string const& name,
-                                                                            std::uint32_t& next) const;
+    /// A joint or a sub-joint, by the name under which it is listed. The record is null for a sub-joint.
+    struct Listed {
+        Varo::Model::JointConfig const* joint;
+        std::string const* name;
+    };
+    [[gnu::visibility("hidden")]] Listed findListed(std::string const& name, std::uint32_t& next) const;
     [[gnu::visibility("hidden")]] JointNames const& jointsOf(std::string const& chain) const;
     [[gnu::visibility("hidden")]] std::string const& firstChainOf(std::string const& joint) const;
     [[gnu::visibility("hidden")]] void appendAngleActuators(JointNames const& chain, NameRefs& actuators) const;

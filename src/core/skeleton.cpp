@@ -117,12 +117,9 @@ SharedName ModelImpl::frictionMaterialOf(std::string const& name) const
 boost::shared_ptr<Joint> ModelImpl::attachJointCalled(std::string const& name, Transform inParentLink,
                                                       std::string& parent, boost::shared_ptr<Link> const& parentLink)
 {
-    JointConfig const* const record = _motionModel->findJoint(name, _index->nextJoint);
-    auto const& joints = _motionModel->records().joints;
-    std::string const& ownName =
-        record == nullptr ? name : joints.nameOf(static_cast<std::size_t>(record - &joints[0]));
-    _motionModel->transformFromJointName(ownName, inParentLink, parent);
-    return attachJoint(SharedName::of(ownName), inParentLink, parentLink, {record});
+    auto const [record, listedName] = _motionModel->findListed(name, _index->nextJoint);
+    _motionModel->transformFromJointName(*listedName, inParentLink, parent);
+    return attachJoint(SharedName::of(*listedName), inParentLink, parentLink, {record});
 }
 
 boost::shared_ptr<Joint> ModelImpl::attachJoint(SharedName const& name, Transform const& inParentLink,

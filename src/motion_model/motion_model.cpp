@@ -60,9 +60,11 @@ Varo::Model::JointConfig const* MotionModel::findJoint(std::string const& name) 
     return _index->of(name).joint();
 }
 
-Varo::Model::JointConfig const* MotionModel::findJoint(std::string const& name, std::uint32_t& next) const
+MotionModel::Listed MotionModel::findListed(std::string const& name, std::uint32_t& next) const
 {
-    return _index->of(name, next).joint();
+    auto const named = _index->of(name, next);
+    auto const* const listed = named.joint() != nullptr ? named.jointName() : named.subActuatorName();
+    return {named.joint(), listed == nullptr ? &name : listed};
 }
 
 bool MotionModel::startAngle(std::string const& name, float& angle) const

@@ -53,18 +53,35 @@ MotionModel::Index::Entry MotionModel::Index::entryOf(std::uint32_t number) cons
     return {*this, number == Varo::Model::NameIndex::none ? nothing : _facts[number]};
 }
 
-/// A joint's own name, by which building a model mostly asks, tells its number by where it stands.
+/// The own name of a record, by which building a model mostly asks, tells its number by where it stands.
 std::uint32_t MotionModel::Index::numberOf(std::string const& name) const
 {
-    auto const addressOf = [](std::string const& text) { return reinterpret_cast<std::uintptr_t>(&text); };
-    auto const& joints = _records.joints;
-    if (!joints.empty() && addressOf(name) >= addressOf(joints[0].name)) {
-        std::size_t const joint = (addressOf(name) - addressOf(joints[0].name)) / sizeof(Varo::Model::JointConfig);
-        if (joint < joints.size() && &joints.nameOf(joint) == &name) {
-            return static_cast<std::uint32_t>(joint);  // they were numbered first
-        }
+    std::size_t const joints = _records.joints.size();
+    std::uint32_t number = ownNumber(_records.joints, &Facts::joint, 0, name);
+    if (number == none) {
+        number = ownNumber(_records.subActuators, &Facts::subActuator, joints, name);
     }
-    return _names.find(name);
+    if (number == none) {
+        number = ownNumber(_records.actuators, &Facts::actuator, joints + _records.subActuators.size(), name);
+    }
+    return number == none ? _names.find(name) : number;
+}
+
+/// The number of a record whose listed name that very text is, where the table's numbers run on from `first`: none for
+/// other texts, and where the table has names that others had before.
+template <typename Record>
+std::uint32_t MotionModel::Index::ownNumber(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record,
+                                            std::size_t first, std::string const& name) const
+{
+    auto const addressOf = [](std::string const& text) { return reinterpret_cast<std::uintptr_t>(&text); };
+    if (table.empty() || addressOf(name) < addressOf(table[0].name)) {
+        return none;
+    }
+    std::size_t const index = (addressOf(name) - addressOf(table[0].name)) / sizeof(Record);
+    bool const isOwn = index < table.size() && &table.nameOf(index) == &name;
+    std::size_t const number = first + index;
+    return isOwn && number < _facts.size() && _facts[number].*record == index ? static_cast<std::uint32_t>(number)
+                                                                              : none;
 }
 
 MotionModel::Index::Facts& MotionModel::Index::factsOf(std::string const& name)

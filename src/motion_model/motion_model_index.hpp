@@ -72,6 +72,9 @@ private:
     };
 
     std::uint32_t numberOf(std::string const& name) const;
+    template <typename Record>
+    std::uint32_t ownNumber(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record, std::size_t first,
+                            std::string const& name) const;
     Entry entryOf(std::uint32_t number) const;
     Facts& factsOf(std::string const& name);
     template <typename Record>
@@ -95,11 +98,9 @@ public:
 
     // The records of that name, null where there is none.
     Varo::Model::JointConfig const* joint() const { return in(_index._records.joints, _facts.joint); }
-    /// The name under which that joint is listed, which its record may state otherwise; null for no joint.
-    std::string const* jointName() const
-    {
-        return _facts.joint == none ? nullptr : &_index._records.joints.nameOf(_facts.joint);
-    }
+    // The names under which these are listed, which the records may state otherwise; null for no such record.
+    std::string const* jointName() const { return nameIn(_index._records.joints, _facts.joint); }
+    std::string const* subActuatorName() const { return nameIn(_index._records.subActuators, _facts.subActuator); }
     Varo::Model::JointConfig const* root() const { return _facts.isRoot ? &_index._records.root : nullptr; }
     Varo::Model::SubActuatorConfig const* subActuator() const
     {
@@ -130,6 +131,11 @@ public:
     bool reflectionForced() const { return _facts.reflectionForced; }
 
 private:
+    template <typename Record>
+    static std::string const* nameIn(Varo::Model::Table<Record> const& table, std::uint32_t index)
+    {
+        return index == none ? nullptr : &table.nameOf(index);
+    }
     template <typename Record>
     static Record const* in(Varo::Model::Table<Record> const& table, std::uint32_t index)
     {

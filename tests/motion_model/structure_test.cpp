@@ -51,6 +51,19 @@ TEST(Structure, GoesByTheNamesThatRecordsAreListedUnder)
     EXPECT_THAT(model.followingJoints(model.findJoint("Elbow")->name), ElementsAre("A1", "A3", "B1", "Blade"));
 }
 
+TEST(Structure, TellsRecordsOfDifferentKindsByOneNameApart)
+{
+    auto const model = modelOf([](FakeRobot& robot) {
+        fill(robot);
+        robot.addActuator("Elbow", "Wrist");
+    });
+    for (Varo::Model::ActuatorConfig const& actuator : model.records().actuators) {
+        std::string parent;
+        EXPECT_TRUE(model.parentJointFromActuator(actuator.name, parent));
+        EXPECT_EQ(parent, actuator.parentJoint) << actuator.name;
+    }
+}
+
 TEST(Structure, LeavesJointsWithoutMotorOutAndKeepsWhatIsAttachedToThem)
 {
     auto const model = modelOf([](FakeRobot& robot) {
