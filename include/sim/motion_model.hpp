@@ -220,8 +220,8 @@ private:
     // Not part of the library's interface. Names are those of the records.
     using NameRefs = std::vector<std::string const*>;
     using JointNames = std::vector<std::string>;
-    [[gnu::visibility("hidden")]] NameRefs chainRefs() const;
-    /// A joint or a sub-joint, by the name under which it is listed. The record is null for a sub-joint.
+    /// A joint or a sub-joint, by the name under which it is listed. The record is null for a sub-joint; for any other
+    /// name, that name comes back.
     struct Listed {
         Varo::Model::JointConfig const* joint;
         std::string const* name;

@@ -103,19 +103,13 @@ bool readMirror(Record const& record, std::string& mirror, bool& reflected)
 
 }  // namespace
 
-MotionModel::NameRefs MotionModel::chainRefs() const
-{
-    NameRefs names;
-    names.reserve(_records->chainOrder.size());
-    for (std::uint32_t const chain : _records->chainOrder) {
-        names.push_back(&_records->chains.nameOf(chain));
-    }
-    return names;
-}
-
 std::list<std::string> MotionModel::chainNames() const
 {
-    return copiesOf<std::list<std::string>>(chainRefs());
+    std::list<std::string> names;
+    for (std::uint32_t const chain : _records->chainOrder) {
+        names.push_back(_records->chains.nameOf(chain));
+    }
+    return names;
 }
 
 MotionModel::JointNames const& MotionModel::jointsOf(std::string const& chain) const

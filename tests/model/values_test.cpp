@@ -75,7 +75,7 @@ TEST(Values, ShortDecimalsReadAsAllOthersDo)
     }
 }
 
-TEST(Values, ShortDecimalsAreTakenWhereDivisionIsExact)
+TEST(Values, ShortDecimalsAreTakenWhereOneOperationIsExact)
 {
     using Length = std::pair<char const*, int>;
     for (auto const& [text, length] :

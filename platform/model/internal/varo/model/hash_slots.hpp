@@ -71,7 +71,8 @@ private:
         return _slots[indexFor(hash, isEntry)];
     }
 
-    boost::container::small_vector<std::uint32_t, 32> _slots;  ///< a power of two, at most half of them in use
+    boost::container::small_vector<std::uint32_t, 32> _slots;  ///< a power of two, at most half of them in use;
+                                                               ///< in place for few entries, as small robots have
 };
 
 }  // namespace Varo::Model
