@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <numeric>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -47,12 +46,18 @@ public:
     /// To be called when all records are there, and before any is looked for.
     void sortNames()
     {
-        auto const precedes = [this](std::uint32_t a, std::uint32_t b) { return nameOf(a) < nameOf(b); };
-        _nameOrder.resize(_records.size());
-        std::iota(_nameOrder.begin(), _nameOrder.end(), 0U);
-        if (!std::is_sorted(_nameOrder.begin(), _nameOrder.end(), precedes)) {
-            std::stable_sort(_nameOrder.begin(), _nameOrder.end(), precedes);
+        std::vector<SortKey> keys(_records.size());
+        for (std::uint32_t index = 0; index < keys.size(); ++index) {
+            keys[index] = {startOf(nameOf(index)), index};
         }
+        auto const precedes = [this](SortKey a, SortKey b) {
+            return a.start == b.start ? nameOf(a.index) < nameOf(b.index) : a.start < b.start;
+        };
+        if (!std::is_sorted(keys.begin(), keys.end(), precedes)) {
+            std::stable_sort(keys.begin(), keys.end(), precedes);
+        }
+        _nameOrder.resize(keys.size());
+        std::transform(keys.begin(), keys.end(), _nameOrder.begin(), [](SortKey key) { return key.index; });
     }
 
     /// How many records there are.
@@ -105,6 +110,21 @@ public:
     }
 
 private:
+    /// Most names differ in their first characters, so that sorting need not look at the records.
+    struct SortKey {
+        std::uint64_t start;
+        std::uint32_t index;
+    };
+    /// The first eight characters, which compare as the names do unless they are the same.
+    static std::uint64_t startOf(std::string const& name)
+    {
+        std::uint64_t start = 0;
+        for (std::size_t i = 0; i < sizeof start; ++i) {
+            start = start << 8U | (i < name.size() ? static_cast<unsigned char>(name[i]) : 0U);
+        }
+        return start;
+    }
+
     void addUnderKey(std::string key, Config config)
     {
         if (_keys.empty() && key != config.name) {
