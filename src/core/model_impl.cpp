@@ -57,7 +57,12 @@ void ModelImpl::makeElements()
 void ModelImpl::reserve()
 {
     Varo::Model::Records const& records = _motionModel->records();
-    std::size_t const joints = records.joints.size() + records.wheels.size();
+    auto const isOwnJoint = [&records](Varo::Model::SubActuatorConfig const& subJoint) {
+        return !records.joints.contains(subJoint.name);
+    };
+    std::size_t const subJoints =
+        static_cast<std::size_t>(std::count_if(records.subActuators.begin(), records.subActuators.end(), isOwnJoint));
+    std::size_t const joints = records.joints.size() + subJoints + records.wheels.size();
     auto const hasMotor = [](Varo::Model::JointConfig const& joint) { return joint.hasMotor; };
     std::size_t const motors =
         static_cast<std::size_t>(std::count_if(records.joints.begin(), records.joints.end(), hasMotor)) +

@@ -20,6 +20,13 @@ std::string filledIn(std::string_view message, std::string_view name)
 
 }  // namespace
 
+void Names::reserve(std::size_t records)
+{
+    _uses.reserve(2 * records);
+    _entries.reserve(records);
+    _slots.reserve(records, _entries);
+}
+
 Names::EntryIndex Names::indexOf(std::string_view name, std::size_t scope)
 {
     constexpr std::uint32_t far =
@@ -55,6 +62,7 @@ void Names::use(NameRule const& rule, std::string_view name, XmlNode node, XmlAt
     kinds |= rule.gives.kinds;
     if (!rule.gives.isLocal || rule.wants.kinds != 0) {
         _uses.push_back({&rule, rule.gives.isLocal ? indexOf(name) : index, node, attribute});
+        _isAngleWanted = _isAngleWanted || rule.wants.kinds == names::hasAngle;
     }
 }
 
@@ -91,6 +99,15 @@ void Names::checkReferences(Records const& robot)
     }
     kindsOf(keep(robot.root.name + "Link")) |= names::rootLink;
     checkUses(false);
+    if (_isAngleWanted) {
+        findAngles(robot);
+    }
+    checkUses(true);
+}
+
+/// Tells which joints and actuators have an angle.
+void Names::findAngles(Records const& robot)
+{
     for (JointConfig const& config : robot.joints) {
         if (!config.hasMotor) {
             kindsOf(config.name) &= ~static_cast<unsigned>(names::hasAngle);
@@ -100,7 +117,6 @@ void Names::checkReferences(Records const& robot)
         bool const isInChain = (kindsOf(config.parentJoint) & names::inChain) != 0;
         kindsOf(config.name) |= isInChain ? names::hasAngle : 0U;
     }
-    checkUses(true);
 }
 
 /// Those that ask for what stands in chains come after the others, which say what was meant to stand there.
@@ -139,15 +155,19 @@ void Names::reportUnknown(Use const& use)
 
 void Names::checkCycle(names::Cycle const& cycle)
 {
+    // Only what is attached to another such thing can be part of a cycle: nothing is, in most robots.
     std::vector<Use const*> attached;
     std::unordered_map<std::size_t, std::size_t> indexOfNode;
     std::unordered_map<EntryIndex, std::size_t> owners;  // of the names that something is attached to
     for (Use const& use : _uses) {
-        if (use.rule == cycle.parent) {
+        if (use.rule == cycle.parent && (_entries[use.entry].kinds & cycle.part->gives.kinds) != 0) {
             indexOfNode.emplace(use.node.id(), attached.size());
             owners.emplace(use.entry, none);
             attached.push_back(&use);
         }
+    }
+    if (attached.empty()) {
+        return;
     }
     for (Use const& use : _uses) {
         auto const owner = use.rule == cycle.part ? owners.find(use.entry) : owners.end();

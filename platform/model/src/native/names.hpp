@@ -23,6 +23,9 @@ class Names {
 public:
     explicit Names(Diagnostics& diagnostics) : _diagnostics(diagnostics) {}
 
+    /// Makes room for the names of so many records, most of which one other element refers to.
+    void reserve(std::size_t records);
+
     /// A name as it stands in the attribute; its characters must outlive this. Null for an attribute that is left out.
     void use(NameRule const& rule, std::string_view name, XmlNode node, XmlAttribute attribute);
 
@@ -60,6 +63,7 @@ private:
     EntryIndex indexOf(std::string_view name, std::size_t scope = wholeText);
     /// Valid until another name is asked for.
     unsigned& kindsOf(std::string_view name) { return _entries[indexOf(name)].kinds; }
+    void findAngles(Records const& robot);
     void checkUses(bool afterChains);
     void reportUnknown(Use const& use);
     void checkCycle(names::Cycle const& cycle);
@@ -72,6 +76,7 @@ private:
     std::vector<Use> _uses;  ///< of names of the whole text, in its order
     Suggestions _suggestions;
     bool _isAnyLost = false;
+    bool _isAngleWanted = false;
 };
 
 }  // namespace Varo::Model::Native

@@ -1,6 +1,10 @@
 #include "native/native_reader.hpp"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <iterator>
+#include <string_view>
 
 #include "native/chain_places.hpp"
 #include "native/elements.hpp"
@@ -39,11 +43,53 @@ constexpr PartPlace parts[] = {
     {Part::resolutions, "value", "attribute", {}, "resolutions"},
 };
 
-template <class Config>
-void reserve(Table<Config>& table, XmlNode root, char const* element)
+/// How many elements of each of the names there are in one.
+template <std::size_t size>
+std::array<std::size_t, size> countChildren(XmlNode node, std::array<std::string_view, size> const& names)
 {
-    auto const elements = root.children(element);
-    table.reserve(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
+    std::array<std::size_t, size> counts = {};
+    auto kind = names.begin();
+    for (XmlNode const child : node.children()) {
+        std::string_view const name = child.name();
+        if (kind == names.end() || *kind != name) {  // elements of one kind mostly stand together
+            kind = std::find(names.begin(), names.end(), name);
+        }
+        if (kind != names.end()) {
+            ++counts[static_cast<std::size_t>(kind - names.begin())];
+        }
+    }
+    return counts;
+}
+
+std::size_t countMembers(XmlNode actuator)
+{
+    std::size_t members = 0;
+    for (XmlNode const group : actuator.children("group")) {
+        XmlNodes const inGroup = group.children();
+        members += static_cast<std::size_t>(std::distance(inGroup.begin(), inGroup.end()));
+    }
+    return members;
+}
+
+/// Records are large: tables that grow while they are read would move each of them several times.
+void reserve(Records& robot, Native::Names& names, XmlNode root)
+{
+    constexpr std::array<std::string_view, 6> kinds = {"joint", "chain", "actuator", "wheel", "sensor", "posture"};
+    auto const [joints, chains, actuators, wheels, sensors, postures] = countChildren(root, kinds);
+    std::size_t subJoints = 0;
+    if (actuators > 0) {
+        for (XmlNode const actuator : root.children("actuator")) {
+            subJoints += countMembers(actuator);
+        }
+    }
+    robot.joints.reserve(joints);
+    robot.chains.reserve(chains);
+    robot.actuators.reserve(actuators);
+    robot.subActuators.reserve(subJoints);
+    robot.wheels.reserve(wheels);
+    robot.sensors.reserve(sensors);
+    robot.postures.reserve(postures);
+    names.reserve(joints + chains + actuators + subJoints + wheels + sensors + postures);
 }
 
 }  // namespace
@@ -54,10 +100,8 @@ Records readNative(XmlNode root, Diagnostics& diagnostics)
 {
     Records robot;
     robot.dialect = "native";
-    reserve(robot.joints, root, "joint");
-    reserve(robot.chains, root, "chain");
-    reserve(robot.sensors, root, "sensor");
     Native::StrictReader reader(diagnostics, robot);
+    reserve(robot, reader.names(), root);
     reader.read(Native::robotDescriptionElement, root, robot);
     reader.names().checkReferences(robot);
     checkMimics(robot, diagnostics);
