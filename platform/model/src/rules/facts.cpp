@@ -9,8 +9,11 @@ Facts::Facts(Robot const& robot, LintTolerances const& allowed)
     : records(recordsOf(robot)), tolerances(allowed), actuatorPairs(mutualPairs(records->actuators))
 {
     NameIndex const joints = indexOf(records->joints);
-    places = placeAtZero(*records, joints);
-    sides = findSides(*records, findSideCandidates(*records, joints), places);
+    SideCandidates candidates = findSideCandidates(*records, joints);
+    if (!candidates.all.empty() || !actuatorPairs.empty()) {  // otherwise nothing has a counterpart
+        places = placeAtZero(*records, joints);
+        sides = findSides(*records, std::move(candidates), places);
+    }
     for (SidePair const& side : sides.pairs) {
         JointConfig const& first = records->joints[side.first];
         pairsOfKind[withoutSides(first.name)].push_back(jointPairs.size());

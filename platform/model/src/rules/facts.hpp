@@ -50,7 +50,7 @@ struct Facts {
 
     std::shared_ptr<Records const> records;
     LintTolerances tolerances;
-    std::vector<PlacedJoint> places;  ///< of the joints, one for one
+    std::vector<PlacedJoint> places;  ///< of the joints, one for one; empty where nothing has a counterpart
     Sides sides;
     std::vector<JointPair> jointPairs;  ///< one for one with those of the sides
     std::unordered_map<std::string, std::vector<std::size_t>, NameHash> pairsOfKind;  ///< by the names without sides

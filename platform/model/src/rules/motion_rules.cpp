@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <string_view>
-#include <unordered_set>
+#include <vector>
 
 #include "rules/numbers.hpp"
 #include "rules/rules.hpp"
-#include "varo/model/name_hash.hpp"
 
 namespace Varo::Model::Rules {
 
@@ -118,6 +118,29 @@ void visitDriven(Records const& records, std::string const& name, Visit const& v
     }
 }
 
+/// Which joints and actuators were looked at before: chains may list one twice.
+class Seen {
+public:
+    explicit Seen(Records const& records)
+        : _records(records), _joints(records.joints.size()), _actuators(records.actuators.size())
+    {}
+
+    bool isFirstTime(JointConfig const& joint) { return isFirst(_joints, &joint - &_records.joints[0]); }
+    bool isFirstTime(ActuatorConfig const& actuator) { return isFirst(_actuators, &actuator - &_records.actuators[0]); }
+
+private:
+    static bool isFirst(std::vector<bool>& seen, std::ptrdiff_t index)
+    {
+        bool const wasSeen = seen[static_cast<std::size_t>(index)];
+        seen[static_cast<std::size_t>(index)] = true;
+        return !wasSeen;
+    }
+
+    Records const& _records;
+    std::vector<bool> _joints;
+    std::vector<bool> _actuators;
+};
+
 template <class Driven>
 void checkAngle(Facts const& facts, Report const& report, std::string const& posture, PostureAngle const& angle,
                 Driven const& driven)
@@ -176,11 +199,13 @@ void findStartOutsideLimits(Facts const& facts, Report const& report)
     if (!facts.records->statesPostures) {
         return;  // the zero position is but one of reference
     }
-    std::unordered_set<std::string_view, NameHash> checked;
+    Seen seen(*facts.records);
     for (std::string const* name : angleNames(*facts.records)) {
-        if (checked.insert(*name).second) {
-            visitDriven(*facts.records, *name, [&](auto const& driven) { checkStart(facts, report, driven); });
-        }
+        visitDriven(*facts.records, *name, [&](auto const& driven) {
+            if (seen.isFirstTime(driven)) {
+                checkStart(facts, report, driven);
+            }
+        });
     }
 }
 
