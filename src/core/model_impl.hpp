@@ -216,7 +216,7 @@ private:
     void fetchWheelActuator(std::string const& name);
     CoupledActuatorImpl::JointsAndRatios jointsAndRatiosOf(std::string const& actuator) const;
     template <class Impl>
-    void pairActuatorsOfKind();
+    class MirrorsOfKind;
 
     // Groups
     void addJointGroup(SharedName const& name, std::vector<boost::shared_ptr<Joint>> const& joints);

@@ -1,5 +1,6 @@
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "actuators/angle_actuator_impl.hpp"
 #include "actuators/coupled_actuator_impl.hpp"
@@ -33,29 +34,49 @@ void ModelImpl::pairJoints()
     }
 }
 
+/// Gives actuators their mirrors, which are of the same kind.
+template <class Impl>
+class ModelImpl::MirrorsOfKind {
+public:
+    explicit MirrorsOfKind(ModelImpl const& model) : _model(model) {}
+
+    /// Leaves actuators of other kinds alone.
+    void pair(Actuator& actuator, std::string const& mirror, bool reversed)
+    {
+        if (actuator.type() != kindOf<Handle>().type) {
+            return;
+        }
+        if (!_byName) {
+            _ofKind = _model.actuators<Handle>();
+            _byName.emplace(_ofKind);
+        }
+        Impl& impl = static_cast<Impl&>(*actuator._impl);
+        impl.setReflectedSymmetric(_byName->find(mirror));
+        impl.setReflectedSymmetricReversed(reversed);
+    }
+
+private:
+    using Handle = typename Impl::Handle;
+
+    ModelImpl const& _model;
+    std::vector<boost::shared_ptr<Handle>> _ofKind;
+    std::optional<FirstByName<Handle>> _byName;  // few robots have mirrors of every kind, or any
+};
+
 void ModelImpl::pairActuators()
 {
-    pairActuatorsOfKind<AngleActuatorImpl>();
-    pairActuatorsOfKind<AngleSpeedActuatorImpl>();
-    pairActuatorsOfKind<CoupledActuatorImpl>();
-    pairActuatorsOfKind<TorqueActuatorImpl>();
-}
-
-template <class Impl>
-void ModelImpl::pairActuatorsOfKind()
-{
-    auto const ofKind = actuators<typename Impl::Handle>();
-    std::optional<FirstByName<typename Impl::Handle>> byName;  // few robots have mirrors of every kind, or any
+    MirrorsOfKind<AngleActuatorImpl> angles(*this);
+    MirrorsOfKind<AngleSpeedActuatorImpl> speeds(*this);
+    MirrorsOfKind<CoupledActuatorImpl> coupled(*this);
+    MirrorsOfKind<TorqueActuatorImpl> torques(*this);
     std::string mirror;
-    for (auto const& actuator : ofKind) {
+    for (auto const& actuator : _actuators) {
         bool reversed = false;
         if (_motionModel->mirrorNameFromJointName(actuator->name(), mirror, reversed)) {
-            if (!byName) {
-                byName.emplace(ofKind);
-            }
-            Impl& impl = static_cast<Impl&>(*actuator->_impl);
-            impl.setReflectedSymmetric(byName->find(mirror));
-            impl.setReflectedSymmetricReversed(reversed);
+            angles.pair(*actuator, mirror, reversed);
+            speeds.pair(*actuator, mirror, reversed);
+            coupled.pair(*actuator, mirror, reversed);
+            torques.pair(*actuator, mirror, reversed);
         }
     }
 }

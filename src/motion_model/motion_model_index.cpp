@@ -22,8 +22,9 @@ MotionModel::Index::Index(Varo::Model::Records const& records, StartAngles const
     for (std::uint32_t const chain : records.chains.nameOrder()) {
         addChainPlaces(chain);
     }
+    std::uint32_t nextSubJoint = 0;
     for (std::uint32_t const actuator : records.actuators.nameOrder()) {
-        addGroups(actuator);
+        addGroups(actuator, nextSubJoint);
     }
     for (auto const& [name, angle] : startAngles) {
         Facts& facts = factsOf(*name);
@@ -84,6 +85,13 @@ std::uint32_t MotionModel::Index::ownNumber(Varo::Model::Table<Record> const& ta
                                                                               : none;
 }
 
+/// `next`, at first 0, says which name is looked at first, and is kept by the caller.
+MotionModel::Index::Facts& MotionModel::Index::factsOf(std::string const& name, std::uint32_t& next)
+{
+    std::uint32_t const number = _names.find(name, next);
+    return number == Varo::Model::NameIndex::none ? factsOf(name) : _facts[number];
+}
+
 MotionModel::Index::Facts& MotionModel::Index::factsOf(std::string const& name)
 {
     std::uint32_t const number = _names.add(name, static_cast<std::uint32_t>(_facts.size()));
@@ -133,13 +141,13 @@ void MotionModel::Index::addChainPlaces(std::uint32_t chain)
     }
 }
 
-void MotionModel::Index::addGroups(std::uint32_t actuator)
+void MotionModel::Index::addGroups(std::uint32_t actuator, std::uint32_t& nextSubJoint)
 {
     Varo::Model::ActuatorConfig const& record = _records.actuators[actuator];
     _actuators.append(factsOf(record.parentJoint).actuators, actuator);
     for (auto const& group : record.jointGroups) {
         for (std::size_t position = 0; position < group.size(); ++position) {
-            auto& places = factsOf(group[position]).groupPlaces;
+            auto& places = factsOf(group[position], nextSubJoint).groupPlaces;
             if (_groupPlaces.of(places).empty() || _groupPlaces.lastOf(places).group != &group) {
                 _groupPlaces.append(places, {&record, &group, position});
             }

@@ -77,11 +77,12 @@ private:
                             std::string const& name) const;
     Entry entryOf(std::uint32_t number) const;
     Facts& factsOf(std::string const& name);
+    Facts& factsOf(std::string const& name, std::uint32_t& next);
     template <typename Record>
     void addRecords(Varo::Model::Table<Record> const& table, std::uint32_t Facts::*record);
     void addListedChain(std::uint32_t const& listed);
     void addChainPlaces(std::uint32_t chain);
-    void addGroups(std::uint32_t actuator);
+    void addGroups(std::uint32_t actuator, std::uint32_t& nextSubJoint);
 
     Varo::Model::Records const& _records;
     Varo::Model::NameIndex _names;
