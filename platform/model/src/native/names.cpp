@@ -1,6 +1,8 @@
 #include "native/names.hpp"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <unordered_map>
 
 #include "robot/cycles.hpp"
@@ -18,13 +20,21 @@ std::string filledIn(std::string_view message, std::string_view name)
     return std::string(message.substr(0, place)) + quoted(name) + std::string(message.substr(place + 1));
 }
 
+/// Whether others are attached to what gets its name by this rule.
+bool isPartOfCycle(NameRule const& rule)
+{
+    return std::any_of(std::begin(names::cycles), std::end(names::cycles),
+                       [&rule](names::Cycle const& cycle) { return cycle.part == &rule; });
+}
+
 }  // namespace
 
 void Names::reserve(std::size_t records)
 {
+    std::size_t const names = records + 1;  // the root's link has one, too
+    _entries.reserve(names);
+    _slots.reserve(names, _entries);
     _uses.reserve(2 * records);
-    _entries.reserve(records);
-    _slots.reserve(records, _entries);
 }
 
 Names::EntryIndex Names::indexOf(std::string_view name, std::size_t scope)
@@ -60,7 +70,7 @@ void Names::use(NameRule const& rule, std::string_view name, XmlNode node, XmlAt
                             std::string(rule.gives.twice.hint));
     }
     kinds |= rule.gives.kinds;
-    if (!rule.gives.isLocal || rule.wants.kinds != 0) {
+    if (rule.wants.kinds != 0 || isPartOfCycle(rule)) {
         _uses.push_back({&rule, rule.gives.isLocal ? indexOf(name) : index, node, attribute});
         _isAngleWanted = _isAngleWanted || rule.wants.kinds == names::hasAngle;
     }

@@ -73,7 +73,7 @@ private:
     std::vector<Entry> _entries;  ///< by their first mention
     HashSlots _slots;
     EntryIndex _next = 0;  ///< behind the last one asked for, of the whole text: most are mentioned in one order
-    std::vector<Use> _uses;  ///< of names of the whole text, in its order
+    std::vector<Use> _uses;  ///< that are to be checked, in the order of the text
     Suggestions _suggestions;
     bool _isAnyLost = false;
     bool _isAngleWanted = false;

@@ -65,8 +65,9 @@ std::size_t countMembers(XmlNode actuator)
 {
     std::size_t members = 0;
     for (XmlNode const group : actuator.children("group")) {
-        XmlNodes const inGroup = group.children();
-        members += static_cast<std::size_t>(std::distance(inGroup.begin(), inGroup.end()));
+        constexpr std::array<std::string_view, 2> kinds = {"subJoint", "jointRef"};
+        auto const [subJoints, followers] = countChildren(group, kinds);
+        members += subJoints + followers;
     }
     return members;
 }
@@ -89,7 +90,7 @@ void reserve(Records& robot, Native::Names& names, XmlNode root)
     robot.wheels.reserve(wheels);
     robot.sensors.reserve(sensors);
     robot.postures.reserve(postures);
-    names.reserve(joints + chains + actuators + subJoints + wheels + sensors + postures);
+    names.reserve(1 + joints + chains + actuators + subJoints + wheels + sensors + postures);
 }
 
 }  // namespace
