@@ -8,8 +8,9 @@ namespace {
 
 void findInertia(Facts const& facts, Report const& report, InertiaFault fault, char const* message)
 {
+    auto faultOfNext = facts.inertiaFaults.begin();
     forEachBody(facts, [&](auto const& body) {
-        if (faultOf(inertiaOf(body.inertiaMatrix), facts.tolerances.inertia) == fault) {
+        if (*faultOfNext++ == fault) {
             report.at(body, Part::inertia, message);
         }
     });

@@ -1,6 +1,7 @@
 #include "rules/facts.hpp"
 
 #include "robot/side_names.hpp"
+#include "rules/inertia.hpp"
 #include "rules/numbers.hpp"
 
 namespace Varo::Model::Rules {
@@ -26,6 +27,10 @@ Facts::Facts(Robot const& robot, LintTolerances const& allowed)
             }
         }
     }
+    inertiaFaults.reserve(1 + records->joints.size() + records->wheels.size());
+    forEachBody(*this, [this](auto const& body) {
+        inertiaFaults.push_back(faultOf(inertiaOf(body.inertiaMatrix), tolerances.inertia));
+    });
 }
 
 std::string rangeText(float min, float max)

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -38,6 +39,8 @@ struct JointPair {
     }
 };
 
+enum class InertiaFault : std::uint8_t;
+
 /// What all rules judge by; worked out once for each robot.
 struct Facts {
     Facts(Robot const& robot, LintTolerances const& allowed);
@@ -56,6 +59,7 @@ struct Facts {
     std::unordered_map<std::string, std::vector<std::size_t>, NameHash> pairsOfKind;  ///< by the names without sides
     std::vector<Pair<ActuatorConfig>> actuatorPairs;
     std::unordered_map<std::string_view, PostureAngle const*, NameHash> startAngles;  ///< those that are stated
+    std::vector<InertiaFault> inertiaFaults;  ///< of all bodies, in the order of forEachBody
 };
 
 /// Whether the first of a pair is the odd one: more others of its kind, on other legs say, are like the second.

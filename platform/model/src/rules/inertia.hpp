@@ -1,6 +1,7 @@
 #ifndef VARO_MODEL_RULES_INERTIA_HPP
 #define VARO_MODEL_RULES_INERTIA_HPP
 
+#include <cstdint>
 #include <vector>
 
 #include <Eigen/Core>
@@ -13,7 +14,7 @@ using Inertia = Eigen::Matrix3d;
 Inertia inertiaOf(std::vector<float> const& entries);
 
 /// Why no body can have an inertia. Each supposes that those before it do not hold.
-enum class InertiaFault { none, notSymmetric, notPositive, notPossible };
+enum class InertiaFault : std::uint8_t { none, notSymmetric, notPositive, notPossible };
 
 /// Zero moments are possible: those of a point, or of a thin rod about its axis. `tolerance` is a part of the greatest
 /// entry.
