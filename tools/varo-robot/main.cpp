@@ -8,10 +8,6 @@
 #include <sstream>
 #include <string_view>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
@@ -116,16 +112,6 @@ int run(int argumentCount, char** arguments)
     return runChosen(chosen);
 }
 
-/// Has large blocks go back to the system as soon as they are freed, so that the next step of a command can have that
-/// memory. By default, glibc keeps blocks up to the size of the largest one that was freed so far.
-void returnLargeBlocksAtOnce()
-{
-#ifdef __GLIBC__
-    constexpr int leastBytes = 1024 * 1024;
-    mallopt(M_MMAP_THRESHOLD, leastBytes);
-#endif
-}
-
 /// The status with which the tool ends for this.
 int sayLackOfMemory()
 {
@@ -156,7 +142,6 @@ int main(int argumentCount, char** arguments)
 {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is reported as any other lack of room
     std::set_terminate(Tool::endInTheMiddle);
-    Tool::returnLargeBlocksAtOnce();
     try {
         return Tool::run(argumentCount, arguments);
     } catch (std::bad_alloc const&) {

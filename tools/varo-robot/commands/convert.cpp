@@ -3,6 +3,10 @@
 #include <memory>
 #include <utility>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 #include <CLI/CLI.hpp>
 
 #include "commands/commands.hpp"
@@ -29,6 +33,16 @@ Existing whatBecomesOfOutput(Options const& options)
     return options.force || isInput ? Existing::isReplaced : Existing::isKept;
 }
 
+/// Has large blocks go back to the system as soon as they are freed, so that the next step of a command can have that
+/// memory. By default, glibc keeps blocks up to the size of the largest one that was freed so far.
+void returnLargeBlocksAtOnce()
+{
+#ifdef __GLIBC__
+    constexpr int leastBytes = 1024 * 1024;
+    mallopt(M_MMAP_THRESHOLD, leastBytes);
+#endif
+}
+
 /// Says on standard error what URDF has no words for.
 std::string urdfOf(Varo::Model::Robot const& robot, std::string const& file)
 {
@@ -44,10 +58,13 @@ std::string urdfOf(Varo::Model::Robot const& robot, std::string const& file)
 
 int convert(Options const& options)
 {
+    bool const isToUrdf = options.dialect == "urdf";
+    if (isToUrdf) {
+        returnLargeBlocksAtOnce();  // what is written is read back, so that two robots are in memory
+    }
     Description const description = readAccepted(options.file, options.reading);
     Varo::Model::Robot const& robot = *description.reading.robot;
-    std::string const text =
-        options.dialect == "urdf" ? urdfOf(robot, description.file) : Varo::Model::ModelUtils::toXml(robot);
+    std::string const text = isToUrdf ? urdfOf(robot, description.file) : Varo::Model::ModelUtils::toXml(robot);
     if (options.output.empty() || options.output == "-") {
         std::cout << text;
     } else {
