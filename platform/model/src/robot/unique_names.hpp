@@ -2,12 +2,13 @@
 #define VARO_MODEL_ROBOT_UNIQUE_NAMES_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 #include "varo/model/diagnostics.hpp"
-#include "varo/model/name_hash.hpp"
+#include "varo/model/hash_slots.hpp"
 #include "varo/model/name_index.hpp"
 
 namespace Varo::Model {
@@ -26,7 +27,18 @@ public:
 private:
     bool isAmongOthers(std::string_view name) const { return _others != nullptr && _others->contains(name); }
 
-    std::unordered_map<std::string, std::size_t, NameHash> _taken;  // with the number last appended to the name
+    struct Taken {
+        std::string name;
+        std::uint32_t hash;
+        std::size_t lastNumber;  ///< that was appended to the name
+    };
+
+    bool isTaken(std::string_view name) const;
+    /// Its index among those that are taken from now on.
+    std::size_t take(std::string const& name);
+
+    std::vector<Taken> _taken;
+    HashSlots _slots;
     NameIndex const* _others = nullptr;
 };
 
