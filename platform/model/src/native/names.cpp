@@ -31,9 +31,9 @@ bool isPartOfCycle(NameRule const& rule)
 
 void Names::reserve(std::size_t records)
 {
-    std::size_t const names = records + 1;  // the root's link has one, too
-    _entries.reserve(names);
-    _slots.reserve(names, _entries);
+    std::size_t const entries = records + 1;  // the root's link has a name, too
+    _entries.reserve(entries);
+    _slots.reserve(entries, _entries);
     _uses.reserve(2 * records);
 }
 

@@ -61,7 +61,7 @@ std::array<std::size_t, size> countChildren(XmlNode node, std::array<std::string
     return counts;
 }
 
-std::size_t countMembers(XmlNode actuator)
+std::size_t countSubJoints(XmlNode actuator)
 {
     std::size_t members = 0;
     for (XmlNode const group : actuator.children("group")) {
@@ -80,7 +80,7 @@ void reserve(Records& robot, Native::Names& names, XmlNode root)
     std::size_t subJoints = 0;
     if (actuators > 0) {
         for (XmlNode const actuator : root.children("actuator")) {
-            subJoints += countMembers(actuator);
+            subJoints += countSubJoints(actuator);
         }
     }
     robot.joints.reserve(joints);
