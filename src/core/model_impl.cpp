@@ -57,6 +57,7 @@ void ModelImpl::makeElements()
 void ModelImpl::reserve()
 {
     Varo::Model::Records const& records = _motionModel->records();
+    // A joint that follows an actuator is in both tables.
     auto const isOwnJoint = [&records](Varo::Model::SubActuatorConfig const& subJoint) {
         return !records.joints.contains(subJoint.name);
     };

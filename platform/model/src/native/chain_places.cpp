@@ -25,7 +25,7 @@ public:
         }
         std::vector<ActuatorConfig const*> complete;
         for (ActuatorConfig const& actuator : actuators) {
-            if (_of.count(actuator.name) == 0) {
+            if (_of.count(actuator.name) == 0) {  // nothing is attached to it
                 complete.push_back(&actuator);
             }
         }

@@ -61,6 +61,7 @@ std::array<std::size_t, size> countChildren(XmlNode node, std::array<std::string
     return counts;
 }
 
+/// Of its own, and those that are defined elsewhere and follow it: each has a record.
 std::size_t countSubJoints(XmlNode actuator)
 {
     std::size_t members = 0;
